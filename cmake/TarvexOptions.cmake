@@ -1,0 +1,30 @@
+# Choices of the build and the compiler settings that every target shares.
+
+option(TARVEX_DESKTOP "Build the desktop program (needs Qt 6)" ON)
+option(TARVEX_TESTS "Build the tests" OFF)
+option(TARVEX_BENCHMARKS "Build the benchmarks" OFF)
+option(TARVEX_FUZZ "Build the fuzz targets (needs clang and its libFuzzer)" OFF)
+option(TARVEX_SANITIZE "Check memory use and undefined behaviour at run time" OFF)
+option(TARVEX_WERROR "Treat warnings as errors" ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+add_library(tarvex_compile_options INTERFACE)
+target_include_directories(tarvex_compile_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(tarvex_compile_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+    $<$<BOOL:${TARVEX_WERROR}>:-Werror>)
+
+if(TARVEX_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(tarvex_compile_options INTERFACE ${sanitizers} $<$<BOOL:${TARVEX_FUZZ}>:-fsanitize=fuzzer-no-link>)
+    target_link_options(tarvex_compile_options INTERFACE ${sanitizers})
+endif()

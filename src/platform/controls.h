@@ -1,0 +1,170 @@
+#pragma once
+
+#include "platform/signal.h"
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Windows are told as state: the logic reads and sets the members below, a view shows them and reports what the user
+// does. Property and control names are the ones that the program's texts, settings and tests use. Texts are UTF-8;
+// "&" in a caption marks the access key. Positions and sizes are in twips (1/1440 inch) unless told otherwise.
+
+namespace tarvex {
+
+/// Twips in one pixel of a 96 dpi screen.
+constexpr int twipsPerPixel = 15;
+
+/// A colour as the settings keep it: 0x00BBGGRR, so 255 is red.
+using Colour = std::int32_t;
+
+struct MenuItem {
+    explicit MenuItem(std::string name, std::string caption = {}) : Name(std::move(name)), Caption(std::move(caption)) {}
+
+    const std::string Name; ///< the name in the program and in its tests, e.g. "mnuFileOpen"
+    Property<std::string> Caption;
+    Property<bool> Enabled = true;
+    Property<bool> Visible = true;
+    Property<bool> Checked = false;
+    std::function<void()> handler; ///< set by whoever owns the command; none while the command isn't there
+
+    /// Runs the command as a call of the program does, whatever Enabled says. No handler: nothing happens.
+    void Click() const
+    {
+        if (handler) handler();
+    }
+};
+
+struct Button {
+    Property<std::string> Caption;
+    Property<bool> Enabled = true;
+    Property<bool> Visible = true;
+    Property<std::string> ToolTipText;
+    std::function<void()> handler;
+    void Click() const
+    {
+        if (handler) handler();
+    }
+};
+
+struct ComboBox {
+    Property<std::vector<std::string>> Items;
+    Property<std::string> Text; ///< the text shown; usually one of Items
+    std::function<void()> Click; ///< the user chose an item
+};
+
+struct CheckListBox {
+    struct Item {
+        std::string Text;
+        bool Selected = false; ///< the tick
+        bool operator==(const Item&) const = default;
+    };
+    Property<std::vector<Item>> Items;
+    Property<int> ListIndex = -1; ///< from 0; -1: none
+    Property<bool> Visible = true;
+};
+
+/// A row of tabs, numbered from 1.
+class TabStrip {
+public:
+    struct Tab {
+        Property<std::string> Caption;
+        Property<int> Image = 0; ///< index in the tab images; 0: no image
+    };
+    explicit TabStrip(int count) : m_tabs(static_cast<std::size_t>(count)) {}
+
+    Tab& Tabs(int index) { return m_tabs.at(static_cast<std::size_t>(index - 1)); }
+    int Count() const { return static_cast<int>(m_tabs.size()); }
+
+    Property<int> SelectedItem = 1;
+    std::function<void()> Click; ///< runs after each selection, by the user or by the program
+
+    /// Selects a tab and runs Click, also when it was selected already.
+    void Select(int index)
+    {
+        SelectedItem = index;
+        if (Click) Click();
+    }
+
+private:
+    std::deque<Tab> m_tabs;
+};
+
+/// Panels are numbered from 1.
+class StatusBar {
+public:
+    struct Panel {
+        Property<std::string> Text;
+        Property<int> Picture = 0; ///< index in the status images; 0: no image
+        Property<std::string> ToolTipText;
+        Property<bool> Enabled = true; ///< a disabled panel shows its text greyed
+    };
+    explicit StatusBar(int count) : m_panels(static_cast<std::size_t>(count)) {}
+
+    Panel& Panels(int index) { return m_panels.at(static_cast<std::size_t>(index - 1)); }
+    const Panel& Panels(int index) const { return m_panels.at(static_cast<std::size_t>(index - 1)); }
+    int Count() const { return static_cast<int>(m_panels.size()); }
+
+private:
+    std::deque<Panel> m_panels;
+};
+
+struct ProgressBar {
+    Property<int> Min = 0;
+    Property<int> Max = 100;
+    Property<int> Value = 0;
+    Property<bool> Visible = false;
+};
+
+/// Buttons are numbered from 1; separators count.
+class ToolBar {
+public:
+    explicit ToolBar(int count) : m_buttons(static_cast<std::size_t>(count)) {}
+
+    /// Throws std::out_of_range for a number that the bar doesn't have.
+    Button& Buttons(int index) { return m_buttons.at(static_cast<std::size_t>(index - 1)); }
+    int Count() const { return static_cast<int>(m_buttons.size()); }
+
+    Property<bool> Visible = false;
+    Property<bool> Wrappable = false;
+    Property<bool> Flat = false;
+
+private:
+    std::deque<Button> m_buttons;
+};
+
+/// Interval in milliseconds. Whoever runs the timers calls Tick while Enabled.
+struct Timer {
+    explicit Timer(int interval) : Interval(interval) {}
+    Property<int> Interval;
+    Property<bool> Enabled = false;
+    std::function<void()> Tick;
+};
+
+enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+
+/// A top-level window.
+struct Form {
+    Property<std::string> Caption;
+    Property<bool> Visible = false;
+    Property<WindowState> State = WindowState::Normal;
+    Property<float> Left = 0.0F;
+    Property<float> Top = 0.0F;
+    Property<float> Width = 0.0F;
+    Property<float> Height = 0.0F;
+};
+
+/// A rectangle inside a window, in pixels.
+struct Placement {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const Placement&) const = default;
+};
+
+} // namespace tarvex

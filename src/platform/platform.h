@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/dialogues.h"
+#include "platform/files.h"
+
+#include <string>
+
+namespace tarvex {
+
+/// Plays a sound file; returns when it has ended. A file that can't be played is passed over.
+class Sound {
+public:
+    virtual ~Sound() = default;
+    virtual void play(const std::string& path) = 0;
+};
+
+/// What the window system does for the program beside showing windows.
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+    /// Another copy of the program runs already.
+    virtual bool anotherInstanceRuns() = 0;
+    /// Handles the window events that wait, then returns.
+    virtual void doEvents() = 0;
+    /// Size of the screen in twips.
+    virtual float screenWidth() const = 0;
+    virtual float screenHeight() const = 0;
+    /// The pointer that tells the user to wait, on or off.
+    virtual void showHourglass(bool on) = 0;
+    /// Ends the message loop; the process ends in good order.
+    virtual void quit() = 0;
+};
+
+/// The world as the program sees it. All members outlive the program.
+struct Platform {
+    FileSystem& files;
+    Dialogues& dialogues;
+    Desktop& desktop;
+    Sound& sound;
+    std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
+    std::string commandLine; ///< one DOS path or nothing
+};
+
+} // namespace tarvex

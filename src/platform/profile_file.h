@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/files.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvex {
+
+/// One INI file and the three profile calls on it. Section and key names match without regard to case and surrounding
+/// blanks; the first section of a name and the first key in it count. Nothing here throws: a missing or unreadable file
+/// gives the defaults, and a write that fails is lost in silence.
+///
+/// Values are UTF-8 here. In the file they are Windows-1252; a value that the code page can't hold, or whose bytes
+/// would read as UTF-8, is written as UTF-8, and bytes that are valid UTF-8 are read as that.
+class ProfileFile {
+public:
+    ProfileFile(FileSystem& files, std::string path);
+
+    const std::string& path() const { return m_path; }
+
+    /// The value with blanks and one pair of quotes around it removed, cut to `buffer` - 1 characters; the default,
+    /// treated alike, when there is no such key.
+    std::string readString(std::string_view section, std::string_view key, std::string_view defaultValue,
+                           std::size_t buffer = 100) const;
+    /// The leading decimal digits of the value, after blanks and a sign; 0 when it starts with something else. The
+    /// default for a missing key or an empty value. Beyond 32 bits the value wraps around.
+    int readInt(std::string_view section, std::string_view key, int defaultValue) const;
+    /// Creates the file and the section when needed; keeps unknown keys, comments, order and line ends.
+    void writeString(std::string_view section, std::string_view key, std::string_view value);
+
+    /// Holds the writes of one procedure back until it ends, so that they reach the disk together, whole or not at
+    /// all. Batches may nest.
+    class Batch {
+    public:
+        explicit Batch(ProfileFile& file) : m_file(file) { ++m_file.m_batches; }
+        ~Batch();
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        ProfileFile& m_file;
+    };
+
+private:
+    void refresh() const;
+    void flush();
+
+    FileSystem& m_files;
+    std::string m_path;
+    int m_batches = 0;
+    bool m_dirty = false;
+    mutable bool m_loaded = false;
+    mutable FileStamp m_stamp;
+    mutable std::vector<std::string> m_lines; ///< each with its line end
+};
+
+} // namespace tarvex
