@@ -31,12 +31,26 @@ public:
     virtual void quit() = 0;
 };
 
+/// What the system's clipboard, or a drag between windows, carries. Empty members mean that the form isn't there.
+struct ClipboardContent {
+    std::string text; ///< UTF-8
+    std::string rtf;
+};
+
+class Clipboard {
+public:
+    virtual ~Clipboard() = default;
+    virtual void put(const ClipboardContent& content) = 0;
+    virtual ClipboardContent get() const = 0;
+};
+
 /// The world as the program sees it. All members outlive the program.
 struct Platform {
     FileSystem& files;
     Dialogues& dialogues;
     Desktop& desktop;
     Sound& sound;
+    Clipboard& clipboard;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
     std::string commandLine; ///< one DOS path or nothing
 };

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "documents/pair_record.h"
+#include "documents/pane.h"
+#include "platform/platform.h"
+#include "shell/menus.h"
+#include "shell/mum.h"
+#include "shell/operations.h"
+#include "shell/shared.h"
+
+#include <array>
+#include <deque>
+#include <string>
+
+namespace tarvex {
+
+/// Image numbers of the tabs.
+namespace tabImage {
+constexpr int none = 0;
+constexpr int macroProtected = 6;
+constexpr int selected = 9;
+} // namespace tabImage
+
+/// The frame with the macro list, left of the panes.
+struct FrameMacros {
+    Property<bool> Visible = false;
+    Property<Placement> Place;
+    Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
+    ComboBox Combo1; ///< the headings
+    std::deque<CheckListBox> List1{1}; ///< 0: every macro; k: those under heading k
+    Signal<> List1Changed; ///< a list was loaded or unloaded
+    std::array<Button, 13> Command1; ///< slash modifiers and DLY
+};
+
+/// One of the two documents, for what is done to both alike. Names the members of the record; owns nothing.
+struct Side {
+    enum class Kind { Joystick, Macro };
+    Kind kind;
+    int tab; ///< 1 joystick, 2 macro
+    Pane& pane;
+    std::string& FilePath;
+    std::string& FileName;
+    std::int16_t& Changed;
+    float& Caret;
+    std::int32_t& SelectionLength;
+    std::int16_t& TakeNewLevel;
+    std::string& Extension; ///< the one that new files of the kind get
+    std::int32_t& Background;
+};
+
+/// State of the document window: the pair of files, their panes, tabs and views. What is done with it stands in units
+/// of its own that are given the Editor they work on.
+struct Editor {
+    Editor(Platform& thePlatform, Shared& theShared, Mum& theMum, Menus& theMenus, Operations& theOperations);
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    Platform& platform;
+    Shared& shared;
+    Mum& mum;
+    Menus& menus;
+    Operations& operations;
+
+    PairRecord pair;
+    std::shared_ptr<FormatTable> formats;
+    Pane JoystickText;
+    Pane MacroText;
+    Pane TempRichTextBox; ///< hidden; texts on their way to and from files
+    Pane CompareRTF; ///< hidden; the plain file beside its coloured shadow
+    Side joystick;
+    Side macro;
+
+    Property<bool> Visible = false;
+    Property<int> ScaleWidth = 0; ///< inside size, pixels; the view reports it and runs Form_Resize
+    Property<int> ScaleHeight = 0;
+    tarvex::TabStrip TabStrip1{2};
+    Property<Placement> TabStrip1Place;
+    tarvex::FrameMacros FrameMacros;
+    Timer Timer1{60000}; ///< minutes of the automatic save
+    Timer TimerBlinkLine{100}; ///< line highlight
+
+    int TabImage = tabImage::selected; ///< of the macro file's tab while it is selected
+    std::string OpeningPath; ///< what OpenPreviouslySavedFiles hands to the open commands
+    std::string OpeningName;
+    std::int16_t OpeningWithoutAsking = 0;
+    std::int16_t ExitInProgress = 0;
+    int AutoSaveMinutes = 0; ///< since the last automatic save
+
+    /// The document of the selected tab.
+    Side& selected() { return TabStrip1.SelectedItem == 1 ? joystick : macro; }
+    Side& other(const Side& side) { return side.tab == 1 ? macro : joystick; }
+    std::string tabCaption(const Side& side) { return TabStrip1.Tabs(side.tab).Caption.get(); }
+    void status(const std::string& text) { mum.StatusBar.Panels(panel::progress).Text = text; }
+};
+
+} // namespace tarvex

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tarvex {
+
+/// Values of JoystickChanged and MacroChanged. Whether there is something to save is always a test for `modified`.
+namespace changed {
+constexpr std::int16_t noText = -1; ///< new document, not saved
+constexpr std::int16_t saved = 0;
+constexpr std::int16_t modified = 1;
+} // namespace changed
+
+/// The two documents that the program edits at all times.
+struct PairRecord {
+    std::string JoystickFilePath;
+    std::string JoystickFileName; ///< as shown on tab 1
+    std::string MacroFilePath;
+    std::string MacroFileName; ///< as shown on tab 2
+    std::int16_t JoystickChanged = changed::noText;
+    std::int16_t MacroChanged = changed::noText;
+    float JoystickCaret = 0; ///< characters; last known caret
+    float MacroCaret = 0;
+    std::int32_t JoystickSelectionLength = 0;
+    std::int32_t MacroSelectionLength = 0;
+    /// 1: the next change opens an undo level of its own instead of rewriting the newest.
+    std::int16_t JoystickTakeNewLevel = 1;
+    std::int16_t MacroTakeNewLevel = 1;
+};
+
+} // namespace tarvex

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/controls.h"
+
+namespace tarvex {
+
+enum class MousePointer { Default = 0, SizeWestEast = 9, Hourglass = 11, ArrowQuestion = 14 };
+
+/// Panels of the status bar by what they show.
+namespace panel {
+constexpr int progress = 1;
+constexpr int savedState = 2;
+constexpr int line = 3;
+constexpr int capsLock = 4;
+constexpr int insert = 5;
+constexpr int numLock = 6;
+constexpr int time = 7;
+constexpr int macroFile = 8;
+} // namespace panel
+
+/// The frame window's state.
+struct Mum {
+    static constexpr int toolbarButtons = 47;
+
+    Form form; ///< position and size in twips
+    ToolBar Toolbar1{toolbarButtons};
+    tarvex::StatusBar StatusBar{8};
+    ProgressBar ProgressBar1;
+    /// Colour of the text at the caret, shown over toolbar button 29.
+    Property<Colour> Picture1 = 0;
+    Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
+};
+
+} // namespace tarvex

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/operation.h"
+
+#include <string>
+
+namespace tarvex {
+
+/// Operations without a menu item of their own that a unit calls in units above or beside it.
+struct Operations {
+    // the windows
+    Operation<> ShowEditor; ///< loads and shows the document window
+    Operation<bool&> QueryUnloadEditor; ///< asks about unsaved files; true cancels the exit
+    Operation<> UnloadEditor;
+    Operation<> UnloadToolWindows;
+    Operation<> ReleaseGradient;
+    Operation<> PaintGradient;
+    Operation<> UpdateTooltips; ///< of Mum
+    Operation<> ShowExtraButtons;
+    Operation<> UpdateToolBarOpenSaveTooltips;
+
+    // undo
+    Operation<> DeleteUndosFromMemory;
+    Operation<> ResetUndoJoystick; ///< one empty level, nothing to undo or redo
+    Operation<> ResetUndoMacro;
+    Operation<> JoystickUndoRecord; ///< takes the pane's state into the newest level or a new one
+    Operation<> MacroUndoRecord;
+    Operation<> UpdateUndoRedoMenus;
+    Operation<> DeleteUndosOnSaveJ;
+    Operation<> DeleteUndosOnSaveM;
+
+    // panes
+    Operation<> UpdateCCPButtons;
+    Operation<> HighlightOff; ///< the line highlight's mark
+
+    // language
+    Operation<> ApplyColourHighlighting;
+    Operation<> ApplyMacroColourHighlighting;
+    Operation<> ClearAllForNewMacroFile;
+    Operation<> GetEachLineFromMacroFile;
+    Operation<> ExtractMacrosAndTitles;
+    Operation<> ClearMacroTicks;
+    Operation<> IdentifyMacrosUsed;
+
+    // lists
+    Operation<> GetPreviousFiles;
+    Operation<> GetFavourites;
+    Operation<> GetGames;
+    Operation<> GetCustomApps;
+    Operation<const std::string&> UpdateRecentJFMenuList; ///< the path just saved
+    Operation<const std::string&> UpdateRecentMFMenuList;
+    Operation<const std::string&> NoteLatestJoystickFile; ///< the path just opened
+    Operation<const std::string&> NoteLatestMacroFile;
+    Operation<int> FavArrayClick; ///< opens the favourite of that number
+};
+
+} // namespace tarvex
