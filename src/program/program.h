@@ -1,0 +1,34 @@
+#pragma once
+
+#include "documents/editor.h"
+#include "platform/platform.h"
+#include "shell/menus.h"
+#include "shell/mum.h"
+#include "shell/operations.h"
+#include "shell/shared.h"
+
+namespace tarvex {
+
+/// The whole program over a platform: builds every unit and wires the commands to those who do the work.
+class Program {
+public:
+    explicit Program(Platform& platform);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// Comes up, in the order that users see. False: another copy runs, and the process is to end at once.
+    bool start();
+    /// The exit command: asks about unsaved files, then takes everything down and ends the message loop. False: the
+    /// user stays.
+    bool exit();
+
+    Platform& platform;
+    Shared shared;
+    Menus menus;
+    Mum mum;
+    Operations operations;
+    Editor editor;
+};
+
+} // namespace tarvex
