@@ -26,10 +26,10 @@ struct FrameMacros {
     Property<bool> Visible = false;
     Property<Placement> Place;
     Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
-    ComboBox Combo1; ///< the headings
+    ComboBox Combo1;                   ///< the headings
     std::deque<CheckListBox> List1{1}; ///< 0: every macro; k: those under heading k
-    Signal<> List1Changed; ///< a list was loaded or unloaded
-    std::array<Button, 13> Command1; ///< slash modifiers and DLY
+    Signal<> List1Changed;             ///< a list was loaded or unloaded
+    std::array<Button, 13> Command1;   ///< slash modifiers and DLY
 };
 
 /// One of the two documents, for what is done to both alike. Names the members of the record; owns nothing.
@@ -66,7 +66,7 @@ struct Editor {
     Pane JoystickText;
     Pane MacroText;
     Pane TempRichTextBox; ///< hidden; texts on their way to and from files
-    Pane CompareRTF; ///< hidden; the plain file beside its coloured shadow
+    Pane CompareRTF;      ///< hidden; the plain file beside its coloured shadow
     Side joystick;
     Side macro;
 
@@ -76,11 +76,11 @@ struct Editor {
     tarvex::TabStrip TabStrip1{2};
     Property<Placement> TabStrip1Place;
     tarvex::FrameMacros FrameMacros;
-    Timer Timer1{60000}; ///< minutes of the automatic save
+    Timer Timer1{60000};       ///< minutes of the automatic save
     Timer TimerBlinkLine{100}; ///< line highlight
 
     int TabImage = tabImage::selected; ///< of the macro file's tab while it is selected
-    std::string OpeningPath; ///< what OpenPreviouslySavedFiles hands to the open commands
+    std::string OpeningPath;           ///< what OpenPreviouslySavedFiles hands to the open commands
     std::string OpeningName;
     std::int16_t OpeningWithoutAsking = 0;
     std::int16_t ExitInProgress = 0;

@@ -64,7 +64,10 @@ public:
     /// Cut to the end of the text. Negative: InvalidPropertyValue, and the selection stays.
     void setSelLength(std::int64_t length);
 
-    std::string SelText() const { return m_text.substr(static_cast<std::size_t>(m_selStart), static_cast<std::size_t>(m_selLength)); }
+    std::string SelText() const
+    {
+        return m_text.substr(static_cast<std::size_t>(m_selStart), static_cast<std::size_t>(m_selLength));
+    }
     /// Replaces the selection; the caret stands behind the new text, which takes the insertion format.
     void setSelText(std::string_view text);
 

@@ -15,7 +15,7 @@ namespace tarvex {
 class ErrorRecord {
 public:
     std::string ErrorProcedure; ///< tag of the procedure that failed last, e.g. "MODULE SaveOptions"
-    float ErrorNumber = 0; ///< an ErrorCode
+    float ErrorNumber = 0;      ///< an ErrorCode
     std::string ErrorDescription;
     std::string ErrorLastDllError; ///< the operating system's error code as decimal text
     std::int16_t ExitRequestedByError = 0;
@@ -41,8 +41,7 @@ public:
     /// Tagged mode: a failed step is reported under `tag`. `errors` outlives the steps.
     Steps(ErrorRecord& errors, std::string_view tag) : m_errors(&errors), m_tag(tag) {}
 
-    template <std::invocable Step>
-    void operator()(Step&& step) const
+    template <std::invocable Step> void operator()(Step&& step) const
     {
         try {
             step();

@@ -87,7 +87,7 @@ struct Menus {
     MenuItem mnuAppearanceDark{"mnuAppearanceDark", "&Dark"};
 
     MenuItem mnuRHMouse{"mnuRHMouse"}; ///< root of the panes' pop-up menu
-    MenuItem mnuRHList{"mnuRHList"}; ///< root of the macro lists' pop-up menu
+    MenuItem mnuRHList{"mnuRHList"};   ///< root of the macro lists' pop-up menu
 
     /// Items of the favourites menu, from index 1; 0 is a hidden pattern.
     std::deque<MenuItem> mnuFavArray;

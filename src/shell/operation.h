@@ -7,11 +7,9 @@ namespace tarvex {
 
 /// An operation that one unit offers and another, which must not know that unit, calls. Whoever does the work assigns
 /// it; until somebody does, calling it does nothing.
-template <typename... Args>
-class Operation {
+template <typename... Args> class Operation {
 public:
-    template <typename Work>
-    Operation& operator=(Work work)
+    template <typename Work> Operation& operator=(Work work)
     {
         m_work = std::move(work);
         return *this;

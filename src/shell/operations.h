@@ -9,10 +9,10 @@ namespace tarvex {
 /// Operations without a menu item of their own that a unit calls in units above or beside it.
 struct Operations {
     // the windows
-    Operation<> ShowEditor; ///< loads and shows the document window
+    Operation<> ShowEditor;             ///< loads and shows the document window
     Operation<bool&> QueryUnloadEditor; ///< asks about unsaved files; true cancels the exit
     Operation<> UnloadEditor;
-    Operation<> UnloadToolWindows;
+    Operation<const std::string&> UnloadForm; ///< by the window's name
     Operation<> ReleaseGradient;
     Operation<> PaintGradient;
     Operation<> UpdateTooltips; ///< of Mum

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "platform/platform.h"
 #include "shell/errors.h"
 #include "shell/settings.h"
+#include "shell/settings_store.h"
 
 #include <cstdint>
 #include <string>
@@ -10,18 +12,23 @@ namespace tarvex {
 
 /// Process-wide values: one struct, passed in, so that many programs can live in one process.
 struct Shared {
+    explicit Shared(Platform& platform) : store(platform.files, platform.programDirectory, settings, errors) {}
+    Shared(const Shared&) = delete;
+    Shared& operator=(const Shared&) = delete;
+
     Settings settings;
     ErrorRecord errors;
+    SettingsStore store; ///< moves `settings` to and from the INI files
 
-    std::string IniFilePath; ///< of Tarvex.ini
-    std::string BackupDirectory; ///< with "\" at the end
-    std::string RtfDirectory; ///< with "\" at the end
-    std::string CommandLineFile; ///< one path or nothing; no quotes are removed
+    std::string IniFilePath;                ///< of Tarvex.ini
+    std::string BackupDirectory;            ///< with "\" at the end
+    std::string RtfDirectory;               ///< with "\" at the end
+    std::string CommandLineFile;            ///< one path or nothing; no quotes are removed
     std::int16_t StartupSoundAvailable = 0; ///< 1: a start-up sound file exists
-    std::int16_t IsLoading = 0; ///< 1: the program itself changes pane text; no edit of the user's
-    std::int16_t HardwareChangedMark = 0; ///< 1: another joystick was chosen in the preferences
-    std::int16_t FontChanged = 0; ///< 1: the pane font was changed in the preferences
-    Colour DefaultTextColour = 0; ///< of plain inserted text
+    std::int16_t IsLoading = 0;             ///< 1: the program itself changes pane text; no edit of the user's
+    std::int16_t HardwareChangedMark = 0;   ///< 1: another joystick was chosen in the preferences
+    std::int16_t FontChanged = 0;           ///< 1: the pane font was changed in the preferences
+    Colour DefaultTextColour = 0;           ///< of plain inserted text
 
     /// Remembered places of tool windows, twips; -1: not remembered.
     float ToolWindowTop = -1;
