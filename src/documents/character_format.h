@@ -2,11 +2,11 @@
 
 #include "platform/controls.h"
 
-#include <compare>
+#include <array>
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 namespace tarvex {
 
@@ -26,12 +26,18 @@ struct CharacterFormat {
 /// Number of a format in a FormatTable.
 using FormatId = std::uint16_t;
 
-/// The formats that the panes of one program use, each kept once. At most 65,536: whoever asks for more gets format 0,
-/// so that a damaged file can't take the memory.
+/// The formats that the panes of one program use, each kept once. A damaged file can't take the memory: there are at
+/// most 65,536, and whoever asks for more gets format 0; a font name is cut to 255 bytes.
 class FormatTable {
 public:
+    static constexpr std::size_t maximumSize = 65536;
+    static constexpr std::size_t maximumFontName = 255;
+
     FormatTable();
     FormatId idOf(const CharacterFormat& format);
+    /// The format `id` in another colour. Quicker than idOf: painting asks for the same few over and over.
+    FormatId withColour(FormatId id, Colour colour);
+    /// Stays where it is as long as the table lives.
     const CharacterFormat& operator[](FormatId id) const { return m_formats[id]; }
     std::size_t size() const { return m_formats.size(); }
 
@@ -39,8 +45,15 @@ private:
     struct Hash {
         std::size_t operator()(const CharacterFormat& format) const;
     };
-    std::vector<CharacterFormat> m_formats;
+    struct Recoloured {
+        Colour colour = 0;
+        FormatId from = 0;
+        FormatId to = 0;
+        bool known = false;
+    };
+    std::deque<CharacterFormat> m_formats;
     std::unordered_map<CharacterFormat, FormatId, Hash> m_ids;
+    std::array<Recoloured, 64> m_recoloured;
 };
 
 } // namespace tarvex

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "documents/line_index.h"
 #include "documents/rich_text.h"
+#include "documents/snapshot_keeper.h"
 #include "platform/controls.h"
 
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,9 +33,14 @@ constexpr int matchCase = 4;
 ///
 /// Text is Windows-1252, one byte a position; positions count from 0, and CR and LF are a position each. Every text
 /// written has its lone CR and lone LF made CR LF, and no edit parts a CR LF: the edge of an edit that stands between
-/// the two moves so that the pair stays whole (out of a pair for an insertion; off the pair for a replacement). So CR
-/// and LF only ever stand in pairs, and a line is what lies between two pairs.
+/// the two moves so that the pair stays whole: an insertion goes before the pair, and a replacement leaves a pair that
+/// it holds half of alone. So CR and LF only ever stand in pairs, and a line is what lies between two pairs.
 ///
+/// New text takes the insertion format: the one that was chosen for the caret while it stands there; otherwise that of
+/// the character before it in the line, else of the one behind it in the line, else of the line end before it, else the
+/// pane's own (its Font, colour 0, the indent last set). Where it replaces others, it takes the format of the first.
+///
+/// Listeners find the edit done, and must not write to the pane themselves before Change runs; Change may.
 /// Change runs after the text, or the look of characters in it, was written, also when the new text equals the old.
 /// Errors are RuntimeError.
 class Pane {
@@ -64,11 +73,8 @@ public:
     /// Cut to the end of the text. Negative: InvalidPropertyValue, and the selection stays.
     void setSelLength(std::int64_t length);
 
-    std::string SelText() const
-    {
-        return m_text.substr(static_cast<std::size_t>(m_selStart), static_cast<std::size_t>(m_selLength));
-    }
-    /// Replaces the selection; the caret stands behind the new text, which takes the insertion format.
+    std::string SelText() const;
+    /// Replaces the selection; the caret stands behind the new text.
     void setSelText(std::string_view text);
 
     RichText SelRTF() const;
@@ -121,9 +127,9 @@ public:
 
     /// Line, from 0, of a position; past the end the last line; of a negative position the line of SelStart.
     std::int64_t GetLineFromChar(std::int64_t position) const;
-    std::int64_t lineCount() const { return static_cast<std::int64_t>(m_lineStarts.size()); }
+    std::int64_t lineCount() const { return m_lines.count(); }
     /// First position of a line from 0 to lineCount() - 1.
-    std::int64_t lineStart(std::int64_t line) const { return m_lineStarts[static_cast<std::size_t>(line)]; }
+    std::int64_t lineStart(std::int64_t line) const { return m_lines.start(line); }
 
     // ---- the window's side ------------------------------------------------------------------------------------------
 
@@ -135,6 +141,10 @@ public:
     void Refresh() { refreshWanted(); }
     Signal<> focusWanted;
     Signal<> refreshWanted;
+
+    /// An edit by the user: `removed` characters at `position` give way to `inserted`, and the caret stands behind it.
+    /// What lies outside the text is cut. Nothing happens when Locked, or when there is nothing to remove or insert.
+    void userEdit(std::int64_t position, std::int64_t removed, std::string_view inserted);
 
     std::function<void()> Change; ///< text or look was written
 
@@ -152,14 +162,45 @@ public:
     Signal<> fontChanged;
 
 private:
-    // filled in by the pane's author
+    struct Range {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+    };
+    Range selection() const;
+    void select(std::size_t start, std::size_t length);
+    void tellSelection(std::int64_t oldStart, std::int64_t oldLength);
+    void changed() const;
+    bool partsPair(std::size_t position) const;
+    Range withoutHalfPairs(Range range) const;
+
+    void replace(Range range, std::string_view text);
+    void replace(Range range, std::string_view text, const std::vector<FormatId>& formats);
+    void putText(Range range, std::string_view text);
+    void putFormats(Range range, const FormatId* formats, std::size_t count);
+    void putWhole(const RichText& text);
+
+    FormatId formatFor(Range range) const;
+    FormatId insertionFormat() const;
+    FormatId defaultFormat() const;
+    template <typename Map> Range repaint(Range range, Map map);
+    template <typename Map> void writeLook(Map map);
+    template <typename Write> void writeFormat(Write write);
+    void tellReformatted(Range range) const;
+
+    const std::string& foldedText() const;
+    bool wholeWordAt(std::size_t begin, std::size_t end) const;
+
     std::shared_ptr<FormatTable> m_formats;
     std::string m_text;
-    std::vector<FormatId> m_format;
-    std::vector<std::int64_t> m_lineStarts{0};
+    std::vector<FormatId> m_format; ///< of each character
+    LineIndex m_lines;
     std::int64_t m_selStart = 0;
     std::int64_t m_selLength = 0;
     PaneFont m_font;
+    int m_indent = 0;                            ///< as last set
+    std::optional<FormatId> m_chosenFormat;      ///< for the caret where it stands
+    mutable std::optional<std::string> m_folded; ///< the text in lower case, once something was sought in it
+    mutable SnapshotKeeper m_snapshots;
 };
 
 } // namespace tarvex

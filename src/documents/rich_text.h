@@ -1,35 +1,27 @@
 #pragma once
 
 #include "documents/character_format.h"
+#include "documents/format_runs.h"
+#include "documents/text_chunk.h"
 
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarvex {
-
-/// A stretch of characters of one format.
-struct FormatRun {
-    std::uint32_t length = 0;
-    FormatId format = 0;
-    bool operator==(const FormatRun&) const = default;
-};
 
 /// An immutable text with its formats: cheap to copy, and sharing its storage with the pane it was taken from and with
 /// that pane's other snapshots, so that a thousand of them taken between keystrokes cost little more than the strokes.
 class RichText {
 public:
-    /// A piece of text of about one thousand characters. Never changes once it is built.
-    struct Chunk {
-        std::string text;
-        std::vector<FormatRun> runs; ///< cover `text`, neighbours differ
-    };
-    using ChunkPointer = std::shared_ptr<const Chunk>;
+    using Chunk = TextChunk;
+    using ChunkPointer = tarvex::ChunkPointer;
 
     RichText() = default;
     RichText(std::shared_ptr<FormatTable> formats, std::vector<ChunkPointer> chunks);
-    /// A text of its own, cut into chunks; `formats` of each character as runs that cover `text`.
+    /// A text of its own, cut into chunks; `runs` tell the format of each character (missing ones have format 0).
     RichText(std::shared_ptr<FormatTable> formats, std::string_view text, const std::vector<FormatRun>& runs);
 
     std::size_t size() const { return m_size; } ///< characters
@@ -38,7 +30,7 @@ public:
     /// Runs that cover the text; neighbours differ.
     std::vector<FormatRun> runs() const;
 
-    const std::vector<ChunkPointer>& chunks() const { return m_chunks; }
+    const std::vector<ChunkPointer>& chunks() const;
     /// The table that the format numbers belong to; null only in an empty text.
     const std::shared_ptr<FormatTable>& formats() const { return m_formats; }
 
@@ -47,8 +39,16 @@ public:
 
 private:
     std::shared_ptr<FormatTable> m_formats;
-    std::vector<ChunkPointer> m_chunks;
+    std::shared_ptr<const std::vector<ChunkPointer>> m_chunks;
     std::size_t m_size = 0;
 };
+
+/// The same look, told in the numbers of another table.
+RichText translated(const RichText& text, const std::shared_ptr<FormatTable>& formats);
+
+/// Whether every CR stands before a LF and every LF behind a CR, when the text stands between `before` and `after`.
+bool hasOnlyPairs(std::string_view text, char before = ' ', char after = ' ');
+/// Lone CR and lone LF become CR LF, in the format of what was there.
+RichText withWindowsLineEnds(const RichText& text);
 
 } // namespace tarvex
