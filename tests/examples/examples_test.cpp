@@ -1,6 +1,7 @@
 // The files in examples/ are what a new user opens first: they have to be right in every byte.
 #include "controller_text.h"
 #include "scan_code_balance.h"
+#include "statements.h"
 #include "vocabulary.h"
 
 #include <gmock/gmock.h>
@@ -11,9 +12,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
-#include <map>
 #include <regex>
 #include <set>
 
@@ -91,63 +90,6 @@ std::string macroFileNamedIn(const Pair& pair)
     return names.size() == 1 ? names[0] : "";
 }
 
-using Words = std::vector<std::string>;
-
-bool everyWord(const Words& words, std::size_t from, const std::function<bool(const std::string&)>& holds)
-{
-    return words.size() >= from && std::all_of(words.begin() + static_cast<std::ptrdiff_t>(from), words.end(), holds);
-}
-
-/// Statements of numbers and keys: the word, its type, its fields behind the type, and how many of them are numbers.
-struct FieldForm {
-    std::size_t fields;
-    std::size_t numbers;
-};
-const std::map<std::pair<std::string, std::string>, FieldForm> fieldForms = {
-    {{"RNG", "1"}, {3, 1}},  {{"RNG", "2"}, {4, 1}}, {{"ANT", "2"}, {6, 1}},  {{"THR", "1"}, {8, 2}},
-    {{"JSX", "1"}, {4, 1}},  {{"JSX", "2"}, {6, 1}}, {{"JSX", "3"}, {3, 0}},  {{"JSY", "1"}, {4, 1}},
-    {{"JSY", "2"}, {6, 1}},  {{"JSY", "3"}, {3, 0}}, {{"RDDR", "1"}, {4, 1}}, {{"RDDR", "2"}, {6, 1}},
-    {{"RDDR", "3"}, {3, 0}},
-};
-
-bool isFieldStatement(const Words& words, const std::set<std::string>& macros)
-{
-    const auto form = words.size() < 2 ? fieldForms.end() : fieldForms.find({words[0], words[1]});
-    if (form == fieldForms.end() || words.size() != 2 + form->second.fields) return false;
-    const std::size_t firstKey = 2 + form->second.numbers;
-    return std::all_of(words.begin() + 2, words.begin() + static_cast<std::ptrdiff_t>(firstKey), isNumber) &&
-           everyWord(words, firstKey, [&](const std::string& word) { return isKey(word) || macros.contains(word); });
-}
-
-bool isLogicTerm(const std::string& statement)
-{
-    static const std::regex functions(R"(PULSE\(\d+ \d+\)|DELAY\(\d+\)|CMP(LT|GT)\((ANT|RNG|THR|RDDR|JSX|JSY) \d+\))");
-    static const std::regex brackets("[()]");
-    const std::string plain = std::regex_replace(std::regex_replace(statement, functions, "TIMED"), brackets, " ");
-    const Words words = wordsOf(plain);
-    return words.size() > 2 && isLogicLine(words[1]) && everyWord(words, 2, [](const std::string& word) {
-               return isSwitch(word) || isLogicLine(word) || word == "AND" || word == "OR" || word == "NOT" ||
-                      word == "TIMED";
-           });
-}
-
-bool isKnownStatement(const std::string& statement, const std::set<std::string>& macros)
-{
-    static const std::regex port("PortB[1-4] IS ([A-Z0-9]+)");
-    static const std::regex single("SWAPTG|RATE [0-9]+|MDEF [A-Za-z0-9]{1,8}");
-    std::smatch match;
-    if (std::regex_match(statement, match, port)) return isSwitch(match[1]);
-    if (std::regex_match(statement, single)) return true;
-    const Words words = wordsOf(statement);
-    if (words[0] == "USE") return statement.size() > 4 && isUseOption(statement.substr(4));
-    if (words[0] == "DEF") return isLogicTerm(statement);
-    if (words[0] != "BTN") return isFieldStatement(words, macros);
-    return words.size() > 1 && (isSwitch(words[1]) || isLogicLine(words[1])) &&
-           everyWord(words, 2, [&](const std::string& word) {
-               return isSlashCode(word) || isKey(word) || macros.contains(word);
-           });
-}
-
 /// The macros that the joystick file's statements name.
 std::set<std::string> macrosUsedIn(const Pair& pair)
 {
@@ -220,6 +162,18 @@ TEST(ExampleFiles, EveryMacroBodyIsMadeOfKeysAndSlashCodes)
         for (const std::string& body : codeOf(pair.macroFile(), true))
             for (const std::string& word : wordsOf(body))
                 EXPECT_TRUE(isKey(word) || isSlashCode(word)) << pair.macroFile() << ": " << body;
+}
+
+TEST(ExampleFiles, GreyKeysAreSpelledWithAuxForTheF22ProAndOnlyForIt)
+{
+    static const std::regex plain("INS|DEL|HOME|END|PGUP|PGDN|[UDLR]AROW|KPENT|KP/");
+    for (const Pair& pair : pairs)
+        for (const std::string& code : allCodeOf(pair))
+            for (const std::string& word : wordsOf(code)) {
+                const bool foreign =
+                    pair.joystickExtension == "f22" ? std::regex_match(word, plain) : word.starts_with("AUX");
+                EXPECT_FALSE(foreign) << pair.base << ": " << code;
+            }
 }
 
 TEST(ExampleFiles, SomeMacrosAreUsedAndSomeAreNot)
