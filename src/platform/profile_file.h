@@ -13,7 +13,12 @@ namespace tarvex {
 /// gives the defaults, and a write that fails is lost in silence.
 ///
 /// Values are UTF-8 here. In the file they are Windows-1252; a value that the code page can't hold, or whose bytes
-/// would read as UTF-8, is written as UTF-8, and bytes that are valid UTF-8 are read as that.
+/// would read as UTF-8, is written as UTF-8, and bytes that are valid UTF-8 are read as that. A file that begins with
+/// the UTF-8 mark gets UTF-8 only.
+///
+/// A value ends at its first line break or NUL, in the file and in what is written, so that no value can break the
+/// file. A section name ends at "]" too, a key at "="; an empty key, or one that would make its line a comment or a
+/// section, is neither found nor written.
 class ProfileFile {
 public:
     ProfileFile(FileSystem& files, std::string path);
@@ -27,7 +32,8 @@ public:
     /// The leading decimal digits of the value, after blanks and a sign; 0 when it starts with something else. The
     /// default for a missing key or an empty value. Beyond 32 bits the value wraps around.
     int readInt(std::string_view section, std::string_view key, int defaultValue) const;
-    /// Creates the file and the section when needed; keeps unknown keys, comments, order and line ends.
+    /// Creates the file and the section when needed; keeps unknown keys, comments, order and line ends. A value that
+    /// reads the same already leaves the file untouched.
     void writeString(std::string_view section, std::string_view key, std::string_view value);
 
     /// Holds the writes of one procedure back until it ends, so that they reach the disk together, whole or not at
@@ -45,13 +51,14 @@ public:
 
 private:
     void refresh() const;
-    void flush();
+    void flush() noexcept;
 
     FileSystem& m_files;
     std::string m_path;
     int m_batches = 0;
     bool m_dirty = false;
     mutable bool m_loaded = false;
+    mutable bool m_readable = false; ///< a file that is there but can't be read is never written over
     mutable FileStamp m_stamp;
     mutable std::vector<std::string> m_lines; ///< each with its line end
 };

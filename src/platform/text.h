@@ -16,7 +16,8 @@ std::string_view Right(std::string_view text, std::size_t length);
 std::string_view Left(std::string_view text, std::size_t length);
 
 /// The whole text as a number, as a settings value or a box of a form gives it: blanks around it, a sign, a decimal
-/// fraction and an exponent are allowed. Throws RuntimeError (TypeMismatch) for anything else.
+/// fraction and an exponent are allowed. Throws RuntimeError (TypeMismatch) for anything else, (Overflow) for a number
+/// that no double holds.
 double toNumber(std::string_view text);
 /// The same, rounded to the nearest whole number (halves to the even one). Throws RuntimeError (Overflow) beyond 16 or
 /// 32 bits.

@@ -1,0 +1,157 @@
+#include "support/memory_files.h"
+
+#include "platform/dos_path.h"
+#include "platform/windows1252.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace tarvex {
+
+namespace {
+
+std::string cleaned(std::string path)
+{
+    std::replace(path.begin(), path.end(), '/', '\\');
+    while (path.ends_with('\\')) path.pop_back();
+    return path;
+}
+
+std::string key(const std::string& path) { return lowerUtf8(cleaned(path)); }
+
+std::string parentOf(const std::string& path) { return cleaned(directoryOf(cleaned(path))); }
+
+[[noreturn]] void fail(ErrorCode code, const char* description) { throw RuntimeError(code, description); }
+
+} // namespace
+
+MemoryFiles::MemoryFiles() { addDirectory("c:"); }
+
+void MemoryFiles::addDirectory(const std::string& path)
+{
+    for (std::string next = cleaned(path); !next.empty() && !find(next); next = parentOf(next)) {
+        Entry& entry = m_entries[key(next)];
+        entry.path = next;
+        entry.isDirectory = true;
+    }
+}
+
+void MemoryFiles::addFile(const std::string& path, const std::string& bytes)
+{
+    addDirectory(parentOf(path));
+    put(path, bytes);
+}
+
+void MemoryFiles::setReadOnly(const std::string& path, bool readOnly) { fileAt(path).readOnly = readOnly; }
+
+void MemoryFiles::failWrites(const std::string& path, std::optional<RuntimeError> error)
+{
+    m_writeErrors.erase(key(path));
+    if (error) m_writeErrors.emplace(key(path), *error);
+}
+
+void MemoryFiles::failReads(const std::string& path, std::optional<RuntimeError> error)
+{
+    fileAt(path).readError = std::move(error);
+}
+
+std::optional<std::string> MemoryFiles::contents(const std::string& path) const
+{
+    if (!fileExists(path)) return std::nullopt;
+    return find(path)->bytes;
+}
+
+std::string MemoryFiles::spelling(const std::string& path) const
+{
+    const Entry* entry = find(path);
+    return entry ? entry->path : path;
+}
+
+bool MemoryFiles::fileExists(const std::string& path) const
+{
+    const Entry* entry = find(path);
+    return entry && !entry->isDirectory;
+}
+
+bool MemoryFiles::directoryExists(const std::string& path) const
+{
+    const Entry* entry = find(path);
+    return entry && entry->isDirectory;
+}
+
+bool MemoryFiles::isReadOnly(const std::string& path) const
+{
+    const Entry* entry = find(path);
+    return entry && entry->readOnly;
+}
+
+FileStamp MemoryFiles::stamp(const std::string& path) const
+{
+    return fileExists(path) ? find(path)->stamp : FileStamp{};
+}
+
+std::string MemoryFiles::read(const std::string& path) const
+{
+    const Entry* entry = find(path);
+    if (!entry && !directoryExists(parentOf(path))) fail(ErrorCode::PathNotFound, "Path not found");
+    if (!entry) fail(ErrorCode::FileNotFound, "File not found");
+    if (entry->isDirectory) fail(ErrorCode::PathFileAccess, "Path/File access error");
+    if (entry->readError) throw *entry->readError;
+    return entry->bytes;
+}
+
+void MemoryFiles::write(const std::string& path, const std::string& bytes)
+{
+    if (const auto error = m_writeErrors.find(key(path)); error != m_writeErrors.end()) throw error->second;
+    if (!directoryExists(parentOf(path))) fail(ErrorCode::PathNotFound, "Path not found");
+    if (directoryExists(path) || isReadOnly(path)) fail(ErrorCode::PathFileAccess, "Path/File access error");
+    put(path, bytes);
+    m_writes.push_back({path, bytes});
+}
+
+void MemoryFiles::createDirectory(const std::string& path)
+{
+    if (find(path)) fail(ErrorCode::PathFileAccess, "Path/File access error");
+    if (!directoryExists(parentOf(path))) fail(ErrorCode::PathNotFound, "Path not found");
+    addDirectory(path);
+}
+
+void MemoryFiles::removeFile(const std::string& path)
+{
+    if (!fileExists(path)) fail(ErrorCode::FileNotFound, "File not found");
+    if (isReadOnly(path)) fail(ErrorCode::PathFileAccess, "Path/File access error");
+    m_entries.erase(key(path));
+}
+
+std::vector<std::string> MemoryFiles::list(const std::string& path) const
+{
+    if (!directoryExists(path)) fail(ErrorCode::PathNotFound, "Path not found");
+    std::vector<std::string> names;
+    for (const auto& [entryKey, entry] : m_entries) {
+        if (entryKey != key(path) && key(parentOf(entry.path)) == key(path)) names.push_back(fileNameOf(entry.path));
+    }
+    return names;
+}
+
+const MemoryFiles::Entry* MemoryFiles::find(const std::string& path) const
+{
+    const auto found = m_entries.find(key(path));
+    return found == m_entries.end() ? nullptr : &found->second;
+}
+
+MemoryFiles::Entry& MemoryFiles::fileAt(const std::string& path)
+{
+    if (!fileExists(path)) throw std::logic_error("the test names a file that isn't there: " + path);
+    return m_entries.at(key(path));
+}
+
+void MemoryFiles::put(const std::string& path, const std::string& bytes)
+{
+    Entry& entry = m_entries[key(path)];
+    if (entry.path.empty()) entry.path = cleaned(path);
+    entry.bytes = bytes;
+    ++m_clock;
+    entry.stamp = {bytes.size(), static_cast<std::int64_t>(m_clock), m_clock};
+}
+
+} // namespace tarvex

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/errors.h"
+#include "platform/files.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+/// A disk in memory. Names keep the case in which they were made and match in any; "/" counts as "\". Drive "c:" is
+/// there from the start. Nothing is written below a directory that doesn't exist.
+class MemoryFiles final : public FileSystem {
+public:
+    MemoryFiles();
+
+    // What a test sets up; directories on the way are made, and neither the log nor the failures take part.
+    void addFile(const std::string& path, const std::string& bytes);
+    void addDirectory(const std::string& path);
+    void setReadOnly(const std::string& path, bool readOnly = true);
+    /// Every write (read) of the path fails with the error from now on, or no longer.
+    void failWrites(const std::string& path, std::optional<RuntimeError> error);
+    void failReads(const std::string& path, std::optional<RuntimeError> error);
+
+    // What a test looks at.
+    struct Write {
+        std::string path; ///< as it was given
+        std::string bytes;
+    };
+    /// The writes that succeeded, in order.
+    const std::vector<Write>& writes() const { return m_writes; }
+    void clearWrites() { m_writes.clear(); }
+    /// The bytes of a file; nothing when there is none.
+    std::optional<std::string> contents(const std::string& path) const;
+    /// The path in the case in which its file or directory was made, or the path itself.
+    std::string spelling(const std::string& path) const;
+
+    bool fileExists(const std::string& path) const override;
+    bool directoryExists(const std::string& path) const override;
+    bool isReadOnly(const std::string& path) const override;
+    FileStamp stamp(const std::string& path) const override;
+    std::string read(const std::string& path) const override;
+    void write(const std::string& path, const std::string& bytes) override;
+    void createDirectory(const std::string& path) override;
+    void removeFile(const std::string& path) override;
+    std::vector<std::string> list(const std::string& path) const override;
+
+private:
+    struct Entry {
+        std::string path;
+        bool isDirectory = false;
+        bool readOnly = false;
+        std::string bytes;
+        FileStamp stamp;
+        std::optional<RuntimeError> readError;
+    };
+    const Entry* find(const std::string& path) const;
+    Entry& fileAt(const std::string& path);
+    void put(const std::string& path, const std::string& bytes);
+
+    std::map<std::string, Entry> m_entries;            ///< by key(path)
+    std::map<std::string, RuntimeError> m_writeErrors; ///< by key(path), also of files that don't exist
+    std::vector<Write> m_writes;
+    std::uint64_t m_clock = 0;
+};
+
+} // namespace tarvex
