@@ -3,6 +3,7 @@
 #include "documents/file_filters.h"
 #include "documents/tabs.h"
 #include "documents/text_files.h"
+#include "documents/undo.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 
@@ -45,7 +46,7 @@ bool saveText(Editor& editor, Side& side)
         writeBackup(editor, side);
         backedUp = true;
     });
-    if (editor.shared.settings.UndoClearOnSave == 1) step([&] { side.DeleteUndosOnSave(); });
+    if (editor.shared.settings.UndoClearOnSave == 1) step([&] { keepOnlyThePresent(editor, side); });
     noteSaved(editor, side);
     if (!backedUp) failed();
     return true;

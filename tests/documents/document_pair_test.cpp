@@ -72,13 +72,14 @@ TEST_F(PairTest, ChangesWhileLoadingDontCount)
     EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
 }
 
-TEST_F(PairTest, AChangeTakesUndoLevelsAndOpensANewOneForTheNext)
+TEST_F(PairTest, AChangeTakesAnUndoLevelAndOpensANewOneForTheNext)
 {
-    int taken = 0;
-    t.program().operations.JoystickUndoRecord = [&] { ++taken; };
-    editor.pair.JoystickTakeNewLevel = 0;
     t.typeJoystick("x");
-    EXPECT_EQ(taken, 1);
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), 2U);
+    editor.pair.JoystickTakeNewLevel = 0;
+    t.typeJoystick("y");
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), 2U);
+    EXPECT_EQ(editor.JoystickUndo.Text[0].text(), "xy");
     EXPECT_EQ(editor.pair.JoystickTakeNewLevel, 1);
 }
 

@@ -275,16 +275,17 @@ TEST_F(SaveTest, SaveBothSavesEachAndComesBackToTheTab)
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2);
 }
 
-TEST_F(SaveTest, UndoClearOnSaveEmptiesTheUndoLevels)
+TEST_F(SaveTest, UndoIsKeptByASaveUnlessUndoClearOnSaveAsksOtherwise)
 {
     openPair();
-    int cleared = 0;
-    t.program().operations.DeleteUndosOnSaveJ = [&] { ++cleared; };
+    t.typeJoystick("x");
     t.menus().mnuFileSave.Click();
-    EXPECT_EQ(cleared, 0);
+    EXPECT_TRUE(t.menus().mnuEditUndo.Enabled);
     t.settings().UndoClearOnSave = 1;
     t.menus().mnuFileSave.Click();
-    EXPECT_EQ(cleared, 1);
+    EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
+    EXPECT_EQ(t.editor().JoystickUndo.Text.size(), 1U);
+    EXPECT_EQ(t.editor().JoystickUndo.Text[0].text(), "xBTN S1 x\r\n");
 }
 
 TEST_F(SaveTest, ASavedPathEntersThePreviousFiles)

@@ -43,6 +43,18 @@ void TestProgram::start()
     EXPECT_TRUE(m_program->start());
 }
 
+void TestProgram::pressKeys(Pane& pane, const std::string& keys)
+{
+    for (const char key : keys) {
+        pane.KeyPress(static_cast<unsigned char>(key));
+        const std::int64_t caret = pane.SelStart();
+        if (key == '\b')
+            pane.userEdit(caret - 1, 1, "");
+        else
+            pane.userEdit(caret, 0, key == '\r' ? "\r\n" : std::string(1, key));
+    }
+}
+
 void TestProgram::typeJoystick(const std::string& text) { type(editor().JoystickText, text); }
 void TestProgram::typeMacro(const std::string& text) { type(editor().MacroText, text); }
 
