@@ -6,9 +6,9 @@
 #include "support/temporary_directory.h"
 
 #include <fcntl.h>
+#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <iostream>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/wait.h>
@@ -20,11 +20,27 @@ namespace {
 
 constexpr int notPermitted = 77;
 
+bool tell(const char* file, const std::string& text)
+{
+    std::ofstream stream(file);
+    stream << text;
+    return stream.flush().good();
+}
+
+/// A name space of mounts; an ordinary user gets one as the root of a name space of users.
+bool enterNameSpace()
+{
+    const std::string user = std::to_string(::geteuid());
+    const std::string group = std::to_string(::getegid());
+    if (user == "0") return ::unshare(CLONE_NEWNS) == 0;
+    return ::unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && tell("/proc/self/uid_map", "0 " + user + " 1") &&
+           tell("/proc/self/setgroups", "deny") && tell("/proc/self/gid_map", "0 " + group + " 1");
+}
+
 bool mountSmallDisk(const std::string& place)
 {
-    if (::unshare(::geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0) return false;
-    if (::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) return false;
-    return ::mount("tmpfs", place.c_str(), "tmpfs", 0, "size=64k") == 0;
+    return enterNameSpace() && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           ::mount("tmpfs", place.c_str(), "tmpfs", 0, "size=64k") == 0;
 }
 
 void fill(const std::string& path)
