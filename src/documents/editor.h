@@ -11,6 +11,7 @@
 #include <array>
 #include <deque>
 #include <string>
+#include <string_view>
 
 namespace tarvex {
 
@@ -34,9 +35,8 @@ struct FrameMacros {
 
 /// One of the two documents, for what is done to both alike. Names the members of the record; owns nothing.
 struct Side {
-    enum class Kind { Joystick, Macro };
-    Kind kind;
-    int tab; ///< 1 joystick, 2 macro
+    int tab;               ///< 1 joystick, 2 macro
+    std::string_view kind; ///< "joystick" or "macro", as the program's texts name it
     Pane& pane;
     std::string& FilePath;
     std::string& FileName;
@@ -45,7 +45,13 @@ struct Side {
     std::int32_t& SelectionLength;
     std::int16_t& TakeNewLevel;
     std::string& Extension; ///< the one that new files of the kind get
-    std::int32_t& Background;
+    Colour& Background;
+    Operation<>& ResetUndo;
+    Operation<>& UndoRecord;
+    Operation<>& DeleteUndosOnSave;
+    Operation<>& ApplyColours;
+    Operation<const std::string&>& NoteLatestFile;
+    Operation<const std::string&>& UpdateRecentMenuList;
 };
 
 /// State of the document window: the pair of files, their panes, tabs and views. What is done with it stands in units

@@ -6,6 +6,8 @@ namespace tarvex {
 
 /// Shows the changed state of the selected document on the saved-state panel: image value + 2, and its tooltip.
 void UpdateSavedIcon(Editor& editor);
+/// Plain text is black, whichever tab is selected.
+void GetCurrentDefaultTextColour(Editor& editor);
 /// A tab was selected, by the user or by the program: pane, focus, status, tab images, download command and undo menus
 /// follow.
 void TabStrip1_Click(Editor& editor);

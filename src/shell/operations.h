@@ -18,6 +18,8 @@ struct Operations {
     Operation<> UpdateTooltips; ///< of Mum
     Operation<> ShowExtraButtons;
     Operation<> UpdateToolBarOpenSaveTooltips;
+    Operation<> UpdateEditorTooltips;
+    Operation<> DamnFontWasChanged; ///< the pane font was changed in the preferences
 
     // undo
     Operation<> DeleteUndosFromMemory;

@@ -1,0 +1,67 @@
+#include "documents/associated_files.h"
+
+#include "platform/dos_path.h"
+#include "platform/windows1252.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace tarvex {
+
+namespace {
+
+struct Family {
+    std::string_view joystickFile;
+    std::string_view macroFile;
+};
+constexpr std::array<Family, 3> families{{{"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}}};
+
+const Family* familyBy(std::string_view Family::*extension, const std::string& path)
+{
+    const auto* const family = std::ranges::find(families, lastThree(path), extension);
+    return family == families.end() ? nullptr : family;
+}
+
+} // namespace
+
+FileKind kindOfFile(const std::string& name)
+{
+    if (familyBy(&Family::joystickFile, name)) return FileKind::Joystick;
+    if (familyBy(&Family::macroFile, name)) return FileKind::Macro;
+    return FileKind::Other;
+}
+
+std::string associatedJoystickFile(const std::string& macroPath, const Settings& settings)
+{
+    const Family* family = familyBy(&Family::macroFile, macroPath);
+    return withLastThree(macroPath, family ? family->joystickFile : settings.JoystickExtension);
+}
+
+std::string associatedMacroFile(const std::string& joystickPath, const Settings& settings)
+{
+    const Family* family = familyBy(&Family::joystickFile, joystickPath);
+    return withLastThree(joystickPath, family ? family->macroFile : settings.MacroExtension);
+}
+
+std::string macroFileByMdef(Pane& joystickText, float& caret, const std::string& joystickPath, const Settings& settings)
+{
+    constexpr std::string_view word = "MDEF";
+    const auto length = static_cast<float>(word.size());
+    std::int64_t last = -1;
+    caret = 0;
+    for (std::int64_t hit = 0;;) {
+        hit = joystickText.Find(word, static_cast<std::int64_t>(caret));
+        if (hit < 0) break;
+        last = hit;
+        caret = static_cast<float>(hit) + length;
+    }
+    if (last < 0) return {};
+
+    joystickText.setSelStart(last + static_cast<std::int64_t>(word.size()) + 1); // past the blank behind the word
+    joystickText.Span("\r\n ", true, true);
+    const std::string name = utf8FromWindows1252(joystickText.SelText()) + "." + settings.MacroExtension;
+    return lowerUtf8(directoryOf(joystickPath) + name);
+}
+
+} // namespace tarvex

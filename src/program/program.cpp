@@ -1,0 +1,128 @@
+#include "program/program.h"
+
+#include "documents/auto_save.h"
+#include "documents/clipboard_commands.h"
+#include "documents/editor_layout.h"
+#include "documents/editor_window.h"
+#include "documents/file_new.h"
+#include "documents/file_open.h"
+#include "documents/file_save.h"
+#include "documents/menu_choices.h"
+#include "documents/pane_change.h"
+#include "documents/tabs.h"
+#include "shell/mum_window.h"
+
+namespace tarvex {
+
+namespace {
+
+/// Tool windows that an emergency exit takes down.
+constexpr const char* toolWindows[] = {
+    "ColourSelector",
+    "EnterFavouritename",
+    "EnterGameName",
+    "FindAndReplace",
+    "frmAbout",
+    "Heading",
+    "frmTip",
+    "InsertOptions",
+    "JoystickWiz",
+    "Speedy",
+    "KeyTestForm",
+    "MacroWizard",
+    "Preferences",
+    "RAWform",
+    "SelectPictureForm",
+    "JoyPlot",
+    "SingleTextForm",
+    "TemplateForm",
+    "Title",
+    "ViewImage",
+};
+
+/// A command of the editor as the handler of its menu item.
+template <typename Work> std::function<void()> on(Editor& editor, Work work)
+{
+    return [&editor, work] { work(editor); };
+}
+
+void wireFileMenu(Menus& menus, Editor& editor)
+{
+    menus.mnuFileNewJoystick.handler = on(editor, mnuFileNewJoystick_Click);
+    menus.mnuFileNewMacro.handler = on(editor, mnuFileNewMacro_Click);
+    menus.mnuFileNewBoth.handler = on(editor, mnuFileNewBoth_Click);
+    menus.mnuFileOpen.handler = on(editor, mnuFileOpen_Click);
+    menus.mnuFileJoystickLoad.handler = on(editor, mnuFileJoystickLoad_Click);
+    menus.MnuFileMacroLoad.handler = on(editor, MnuFileMacroLoad_Click);
+    menus.mnuFileSave.handler = on(editor, mnuFileSave_Click);
+    menus.mnuFileSaveAs.handler = on(editor, mnuFileSaveAs_Click);
+    menus.mnuFileSaveBoth.handler = on(editor, mnuFileSaveBoth_Click);
+    menus.mnuFileClose.handler = on(editor, mnuFileClose_Click);
+    menus.mnuFileCloseBoth.handler = on(editor, mnuFileCloseBoth_Click);
+}
+
+void wireEditMenu(Menus& menus, Editor& editor)
+{
+    menus.mnuEditCut.handler = on(editor, mnuEditCut_Click);
+    menus.mnuEditCopy.handler = on(editor, mnuEditCopy_Click);
+    menus.mnuEditPaste.handler = on(editor, mnuEditPaste_Click);
+    menus.mnuEditDelete.handler = on(editor, mnuEditDelete_Click);
+    menus.mnuEditSelectAll.handler = on(editor, mnuEditSelectAll_Click);
+}
+
+void wireViewAndPreferences(Menus& menus, Editor& editor)
+{
+    menus.mnuViewTileVertically.handler = on(editor, mnuViewTileVertically_Click);
+    menus.mnuViewMacros.handler = on(editor, mnuViewMacros_Click);
+    menus.mnuPreferencesProtectMacroFile.handler = on(editor, mnuPreferencesProtectMacroFile_Click);
+    menus.mnuJoyPopUpSingleFile.handler = on(editor, mnuJoyPopUpSingleFile_Click);
+    menus.mnuInsertWithColour.handler = on(editor, mnuInsertWithColour_Click);
+    menus.mnuMacrosSaveOptions1.handler = [&editor] { mnuMacrosSaveOptions_Click(editor, 1); };
+    menus.mnuMacrosSaveOptions2.handler = [&editor] { mnuMacrosSaveOptions_Click(editor, 2); };
+}
+
+void wirePanes(Editor& editor)
+{
+    editor.JoystickText.Change = on(editor, JoystickText_Change);
+    editor.MacroText.Change = on(editor, MacroText_Change);
+    editor.TabStrip1.Click = on(editor, TabStrip1_Click);
+    editor.Timer1.Tick = on(editor, Timer1_Timer);
+}
+
+void wireLists(Operations& operations, SettingsStore& store)
+{
+    operations.GetPreviousFiles = [&store] { store.read(Access::GetPreviousFiles, "MODULE GetPreviousFiles"); };
+    operations.GetFavourites = [&store] { store.read(Access::GetFavourites, "MODULE GetFavourites"); };
+    operations.GetGames = [&store] { store.read(Access::GetGames, "MODULE GetGames"); };
+    operations.GetCustomApps = [&store] { store.read(Access::GetCustomApps, "MODULE GetCustomApps"); };
+}
+
+} // namespace
+
+Program::Program(Platform& thePlatform)
+    : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations)
+{
+    wireFileMenu(menus, editor);
+    wireEditMenu(menus, editor);
+    wireViewAndPreferences(menus, editor);
+    wirePanes(editor);
+    wireLists(operations, shared.store);
+    menus.mnuFileExit.handler = [this] { exit(); };
+    operations.ShowEditor = on(editor, Form_Load);
+    operations.QueryUnloadEditor = [this](bool& cancel) { cancel = !Form_QueryUnload(editor); };
+    operations.UnloadEditor = on(editor, Form_Unload);
+    shared.errors.exitInEmergency = [this] {
+        operations.ReleaseGradient();
+        for (const char* window : toolWindows) operations.UnloadForm(window);
+        exit();
+        platform.desktop.quit();
+    };
+}
+
+Program::~Program() = default;
+
+bool Program::start() { return MDIForm_Load({platform, shared, mum, operations}); }
+
+bool Program::exit() { return mnuFileExit_Click({platform, shared, mum, operations}); }
+
+} // namespace tarvex
