@@ -47,7 +47,7 @@ void insertEntry(ProfileLines& lines, const ProfilePlace& place, const Names& na
         lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(place.insertAt), std::move(entry));
         return;
     }
-    lines.push_back(std::string(1, '[').append(encodeProfileText(names.section, onlyUtf8)).append("]").append(lineEnd));
+    lines.push_back("[" + encodeProfileText(names.section, onlyUtf8) + "]" + lineEnd);
     lines.push_back(std::move(entry));
 }
 

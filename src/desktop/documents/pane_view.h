@@ -30,7 +30,7 @@ public:
     void setZoom(int percent);
 
     /// Puts what was dropped before the character at `target`, or moves the view's own selection there.
-    void takeDrop(const QMimeData& data, int target, bool movesOwnSelection);
+    void takeDrop(const QMimeData& content, int target, bool movesOwnSelection);
 
 signals:
     void gotFocus();

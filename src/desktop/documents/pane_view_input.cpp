@@ -172,7 +172,7 @@ void PaneView::dropEvent(QDropEvent* event)
     }
 }
 
-void PaneView::takeDrop(const QMimeData& data, int target, bool movesOwnSelection)
+void PaneView::takeDrop(const QMimeData& content, int target, bool movesOwnSelection)
 {
     settle();
     const std::int64_t position = m_mirror.panePosition(target);
@@ -180,7 +180,7 @@ void PaneView::takeDrop(const QMimeData& data, int target, bool movesOwnSelectio
         moveSelection(m_pane, position);
     } else {
         m_pane.setSelStart(position);
-        insertContent(m_pane, fromMime(data));
+        insertContent(m_pane, fromMime(content));
     }
     settle();
 }

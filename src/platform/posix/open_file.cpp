@@ -1,0 +1,84 @@
+#include "platform/posix/open_file.h"
+
+#include "platform/posix/system_error.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+
+namespace tarvex {
+
+namespace {
+
+/// A call that a signal has interrupted is made again.
+template <typename Call> auto uninterrupted(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR) result = call();
+    if (result < 0) throwSystemError();
+    return result;
+}
+
+} // namespace
+
+OpenFile::OpenFile(SystemCalls& calls, const std::string& path, int flags, mode_t mode)
+    : m_calls(calls), m_file(uninterrupted([&] { return calls.open(path, flags | O_CLOEXEC | O_NOCTTY, mode); }))
+{
+}
+
+OpenFile::~OpenFile()
+{
+    if (m_file >= 0) m_calls.close(m_file);
+}
+
+struct stat OpenFile::status()
+{
+    struct stat status = {};
+    uninterrupted([&] { return m_calls.fstat(m_file, status); });
+    return status;
+}
+
+std::string OpenFile::readAll()
+{
+    constexpr std::size_t largest = 1 << 20;
+    const auto expected = static_cast<std::size_t>(std::max<off_t>(status().st_size, 0));
+    std::string bytes;
+    std::size_t step = std::min(expected + 1, largest); // one more than expected, so that one read meets the end
+    for (;;) {
+        const std::size_t size = bytes.size();
+        bytes.resize(size + step);
+        const auto count =
+            static_cast<std::size_t>(uninterrupted([&] { return m_calls.read(m_file, bytes.data() + size, step); }));
+        bytes.resize(size + count);
+        if (count == 0) return bytes;
+        step = largest;
+    }
+}
+
+void OpenFile::writeAll(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const auto count = uninterrupted([&] { return m_calls.write(m_file, bytes.data(), bytes.size()); });
+        if (count == 0) throw systemError(EIO); // no progress and no reason: don't try for ever
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+void OpenFile::truncate(std::size_t size)
+{
+    uninterrupted([&] { return m_calls.ftruncate(m_file, static_cast<off_t>(size)); });
+}
+
+void OpenFile::sync()
+{
+    uninterrupted([&] { return m_calls.fsync(m_file); });
+}
+
+void OpenFile::close()
+{
+    const int file = m_file;
+    m_file = -1; // gone even when the call fails
+    if (m_calls.close(file) < 0 && errno != EINTR) throwSystemError();
+}
+
+} // namespace tarvex

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/posix/system_calls.h"
+
+#include <string>
+#include <string_view>
+
+namespace tarvex {
+
+/// A file that is open through SystemCalls; what fails throws RuntimeError.
+class OpenFile {
+public:
+    OpenFile(SystemCalls& calls, const std::string& path, int flags, mode_t mode = 0);
+    ~OpenFile();
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int descriptor() const { return m_file; }
+    struct stat status();
+    std::string readAll();
+    void writeAll(std::string_view bytes);
+    void truncate(std::size_t size);
+    void sync();
+    /// Closes and tells whether that went well, which the destructor can't.
+    void close();
+
+private:
+    SystemCalls& m_calls;
+    int m_file;
+};
+
+} // namespace tarvex
