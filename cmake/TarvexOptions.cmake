@@ -21,8 +21,8 @@ add_library(tarvex_compile_options INTERFACE)
 target_include_directories(tarvex_compile_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(tarvex_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> # g++ 12 sees overlaps where a literal and a string are joined
-    $<$<BOOL:${TARVEX_WERROR}>:-Werror>)
+    $<$<BOOL:${TARVEX_WERROR}>:-Werror>
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>) # GCC 12 sees overlaps in plain assignments to std::string
 
 if(TARVEX_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

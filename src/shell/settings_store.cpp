@@ -19,7 +19,7 @@ std::size_t bufferOf(SettingForm form)
 {
     switch (form) {
     case SettingForm::ShortText:
-    case SettingForm::Colour:
+    case SettingForm::ColourText:
         return 50;
     case SettingForm::IntegerText:
         return 10;
