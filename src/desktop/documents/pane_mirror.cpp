@@ -65,10 +65,10 @@ void PaneMirror::deliver(int caret)
         m_behind = Common{};
         return;
     }
+    markStale(static_cast<int>(typed.before), documentLength() - static_cast<int>(typed.after));
     const Stretch stretch = typedStretch(typed, caret);
     const PaneText text = paneText(documentStretch(stretch.from, stretch.to));
     const std::int64_t after = paneLength() - stretch.end;
-    markStale(stretch.from, stretch.to);
     m_echo = Pane::Edit{stretch.begin, stretch.end - stretch.begin, static_cast<std::int64_t>(text.bytes.size())};
     const auto refused = qScopeGuard([this, &stretch, after] {
         if (!m_echo) return;

@@ -23,6 +23,9 @@ public:
     /// The document lags behind the pane.
     bool behind() const { return m_behind || m_unformatted; }
 
+    /// Neither has anything that the other lacks.
+    bool equal() const { return !m_typed && !m_writing && !behind(); }
+
     /// Makes the user's changes one edit of the pane. `caret` is where they left it in the document. When the pane
     /// refuses the edit, the document gets its text back at the next update.
     void deliver(int caret);

@@ -129,11 +129,16 @@ bool PaneView::showSelection()
     return wanted != before;
 }
 
-void PaneView::formatAll() { m_mirror.formats().format(document()->firstBlock(), document()->lastBlock()); }
+void PaneView::formatAll()
+{
+    settle();
+    m_mirror.formats().format(document()->firstBlock(), document()->lastBlock());
+}
 
 /// Formats the lines that can be in sight, and the caret's, whose place is asked for also when it is out of sight.
 void PaneView::formatShown()
 {
+    if (!m_mirror.equal()) return; // scrolled in the middle of an edit
     const QTextBlock first = firstVisibleBlock();
     const int lines = 2 * viewport()->height() / std::max(1, fontMetrics().lineSpacing()) + 2;
     const int last = std::min(first.blockNumber() + lines, blockCount() - 1);

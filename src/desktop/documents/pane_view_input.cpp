@@ -67,7 +67,7 @@ bool PaneView::viewportEvent(QEvent* event)
 void PaneView::keyPressEvent(QKeyEvent* event)
 {
     if (zoomByKey(*event)) return;
-    if (event->modifiers() == Qt::ControlModifier && pressKey) {
+    if (event->modifiers() == Qt::ControlModifier && event->key() != Qt::Key_Control && pressKey) {
         const QString keys = QKeySequence(event->keyCombination()).toString(QKeySequence::PortableText);
         if (pressKey(fromQt(keys))) return;
     }

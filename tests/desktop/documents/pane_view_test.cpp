@@ -42,12 +42,14 @@ struct Shown {
     void type(const QString& text) { QTest::keyClicks(&view, text); }
     void caretTo(int position)
     {
+        view.settle();
         QTextCursor cursor = view.textCursor();
         cursor.setPosition(position);
         view.setTextCursor(cursor);
     }
     void select(int from, int to)
     {
+        view.settle();
         QTextCursor cursor = view.textCursor();
         cursor.setPosition(from);
         cursor.setPosition(to, QTextCursor::KeepAnchor);
@@ -85,6 +87,7 @@ struct Shown {
             std::vector<Colour> colours(static_cast<std::size_t>(block.length()) - 1, 0);
             for (const auto& range : block.layout()->formats()) {
                 const QColor shown = range.format.foreground().color();
+                ASSERT_LE(range.start + range.length, block.length() - 1) << "line " << block.blockNumber();
                 for (int i = range.start; i < range.start + range.length; ++i) {
                     colours.at(static_cast<std::size_t>(i)) = shown.red() | shown.green() << 8 | shown.blue() << 16;
                 }
@@ -311,6 +314,7 @@ TEST(PaneView, CopiedSelectionPastesWithItsColours)
     EXPECT_EQ(shown.changes, 2) << "the colouring and the paste";
     shown.select(0, 3);
     shown.view.cut();
+    shown.view.settle();
     EXPECT_EQ(shown.pane.Text(), " S1BTN");
     shown.expectEqual();
 }
@@ -455,8 +459,8 @@ public:
         case 3: m_shown.type(QString(QChar('a' + upTo(3)))); break;
         case 4: m_shown.press(Qt::Key_Return); break;
         case 5: m_shown.press(upTo(2) != 0 ? Qt::Key_Backspace : Qt::Key_Delete); break;
-        case 6: m_shown.select(upTo(documentLength() + 1), upTo(documentLength() + 1)); break;
-        case 7: m_shown.caretTo(upTo(documentLength() + 1)); break;
+        case 6: m_shown.view.settle(); m_shown.select(upTo(documentLength() + 1), upTo(documentLength() + 1)); break;
+        case 7: m_shown.view.settle(); m_shown.caretTo(upTo(documentLength() + 1)); break;
         default: Shown::events();
         }
     }
