@@ -131,7 +131,8 @@ void StatusBarView::showTime()
 {
     constexpr int minute = 60'000;
     const QTime now = QTime::currentTime();
-    m_time->setText(QLocale().toString(now, QLocale::ShortFormat));
+    const QString format = QLocale().timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    m_time->setText(QLocale().toString(now, format));
     m_minute.start(minute - now.msecsSinceStartOfDay() % minute + 1);
 }
 
