@@ -21,10 +21,13 @@ add_library(tarvex_compile_options INTERFACE)
 target_include_directories(tarvex_compile_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(tarvex_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
-    $<$<BOOL:${TARVEX_WERROR}>:-Werror>
-    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>) # GCC 12 sees overlaps in plain assignments to std::string
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> # g++ 12 sees overlaps where a literal and a string are joined
+    $<$<BOOL:${TARVEX_WERROR}>:-Werror>)
 
 if(TARVEX_SANITIZE)
+    # Checked containers too; line numbers are all of the debug information that a report needs.
+    set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g1")
+    target_compile_definitions(tarvex_compile_options INTERFACE _GLIBCXX_ASSERTIONS)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(tarvex_compile_options INTERFACE ${sanitizers} $<$<BOOL:${TARVEX_FUZZ}>:-fsanitize=fuzzer-no-link>)
     target_link_options(tarvex_compile_options INTERFACE ${sanitizers})

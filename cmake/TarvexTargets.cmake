@@ -6,12 +6,26 @@ function(tarvex_library name)
     target_link_libraries(${name} PUBLIC tarvex_compile_options ${arg_LINKS})
 endfunction()
 
+# Reading the test framework takes longer than compiling most tests: it is read once, for all test programs.
+function(tarvex_test_headers)
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/test_headers.cpp CONTENT "")
+    add_library(tarvex_test_headers OBJECT ${CMAKE_BINARY_DIR}/test_headers.cpp)
+    target_link_libraries(tarvex_test_headers PRIVATE tarvex_compile_options GTest::gmock)
+    target_compile_options(tarvex_test_headers PRIVATE -fPIC) # Qt asks for it, and all users must do the same
+    target_precompile_headers(tarvex_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+endfunction()
+
 # One test program per folder of the tests, every TEST in it a test of its own for ctest.
 #   tarvex_test(NAME SOURCES a_test.cpp ... LINKS tarvex_shell ...)
 function(tarvex_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    if(NOT TARGET tarvex_test_headers)
+        tarvex_test_headers()
+    endif()
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS} GTest::gmock GTest::gtest_main)
+    target_compile_options(${name} PRIVATE -fPIC)
+    target_precompile_headers(${name} REUSE_FROM tarvex_test_headers)
     target_compile_definitions(${name} PRIVATE TARVEX_SOURCE_DIRECTORY="${CMAKE_SOURCE_DIR}")
     gtest_discover_tests(${name} TEST_PREFIX "${TARVEX_TEST_PREFIX}" DISCOVERY_TIMEOUT 60)
 endfunction()

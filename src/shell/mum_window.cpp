@@ -43,7 +43,10 @@ void hideSeparators(ToolBar& bar)
 
 bool MDIForm_Load(const MumContext& context)
 {
-    const auto& [platform, shared, mum, operations] = context;
+    Platform& platform = context.platform;
+    Shared& shared = context.shared;
+    Mum& mum = context.mum;
+    Operations& operations = context.operations;
     Settings& settings = shared.settings;
     const Steps step(shared.errors, "MUM MDIForm_Load");
 

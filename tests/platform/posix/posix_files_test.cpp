@@ -1,0 +1,174 @@
+#include "platform/posix/posix_files.h"
+
+#include "platform/profile_file.h"
+#include "support/temporary_directory.h"
+
+#include <cerrno>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace tarvex {
+
+namespace {
+
+using testing::UnorderedElementsAre;
+
+struct Files : testing::Test {
+    TemporaryDirectory disk;
+    DriveMap drives{DriveEnvironment{"", "", disk.path(), disk.path()}};
+    SystemCalls calls;
+    SafeWriter writer{disk / "recovery", calls};
+    PosixFiles files{drives, writer};
+    const std::string root = disk.makeDirectory("drive_c");
+
+    template <typename Call> void expectError(ErrorCode code, int number, Call call)
+    {
+        try {
+            call();
+            ADD_FAILURE() << "no error";
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(static_cast<int>(error.code()), static_cast<int>(code));
+            EXPECT_EQ(error.lastDllError(), number);
+            if (number != EINVAL) {
+                EXPECT_EQ(error.what(), std::generic_category().message(number));
+            }
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(Files, WhatIsWrittenComesBackByteForByte)
+{
+    std::string bytes = "Rem\r\n\n\r";
+    for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+    files.write("c:\\Mig.b50", bytes);
+    EXPECT_EQ(files.read("C:\\MIG.B50"), bytes);
+    EXPECT_EQ(bytesOf(root + "/Mig.b50"), bytes);
+    files.write("c:\\mig.b50", "");
+    EXPECT_EQ(files.read("c:\\mig.b50"), "");
+    EXPECT_THAT(namesIn(root), UnorderedElementsAre("Mig.b50"));
+}
+
+TEST_F(Files, LargeFileIsReadWhole)
+{
+    const std::string bytes(3'000'001, 'x');
+    disk.put("drive_c/large", bytes);
+    EXPECT_EQ(files.read("c:\\large"), bytes);
+}
+
+TEST_F(Files, FileWhoseSizeIsntToldBeforehandIsReadWhole)
+{
+    EXPECT_NE(files.read("z:\\proc\\self\\status").find("VmRSS"), std::string::npos);
+}
+
+TEST_F(Files, QueriesTellFilesFromDirectories)
+{
+    disk.put("drive_c/Tm/mig.b50", "x");
+    EXPECT_TRUE(files.fileExists("c:\\tm\\mig.b50"));
+    EXPECT_FALSE(files.directoryExists("c:\\tm\\mig.b50"));
+    EXPECT_FALSE(files.fileExists("c:\\tm"));
+    EXPECT_TRUE(files.directoryExists("c:\\tm"));
+    EXPECT_TRUE(files.directoryExists("c:\\tm\\"));
+    EXPECT_FALSE(files.fileExists("c:\\none"));
+}
+
+TEST_F(Files, QueriesNeverThrow)
+{
+    for (const std::string& path :
+         {std::string(), std::string("q:\\x"), std::string("c:\\a\0b", 6), std::string("\\\\s")}) {
+        EXPECT_FALSE(files.fileExists(path));
+        EXPECT_FALSE(files.directoryExists(path));
+        EXPECT_FALSE(files.isReadOnly(path));
+        EXPECT_EQ(files.stamp(path), FileStamp{});
+    }
+}
+
+TEST_F(Files, ReadOnlyIsAFileThatNobodyMayWrite)
+{
+    const std::string file = disk.put("drive_c/mig.b50", "old");
+    EXPECT_FALSE(files.isReadOnly("c:\\mig.b50"));
+    EXPECT_FALSE(files.isReadOnly("c:\\none"));
+    ::chmod(file.c_str(), 0444);
+    EXPECT_TRUE(files.isReadOnly("c:\\mig.b50"));
+    expectError(ErrorCode::PathFileAccess, EACCES, [&] { files.write("c:\\mig.b50", "new"); });
+    expectError(ErrorCode::PathFileAccess, EACCES, [&] { files.removeFile("c:\\mig.b50"); });
+    EXPECT_EQ(bytesOf(file), "old");
+}
+
+TEST_F(Files, StampChangesWithEachWriteAndWithRemoval)
+{
+    EXPECT_EQ(files.stamp("c:\\mig.b50").identity, 0U);
+    files.write("c:\\mig.b50", "one");
+    const FileStamp one = files.stamp("c:\\mig.b50");
+    EXPECT_NE(one.identity, 0U);
+    EXPECT_EQ(files.stamp("c:\\MIG.b50"), one);
+    files.write("c:\\mig.b50", "four");
+    EXPECT_NE(files.stamp("c:\\mig.b50"), one);
+    files.removeFile("c:\\mig.b50");
+    EXPECT_EQ(files.stamp("c:\\mig.b50"), FileStamp{});
+}
+
+TEST_F(Files, MissingFileAndMissingDirectoryAreToldApart)
+{
+    expectError(ErrorCode::FileNotFound, ENOENT, [&] { files.read("c:\\none"); });
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.read("c:\\none\\mig.b50"); });
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.write("c:\\none\\mig.b50", "x"); });
+    expectError(ErrorCode::FileNotFound, ENOENT, [&] { files.removeFile("c:\\none"); });
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.list("c:\\none"); });
+}
+
+TEST_F(Files, DirectoryIsRefusedAsAFile)
+{
+    disk.makeDirectory("drive_c/tm");
+    expectError(ErrorCode::PathFileAccess, EISDIR, [&] { files.read("c:\\tm"); });
+    expectError(ErrorCode::PathFileAccess, EISDIR, [&] { files.write("c:\\tm", "x"); });
+    expectError(ErrorCode::PathFileAccess, EISDIR, [&] { files.removeFile("c:\\tm"); });
+}
+
+TEST_F(Files, PipeIsRefusedAtOnce)
+{
+    ASSERT_EQ(::mkfifo((root + "/pipe").c_str(), 0600), 0);
+    expectError(ErrorCode::PathFileAccess, EINVAL, [&] { files.read("c:\\pipe"); });
+    expectError(ErrorCode::PathFileAccess, EINVAL, [&] { files.write("c:\\pipe", "x"); });
+}
+
+TEST_F(Files, NulInAPathIsABadNameForEveryOperation)
+{
+    const std::string path("c:\\mig.b50\0.txt", 15);
+    disk.put("drive_c/mig.b50", "old");
+    expectError(ErrorCode::BadFileName, EINVAL, [&] { files.read(path); });
+    expectError(ErrorCode::BadFileName, EINVAL, [&] { files.write(path, "new"); });
+    expectError(ErrorCode::BadFileName, EINVAL, [&] { files.removeFile(path); });
+    expectError(ErrorCode::BadFileName, EINVAL, [&] { files.createDirectory(path); });
+    expectError(ErrorCode::BadFileName, EINVAL, [&] { files.list(path); });
+    EXPECT_EQ(files.read("c:\\mig.b50"), "old");
+}
+
+TEST_F(Files, DirectoryIsMadeOneLevelAndOnce)
+{
+    files.createDirectory("c:\\Backup");
+    EXPECT_TRUE(files.directoryExists("c:\\backup"));
+    expectError(ErrorCode::PathFileAccess, EEXIST, [&] { files.createDirectory("c:\\BACKUP"); });
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.createDirectory("c:\\a\\b"); });
+}
+
+TEST_F(Files, ListNamesFilesAndDirectories)
+{
+    disk.put("drive_c/Tm/mig.b50", "x");
+    disk.makeDirectory("drive_c/Tm/Rtf");
+    EXPECT_THAT(files.list("c:\\tm"), UnorderedElementsAre("mig.b50", "Rtf"));
+}
+
+TEST_F(Files, SettingsLiveOnARealDisk)
+{
+    ProfileFile ini(files, "c:\\Tarvex.ini");
+    ini.writeString("Games", "GameName1", "F-22");
+    EXPECT_EQ(bytesOf(root + "/Tarvex.ini"), "[Games]\r\nGameName1=F-22\r\n");
+    disk.put("drive_c/Tarvex.ini", "[Games]\r\nGameName1=Falcon 4\r\n");
+    EXPECT_EQ(ini.readString("Games", "GameName1", ""), "Falcon 4");
+}
+
+} // namespace tarvex

@@ -1,0 +1,92 @@
+#include "platform/posix/program_directory.h"
+
+#include "support/temporary_directory.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarvex {
+
+namespace {
+
+struct ProgramDirectory : testing::Test {
+    TemporaryDirectory disk;
+    ProgramPlaces places{disk.put("bin/tarvex", ""), "", "", disk.makeDirectory("home")};
+    const std::string inHome = disk / "home/.local/share/tarvex";
+
+    /// An executable in a place that takes no file. Root may write anywhere, so for him there is no such place at all.
+    void moveToUnwritablePlace()
+    {
+        places.executable = disk / "fixed/tarvex";
+        if (::geteuid() == 0) return;
+        disk.put("fixed/tarvex", "");
+        ::chmod((disk / "fixed").c_str(), 0555);
+    }
+    void install()
+    {
+        disk.put("share/tarvex/Tips.txt", "tips");
+        disk.put("share/tarvex/Templates/a.rtf", "template");
+        places.installedFiles = disk / "share/tarvex";
+    }
+};
+
+} // namespace
+
+TEST_F(ProgramDirectory, IsTheExecutablesWhereThatIsWritable)
+{
+    EXPECT_EQ(findProgramDirectory(places), disk / "bin");
+    EXPECT_FALSE(std::filesystem::exists(inHome));
+}
+
+TEST_F(ProgramDirectory, OfAnUnwritablePlaceIsInTheDataHome)
+{
+    moveToUnwritablePlace();
+    places.dataHome = disk / "data/deep";
+    EXPECT_EQ(findProgramDirectory(places), disk / "data/deep/tarvex");
+    EXPECT_TRUE(std::filesystem::is_directory(disk / "data/deep/tarvex"));
+}
+
+TEST_F(ProgramDirectory, DataHomeIsBelowTheHomeUnlessToldAbsolutely)
+{
+    moveToUnwritablePlace();
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    places.dataHome = "relative";
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+}
+
+TEST_F(ProgramDirectory, OfAnInstalledPackageIsFilledOnceWithItsFiles)
+{
+    install();
+    ::chmod((disk / "share/tarvex/Tips.txt").c_str(), 0444);
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    EXPECT_EQ(bytesOf(inHome + "/Tips.txt"), "tips");
+    EXPECT_EQ(bytesOf(inHome + "/Templates/a.rtf"), "template");
+    struct stat status = {};
+    ::stat((inHome + "/Tips.txt").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0600U, 0600U) << "the user may change his copy";
+    EXPECT_THAT(namesIn(disk / "home/.local/share"), testing::ElementsAre("tarvex"));
+
+    std::filesystem::remove(inHome + "/Tips.txt");
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    EXPECT_FALSE(std::filesystem::exists(inHome + "/Tips.txt")) << "what the user removed stays away";
+}
+
+TEST_F(ProgramDirectory, WithoutAnyWritablePlaceIsTheExecutables)
+{
+    moveToUnwritablePlace();
+    places.home = "";
+    EXPECT_EQ(findProgramDirectory(places), disk / "fixed");
+    places.home = "/proc";
+    EXPECT_EQ(findProgramDirectory(places), disk / "fixed");
+}
+
+TEST(ReadProgramPlaces, TellsThisVeryProgram)
+{
+    const ProgramPlaces places = readProgramPlaces();
+    EXPECT_EQ(std::filesystem::path(places.executable).filename(), "posix_test");
+    EXPECT_TRUE(std::filesystem::is_regular_file(places.executable));
+}
+
+} // namespace tarvex

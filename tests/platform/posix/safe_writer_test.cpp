@@ -1,0 +1,327 @@
+#include "platform/posix/safe_writer.h"
+
+#include "platform/errors.h"
+#include "platform/posix/faulty_calls.h"
+#include "support/temporary_directory.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tarvex {
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct SafeWriting : testing::Test {
+    TemporaryDirectory disk;
+    FaultyCalls calls;
+    SafeWriter writer{disk / "recovery", calls};
+    const std::string folder = disk.makeDirectory("work");
+    const std::string file = folder + "/mig.b50";
+
+    /// The error's number; 0 when the save succeeds.
+    int save(const std::string& path, std::string_view bytes)
+    {
+        try {
+            writer.save(path, bytes);
+        } catch (const RuntimeError& error) {
+            text = error.what();
+            return error.lastDllError();
+        }
+        return 0;
+    }
+    std::string text;
+
+    mode_t modeOf(const std::string& path) const
+    {
+        struct stat status = {};
+        ::stat(path.c_str(), &status);
+        return status.st_mode & 07777U;
+    }
+    /// A process number that nobody has.
+    pid_t deadProcess() const
+    {
+        const pid_t child = ::fork();
+        if (child == 0) ::_exit(0);
+        ::waitpid(child, nullptr, 0);
+        return child;
+    }
+    void setOld(const std::string& path) const
+    {
+        const timeval times[] = {{1000, 0}, {1000, 0}};
+        ::utimes(path.c_str(), times);
+    }
+};
+
+std::string everyByte()
+{
+    std::string bytes = "\r\n\r\r\n\n";
+    for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+    return bytes;
+}
+
+} // namespace
+
+TEST_F(SafeWriting, NewFileHoldsEveryByteAndNothingElseIsLeft)
+{
+    EXPECT_EQ(save(file, everyByte()), 0);
+    EXPECT_EQ(bytesOf(file), everyByte());
+    EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
+}
+
+TEST_F(SafeWriting, FileOfNoBytesIsThere)
+{
+    EXPECT_EQ(save(file, ""), 0);
+    EXPECT_TRUE(fs::exists(file));
+    EXPECT_EQ(bytesOf(file), "");
+    EXPECT_EQ(save(file, "x"), 0);
+    EXPECT_EQ(save(file, ""), 0);
+    EXPECT_EQ(bytesOf(file), "");
+}
+
+TEST_F(SafeWriting, LargeFileInShortWritesIsWhole)
+{
+    calls.mostPerWrite = 1000;
+    const std::string large(100'001, 'x');
+    EXPECT_EQ(save(file, large), 0);
+    EXPECT_EQ(bytesOf(file), large);
+}
+
+TEST_F(SafeWriting, EveryCallInterruptedOnceStillSaves)
+{
+    disk.put("work/mig.b50", "old");
+    save(file, "old");
+    const std::size_t count = calls.made.size();
+    for (std::size_t at = 0; at < count; ++at) {
+        calls.made.clear();
+        calls.fault = {at, EINTR};
+        const int error = save(file, "new " + std::to_string(at));
+        const std::string name = calls.made[at];
+        if (name == "open" || name == "write" || name == "fsync" || name == "close") {
+            EXPECT_EQ(error, 0) << name;
+            EXPECT_EQ(bytesOf(file), "new " + std::to_string(at)) << name;
+        }
+    }
+}
+
+TEST_F(SafeWriting, PermissionsOfTheOldFileAreKept)
+{
+    for (const mode_t mode : {0600U, 0640U, 0666U, 0777U, 0200U}) {
+        disk.put("work/mig.b50", "old");
+        ::chmod(file.c_str(), mode);
+        EXPECT_EQ(save(file, "new"), 0);
+        EXPECT_EQ(modeOf(file), mode);
+        EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
+        fs::remove(file);
+    }
+}
+
+TEST_F(SafeWriting, OwnerOfTheOldFileIsKeptWhereAllowed)
+{
+    if (::geteuid() != 0) GTEST_SKIP() << "only root can give files away";
+    disk.put("work/mig.b50", "old");
+    ASSERT_EQ(::chown(file.c_str(), 12345, 54321), 0);
+    EXPECT_EQ(save(file, "new"), 0);
+    struct stat status = {};
+    ::stat(file.c_str(), &status);
+    EXPECT_EQ(status.st_uid, 12345U);
+    EXPECT_EQ(status.st_gid, 54321U);
+}
+
+TEST_F(SafeWriting, NewFileFollowsTheUmask)
+{
+    const mode_t old = ::umask(027);
+    EXPECT_EQ(save(file, "new"), 0);
+    ::umask(old);
+    EXPECT_EQ(modeOf(file), 0640U);
+}
+
+TEST_F(SafeWriting, SymbolicLinksAreFollowedAndStay)
+{
+    const std::string real = disk.put("elsewhere/real.b50", "old");
+    fs::create_symlink(real, folder + "/absolute");
+    fs::create_symlink("../elsewhere/real.b50", folder + "/relative");
+    fs::create_symlink("relative", folder + "/chain");
+    for (const std::string link : {"absolute", "relative", "chain"}) {
+        EXPECT_EQ(save(folder + "/" + link, "by " + link), 0);
+        EXPECT_EQ(bytesOf(real), "by " + link);
+        EXPECT_TRUE(fs::is_symlink(folder + "/" + link));
+    }
+    EXPECT_THAT(namesIn(disk / "elsewhere"), ElementsAre("real.b50"));
+}
+
+TEST_F(SafeWriting, DanglingSymbolicLinkGetsItsFile)
+{
+    fs::create_symlink("mig.b50", folder + "/link");
+    EXPECT_EQ(save(folder + "/link", "new"), 0);
+    EXPECT_EQ(bytesOf(file), "new");
+    EXPECT_TRUE(fs::is_symlink(folder + "/link"));
+}
+
+TEST_F(SafeWriting, CircleOfSymbolicLinksIsRefused)
+{
+    fs::create_symlink("b", folder + "/a");
+    fs::create_symlink("a", folder + "/b");
+    EXPECT_EQ(save(folder + "/a", "new"), ELOOP);
+}
+
+TEST_F(SafeWriting, OfTwoHardLinksOnlyTheOneWrittenToChanges)
+{
+    disk.put("work/other", "old");
+    fs::create_hard_link(folder + "/other", file);
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_EQ(bytesOf(file), "new");
+    EXPECT_EQ(bytesOf(folder + "/other"), "old");
+}
+
+TEST_F(SafeWriting, DirectoryPipeAndDeviceAreRefusedUntouched)
+{
+    ASSERT_EQ(::mkfifo((folder + "/pipe").c_str(), 0600), 0);
+    EXPECT_EQ(save(folder, "new"), EISDIR);
+    EXPECT_EQ(save(folder + "/", "new"), EISDIR);
+    EXPECT_EQ(save(folder + "/pipe", "new"), EINVAL);
+    EXPECT_THAT(text, HasSubstr("Not a regular file"));
+    EXPECT_EQ(save("/dev/null", "new"), EINVAL);
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_TRUE(fs::is_fifo(folder + "/pipe"));
+}
+
+TEST_F(SafeWriting, FileThatNobodyMayWriteIsRefusedEvenForRoot)
+{
+    disk.put("work/mig.b50", "old");
+    ::chmod(file.c_str(), 0444);
+    EXPECT_EQ(save(file, "new"), EACCES);
+    EXPECT_EQ(bytesOf(file), "old");
+}
+
+TEST_F(SafeWriting, MissingFolderOrBadPathIsAnError)
+{
+    EXPECT_EQ(save(disk / "none/mig.b50", "new"), ENOENT);
+    EXPECT_EQ(save(file + "/mig.b50", "new"), ENOENT);
+    disk.put("work/mig.b50", "old");
+    EXPECT_EQ(save(file + "/mig.b50", "new"), ENOTDIR);
+    EXPECT_EQ(save("", "new"), EINVAL);
+    EXPECT_EQ(save(folder + std::string("/a\0b", 4), "new"), EINVAL);
+    EXPECT_EQ(save(folder + "/" + std::string(256, 'x'), "new"), ENAMETOOLONG);
+    EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
+}
+
+TEST_F(SafeWriting, LongestPossibleNameIsSaved)
+{
+    const std::string longest = folder + "/" + std::string(255, 'x');
+    EXPECT_EQ(save(longest, "new"), 0);
+    EXPECT_EQ(bytesOf(longest), "new");
+}
+
+TEST_F(SafeWriting, FolderThatTakesNoFileIsWrittenToDirectlyAndNoCopyStays)
+{
+    disk.put("work/mig.b50", "the old and longer contents");
+    calls.lockedFolder = folder + "/";
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_EQ(bytesOf(file), "new");
+    EXPECT_THAT(namesIn(disk / "recovery"), IsEmpty());
+}
+
+TEST_F(SafeWriting, FileThatCantBeReplacedIsWrittenToDirectly)
+{
+    disk.put("work/mig.b50", "old");
+    save(file, "old");
+    const auto at = std::find(calls.made.begin(), calls.made.end(), "rename") - calls.made.begin();
+    for (const int error : {EBUSY, EPERM, EACCES, EXDEV}) {
+        calls.made.clear();
+        calls.fault = {static_cast<std::size_t>(at), error};
+        EXPECT_EQ(save(file, "new " + std::to_string(error)), 0);
+        EXPECT_EQ(bytesOf(file), "new " + std::to_string(error));
+        EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
+    }
+}
+
+TEST_F(SafeWriting, NewFileInAFolderThatTakesNoneIsRefused)
+{
+    calls.lockedFolder = folder + "/";
+    EXPECT_EQ(save(file, "new"), EACCES);
+    EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(SafeWriting, WithoutAPlaceForTheCopyTheFileStaysUntouched)
+{
+    disk.put("work/mig.b50", "old");
+    SafeWriter homeless(disk / "none/recovery", calls);
+    calls.lockedFolder = folder + "/";
+    EXPECT_THROW(homeless.save(file, "new"), RuntimeError);
+    EXPECT_EQ(bytesOf(file), "old");
+}
+
+TEST_F(SafeWriting, DirectWriteThatCantBeUndoneTellsWhereTheCopyIs)
+{
+    disk.put("work/mig.b50", "old contents");
+    calls.lockedFolder = folder + "/";
+    calls.room = std::string("old contents").size() + 3; // enough for the copy only
+    EXPECT_EQ(save(file, "new contents"), ENOSPC);
+    ASSERT_THAT(writer.leftCopies(), testing::SizeIs(1));
+    EXPECT_THAT(text, HasSubstr(writer.leftCopies().front()));
+    EXPECT_EQ(bytesOf(writer.leftCopies().front()), "old contents");
+}
+
+TEST_F(SafeWriting, FolderThatCantBeReadIsSyncedAsAWhole)
+{
+    save(file, "old");
+    const auto last = std::find(calls.made.rbegin(), calls.made.rend(), "open");
+    const std::size_t at = static_cast<std::size_t>(calls.made.rend() - last) - 1;
+    calls.made.clear();
+    calls.fault = {at, EACCES};
+    save(disk / "work/other", "new");
+    EXPECT_EQ(calls.made.back(), "sync");
+}
+
+TEST_F(SafeWriting, LeftOversOfDeadProcessesAreSweptAtTheFirstSave)
+{
+    const std::string name = ".tarvex-save-" + std::to_string(deadProcess()) + "-1";
+    setOld(disk.put("work/" + name, "half"));
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
+}
+
+TEST_F(SafeWriting, SweepSparesLivingProcessesYoungFilesAndForeignNames)
+{
+    const std::string dead = std::to_string(deadProcess());
+    const std::vector<std::string> kept = {".tarvex-save-" + std::to_string(::getppid()) + "-1",
+                                           ".tarvex-save-" + dead + "-1x",
+                                           ".tarvex-save-x-1",
+                                           ".tarvex-save-" + dead,
+                                           ".tarvex-save-",
+                                           "x.tarvex-save-" + dead + "-1",
+                                           ".tarvex-save--5-1"};
+    for (const std::string& name : kept) setOld(disk.put("work/" + name, "kept"));
+    const timeval future[] = {{4'000'000'000, 0}, {4'000'000'000, 0}};
+    ::utimes(disk.put("work/.tarvex-save-" + dead + "-2", "young").c_str(), future);
+    fs::create_directory(folder + "/.tarvex-save-" + dead + "-3");
+    setOld(folder + "/.tarvex-save-" + dead + "-3");
+
+    writer.sweep(folder);
+    EXPECT_EQ(namesIn(folder).size(), kept.size() + 2);
+    setOld(folder + "/.tarvex-save-" + dead + "-2");
+    writer.sweep(folder);
+    EXPECT_EQ(namesIn(folder).size(), kept.size() + 1) << "old enough now";
+}
+
+TEST_F(SafeWriting, SweepOfAMissingFolderDoesNothing) { EXPECT_NO_THROW(writer.sweep(disk / "none")); }
+
+TEST_F(SafeWriting, LeftCopiesAreThoseOfDeadProcesses)
+{
+    const std::string dead = "mig.b50.tarvex-copy-" + std::to_string(deadProcess()) + "-1";
+    disk.put("recovery/" + dead, "old");
+    disk.put("recovery/mig.b50.tarvex-copy-" + std::to_string(::getppid()) + "-1", "in use");
+    disk.put("recovery/mig.b50", "foreign");
+    EXPECT_THAT(writer.leftCopies(), ElementsAre(disk / ("recovery/" + dead)));
+}
+
+} // namespace tarvex

@@ -1,0 +1,61 @@
+#include "shell/errors.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+TEST(Steps, InTaggedModeAFailedStepIsReportedAndTheNextRuns)
+{
+    ErrorRecord errors;
+    int ran = 0;
+    const Steps step(errors, "MODULE SaveOptions");
+    step([] { throw RuntimeError(ErrorCode::DiskFull, "Disk full", 28); });
+    step([&] { ++ran; });
+    EXPECT_EQ(ran, 1);
+    EXPECT_EQ(errors.ErrorProcedure, "MODULE SaveOptions");
+    EXPECT_EQ(errors.ErrorNumber, 61.0F);
+    EXPECT_EQ(errors.ErrorDescription, "Disk full");
+    EXPECT_EQ(errors.ErrorLastDllError, "28");
+}
+
+TEST(Steps, InResumeNextModeAFailedStepLeavesNoTrace)
+{
+    int ran = 0;
+    const Steps step;
+    step([] { throw RuntimeError(ErrorCode::DiskFull, "Disk full"); });
+    step([&] { ++ran; });
+    EXPECT_EQ(ran, 1);
+}
+
+TEST(ErrorRecord, AnyExceptionIsReported)
+{
+    ErrorRecord errors;
+    errors.report("ED_Form_Load", std::logic_error("odd"));
+    EXPECT_EQ(errors.ErrorDescription, "odd");
+    EXPECT_EQ(errors.ErrorLastDllError, "0");
+}
+
+TEST(ReportError, ClearsTheExitFlagAndReturnsWhenNobodySetsIt)
+{
+    ErrorRecord errors;
+    bool exited = false;
+    errors.exitInEmergency = [&] { exited = true; };
+    errors.ExitRequestedByError = 1; // left over: doesn't count
+    errors.ReportError();
+    EXPECT_FALSE(exited);
+    EXPECT_EQ(errors.ExitRequestedByError, 0);
+}
+
+TEST(ReportError, ExitsWhenTheReportWindowAsksForIt)
+{
+    ErrorRecord errors;
+    bool exited = false;
+    errors.exitInEmergency = [&] { exited = true; };
+    errors.reportWindow = [&] { errors.ExitRequestedByError = 1; };
+    errors.ReportError();
+    EXPECT_TRUE(exited);
+}
+
+} // namespace
+} // namespace tarvex

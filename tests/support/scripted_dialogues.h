@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/dialogues.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+/// Gives its answers in turn and keeps what was asked. A question with several answers that nobody scripted fails the
+/// test; a box with nothing but OK needs no script.
+class ScriptedDialogues final : public Dialogues {
+public:
+    std::deque<Answer> answers;
+    std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
+    std::deque<std::optional<std::string>> filesToSave;
+    std::function<void()> whileOpening; ///< runs while a file dialogue is up
+    std::function<void()> whileModal; ///< runs while a modal window is up
+
+    std::vector<MessageBox> boxes;
+    std::vector<FileRequest> openRequests;
+    std::vector<FileRequest> saveRequests;
+    std::vector<std::string> modalForms;
+
+    Answer show(const MessageBox& box) override
+    {
+        boxes.push_back(box);
+        if (box.buttons == BoxButtons::Ok) return Answer::Ok;
+        return next(answers, Answer::Cancel, box.title + ": " + box.text);
+    }
+    std::optional<std::string> openFile(const FileRequest& request) override
+    {
+        openRequests.push_back(request);
+        if (whileOpening) whileOpening();
+        return next(filesToOpen, std::optional<std::string>(), "open " + request.title);
+    }
+    std::optional<std::string> saveFile(const FileRequest& request) override
+    {
+        saveRequests.push_back(request);
+        return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
+    }
+    void showModal(const std::string& formName) override
+    {
+        modalForms.push_back(formName);
+        if (whileModal) whileModal();
+    }
+    void popUp(const MenuItem&) override {}
+
+private:
+    template <typename T>
+    static T next(std::deque<T>& scripted, T otherwise, const std::string& what)
+    {
+        if (scripted.empty()) {
+            ADD_FAILURE() << "not scripted: " << what;
+            return otherwise;
+        }
+        T first = scripted.front();
+        scripted.pop_front();
+        return first;
+    }
+};
+
+} // namespace tarvex

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "program/program.h"
+#include "support/memory_files.h"
+#include "support/scripted_dialogues.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+struct FakeDesktop final : Desktop {
+    bool otherInstance = false;
+    int eventsHandled = 0;
+    int quits = 0;
+    bool hourglass = false;
+
+    bool anotherInstanceRuns() override { return otherInstance; }
+    void doEvents() override { ++eventsHandled; }
+    float screenWidth() const override { return 1280.0F * twipsPerPixel; }
+    float screenHeight() const override { return 1024.0F * twipsPerPixel; }
+    void showHourglass(bool on) override { hourglass = on; }
+    void quit() override { ++quits; }
+};
+
+struct FakeSound final : Sound {
+    std::vector<std::string> played;
+    void play(const std::string& path) override { played.push_back(path); }
+};
+
+struct FakeClipboard final : Clipboard {
+    ClipboardContent content;
+    void put(const ClipboardContent& what) override { content = what; }
+    ClipboardContent get() const override { return content; }
+};
+
+/// The machine that a test program runs on: drive c: with the program's folder, and a user who answers by script. It
+/// outlives the programs that are started on it.
+struct TestMachine {
+    static constexpr const char* programDirectory = "c:\\tarvex";
+    static constexpr const char* iniPath = "c:\\tarvex\\Tarvex.ini";
+
+    TestMachine();
+
+    MemoryFiles files;
+    ScriptedDialogues dialogues;
+    FakeDesktop desktop;
+    FakeSound sound;
+    FakeClipboard clipboard;
+    Platform platform{files, dialogues, desktop, sound, clipboard, programDirectory, {}};
+
+    /// Sets a key of Tarvex.ini, as a user with a text editor would.
+    void setIni(const std::string& section, const std::string& key, const std::string& value);
+    /// The key's value as the file has it; "(none)" without one.
+    std::string ini(const std::string& section, const std::string& key);
+    const MessageBox& lastBox() const { return dialogues.boxes.at(dialogues.boxes.size() - 1); }
+    std::string fileText(const std::string& path) const { return files.contents(path).value_or("(no file)"); }
+};
+
+/// A machine with a controller set up (programs in c:\tm\b50progs, FLCS, first use over, both files opened together),
+/// and the program started on it.
+struct TestProgram : TestMachine {
+    explicit TestProgram(bool startIt = true);
+
+    void start();
+    Program& program() { return *m_program; }
+    Editor& editor() { return m_program->editor; }
+    Settings& settings() { return m_program->shared.settings; }
+    Menus& menus() { return m_program->menus; }
+    std::string status(int panel = 1) { return m_program->mum.StatusBar.Panels(panel).Text; }
+
+    /// What the user types into the pane of a document, at the caret.
+    void typeJoystick(const std::string& text);
+    void typeMacro(const std::string& text);
+    /// Opens a path without asking, as the list of previous files does.
+    void openBoth(const std::string& path);
+
+private:
+    std::unique_ptr<Program> m_program;
+};
+
+} // namespace tarvex
