@@ -1,0 +1,70 @@
+#include "desktop/bind.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QProgressBar>
+#include <QSignalBlocker>
+#include <QTimer>
+
+namespace tarvex {
+
+void Bindings::button(Button& state, QAbstractButton& widget)
+{
+    bind(state.Caption, [&widget](const std::string& caption) { widget.setText(toQt(caption)); });
+    bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
+    bind(state.Visible, [&widget](bool on) { widget.setVisible(on); });
+    bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
+    QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&state] { state.Click(); });
+}
+
+void Bindings::comboBox(ComboBox& state, QComboBox& widget)
+{
+    const auto showText = [&state, &widget] {
+        const QSignalBlocker quiet(widget);
+        const QString text = toQt(state.Text.get());
+        widget.setCurrentIndex(widget.findText(text));
+        widget.setPlaceholderText(text);
+    };
+    bind(state.Items, [&widget, showText](const std::vector<std::string>& items) {
+        const QSignalBlocker quiet(widget);
+        widget.clear();
+        for (const std::string& item : items) widget.addItem(toQt(item));
+        showText();
+    });
+    follow(state.Text, showText);
+    QObject::connect(&widget, &QComboBox::activated, &widget, [&state, &widget](int index) {
+        state.Text = fromQt(widget.itemText(index));
+        if (state.Click) state.Click();
+    });
+}
+
+void Bindings::progressBar(ProgressBar& state, QProgressBar& widget)
+{
+    const auto showRange = [&state, &widget] {
+        widget.setRange(state.Min, state.Max);
+        widget.setValue(state.Value);
+    };
+    showRange();
+    follow(state.Min, showRange);
+    follow(state.Max, showRange);
+    follow(state.Value, showRange);
+    bind(state.Visible, [&widget](bool on) { widget.setVisible(on); });
+}
+
+void Bindings::timer(Timer& state, QObject& owner)
+{
+    auto* clockwork = new QTimer(&owner);
+    QObject::connect(clockwork, &QTimer::timeout, clockwork, [&state] {
+        if (state.Tick) state.Tick();
+    });
+    bind(state.Interval, [clockwork](int milliseconds) { clockwork->setInterval(milliseconds); });
+    bind(state.Enabled, [clockwork](bool on) {
+        if (on) {
+            clockwork->start();
+        } else {
+            clockwork->stop();
+        }
+    });
+}
+
+} // namespace tarvex

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "desktop/text.h"
+#include "platform/controls.h"
+
+#include <utility>
+#include <vector>
+
+class QAbstractButton;
+class QComboBox;
+class QObject;
+class QProgressBar;
+
+namespace tarvex {
+
+/// Keeps widgets equal to control state for as long as it lives. A view has one and lets it go before its widgets.
+class Bindings {
+public:
+    /// Shows the value now and after each change.
+    template <typename T, typename Show> void bind(Property<T>& property, Show show)
+    {
+        show(property.get());
+        m_connections.push_back(property.changed.connect([&property, show] { show(property.get()); }));
+    }
+    /// Runs `react` each time the property changes or the signal is given.
+    template <typename T, typename React> void follow(Property<T>& property, React react)
+    {
+        m_connections.push_back(property.changed.connect(std::move(react)));
+    }
+    template <typename... Args, typename React> void follow(Signal<Args...>& signal, React react)
+    {
+        m_connections.push_back(signal.connect(std::move(react)));
+    }
+
+    /// Caption, enabling, visibility and tool tip; a click of the user runs Click.
+    void button(Button& state, QAbstractButton& widget);
+    /// Items and text; a choice of the user sets Text and runs Click.
+    void comboBox(ComboBox& state, QComboBox& widget);
+    void progressBar(ProgressBar& state, QProgressBar& widget);
+    /// Runs Tick at its interval while it is enabled. `owner` owns the clockwork and bounds its life.
+    void timer(Timer& state, QObject& owner);
+
+private:
+    std::vector<Connection> m_connections;
+};
+
+} // namespace tarvex

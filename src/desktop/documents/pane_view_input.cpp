@@ -1,0 +1,188 @@
+#include "desktop/documents/pane_view.h"
+
+#include "desktop/platform/mime.h"
+#include "documents/clipboard_commands.h"
+#include "documents/drag_move.h"
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <QWheelEvent>
+
+namespace tarvex {
+
+namespace {
+
+bool isInput(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::ContextMenu:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) files.append(url.toLocalFile());
+    }
+    return files;
+}
+
+} // namespace
+
+/// The user acts on what is in the pane, and the pane learns of it before anything else happens.
+bool PaneView::event(QEvent* event)
+{
+    if (!isInput(*event)) return QPlainTextEdit::event(event);
+    settle();
+    const bool done = QPlainTextEdit::event(event);
+    settle();
+    return done;
+}
+
+bool PaneView::viewportEvent(QEvent* event)
+{
+    if (!isInput(*event)) return QPlainTextEdit::viewportEvent(event);
+    settle();
+    const bool done = QPlainTextEdit::viewportEvent(event);
+    settle();
+    return done;
+}
+
+void PaneView::keyPressEvent(QKeyEvent* event)
+{
+    if (zoomByKey(*event)) return;
+    if (event->modifiers() == Qt::ControlModifier && event->key() != Qt::Key_Control && pressKey) {
+        const QString keys = QKeySequence(event->keyCombination()).toString(QKeySequence::PortableText);
+        if (pressKey(fromQt(keys))) return;
+    }
+    if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
+        setOverwriteMode(!overwriteMode());
+        emit overwriteModeChanged(overwriteMode());
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+bool PaneView::zoomByKey(const QKeyEvent& event)
+{
+    constexpr int step = 10;
+    if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0) {
+        setZoom(100);
+    } else if (event.matches(QKeySequence::ZoomIn) ||
+               (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Equal)) {
+        setZoom(m_zoom + step);
+    } else if (event.matches(QKeySequence::ZoomOut)) {
+        setZoom(m_zoom - step);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void PaneView::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QPlainTextEdit::wheelEvent(event);
+        return;
+    }
+    setZoom(m_zoom + event->angleDelta().y() / 12); // ten per cent a notch
+    event->accept();
+}
+
+void PaneView::inputMethodEvent(QInputMethodEvent* event)
+{
+    QPlainTextEdit::inputMethodEvent(event);
+    settle();
+    m_mirror.formats().formatComposing(textCursor().block());
+}
+
+void PaneView::focusInEvent(QFocusEvent* event)
+{
+    QPlainTextEdit::focusInEvent(event);
+    emit gotFocus();
+}
+
+void PaneView::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    emit popUpWanted();
+}
+
+// ---- clipboard and drag ---------------------------------------------------------------------------------------------
+
+QMimeData* PaneView::createMimeDataFromSelection() const { return toMime(selectionContent(m_pane)).release(); }
+
+bool PaneView::canInsertFromMimeData(const QMimeData* source) const { return !m_pane.Locked && holdsContent(*source); }
+
+void PaneView::insertFromMimeData(const QMimeData* source)
+{
+    settle();
+    insertContent(m_pane, fromMime(*source));
+    settle();
+    ensureCursorVisible();
+}
+
+void PaneView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (localFiles(*event->mimeData()).isEmpty()) {
+        QPlainTextEdit::dragEnterEvent(event);
+    } else {
+        event->acceptProposedAction();
+    }
+}
+
+void PaneView::dragMoveEvent(QDragMoveEvent* event)
+{
+    if (localFiles(*event->mimeData()).isEmpty()) {
+        QPlainTextEdit::dragMoveEvent(event);
+    } else {
+        event->acceptProposedAction();
+    }
+}
+
+void PaneView::dropEvent(QDropEvent* event)
+{
+    QDragLeaveEvent over;
+    dragLeaveEvent(&over); // the text's own mark of the place goes
+    if (const QStringList files = localFiles(*event->mimeData()); !files.isEmpty()) {
+        event->acceptProposedAction();
+        emit filesDropped(files);
+    } else if (canInsertFromMimeData(event->mimeData())) {
+        const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
+        takeDrop(*event->mimeData(), cursorForPosition(event->position().toPoint()).position(), moves);
+        event->acceptProposedAction();
+    } else {
+        event->ignore();
+    }
+}
+
+void PaneView::takeDrop(const QMimeData& content, int target, bool movesOwnSelection)
+{
+    settle();
+    const std::int64_t position = m_mirror.panePosition(target);
+    if (movesOwnSelection) {
+        moveSelection(m_pane, position);
+    } else {
+        m_pane.setSelStart(position);
+        insertContent(m_pane, fromMime(content));
+    }
+    settle();
+}
+
+} // namespace tarvex

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/platform.h"
+
+#include <QLockFile>
+
+#include <optional>
+#include <string>
+
+namespace tarvex {
+
+class QtDesktop final : public Desktop {
+public:
+    /// `programDirectory` is a native path; the lock that tells one copy of the program from a second lies there.
+    explicit QtDesktop(std::string programDirectory) : m_programDirectory(std::move(programDirectory)) {}
+
+    bool anotherInstanceRuns() override;
+    void doEvents() override;
+    float screenWidth() const override;
+    float screenHeight() const override;
+    void showHourglass(bool on) override;
+    void quit() override;
+    /// quit was called, perhaps before the message loop began.
+    bool quits() const { return m_quits; }
+
+private:
+    std::string m_programDirectory;
+    std::optional<QLockFile> m_lock;
+    bool m_handlesEvents = false;
+    bool m_quits = false;
+};
+
+} // namespace tarvex

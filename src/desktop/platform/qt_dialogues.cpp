@@ -1,0 +1,160 @@
+#include "desktop/platform/qt_dialogues.h"
+
+#include "desktop/shell/menu_view.h"
+#include "desktop/text.h"
+#include "platform/errors.h"
+#include "platform/posix/drive_map.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDir>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMessageBox>
+
+namespace tarvex {
+
+namespace {
+
+QMessageBox::Icon toQt(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons toQt(BoxButtons buttons)
+{
+    switch (buttons) {
+    case BoxButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case BoxButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case BoxButtons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer toAnswer(int button)
+{
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+/// "*.b50" as "*.[bB]50".
+QString inAnyCase(const QString& mask)
+{
+    QString pattern;
+    for (const QChar character : mask) {
+        const bool letter = character.toLower() != character.toUpper();
+        pattern += letter ? u'[' + QString(character.toLower()) + character.toUpper() + u']' : QString(character);
+    }
+    return pattern;
+}
+
+} // namespace
+
+void fillBox(QMessageBox& view, const MessageBox& box)
+{
+    view.setIcon(toQt(box.icon));
+    view.setWindowTitle(toQt(box.title));
+    view.setTextFormat(Qt::PlainText);
+    view.setText(toQt(box.text));
+    view.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    view.setStandardButtons(toQt(box.buttons));
+    const bool twoButtons = box.buttons != BoxButtons::Ok;
+    const auto first = twoButtons ? QMessageBox::Yes : QMessageBox::Ok;
+    view.setDefaultButton(twoButtons && box.secondButtonIsDefault ? QMessageBox::No : first);
+    if (box.buttons == BoxButtons::YesNo) view.setEscapeButton(QMessageBox::No);
+}
+
+QWidget* QtDialogues::parentNow() const
+{
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return m_parent != nullptr && m_parent->isVisible() ? m_parent : nullptr;
+}
+
+Answer QtDialogues::show(const MessageBox& box)
+{
+    QMessageBox view(parentNow());
+    fillBox(view, box);
+    return toAnswer(view.exec());
+}
+
+QStringList nameFilters(const std::string& filter)
+{
+    const QStringList parts = toQt(filter).split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns;
+        for (const QString& mask : parts[i + 1].split(u';', Qt::SkipEmptyParts)) {
+            const QString trimmed = mask.trimmed();
+            patterns.append(trimmed == u"*.*" ? QStringLiteral("*") : inAnyCase(trimmed));
+        }
+        filters.append(parts[i].trimmed() + QStringLiteral(" (") + patterns.join(u' ') + u')');
+    }
+    return filters;
+}
+
+/// The directory asked for, else the user's own.
+QString QtDialogues::startDirectory(const FileRequest& request) const
+{
+    try {
+        const QString directory = toQt(m_drives.toNative(request.directory));
+        if (QDir(directory).exists()) return directory;
+    } catch (const RuntimeError&) { // no such drive
+    }
+    return QDir::homePath();
+}
+
+std::optional<std::string> QtDialogues::askForFile(const FileRequest& request, bool save)
+{
+    QFileDialog dialogue(parentNow());
+    dialogue.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogue.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite);
+    dialogue.setOption(QFileDialog::HideNameFilterDetails);
+    if (!request.title.empty()) dialogue.setWindowTitle(toQt(request.title));
+    dialogue.setNameFilters(nameFilters(request.filter));
+    dialogue.setDirectory(startDirectory(request));
+    if (!request.suggestedName.empty()) dialogue.selectFile(toQt(request.suggestedName));
+    dialogue.setDefaultSuffix(toQt(request.defaultExtension));
+    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
+    return m_drives.toDos(fromQt(dialogue.selectedFiles().constFirst()));
+}
+
+std::optional<std::string> QtDialogues::openFile(const FileRequest& request) { return askForFile(request, false); }
+std::optional<std::string> QtDialogues::saveFile(const FileRequest& request) { return askForFile(request, true); }
+
+void QtDialogues::showModal(const std::string& formName)
+{
+    if (const auto form = m_forms.find(formName); form != m_forms.end()) form->second();
+}
+
+void QtDialogues::popUp(const MenuItem& root)
+{
+    if (m_menus == nullptr) return;
+    Bindings bindings;
+    QMenu menu(m_parent);
+    fillMenu(menu, popUpMenu(*m_menus, root), bindings);
+    if (!menu.isEmpty()) menu.exec(QCursor::pos());
+}
+
+} // namespace tarvex

@@ -1,0 +1,97 @@
+#include "desktop/shell/menu_view.h"
+
+#include "documents/pane_keys.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+bool hasCommand(const MenuEntry& entry)
+{
+    if (entry.item == nullptr) return false;
+    if (entry.entries.empty()) return static_cast<bool>(entry.item->handler);
+    return std::any_of(entry.entries.begin(), entry.entries.end(), hasCommand);
+}
+
+/// These keys go to the pane of the selected tab, each to the command that it has there.
+bool isPaneKey(const std::string& keys)
+{
+    const auto table = paneKeys();
+    return std::any_of(table.begin(), table.end(), [&](const PaneKey& key) { return key.keys == keys; });
+}
+
+void addCommand(QMenu& menu, const MenuEntry& entry, Bindings& bindings)
+{
+    QAction* action = menu.addAction(QString());
+    const QKeySequence keys(toQt(entry.keys));
+    if (entry.keys.empty() || isPaneKey(entry.keys)) {
+        bindItem(*entry.item, *action, bindings, keys.toString(QKeySequence::NativeText));
+    } else {
+        bindItem(*entry.item, *action, bindings);
+        action->setShortcut(keys);
+    }
+}
+
+void addMenu(QMenu& subMenu, const MenuEntry& entry, Bindings& bindings)
+{
+    subMenu.setObjectName(toQt(entry.item->Name));
+    fillMenu(subMenu, entry.entries, bindings);
+    QAction* action = subMenu.menuAction();
+    bindings.bind(entry.item->Caption, [action](const std::string& caption) { action->setText(toQt(caption)); });
+    bindings.bind(entry.item->Visible, [action](bool on) { action->setVisible(on); });
+    bindings.bind(entry.item->Enabled, [action](bool on) { action->setEnabled(on); });
+}
+
+} // namespace
+
+void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys)
+{
+    action.setObjectName(toQt(item.Name));
+    bindings.bind(item.Caption, [&action, shownKeys](const std::string& caption) {
+        action.setText(shownKeys.isEmpty() ? toQt(caption) : toQt(caption) + u'\t' + shownKeys);
+    });
+    bindings.bind(item.Enabled, [&action, &item](bool on) { action.setEnabled(on && item.handler); });
+    bindings.bind(item.Visible, [&action](bool on) { action.setVisible(on); });
+    bindings.bind(item.Checked, [&action](bool on) {
+        if (on) action.setCheckable(true); // a command that is never ticked has no box
+        action.setChecked(on);
+    });
+    // The tick is the command's business, not the click's.
+    QObject::connect(&action, &QAction::triggered, &action, [&item, &action] {
+        item.Click();
+        action.setChecked(item.Checked);
+    });
+}
+
+void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, Bindings& bindings)
+{
+    bool divides = false;
+    for (const MenuEntry& entry : entries) {
+        if (entry.item == nullptr) {
+            divides = !menu.isEmpty();
+        } else if (hasCommand(entry)) {
+            if (std::exchange(divides, false)) menu.addSeparator();
+            if (entry.entries.empty()) {
+                addCommand(menu, entry, bindings);
+            } else {
+                addMenu(*menu.addMenu(QString()), entry, bindings);
+            }
+        }
+    }
+}
+
+void fillMenuBar(QMenuBar& bar, const std::vector<MenuEntry>& entries, Bindings& bindings)
+{
+    for (const MenuEntry& entry : entries) {
+        if (hasCommand(entry)) addMenu(*bar.addMenu(QString()), entry, bindings);
+    }
+}
+
+} // namespace tarvex

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "desktop/bind.h"
+#include "desktop/documents/editor_view.h"
+#include "program/program.h"
+
+#include <QMainWindow>
+
+namespace tarvex {
+
+class StatusBarView;
+
+/// The frame window: menus, toolbar and status bar around the document window.
+class MumWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    /// The program outlives the window.
+    explicit MumWindow(Program& program);
+
+    EditorView& editor() { return *m_editor; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void addShortcuts();
+    void bindTitle();
+    void showForm(bool on);
+    void reportPlace();
+
+    Program& m_program;
+    EditorView* m_editor;
+    StatusBarView* m_status;
+    bool m_exiting = false;
+    Bindings m_bindings;
+};
+
+} // namespace tarvex

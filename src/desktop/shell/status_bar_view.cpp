@@ -1,0 +1,139 @@
+#include "desktop/shell/status_bar_view.h"
+
+#include "desktop/icon_theme.h"
+#include "desktop/shell/elided_label.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QProgressBar>
+#include <QTime>
+
+#include <array>
+
+namespace tarvex {
+
+namespace {
+
+constexpr int imageSize = 16;
+constexpr int progressWidth = 160;
+
+/// Pictures of the saved state, by their number.
+QIcon savedStateIcon(int picture)
+{
+    static const std::array<QString, 4> names{QString(), QStringLiteral("state-new"), QStringLiteral("state-saved"),
+                                              QStringLiteral("state-modified")};
+    const auto index = static_cast<std::size_t>(picture);
+    return picture > 0 && index < names.size() ? themeIcon(names[index]) : QIcon();
+}
+
+/// Shows an icon as the label is, also after the palette has changed.
+class IconLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+    void setIcon(const QIcon& icon)
+    {
+        m_icon = icon;
+        update();
+    }
+    QSize sizeHint() const override { return {imageSize + 6, imageSize}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        QRect area(0, 0, imageSize, imageSize);
+        area.moveCenter(rect().center());
+        m_icon.paint(&painter, area);
+    }
+
+private:
+    QIcon m_icon;
+};
+
+} // namespace
+
+StatusBarView::StatusBarView(Mum& mum, QWidget* parent) : QStatusBar(parent)
+{
+    addPanels(mum);
+    m_minute.setSingleShot(true);
+    m_minute.setTimerType(Qt::PreciseTimer);
+    connect(&m_minute, &QTimer::timeout, this, [this] { showTime(); });
+    showTime();
+}
+
+void StatusBarView::addPanels(Mum& mum)
+{
+    auto* progressText = new ElidedLabel(this);
+    progressText->setContentsMargins(4, 0, 4, 0);
+    bindPanel(mum.StatusBar.Panels(panel::progress), *progressText);
+    addWidget(progressText, 1);
+    auto* progress = new QProgressBar(this);
+    progress->setFixedWidth(progressWidth);
+    progress->setMaximumHeight(fontMetrics().height());
+    addPermanentWidget(progress);
+    m_bindings.progressBar(mum.ProgressBar1, *progress);
+
+    StatusBar::Panel& savedState = mum.StatusBar.Panels(panel::savedState);
+    auto* image = new IconLabel(this);
+    addPermanentWidget(image);
+    bindPanel(savedState, *image);
+    m_bindings.bind(savedState.Picture, [image](int picture) { image->setIcon(savedStateIcon(picture)); });
+
+    addPanel(mum.StatusBar.Panels(panel::line), QStringLiteral("Line no: 00000"));
+    addKeyPanel(mum.StatusBar.Panels(panel::capsLock), QStringLiteral("CAPS"));
+    m_insert = addKeyPanel(mum.StatusBar.Panels(panel::insert), QStringLiteral("INS"));
+    addKeyPanel(mum.StatusBar.Panels(panel::numLock), QStringLiteral("NUM"));
+    m_time = addKeyPanel(mum.StatusBar.Panels(panel::time), QStringLiteral("00:00"));
+    m_time->setEnabled(true);
+    addPanel(mum.StatusBar.Panels(panel::macroFile), QStringLiteral("No macro file analysed"));
+}
+
+void StatusBarView::bindPanel(StatusBar::Panel& panel, QLabel& view)
+{
+    view.setTextFormat(Qt::PlainText);
+    m_bindings.bind(panel.Text, [&view](const std::string& text) { view.setText(toQt(text).simplified()); });
+    m_bindings.bind(panel.ToolTipText, [&view](const std::string& tip) { view.setToolTip(toQt(tip)); });
+    m_bindings.bind(panel.Enabled, [&view](bool on) { view.setEnabled(on); });
+}
+
+/// Wide enough for `sample`, so that the panels don't move with their texts.
+QLabel* StatusBarView::addPanel(StatusBar::Panel& panel, const QString& sample)
+{
+    auto* view = new QLabel(this);
+    view->setContentsMargins(4, 0, 4, 0);
+    view->setMinimumWidth(fontMetrics().horizontalAdvance(sample) + 12);
+    bindPanel(panel, *view);
+    addPermanentWidget(view);
+    return view;
+}
+
+/// The toolkit's own panels: dimmed until somebody knows that the key is on.
+QLabel* StatusBarView::addKeyPanel(StatusBar::Panel& panel, const QString& name)
+{
+    auto* view = new QLabel(name, this);
+    view->setContentsMargins(4, 0, 4, 0);
+    view->setAlignment(Qt::AlignCenter);
+    view->setEnabled(false);
+    m_bindings.bind(panel.ToolTipText, [view](const std::string& tip) { view->setToolTip(toQt(tip)); });
+    addPermanentWidget(view);
+    return view;
+}
+
+void StatusBarView::showOverwrite(bool on)
+{
+    m_insert->setText(on ? QStringLiteral("OVR") : QStringLiteral("INS"));
+    m_insert->setEnabled(on);
+}
+
+/// Wakes up once a minute and not in between.
+void StatusBarView::showTime()
+{
+    constexpr int minute = 60'000;
+    const QTime now = QTime::currentTime();
+    const QString format = QLocale().timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    m_time->setText(QLocale().toString(now, format));
+    m_minute.start(minute - now.msecsSinceStartOfDay() % minute + 1);
+}
+
+} // namespace tarvex

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "desktop/bind.h"
+#include "shell/mum.h"
+
+#include <QStatusBar>
+#include <QTimer>
+
+class QLabel;
+
+namespace tarvex {
+
+/// The eight panels and the progress bar.
+class StatusBarView : public QStatusBar {
+public:
+    explicit StatusBarView(Mum& mum, QWidget* parent = nullptr);
+
+    /// Lights or dims the panel of the Insert key: lit while typing writes over the text.
+    void showOverwrite(bool on);
+
+private:
+    void addPanels(Mum& mum);
+    QLabel* addPanel(StatusBar::Panel& panel, const QString& sample);
+    void bindPanel(StatusBar::Panel& panel, QLabel& view);
+    QLabel* addKeyPanel(StatusBar::Panel& panel, const QString& name);
+    void showTime();
+
+    QLabel* m_insert = nullptr;
+    QLabel* m_time = nullptr;
+    QTimer m_minute;
+    Bindings m_bindings;
+};
+
+} // namespace tarvex

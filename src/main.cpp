@@ -1,0 +1,135 @@
+#include "desktop/application.h"
+#include "desktop/platform/qt_clipboard.h"
+#include "desktop/platform/qt_desktop.h"
+#include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/sdl_sound.h"
+#include "desktop/shell/mum_window.h"
+#include "desktop/text.h"
+#include "desktop/theme.h"
+#include "documents/file_open.h"
+#include "platform/posix/drive_map.h"
+#include "platform/posix/posix_files.h"
+#include "platform/posix/program_directory.h"
+#include "platform/posix/safe_writer.h"
+#include "platform/posix/system_calls.h"
+#include "program/program.h"
+#include "shell/appearance.h"
+
+#include <QDir>
+
+#include <cstdlib>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace {
+
+constexpr std::string_view help = "Usage: tarvex [FILE]\n"
+                                  "A programming environment for Thrustmaster game controllers.\n"
+                                  "\n"
+                                  "FILE is a joystick or macro file, as a path of this system or a DOS path.\n"
+                                  "\n"
+                                  "  --help     show this text and end\n"
+                                  "  --version  show the version and end\n";
+
+std::string fromEnvironment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+struct Arguments {
+    std::string file;
+    std::optional<int> exitStatus; ///< the process has done its work
+};
+
+Arguments readArguments(const QStringList& given)
+{
+    Arguments arguments;
+    bool options = true;
+    for (const QString& argument : given.mid(1)) {
+        if (options && argument == QLatin1String("--")) {
+            options = false;
+        } else if (options && argument == QLatin1String("--help")) {
+            std::cout << help;
+            return {{}, EXIT_SUCCESS};
+        } else if (options && argument == QLatin1String("--version")) {
+            std::cout << "Tarvex " TARVEX_VERSION "\n";
+            return {{}, EXIT_SUCCESS};
+        } else if (options && argument.startsWith(u'-')) {
+            std::cerr << "tarvex: unknown option " << argument.toStdString() << "\n" << help;
+            return {{}, EXIT_FAILURE};
+        } else if (arguments.file.empty()) {
+            arguments.file = argument.toStdString();
+        } else {
+            std::cerr << "tarvex: one file at most\n" << help;
+            return {{}, EXIT_FAILURE};
+        }
+    }
+    return arguments;
+}
+
+/// Qt takes its own options out of the command line; those that only print need no window system.
+QStringList plainArguments(int count, char** values)
+{
+    QStringList arguments;
+    for (int i = 0; i < count; ++i) arguments.append(QString::fromLocal8Bit(values[i]));
+    return arguments;
+}
+
+void openDropped(tarvex::Program& program, const tarvex::DriveMap& drives, const QStringList& paths)
+{
+    const tarvex::Steps step(program.shared.errors, "ED_OLEDragDrop");
+    for (const QString& path : paths) {
+        step([&] {
+            program.editor.OpeningPath = drives.toDos(tarvex::fromQt(path));
+            tarvex::OpenPreviouslySavedFiles(program.editor);
+        });
+    }
+}
+
+int runProgram(tarvex::Application& application, const std::string& file)
+{
+    using namespace tarvex;
+    const std::string directory = findProgramDirectory(readProgramPlaces());
+    const DriveMap drives({.winePrefix = fromEnvironment("WINEPREFIX"),
+                           .home = fromEnvironment("HOME"),
+                           .programDirectory = directory,
+                           .workingDirectory = fromQt(QDir::currentPath())});
+    SystemCalls calls;
+    SafeWriter writer(directory + "/Recovery", calls);
+    PosixFiles files(drives, writer);
+    QtDialogues dialogues(drives);
+    QtDesktop desktop(directory);
+    SdlSound sound(drives);
+    QtClipboard clipboard;
+    Platform platform{files, dialogues, desktop, sound, clipboard, drives.toDos(directory), drives.fromArgument(file)};
+
+    Program program(platform);
+    application.setErrorRecord(&program.shared.errors);
+    Appearance appearance(files, platform.programDirectory, program.menus);
+    const ThemeView theme(appearance);
+    MumWindow window(program);
+    dialogues.setParent(&window);
+    dialogues.setMenus(&program.menus);
+    QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
+                     [&](const QStringList& paths) { openDropped(program, drives, paths); });
+    const int status = program.start() && !desktop.quits() ? QApplication::exec() : EXIT_SUCCESS;
+    application.setErrorRecord(nullptr);
+    return status;
+}
+
+} // namespace
+
+int main(int argumentCount, char** argumentValues)
+{
+    const Arguments early = readArguments(plainArguments(argumentCount, argumentValues));
+    if (early.exitStatus == EXIT_SUCCESS) return EXIT_SUCCESS;
+    tarvex::Application application(argumentCount, argumentValues);
+    QApplication::setApplicationName(QStringLiteral("Tarvex"));
+    QApplication::setDesktopFileName(QStringLiteral("tarvex"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    const Arguments arguments = readArguments(QApplication::arguments());
+    return arguments.exitStatus ? *arguments.exitStatus : runProgram(application, arguments.file);
+}
