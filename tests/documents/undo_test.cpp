@@ -181,7 +181,8 @@ TEST_F(UndoTest, DeleteUndosFromMemoryEmptiesBoth)
     EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
 }
 
-// ---- line highlight ---------------------------------------------------------------------------------------------------
+// ---- line highlight
+// ---------------------------------------------------------------------------------------------------
 
 TEST_F(UndoTest, UndoHighlightsTheLineTouchedWhenTheSettingAsksForIt)
 {

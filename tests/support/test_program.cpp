@@ -7,10 +7,7 @@ namespace tarvex {
 
 namespace {
 
-void type(Pane& pane, const std::string& text)
-{
-    pane.userEdit(pane.SelStart(), pane.SelLength(), text);
-}
+void type(Pane& pane, const std::string& text) { pane.userEdit(pane.SelStart(), pane.SelLength(), text); }
 
 } // namespace
 

@@ -3,14 +3,11 @@
 #include "platform/errors.h"
 #include "platform/posix/faulty_calls.h"
 #include "platform/posix/safe_writer.h"
+#include "support/small_disk.h"
 #include "support/temporary_directory.h"
 
-#include <fcntl.h>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,38 +16,6 @@ namespace tarvex {
 namespace {
 
 constexpr int notPermitted = 77;
-
-bool tell(const char* file, const std::string& text)
-{
-    std::ofstream stream(file);
-    stream << text;
-    return stream.flush().good();
-}
-
-/// A name space of mounts; an ordinary user gets one as the root of a name space of users.
-bool enterNameSpace()
-{
-    const std::string user = std::to_string(::geteuid());
-    const std::string group = std::to_string(::getegid());
-    if (user == "0") return ::unshare(CLONE_NEWNS) == 0;
-    return ::unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && tell("/proc/self/uid_map", "0 " + user + " 1") &&
-           tell("/proc/self/setgroups", "deny") && tell("/proc/self/gid_map", "0 " + group + " 1");
-}
-
-bool mountSmallDisk(const std::string& place)
-{
-    return enterNameSpace() && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           ::mount("tmpfs", place.c_str(), "tmpfs", 0, "size=64k") == 0;
-}
-
-void fill(const std::string& path)
-{
-    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    const std::string block(4096, 'f');
-    while (::write(file, block.data(), block.size()) > 0) {
-    }
-    ::close(file);
-}
 
 int errorOfSave(SafeWriter& writer, const std::string& path, const std::string& bytes)
 {
