@@ -38,7 +38,10 @@ struct Shown {
     }
     static void events() { QApplication::processEvents(); }
     QString text() const { return view.toPlainText(); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(&view, key, modifiers); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&view, key, modifiers);
+    }
     void type(const QString& text) { QTest::keyClicks(&view, text); }
     void caretTo(int position)
     {
@@ -453,15 +456,34 @@ public:
     void step()
     {
         switch (upTo(9)) {
-        case 0: programInserts(); break;
-        case 1: programRemoves(); break;
-        case 2: programColours(); break;
-        case 3: m_shown.type(QString(QChar('a' + upTo(3)))); break;
-        case 4: m_shown.press(Qt::Key_Return); break;
-        case 5: m_shown.press(upTo(2) != 0 ? Qt::Key_Backspace : Qt::Key_Delete); break;
-        case 6: m_shown.view.settle(); m_shown.select(upTo(documentLength() + 1), upTo(documentLength() + 1)); break;
-        case 7: m_shown.view.settle(); m_shown.caretTo(upTo(documentLength() + 1)); break;
-        default: Shown::events();
+        case 0:
+            programInserts();
+            break;
+        case 1:
+            programRemoves();
+            break;
+        case 2:
+            programColours();
+            break;
+        case 3:
+            m_shown.type(QString(QChar('a' + upTo(3))));
+            break;
+        case 4:
+            m_shown.press(Qt::Key_Return);
+            break;
+        case 5:
+            m_shown.press(upTo(2) != 0 ? Qt::Key_Backspace : Qt::Key_Delete);
+            break;
+        case 6:
+            m_shown.view.settle();
+            m_shown.select(upTo(documentLength() + 1), upTo(documentLength() + 1));
+            break;
+        case 7:
+            m_shown.view.settle();
+            m_shown.caretTo(upTo(documentLength() + 1));
+            break;
+        default:
+            Shown::events();
         }
     }
 
