@@ -91,7 +91,7 @@ void PaneView::tellKeyPress(const QKeyEvent& event)
         m_pane.KeyPress('\r');
     else if (event.key() == Qt::Key_Backspace)
         m_pane.KeyPress('\b');
-    else if (!command && !text.isEmpty() && text[0].isPrint())
+    else if (!command && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\t'))
         m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
 }
 
