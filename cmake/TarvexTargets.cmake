@@ -29,3 +29,18 @@ function(tarvex_test name)
     target_compile_definitions(${name} PRIVATE TARVEX_SOURCE_DIRECTORY="${CMAKE_SOURCE_DIR}")
     gtest_discover_tests(${name} TEST_PREFIX "${TARVEX_TEST_PREFIX}" DISCOVERY_TIMEOUT 60)
 endfunction()
+
+# A program that libFuzzer feeds with bytes, and its short run as a test: from the files in corpus/NAME, the same way each
+# time. A long run:  build-sanitize/bin/NAME -max_total_time=600 FOLDER-FOR-FINDS fuzz/corpus/NAME
+#   tarvex_fuzz(NAME SOURCES a_fuzz.cpp LINKS tarvex_pane ...)
+function(tarvex_fuzz name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS})
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+    # Seeds by name: libFuzzer would add what it finds to a folder.
+    file(GLOB seeds CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}/*)
+    list(JOIN seeds "," seeds)
+    add_test(NAME ${TARVEX_TEST_PREFIX}Fuzz.${name}
+        COMMAND ${name} -seed=1 -runs=20000 -max_len=4096 -timeout=10 -rss_limit_mb=1024 -seed_inputs=${seeds})
+endfunction()

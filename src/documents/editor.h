@@ -2,6 +2,7 @@
 
 #include "documents/pair_record.h"
 #include "documents/pane.h"
+#include "documents/undo_history.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
 #include "shell/mum.h"
@@ -46,9 +47,7 @@ struct Side {
     std::int16_t& TakeNewLevel;
     std::string& Extension; ///< the one that new files of the kind get
     Colour& Background;
-    Operation<>& ResetUndo;
-    Operation<>& UndoRecord;
-    Operation<>& DeleteUndosOnSave;
+    UndoHistory& Undo;
     Operation<>& ApplyColours;
     Operation<const std::string&>& NoteLatestFile;
     Operation<const std::string&>& UpdateRecentMenuList;
@@ -73,6 +72,8 @@ struct Editor {
     Pane MacroText;
     Pane TempRichTextBox; ///< hidden; texts on their way to and from files
     Pane CompareRTF;      ///< hidden; the plain file beside its coloured shadow
+    UndoHistory JoystickUndo;
+    UndoHistory MacroUndo;
     Side joystick;
     Side macro;
 
@@ -90,7 +91,9 @@ struct Editor {
     std::string OpeningName;
     std::int16_t OpeningWithoutAsking = 0;
     std::int16_t ExitInProgress = 0;
-    int AutoSaveMinutes = 0; ///< since the last automatic save
+    int BlinkStep = 0;                ///< of the line highlight
+    std::int64_t HighlightLength = 0; ///< characters of the line highlighted
+    int AutoSaveMinutes = 0;          ///< since the last automatic save
 
     /// The document of the selected tab.
     Side& selected() { return TabStrip1.SelectedItem == 1 ? joystick : macro; }

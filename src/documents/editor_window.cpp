@@ -6,6 +6,7 @@
 #include "documents/hardware_changes.h"
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
+#include "documents/undo.h"
 #include "platform/windows1252.h"
 
 namespace tarvex {
@@ -41,16 +42,6 @@ void nameEmptyDocuments(Editor& editor)
     }
     editor.pair.MacroFilePath = lowerUtf8(editor.pair.MacroFilePath);
     editor.mum.StatusBar.Panels(panel::macroFile).Text = "No macro file analysed";
-}
-
-void resetUndo(Editor& editor)
-{
-    for (Side* side : {&editor.joystick, &editor.macro}) side->ResetUndo();
-    Menus& menus = editor.menus;
-    menus.mnuEditUndo.Caption = "&Undo";
-    menus.mnuEditRedo.Caption = "&Redo";
-    menus.mnuEditUndo.Enabled = false;
-    menus.mnuEditRedo.Enabled = false;
 }
 
 /// Choices that live in menu ticks take them from their settings.
@@ -157,7 +148,7 @@ void Form_Load(Editor& editor)
     menus.mnuInsertWithColour.Checked = settings.InsertWithColour == 1;
     menus.mnuGames.Caption = settings.GamesCaption;
     nameEmptyDocuments(editor);
-    step([&] { resetUndo(editor); });
+    step([&] { DeleteUndosFromMemory(editor); });
     readLists(editor, step);
     const bool calibrate = settings.DisableCalibrateMenu != 1;
     menus.mnuAppsProPanel.Visible = calibrate;

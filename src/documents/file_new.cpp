@@ -3,6 +3,7 @@
 #include "documents/file_questions.h"
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
+#include "documents/undo.h"
 
 namespace tarvex {
 
@@ -25,8 +26,7 @@ void newDocument(Editor& editor, Side& side, std::string_view tag)
     side.pane.setSelStart(0);
     side.Caret = 0;
     side.SelectionLength = 0;
-    step([&] { side.ResetUndo(); });
-    side.TakeNewLevel = 1;
+    step([&] { keepOnlyThePresent(editor, side); });
     showLineNumber(editor, side, side.pane.SelStart());
     if (side.tab == editor.macro.tab) {
         StatusBar::Panel& analysed = editor.mum.StatusBar.Panels(panel::macroFile);

@@ -1,8 +1,9 @@
 #include "documents/file_save.h"
 
-#include "documents/file_filters.h"
+#include "documents/file_dialogues.h"
 #include "documents/tabs.h"
 #include "documents/text_files.h"
+#include "documents/undo.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 
@@ -45,7 +46,7 @@ bool saveText(Editor& editor, Side& side)
         writeBackup(editor, side);
         backedUp = true;
     });
-    if (editor.shared.settings.UndoClearOnSave == 1) step([&] { side.DeleteUndosOnSave(); });
+    if (editor.shared.settings.UndoClearOnSave == 1) step([&] { keepOnlyThePresent(editor, side); });
     noteSaved(editor, side);
     if (!backedUp) failed();
     return true;
@@ -88,7 +89,7 @@ bool saveAs(Editor& editor, Side& side)
     const auto path = editor.platform.dialogues.saveFile(
         {.title = {},
          .filter = side.tab == 1 ? joystickSaveFilter(settings) : macroSaveFilter(settings),
-         .directory = settings.ProgramFilesPath,
+         .directory = dialogueFolder(editor, side),
          .suggestedName = suggestedName(editor, side),
          .defaultExtension = side.Extension});
     if (!path || !mayOverwrite(editor, *path)) return false;

@@ -146,6 +146,8 @@ public:
     /// What lies outside the text is cut. Nothing happens when Locked, or when there is nothing to remove or insert.
     void userEdit(std::int64_t position, std::int64_t removed, std::string_view inserted);
 
+    /// A character key (its code; 8 Backspace, 13 Return) was pressed and hasn't changed the text yet. Run by the view.
+    std::function<void(int)> KeyPress;
     std::function<void()> Change; ///< text or look was written
 
     /// What the views of the pane must bring up to date. The text of a view stays right when each `edited` is applied

@@ -1,6 +1,8 @@
 #include "documents/pane_change.h"
 
+#include "documents/line_highlight.h"
 #include "documents/tabs.h"
+#include "documents/undo.h"
 
 namespace tarvex {
 
@@ -10,12 +12,12 @@ void textChanged(Editor& editor, Side& side)
 {
     side.Changed = changed::modified;
     UpdateSavedIcon(editor);
-    side.UndoRecord();
+    recordUndo(editor, side);
 }
 
 void paneChange(Editor& editor, Side& side)
 {
-    editor.operations.HighlightOff();
+    stopBlinking(editor);
     // emptying a pane takes the indent with the text
     if (side.pane.TextLength() == 0) side.pane.setSelIndent(paragraphIndent);
     if (editor.shared.IsLoading == 1) return;

@@ -1,6 +1,7 @@
 #include "documents/tabs.h"
 
 #include "documents/editor_layout.h"
+#include "documents/undo.h"
 #include "platform/dos_path.h"
 
 namespace tarvex {
@@ -69,7 +70,7 @@ void gotFocus(Editor& editor, Side& side)
 {
     if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab); // a click into the other tile
     if (editor.mum.MousePointer == MousePointer::ArrowQuestion) return;
-    editor.operations.UpdateUndoRedoMenus();
+    UpdateUndoRedoMenus(editor);
     editor.operations.UpdateCCPButtons();
     showLineNumber(editor, side, side.pane.SelStart());
     showEditingText(editor);
@@ -105,7 +106,7 @@ void TabStrip1_Click(Editor& editor)
     showEditingText(editor);
     showTabImages(editor);
     UpdateSavedIcon(editor);
-    step([&] { editor.operations.UpdateUndoRedoMenus(); });
+    step([&] { UpdateUndoRedoMenus(editor); });
     showLineNumber(editor, editor.selected(), editor.selected().pane.SelStart());
     editor.selected().pane.SetFocus();
 }

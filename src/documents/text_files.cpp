@@ -3,6 +3,7 @@
 #include "documents/pane_change.h"
 #include "documents/rtf.h"
 #include "documents/tabs.h"
+#include "documents/undo.h"
 
 namespace tarvex {
 
@@ -96,8 +97,7 @@ void showDocument(Editor& editor, Side& side, const std::string& path, const std
     side.pane.setSelStart(0);
     side.Caret = 0;
     side.SelectionLength = 0;
-    step([&] { side.ResetUndo(); });
-    side.TakeNewLevel = 1;
+    step([&] { keepOnlyThePresent(editor, side); });
     side.Changed = changed::saved;
     UpdateSavedIcon(editor);
     showLineNumber(editor, side, 0);

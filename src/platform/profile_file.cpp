@@ -42,7 +42,7 @@ void insertEntry(ProfileLines& lines, const ProfilePlace& place, const Names& na
     const std::string lineEnd(prevailingLineEnd(lines));
     const bool onlyUtf8 = hasUtf8Mark(lines);
     std::string entry = encodeProfileText(names.key, onlyUtf8) + "=" + encodeProfileText(value, onlyUtf8) + lineEnd;
-    endLastLine(lines, lineEnd);
+    if (!place.header || place.insertAt == lines.size()) endLastLine(lines, lineEnd);
     if (place.header) {
         lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(place.insertAt), std::move(entry));
         return;

@@ -8,8 +8,10 @@
 #include "documents/file_open.h"
 #include "documents/file_save.h"
 #include "documents/menu_choices.h"
+#include "documents/line_highlight.h"
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
+#include "documents/undo.h"
 #include "shell/mum_window.h"
 
 namespace tarvex {
@@ -63,6 +65,8 @@ void wireFileMenu(Menus& menus, Editor& editor)
 
 void wireEditMenu(Menus& menus, Editor& editor)
 {
+    menus.mnuEditUndo.handler = on(editor, mnuEditUndo_Click);
+    menus.mnuEditRedo.handler = on(editor, mnuEditRedo_Click);
     menus.mnuEditCut.handler = on(editor, mnuEditCut_Click);
     menus.mnuEditCopy.handler = on(editor, mnuEditCopy_Click);
     menus.mnuEditPaste.handler = on(editor, mnuEditPaste_Click);
@@ -74,6 +78,7 @@ void wireViewAndPreferences(Menus& menus, Editor& editor)
 {
     menus.mnuViewTileVertically.handler = on(editor, mnuViewTileVertically_Click);
     menus.mnuViewMacros.handler = on(editor, mnuViewMacros_Click);
+    menus.mnuViewHighlightLine.handler = on(editor, mnuViewHighlightLine_Click);
     menus.mnuPreferencesProtectMacroFile.handler = on(editor, mnuPreferencesProtectMacroFile_Click);
     menus.mnuJoyPopUpSingleFile.handler = on(editor, mnuJoyPopUpSingleFile_Click);
     menus.mnuInsertWithColour.handler = on(editor, mnuInsertWithColour_Click);
@@ -85,8 +90,11 @@ void wirePanes(Editor& editor)
 {
     editor.JoystickText.Change = on(editor, JoystickText_Change);
     editor.MacroText.Change = on(editor, MacroText_Change);
+    editor.JoystickText.KeyPress = [&editor](int key) { JoystickText_KeyPress(editor, key); };
+    editor.MacroText.KeyPress = [&editor](int key) { MacroText_KeyPress(editor, key); };
     editor.TabStrip1.Click = on(editor, TabStrip1_Click);
     editor.Timer1.Tick = on(editor, Timer1_Timer);
+    editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);
 }
 
 void wireLists(Operations& operations, SettingsStore& store)

@@ -21,19 +21,7 @@ struct Operations {
     Operation<> UpdateEditorTooltips;
     Operation<> DamnFontWasChanged; ///< the pane font was changed in the preferences
 
-    // undo
-    Operation<> DeleteUndosFromMemory;
-    Operation<> ResetUndoJoystick; ///< one empty level, nothing to undo or redo
-    Operation<> ResetUndoMacro;
-    Operation<> JoystickUndoRecord; ///< takes the pane's state into the newest level or a new one
-    Operation<> MacroUndoRecord;
-    Operation<> UpdateUndoRedoMenus;
-    Operation<> DeleteUndosOnSaveJ;
-    Operation<> DeleteUndosOnSaveM;
-
-    // panes
-    Operation<> UpdateCCPButtons;
-    Operation<> HighlightOff; ///< the line highlight's mark
+    Operation<> UpdateCCPButtons; ///< Cut, Copy and Paste follow selection and clipboard
 
     // language
     Operation<> ApplyColourHighlighting;

@@ -26,7 +26,8 @@ struct PairTest : testing::Test {
     }
 };
 
-// ---- state of the documents -------------------------------------------------------------------------------------------
+// ---- state of the documents
+// -------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, NewDocumentsHaveNoTextAndAreUntitled)
 {
@@ -72,13 +73,14 @@ TEST_F(PairTest, ChangesWhileLoadingDontCount)
     EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
 }
 
-TEST_F(PairTest, AChangeTakesUndoLevelsAndOpensANewOneForTheNext)
+TEST_F(PairTest, AChangeTakesAnUndoLevelAndOpensANewOneForTheNext)
 {
-    int taken = 0;
-    t.program().operations.JoystickUndoRecord = [&] { ++taken; };
-    editor.pair.JoystickTakeNewLevel = 0;
     t.typeJoystick("x");
-    EXPECT_EQ(taken, 1);
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), 2U);
+    editor.pair.JoystickTakeNewLevel = 0;
+    t.typeJoystick("y");
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), 2U);
+    EXPECT_EQ(editor.JoystickUndo.Text[0].text(), "xy");
     EXPECT_EQ(editor.pair.JoystickTakeNewLevel, 1);
 }
 
@@ -101,7 +103,8 @@ TEST_F(PairTest, TypedTextHasTheSchemesFont)
     EXPECT_EQ(format.colour, 0);
 }
 
-// ---- new and close ----------------------------------------------------------------------------------------------------
+// ---- new and close
+// ----------------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, NewJoystickAsksBeforeUnsavedTextGoesAndCancelKeepsIt)
 {
@@ -158,7 +161,8 @@ TEST_F(PairTest, CloseIsNewForTheSelectedTab)
     EXPECT_EQ(editor.MacroText.Text(), "");
 }
 
-// ---- tabs -------------------------------------------------------------------------------------------------------------
+// ---- tabs
+// -------------------------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, TabStrip1_ClickShowsThePaneItsImageAndWhatIsEdited)
 {
@@ -220,7 +224,8 @@ TEST_F(PairTest, TheStatementForTheMissingToolbarButtonFailsAndIsSkipped)
     EXPECT_TRUE(t.program().mum.Toolbar1.Buttons(44).Enabled);
 }
 
-// ---- protection -------------------------------------------------------------------------------------------------------
+// ---- protection
+// -------------------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, ProtectingLocksTheMacroPaneAndSaysSo)
 {
@@ -258,7 +263,8 @@ TEST_F(PairTest, ProtectingWhileTab2IsSelectedChangesItsImageAtOnceAndBack)
     EXPECT_FALSE(editor.MacroText.Locked);
 }
 
-// ---- layout -----------------------------------------------------------------------------------------------------------
+// ---- layout
+// -----------------------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, PositionControlsFillsTheTabStrip)
 {
@@ -331,7 +337,8 @@ TEST_F(PairTest, GettingTheFocusShowsTheLineUnlessHelpIsAskedFor)
     EXPECT_EQ(t.status(3), "kept");
 }
 
-// ---- the macro frame's edge -------------------------------------------------------------------------------------------
+// ---- the macro frame's edge
+// -------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, DraggingTheMacroFramesEdgeSetsItsWidthAndWritesItAtOnce)
 {
@@ -376,7 +383,8 @@ TEST_F(PairTest, AnEdgeDraggedBeyondA16BitNumberStopsThere)
     EXPECT_EQ(t.settings().MacroFrameWidth, 32767);
 }
 
-// ---- hardware ---------------------------------------------------------------------------------------------------------
+// ---- hardware
+// ---------------------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, AnotherJoystickRenamesUntitledDocumentsAndLeavesNamedOnesAlone)
 {
@@ -431,7 +439,8 @@ TEST_F(PairTest, OtherJoysticksHaveQuietDownloadsOnlyWithWinLoad)
     EXPECT_TRUE(t.menus().mnuAppsQuiet.Enabled);
 }
 
-// ---- keys and clipboard -----------------------------------------------------------------------------------------------
+// ---- keys and clipboard
+// -----------------------------------------------------------------------------------------------
 
 TEST_F(PairTest, AKeyRunsTheCommandOfThePaneThatIsSelected)
 {

@@ -189,8 +189,9 @@ TEST_F(OpenTest, AMacroFileWithoutPartnerStaysOpenWithTheBoxAndTheJoystickDocume
     t.openBoth(migMacros);
     ASSERT_EQ(t.dialogues.boxes.size(), 1U);
     EXPECT_EQ(t.lastBox().title, "Couldn't find associated joystick file");
-    EXPECT_EQ(t.lastBox().text, "I couldn't find a joystick file associated with this macro file. Either this is because "
-                                "it has a different name, is located in a different directory,or it does not exist.");
+    EXPECT_EQ(t.lastBox().text,
+              "I couldn't find a joystick file associated with this macro file. Either this is because "
+              "it has a different name, is located in a different directory,or it does not exist.");
     EXPECT_EQ(macroText(), "Fire = f");
     EXPECT_EQ(joystickText(), "");
     EXPECT_EQ(t.editor().pair.JoystickChanged, changed::noText);
@@ -262,8 +263,9 @@ TEST_F(OpenTest, TheMacroQuestionHasItsOwnWords)
     t.dialogues.filesToSave = {std::nullopt};
     t.dialogues.filesToOpen = {};
     t.menus().MnuFileMacroLoad.Click();
-    EXPECT_EQ(t.lastBox().text, "untitled.m50 wasn't saved, so I won't continue to load up a new macro file just in case "
-                                "you pressed the cancel button by accident.");
+    EXPECT_EQ(t.lastBox().text,
+              "untitled.m50 wasn't saved, so I won't continue to load up a new macro file just in case "
+              "you pressed the cancel button by accident.");
     EXPECT_TRUE(t.dialogues.openRequests.empty());
 }
 
@@ -312,7 +314,8 @@ TEST_F(OpenTest, WithoutApplyColoursOnFileOpenNothingIsColoured)
 TEST_F(OpenTest, ADamagedShadowLosesToThePlainFile)
 {
     addPair();
-    for (const std::string& damaged : {std::string("{\\rtf1{\\fonttbl{{{{"), std::string("\0\xFF not rtf", 10), std::string()}) {
+    for (const std::string& damaged :
+         {std::string("{\\rtf1{\\fonttbl{{{{"), std::string("\0\xFF not rtf", 10), std::string()}) {
         t.files.addFile("c:\\tarvex\\Rtf\\mig.b50", damaged);
         t.openBoth(mig);
         EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");

@@ -180,6 +180,13 @@ TEST_F(Profile, FileWithoutFinalLineEndGetsOneBeforeANewLine)
     EXPECT_EQ(bytes(), "[Games]\nA=2\nB=3\n");
 }
 
+TEST_F(Profile, LastLineKeepsItsMissingEndWhereTheNewLineGoesElsewhere)
+{
+    fileHolds("[Games]\nA=1\n[Z]\nend");
+    write("B", "2");
+    EXPECT_EQ(bytes(), "[Games]\nA=1\nB=2\n[Z]\nend");
+}
+
 TEST_F(Profile, FileWithoutAnySectionHasNoKeysAndSurvives)
 {
     fileHolds("Key=1\r\njust text");

@@ -4,7 +4,6 @@
 set -u
 
 saver=$1
-export ASAN_OPTIONS=detect_leaks=0 # the leak checker needs the tracing for itself
 old=$(printf 'Rem the old file %04000d' 1)
 new=$(printf 'Rem the new file %06000d' 2)
 

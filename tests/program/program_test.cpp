@@ -8,7 +8,8 @@
 namespace tarvex {
 namespace {
 
-// ---- start ------------------------------------------------------------------------------------------------------------
+// ---- start
+// ------------------------------------------------------------------------------------------------------------
 
 TEST(Start, ASecondCopyShowsTheBoxAndLeavesTheSettingsUntouched)
 {
@@ -320,7 +321,8 @@ TEST(Start, ADamagedSettingsFileIsNoObstacle)
     }
 }
 
-// ---- exit -------------------------------------------------------------------------------------------------------------
+// ---- exit
+// -------------------------------------------------------------------------------------------------------------
 
 TEST(Exit, WithNothingToSaveAsksNothing)
 {
@@ -350,7 +352,8 @@ TEST(Exit, AsksAboutTheMacroFileFirst)
     EXPECT_TRUE(t.program().exit());
     ASSERT_EQ(t.dialogues.boxes.size(), 2U);
     EXPECT_EQ(t.dialogues.boxes[0].title, " Save untitled.m50 now?");
-    EXPECT_EQ(t.dialogues.boxes[0].text, "untitled.m50 has changed and isn't saved. Do you want to save it before exiting?");
+    EXPECT_EQ(t.dialogues.boxes[0].text,
+              "untitled.m50 has changed and isn't saved. Do you want to save it before exiting?");
     EXPECT_EQ(t.dialogues.boxes[0].icon, BoxIcon::Question);
     EXPECT_EQ(t.dialogues.boxes[1].title, " Save untitled.b50 now?");
 }

@@ -20,7 +20,8 @@ TEST(SettingsTable, NamesEveryKeyOnceAPerFileAndSection)
 {
     std::set<std::string> keys;
     for (const SettingRow& row : settingsTable()) {
-        const std::string name = std::string(fileNameOf(row.file)) + "/" + std::string(row.section) + "/" + std::string(row.key);
+        const std::string name =
+            std::string(fileNameOf(row.file)) + "/" + std::string(row.section) + "/" + std::string(row.key);
         EXPECT_TRUE(keys.insert(name).second) << name;
         EXPECT_FALSE(row.meaning.empty()) << name;
     }
@@ -158,8 +159,9 @@ TEST(GetColours, WithoutTheSectionPaintsEverythingInOneColour)
 {
     Store t;
     t.store.GetColours();
-    for (const Colour colour : {t.settings.BackgroundColour, t.settings.BTNColour, t.settings.SlashColour, t.settings.RAWColour,
-                                t.settings.MiscellaneousColour, t.settings.MacroBackgroundColour, t.settings.RemStatements})
+    for (const Colour colour :
+         {t.settings.BackgroundColour, t.settings.BTNColour, t.settings.SlashColour, t.settings.RAWColour,
+          t.settings.MiscellaneousColour, t.settings.MacroBackgroundColour, t.settings.RemStatements})
         EXPECT_EQ(colour, 16744448);
     EXPECT_EQ(t.settings.TextFontName, "Arial");
     EXPECT_EQ(t.settings.TextFontSize, 10);

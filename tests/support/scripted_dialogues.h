@@ -19,7 +19,7 @@ public:
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
-    std::function<void()> whileModal; ///< runs while a modal window is up
+    std::function<void()> whileModal;   ///< runs while a modal window is up
 
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
@@ -51,8 +51,7 @@ public:
     void popUp(const MenuItem&) override {}
 
 private:
-    template <typename T>
-    static T next(std::deque<T>& scripted, T otherwise, const std::string& what)
+    template <typename T> static T next(std::deque<T>& scripted, T otherwise, const std::string& what)
     {
         if (scripted.empty()) {
             ADD_FAILURE() << "not scripted: " << what;

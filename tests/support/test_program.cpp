@@ -7,10 +7,7 @@ namespace tarvex {
 
 namespace {
 
-void type(Pane& pane, const std::string& text)
-{
-    pane.userEdit(pane.SelStart(), pane.SelLength(), text);
-}
+void type(Pane& pane, const std::string& text) { pane.userEdit(pane.SelStart(), pane.SelLength(), text); }
 
 } // namespace
 
@@ -41,6 +38,18 @@ void TestProgram::start()
 {
     m_program = std::make_unique<Program>(platform);
     EXPECT_TRUE(m_program->start());
+}
+
+void TestProgram::pressKeys(Pane& pane, const std::string& keys)
+{
+    for (const char key : keys) {
+        pane.KeyPress(static_cast<unsigned char>(key));
+        const std::int64_t caret = pane.SelStart();
+        if (key == '\b')
+            pane.userEdit(caret - 1, 1, "");
+        else
+            pane.userEdit(caret, 0, key == '\r' ? "\r\n" : std::string(1, key));
+    }
 }
 
 void TestProgram::typeJoystick(const std::string& text) { type(editor().JoystickText, text); }

@@ -74,6 +74,8 @@ struct TestProgram : TestMachine {
     /// What the user types into the pane of a document, at the caret.
     void typeJoystick(const std::string& text);
     void typeMacro(const std::string& text);
+    /// One key after the other at the caret: "\r" is Return, "\b" Backspace.
+    void pressKeys(Pane& pane, const std::string& keys);
     /// Opens a path without asking, as the list of previous files does.
     void openBoth(const std::string& path);
 

@@ -386,6 +386,23 @@ TEST(PaneView, InsertKeyTypesOver)
     EXPECT_EQ(shown.changes, 2);
 }
 
+TEST(PaneView, CharacterKeysAreToldBeforeTheyChangeTheText)
+{
+    Shown t;
+    std::vector<std::pair<int, std::string>> told;
+    t.pane.KeyPress = [&](int key) { told.emplace_back(key, t.pane.Text()); };
+    QTest::keyClicks(&t.view, "a");
+    QTest::keyClick(&t.view, Qt::Key_Return);
+    QTest::keyClick(&t.view, Qt::Key_Backspace);
+    QTest::keyClick(&t.view, Qt::Key_Left);
+    QTest::keyClick(&t.view, Qt::Key_C, Qt::ControlModifier);
+    const std::vector<std::pair<int, std::string>> expected{{'a', ""}, {'\r', "a"}, {'\b', "a\r\n"}};
+    EXPECT_EQ(told, expected);
+    t.pane.Locked = true;
+    QTest::keyClicks(&t.view, "b");
+    EXPECT_EQ(told.size(), 3U);
+}
+
 TEST(PaneView, KeysWithCtrlAreOfferedFirstAndLeftToTheTextWhenRefused)
 {
     Shown shown("abc");

@@ -3,14 +3,11 @@
 #include "platform/errors.h"
 #include "platform/posix/faulty_calls.h"
 #include "platform/posix/safe_writer.h"
+#include "support/small_disk.h"
 #include "support/temporary_directory.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <iostream>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,22 +16,6 @@ namespace tarvex {
 namespace {
 
 constexpr int notPermitted = 77;
-
-bool mountSmallDisk(const std::string& place)
-{
-    if (::unshare(::geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0) return false;
-    if (::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) return false;
-    return ::mount("tmpfs", place.c_str(), "tmpfs", 0, "size=64k") == 0;
-}
-
-void fill(const std::string& path)
-{
-    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    const std::string block(4096, 'f');
-    while (::write(file, block.data(), block.size()) > 0) {
-    }
-    ::close(file);
-}
 
 int errorOfSave(SafeWriter& writer, const std::string& path, const std::string& bytes)
 {

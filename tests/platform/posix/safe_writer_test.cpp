@@ -87,6 +87,13 @@ TEST_F(SafeWriting, FileOfNoBytesIsThere)
     EXPECT_EQ(bytesOf(file), "");
 }
 
+TEST_F(SafeWriting, FileIsSyncedBeforeTheRenameAndTheFolderBehindIt)
+{
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_THAT(calls.made,
+                ElementsAre("lstat", "open", "write", "fsync", "close", "rename", "open", "fsync", "close"));
+}
+
 TEST_F(SafeWriting, LargeFileInShortWritesIsWhole)
 {
     calls.mostPerWrite = 1000;
@@ -228,6 +235,17 @@ TEST_F(SafeWriting, FolderThatTakesNoFileIsWrittenToDirectlyAndNoCopyStays)
     EXPECT_EQ(save(file, "new"), 0);
     EXPECT_EQ(bytesOf(file), "new");
     EXPECT_THAT(namesIn(disk / "recovery"), IsEmpty());
+}
+
+TEST_F(SafeWriting, CopyIsSafeOnDiskBeforeADirectWriteBegins)
+{
+    disk.put("work/mig.b50", "old");
+    calls.lockedFolder = folder + "/";
+    EXPECT_EQ(save(file, "new"), 0);
+    const auto mkdir = std::find(calls.made.begin(), calls.made.end(), "mkdir");
+    EXPECT_THAT(std::vector<std::string>(mkdir, calls.made.end()),
+                ElementsAre("mkdir", "open", "write", "fsync", "close", "rename", "open", "fsync", "close", // the copy
+                            "write", "ftruncate", "fsync", "close", "unlink"));
 }
 
 TEST_F(SafeWriting, FileThatCantBeReplacedIsWrittenToDirectly)

@@ -1,0 +1,86 @@
+#include "documents/line_highlight.h"
+
+#include "documents/tabs.h"
+
+namespace tarvex {
+
+namespace {
+
+/// Length of a line without its CR LF.
+std::int64_t lineLength(const Pane& pane, std::int64_t line)
+{
+    constexpr std::int64_t lineEnd = 2;
+    if (line + 1 < pane.lineCount()) return pane.lineStart(line + 1) - lineEnd - pane.lineStart(line);
+    return static_cast<std::int64_t>(pane.TextLength()) - pane.lineStart(line);
+}
+
+void caretBackToLineStart(Editor& editor)
+{
+    Side& side = editor.selected();
+    side.pane.setSelStart(static_cast<std::int64_t>(side.Caret));
+    editor.HighlightLength = 0;
+}
+
+} // namespace
+
+void HighlightLineAtIP(Editor& editor)
+{
+    Side& side = editor.selected();
+    Pane& pane = side.pane;
+    if (pane.TextLength() == 0) return;
+    const std::int64_t line = pane.GetLineFromChar(pane.SelStart());
+    const std::int64_t start = pane.lineStart(line);
+    editor.HighlightLength = lineLength(pane, line);
+    pane.setSelStart(start);
+    pane.setSelLength(editor.HighlightLength);
+    side.Caret = static_cast<float>(start);
+    showLineNumber(editor, side, start);
+}
+
+void blinkLineAtIP(Editor& editor)
+{
+    if (editor.selected().pane.TextLength() == 0) return;
+    HighlightLineAtIP(editor);
+    editor.BlinkStep = 0;
+    editor.TimerBlinkLine.Enabled = true;
+}
+
+void mnuViewHighlightLine_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_mnuViewHighlightLine_Click");
+    step([&] { blinkLineAtIP(editor); });
+}
+
+void TimerBlinkLine_Timer(Editor& editor)
+{
+    switch (editor.BlinkStep) {
+    case 0:
+    case 2:
+        caretBackToLineStart(editor);
+        ++editor.BlinkStep;
+        break;
+    case 1:
+        HighlightLineAtIP(editor);
+        ++editor.BlinkStep;
+        break;
+    default:
+        editor.TimerBlinkLine.Enabled = false;
+    }
+}
+
+void stopBlinking(Editor& editor) { editor.TimerBlinkLine.Enabled = false; }
+
+void HighlightErrorLine(Editor& editor, std::int64_t lineNumber)
+{
+    Pane& pane = editor.JoystickText;
+    if (lineNumber < 1 || lineNumber > pane.lineCount()) {
+        editor.platform.dialogues.show(
+            {.title = "Hmmm....bizarre...", .text = "The line number is invalid", .icon = BoxIcon::Exclamation});
+        return;
+    }
+    if (editor.TabStrip1.SelectedItem != editor.joystick.tab) editor.TabStrip1.Select(editor.joystick.tab);
+    pane.setSelStart(pane.lineStart(lineNumber - 1));
+    blinkLineAtIP(editor);
+}
+
+} // namespace tarvex

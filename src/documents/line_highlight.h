@@ -1,0 +1,19 @@
+#pragma once
+
+#include "documents/editor.h"
+
+namespace tarvex {
+
+/// Selects the line of the caret in the pane of the selected tab; an empty pane does nothing.
+void HighlightLineAtIP(Editor& editor);
+/// The same, and the line flashes: off, on, off in 300 ms, ending with a caret at its beginning.
+void blinkLineAtIP(Editor& editor);
+void mnuViewHighlightLine_Click(Editor& editor);
+void TimerBlinkLine_Timer(Editor& editor);
+/// An edit ends the flashing, so that no step of it moves the caret away under the user's hands.
+void stopBlinking(Editor& editor);
+
+/// Shows a line of the joystick file, numbered from 1, as a compiler or the user names it; says so when there is none.
+void HighlightErrorLine(Editor& editor, std::int64_t lineNumber);
+
+} // namespace tarvex

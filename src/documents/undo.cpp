@@ -1,0 +1,139 @@
+#include "documents/undo.h"
+
+#include "documents/line_highlight.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr int backspaceKey = 8;
+constexpr int returnKey = 13;
+constexpr int blankKey = 32;
+constexpr int undoButton = 11;
+constexpr int redoButton = 12;
+
+void keyPress(Side& side, int key)
+{
+    UndoHistory& history = side.Undo;
+    side.Caret = static_cast<float>(side.pane.SelStart());
+    if (key == blankKey && side.pane.TextLength() == 0) {
+        side.TakeNewLevel = 0;
+        return;
+    }
+    // What is typed on an undone state mustn't overwrite the newest one.
+    if (history.Text.size() == 1 || history.Position != 1) {
+        side.TakeNewLevel = 1;
+        return;
+    }
+    const bool again =
+        (key == returnKey && history.LastKeyWasReturn == 1) || (key == blankKey && history.LastKeyWasSpace == 1);
+    const bool opens = key == backspaceKey || key == returnKey || key == blankKey;
+    side.TakeNewLevel = opens && !again ? 1 : 0;
+    if (key == backspaceKey) return;
+    history.LastKeyWasReturn = key == returnKey ? 1 : 0;
+    history.LastKeyWasSpace = key == blankKey ? 1 : 0;
+}
+
+void makeRoom(const Editor& editor, UndoHistory& history)
+{
+    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
+    history.Text.push_front(history.Text.front());
+    history.Caret.push_front(history.Caret.front());
+    if (grows) return;
+    history.Text.pop_back();
+    history.Caret.pop_back();
+}
+
+void showLevel(Editor& editor, std::size_t level)
+{
+    Side& side = editor.selected();
+    UndoHistory& history = side.Undo;
+    if (level < 1 || level > history.Text.size()) return;
+    editor.shared.IsLoading = 1;
+    history.Position = level;
+    side.pane.setTextRTF(history.Text[level - 1]);
+    side.pane.setSelStart(history.Caret[level - 1]);
+    side.Caret = static_cast<float>(history.Caret[level - 1]);
+    UpdateUndoRedoMenus(editor);
+    if (editor.shared.settings.HighlightLineOnUndo == 1) blinkLineAtIP(editor);
+    editor.shared.IsLoading = 0;
+}
+
+struct Offer {
+    MenuItem& item;
+    int button;
+    std::string name;
+    std::size_t levels; ///< that can be reached
+};
+
+void showOffer(Editor& editor, const Offer& offer)
+{
+    const std::string text = offer.levels > 0 ? offer.name + " (" + std::to_string(offer.levels) + ")" : offer.name;
+    offer.item.Caption = "&" + text;
+    offer.item.Enabled = offer.levels > 0;
+    Button& button = editor.mum.Toolbar1.Buttons(offer.button);
+    button.Enabled = offer.levels > 0;
+    if (offer.levels == 0 || editor.shared.settings.OKtoShowToolTips == 1) button.ToolTipText = text;
+}
+
+} // namespace
+
+void JoystickText_KeyPress(Editor& editor, int key) { keyPress(editor.joystick, key); }
+void MacroText_KeyPress(Editor& editor, int key) { keyPress(editor.macro, key); }
+
+void UpdateUndoJoystickText(Editor& editor) { makeRoom(editor, editor.joystick.Undo); }
+void UpdateUndoMacroText(Editor& editor) { makeRoom(editor, editor.macro.Undo); }
+
+void storeInNewestLevel(Side& side)
+{
+    side.Undo.Text.front() = side.pane.TextRTF();
+    side.Undo.Caret.front() = static_cast<std::int32_t>(side.pane.SelStart());
+}
+
+void recordUndo(Editor& editor, Side& side)
+{
+    if (side.TakeNewLevel != 1) return storeInNewestLevel(side);
+    makeRoom(editor, side.Undo);
+    storeInNewestLevel(side);
+    side.Undo.Position = 1;
+    UpdateUndoRedoMenus(editor);
+}
+
+void UpdateUndoRedoMenus(Editor& editor)
+{
+    const UndoHistory& history = editor.selected().Undo;
+    showOffer(editor, {editor.menus.mnuEditUndo, undoButton, "Undo", history.Text.size() - history.Position});
+    showOffer(editor, {editor.menus.mnuEditRedo, redoButton, "Redo", history.Position - 1});
+}
+
+void mnuEditUndo_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_mnuEditUndo_Click");
+    step([&] { showLevel(editor, editor.selected().Undo.Position + 1); });
+}
+
+void mnuEditRedo_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_mnuEditRedo_Click");
+    step([&] { showLevel(editor, editor.selected().Undo.Position - 1); });
+}
+
+void keepOnlyThePresent(Editor& editor, Side& side)
+{
+    side.Undo = {};
+    storeInNewestLevel(side);
+    side.TakeNewLevel = 1;
+    UpdateUndoRedoMenus(editor);
+}
+
+void DeleteUndosOnSaveJ(Editor& editor) { keepOnlyThePresent(editor, editor.joystick); }
+void DeleteUndosOnSaveM(Editor& editor) { keepOnlyThePresent(editor, editor.macro); }
+
+void DeleteUndosFromMemory(Editor& editor)
+{
+    editor.joystick.Undo = {};
+    editor.macro.Undo = {};
+    UpdateUndoRedoMenus(editor);
+}
+
+} // namespace tarvex

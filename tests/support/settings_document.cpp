@@ -1,0 +1,120 @@
+#include "support/settings_document.h"
+
+#include "shell/settings_table.h"
+
+#include <utility>
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::pair<Access, std::string_view> procedures[] = {
+    {Access::GetOptions, "GetOptions"},
+    {Access::GetWinloadStuff, "GetWinloadStuff"},
+    {Access::GetColours, "GetColours"},
+    {Access::GetMumPosition, "GetMumPosition"},
+    {Access::GetSpaces, "GetSpaces"},
+    {Access::PositionComposer, "PositionComposer"},
+    {Access::PositionSafein, "PositionSafein"},
+    {Access::GetSafeinOptions, "GetSafeinOptions"},
+    {Access::GetOpenSingleOnly, "GetOpenSingleOnly"},
+    {Access::GetIndentStuff, "GetIndentStuff"},
+    {Access::GetLastImagesDirectory, "GetLastImagesDirectory"},
+    {Access::GetCustomApps, "GetCustomApps"},
+    {Access::GetGames, "GetGames"},
+    {Access::GetFavourites, "GetFavourites"},
+    {Access::GetPreviousFiles, "GetPreviousFiles"},
+    {Access::PositionInfoWindow, "PositionInfoWindow"},
+    {Access::GetPreviousLoaders, "GetPreviousLoaders"},
+    {Access::GetLayoutFonts, "Form_Load"},
+    {Access::GetTcaOptions, "GetTcaOptions"},
+    {Access::SaveOptions, "SaveOptions"},
+    {Access::SaveWinLoadStuff, "SaveWinLoadStuff"},
+    {Access::SaveColourScheme, "SaveColourScheme"},
+    {Access::ColoursSortOut, "ColoursSortOut"},
+    {Access::SaveMumPosition, "SaveMumPosition"},
+    {Access::SaveSpaces, "SaveSpaces"},
+    {Access::SavePosition, "SavePosition"},
+    {Access::SaveSafeinOptions, "SaveSafeinOptions"},
+    {Access::SaveOpenSingleOnly, "SaveOpenSingleOnly"},
+    {Access::SaveIndentStuff, "SaveIndentStuff"},
+    {Access::SaveLastImagesDirectory, "SaveLastImagesDirectory"},
+    {Access::SaveApps, "SaveApps"},
+    {Access::SaveGames, "SaveGames"},
+    {Access::SaveFavourites, "SaveFavourites"},
+    {Access::UpdateRecentJFMenuList, "UpdateRecentJFMenuList"},
+    {Access::UpdateRecentMFMenuList, "UpdateRecentMFMenuList"},
+    {Access::SaveInfoWindowPosition, "SaveInfoWindowPosition"},
+    {Access::SaveFilesPath, "SaveFilesPath"},
+    {Access::SavePreviousLoaders, "SavePreviousLoaders"},
+    {Access::SaveTcaOptions, "SaveTcaOptions"},
+    {Access::SaveThePersonsName, "SaveThePersonsName"},
+    {Access::SaveMacroFrameWidth, "FrameMacros_MouseMove"},
+    {Access::cmdOK_Click, "cmdOK_Click"},
+    {Access::mnuInsertWithColour_Click, "mnuInsertWithColour_Click"},
+    {Access::mnuAppsQuiet_Click, "mnuAppsQuiet_Click"},
+    {Access::mnuGamesDownloadFirst_Click, "mnuGamesDownloadFirst_Click"},
+};
+
+std::string names(Access set)
+{
+    std::string text;
+    for (const auto& [procedure, name] : procedures) {
+        if (contains(set, procedure)) text += (text.empty() ? "`" : ", `") + std::string(name) + "`";
+    }
+    return text.empty() ? "nobody" : text;
+}
+
+std::string_view nameOf(SettingForm form)
+{
+    switch (form) {
+    case SettingForm::Flag: return "flag";
+    case SettingForm::Integer:
+    case SettingForm::IntegerText: return "int";
+    case SettingForm::Text: return "text, 99";
+    case SettingForm::ShortText: return "text, 49";
+    case SettingForm::ColourText: return "colour";
+    case SettingForm::Position: return "twips";
+    case SettingForm::Dropped: break;
+    }
+    return "none";
+}
+
+std::string quoted(std::string_view value) { return value.empty() ? "" : "`" + std::string(value) + "`"; }
+
+std::string rowOf(const SettingRow& row)
+{
+    const bool family = !std::holds_alternative<std::monostate>(row.count);
+    const std::string standard = row.readDefault == present ? std::string(present) : quoted(row.readDefault);
+    const std::string factory = row.factory.empty() ? "" : ", new: " + quoted(row.factory);
+    return "| `" + std::string(row.key) + "`" + (family ? "1, 2, ..." : "") + " | " + std::string(nameOf(row.form)) +
+           " | " + standard + factory + " | " + names(row.readers) + " | " + names(row.writers) + " | " +
+           std::string(row.meaning) + " |\n";
+}
+
+constexpr std::string_view introduction =
+    "# Settings\n\n"
+    "Every key that Tarvex keeps in its INI files, in the order in which they are read and written. This page is made "
+    "from the table in `src/shell/settings_table.cpp`; a test compares the two and, with `TARVEX_UPDATE_DOCS=1` in the "
+    "environment, writes the page anew.\n\n"
+    "Forms: *flag* 0 or 1; *int* a decimal 16-bit number; *text, n* at most n characters survive a read; *colour* the "
+    "decimal number 0x00BBGGRR, so 255 is red; *twips* 1/1440 inch. *new* is what a new installation gets.\n";
+
+} // namespace
+
+std::string settingsDocument()
+{
+    std::string text{introduction};
+    std::string heading;
+    for (const SettingRow& row : settingsTable()) {
+        const std::string here = "`" + std::string(fileNameOf(row.file)) + "`, section `" + std::string(row.section) + "`";
+        if (here != heading)
+            text += "\n## " + here +
+                    "\n\n| Key | Form | Default | Read by | Written by | Meaning |\n|---|---|---|---|---|---|\n";
+        heading = here;
+        text += rowOf(row);
+    }
+    return text;
+}
+
+} // namespace tarvex
