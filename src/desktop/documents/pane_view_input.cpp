@@ -72,6 +72,8 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         const QString keys = QKeySequence(event->keyCombination()).toString(QKeySequence::PortableText);
         if (pressKey(fromQt(keys))) return;
     }
+    // Ctrl+K and Ctrl+U are not for deleting here, whatever other programs of the desktop do with them.
+    if (event->matches(QKeySequence::DeleteEndOfLine) || event->matches(QKeySequence::DeleteCompleteLine)) return;
     if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
         setOverwriteMode(!overwriteMode());
         emit overwriteModeChanged(overwriteMode());
