@@ -62,6 +62,9 @@ MenuEntry viewMenu(Menus& m)
                                command(m.mnuViewColourJoystick),
                                command(m.mnuViewColourMacro),
                                command(m.mnuViewApplyColourBothFiles, "Ctrl+T"),
+                               menu(m.mnuRemoveColour,
+                                    {command(m.mnuRemoveColourJoystick), command(m.mnuRemoveColourMacro),
+                                     command(m.mnuRemoveColourSelectedText)}),
                                divider,
                                command(m.mnuViewReformat, "Ctrl+H"),
                                command(m.mnuViewrefreshIndent),
@@ -110,6 +113,10 @@ std::vector<MenuEntry> popUpMenu(Menus& menus, const MenuItem& root)
             command(menus.mnuEditDelete),
             divider,
             command(menus.mnuEditSelectAll),
+            divider,
+            command(menus.mnuRHMColour),
+            command(menus.mnuRHMColoursRemove),
+            command(menus.mnuRHMColoursSelection),
             divider,
             command(menus.mnuPreferencesProtectMacroFile)};
 }

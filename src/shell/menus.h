@@ -52,6 +52,10 @@ struct Menus {
     MenuItem mnuViewColourJoystick{"mnuViewColourJoystick", "Colour &joystick file"};
     MenuItem mnuViewColourMacro{"mnuViewColourMacro", "Colour ma&cro file"};
     MenuItem mnuViewApplyColourBothFiles{"mnuViewApplyColourBothFiles", "Colour &both files"};
+    MenuItem mnuRemoveColour{"mnuRemoveColour", "Remo&ve colour"};
+    MenuItem mnuRemoveColourJoystick{"mnuRemoveColourJoystick", "From the &joystick file"};
+    MenuItem mnuRemoveColourMacro{"mnuRemoveColourMacro", "From the &macro file"};
+    MenuItem mnuRemoveColourSelectedText{"mnuRemoveColourSelectedText", "From the &selected text"};
     MenuItem mnuViewReformat{"mnuViewReformat", "&Reformat"};
     MenuItem mnuViewrefreshIndent{"mnuViewrefreshIndent", "Refresh &indent"};
     MenuItem mnuViewHighlightLine{"mnuViewHighlightLine", "&Highlight line"};
@@ -87,6 +91,9 @@ struct Menus {
     MenuItem mnuAppearanceDark{"mnuAppearanceDark", "&Dark"};
 
     MenuItem mnuRHMouse{"mnuRHMouse"}; ///< root of the panes' pop-up menu
+    MenuItem mnuRHMColour{"mnuRHMColour", "Colou&r this file"};
+    MenuItem mnuRHMColoursRemove{"mnuRHMColoursRemove", "Remo&ve colour"};
+    MenuItem mnuRHMColoursSelection{"mnuRHMColoursSelection", "Remove colour from selec&tion"};
     MenuItem mnuRHList{"mnuRHList"};   ///< root of the macro lists' pop-up menu
 
     /// Items of the favourites menu, from index 1; 0 is a hidden pattern.
