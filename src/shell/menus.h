@@ -45,6 +45,8 @@ struct Menus {
     MenuItem mnuEditReplace{"mnuEditReplace", "R&eplace..."};
     MenuItem mnuEditGoto{"mnuEditGoto", "&Goto line..."};
     MenuItem mnuEditUpdateMacros{"mnuEditUpdateMacros", "Update &macros"};
+    MenuItem mnuEditREMblock{"mnuEditREMblock", "Comment &out block"};
+    MenuItem mnuEditREMunblock{"mnuEditREMunblock", "Restore &block"};
 
     MenuItem mnuView{"mnuView", "&View"};
     MenuItem mnuViewTileVertically{"mnuViewTileVertically", "&Tile vertically"};
@@ -54,6 +56,7 @@ struct Menus {
     MenuItem mnuViewApplyColourBothFiles{"mnuViewApplyColourBothFiles", "Colour &both files"};
     MenuItem mnuViewReformat{"mnuViewReformat", "&Reformat"};
     MenuItem mnuViewrefreshIndent{"mnuViewrefreshIndent", "Refresh &indent"};
+    MenuItem mnuViewAlignSlashes{"mnuViewAlignSlashes", "&Align slashes"};
     MenuItem mnuViewHighlightLine{"mnuViewHighlightLine", "&Highlight line"};
     MenuItem mnuViewIdentify{"mnuViewIdentify", "I&dentify macros used"};
 
@@ -87,7 +90,11 @@ struct Menus {
     MenuItem mnuAppearanceDark{"mnuAppearanceDark", "&Dark"};
 
     MenuItem mnuRHMouse{"mnuRHMouse"}; ///< root of the panes' pop-up menu
-    MenuItem mnuRHList{"mnuRHList"};   ///< root of the macro lists' pop-up menu
+    MenuItem mnuRHMIdentify{"mnuRHMIdentify", "Identif&y macros used"};
+    MenuItem mnuRHList{"mnuRHList"}; ///< root of the macro lists' pop-up menu
+    MenuItem mnuRHListInsert{"mnuRHListInsert", "&Insert into joystick file"};
+    MenuItem mnuFindInJF{"mnuFindInJF", "&Find in joystick file"};
+    MenuItem mnuRHListIdentify{"mnuRHListIdentify", "I&dentify macros used"};
 
     /// Items of the favourites menu, from index 1; 0 is a hidden pattern.
     std::deque<MenuItem> mnuFavArray;
