@@ -12,6 +12,7 @@
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
+#include "language/language_commands.h"
 #include "shell/mum_window.h"
 
 namespace tarvex {
@@ -114,6 +115,7 @@ Program::Program(Platform& thePlatform)
     wireEditMenu(menus, editor);
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
+    wireLanguage(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { exit(); };
     operations.ShowEditor = on(editor, Form_Load);
