@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/macro_record.h"
 #include "documents/pair_record.h"
 #include "documents/pane.h"
 #include "documents/undo_history.h"
@@ -67,6 +68,8 @@ struct Editor {
     Operations& operations;
 
     PairRecord pair;
+    MacroRecord macros;
+    InsertionRecord insertion;
     std::shared_ptr<FormatTable> formats;
     Pane JoystickText;
     Pane MacroText;

@@ -40,18 +40,6 @@ void keyPress(Side& side, int key)
     history.LastKeyWasSpace = key == blankKey ? 1 : 0;
 }
 
-/// Room for a new level 1 (UpdateUndoJoystickText, UpdateUndoMacroText): the oldest falls off once there are UndoMax
-/// + 1.
-void UpdateUndoText(const Editor& editor, UndoHistory& history)
-{
-    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
-    history.Text.push_front(history.Text.front());
-    history.Caret.push_front(history.Caret.front());
-    if (grows) return;
-    history.Text.pop_back();
-    history.Caret.pop_back();
-}
-
 void showLevel(Editor& editor, std::size_t level)
 {
     Side& side = editor.selected();
@@ -90,6 +78,17 @@ void showOffer(Editor& editor, const Offer& offer)
 void JoystickText_KeyPress(Editor& editor, int key) { keyPress(editor.joystick, key); }
 void MacroText_KeyPress(Editor& editor, int key) { keyPress(editor.macro, key); }
 
+void UpdateUndoText(const Editor& editor, Side& side)
+{
+    UndoHistory& history = side.Undo;
+    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
+    history.Text.push_front(history.Text.front());
+    history.Caret.push_front(history.Caret.front());
+    if (grows) return;
+    history.Text.pop_back();
+    history.Caret.pop_back();
+}
+
 void storeInNewestLevel(Side& side)
 {
     side.Undo.Text.front() = side.pane.TextRTF();
@@ -99,7 +98,7 @@ void storeInNewestLevel(Side& side)
 void recordUndo(Editor& editor, Side& side)
 {
     if (side.TakeNewLevel != 1 && side.Undo.Position == 1) return storeInNewestLevel(side);
-    UpdateUndoText(editor, side.Undo);
+    UpdateUndoText(editor, side);
     storeInNewestLevel(side);
     side.Undo.Position = 1;
     UpdateUndoRedoMenus(editor);

@@ -1,6 +1,7 @@
 #include "language/language_commands.h"
 
 #include "language/colour_highlighting.h"
+#include "language/macro_commands.h"
 #include "language/remove_colour.h"
 
 namespace tarvex {
@@ -31,6 +32,10 @@ void wireColours(Editor& editor)
 
 } // namespace
 
-void wireLanguage(Editor& editor) { wireColours(editor); }
+void wireLanguage(Editor& editor)
+{
+    wireColours(editor);
+    wireMacros(editor);
+}
 
 } // namespace tarvex

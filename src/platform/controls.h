@@ -66,6 +66,7 @@ struct CheckListBox {
     Property<std::vector<Item>> Items;
     Property<int> ListIndex = -1; ///< from 0; -1: none
     Property<bool> Visible = true;
+    Property<std::string> ToolTipText;
 };
 
 /// A row of tabs, numbered from 1.

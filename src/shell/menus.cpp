@@ -49,6 +49,9 @@ MenuEntry editMenu(Menus& m)
                                command(m.mnuEditReplace, "Ctrl+R"),
                                command(m.mnuEditGoto, "Ctrl+G"),
                                divider,
+                               command(m.mnuEditREMblock, "Ctrl+Shift+K"),
+                               command(m.mnuEditREMunblock, "Ctrl+Shift+U"),
+                               divider,
                                command(m.mnuEditUpdateMacros),
                            });
 }
@@ -68,6 +71,7 @@ MenuEntry viewMenu(Menus& m)
                                divider,
                                command(m.mnuViewReformat, "Ctrl+H"),
                                command(m.mnuViewrefreshIndent),
+                               command(m.mnuViewAlignSlashes, "Ctrl+Shift+A"),
                                command(m.mnuViewHighlightLine, "Ctrl+L"),
                                divider,
                                command(m.mnuViewIdentify, "F7"),
@@ -106,6 +110,8 @@ std::vector<MenuEntry> menuBar(Menus& menus)
 
 std::vector<MenuEntry> popUpMenu(Menus& menus, const MenuItem& root)
 {
+    if (&root == &menus.mnuRHList)
+        return {command(menus.mnuRHListInsert), command(menus.mnuFindInJF), divider, command(menus.mnuRHListIdentify)};
     if (&root != &menus.mnuRHMouse) return {};
     return {command(menus.mnuEditCut),
             command(menus.mnuEditCopy),
@@ -117,6 +123,7 @@ std::vector<MenuEntry> popUpMenu(Menus& menus, const MenuItem& root)
             command(menus.mnuRHMColour),
             command(menus.mnuRHMColoursRemove),
             command(menus.mnuRHMColoursSelection),
+            command(menus.mnuRHMIdentify),
             divider,
             command(menus.mnuPreferencesProtectMacroFile)};
 }

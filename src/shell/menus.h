@@ -45,6 +45,8 @@ struct Menus {
     MenuItem mnuEditReplace{"mnuEditReplace", "R&eplace..."};
     MenuItem mnuEditGoto{"mnuEditGoto", "&Goto line..."};
     MenuItem mnuEditUpdateMacros{"mnuEditUpdateMacros", "Update &macros"};
+    MenuItem mnuEditREMblock{"mnuEditREMblock", "Comment &out block"};
+    MenuItem mnuEditREMunblock{"mnuEditREMunblock", "Restore &block"};
 
     MenuItem mnuView{"mnuView", "&View"};
     MenuItem mnuViewTileVertically{"mnuViewTileVertically", "&Tile vertically"};
@@ -58,6 +60,7 @@ struct Menus {
     MenuItem mnuRemoveColourSelectedText{"mnuRemoveColourSelectedText", "From the &selected text"};
     MenuItem mnuViewReformat{"mnuViewReformat", "&Reformat"};
     MenuItem mnuViewrefreshIndent{"mnuViewrefreshIndent", "Refresh &indent"};
+    MenuItem mnuViewAlignSlashes{"mnuViewAlignSlashes", "&Align slashes"};
     MenuItem mnuViewHighlightLine{"mnuViewHighlightLine", "&Highlight line"};
     MenuItem mnuViewIdentify{"mnuViewIdentify", "I&dentify macros used"};
 
@@ -94,7 +97,11 @@ struct Menus {
     MenuItem mnuRHMColour{"mnuRHMColour", "Colou&r this file"};
     MenuItem mnuRHMColoursRemove{"mnuRHMColoursRemove", "Remo&ve colour"};
     MenuItem mnuRHMColoursSelection{"mnuRHMColoursSelection", "Remove colour from selec&tion"};
-    MenuItem mnuRHList{"mnuRHList"};   ///< root of the macro lists' pop-up menu
+    MenuItem mnuRHMIdentify{"mnuRHMIdentify", "Identif&y macros used"};
+    MenuItem mnuRHList{"mnuRHList"}; ///< root of the macro lists' pop-up menu
+    MenuItem mnuRHListInsert{"mnuRHListInsert", "&Insert into joystick file"};
+    MenuItem mnuFindInJF{"mnuFindInJF", "&Find in joystick file"};
+    MenuItem mnuRHListIdentify{"mnuRHListIdentify", "I&dentify macros used"};
 
     /// Items of the favourites menu, from index 1; 0 is a hidden pattern.
     std::deque<MenuItem> mnuFavArray;

@@ -95,8 +95,26 @@ TEST_F(OpenTest, OpenBothFromTheJoystickFileFindsTheMacroFileOfTheSameName)
     EXPECT_EQ(macroText(), "Fire = f\r\n");
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
     EXPECT_EQ(t.editor().JoystickText.SelStart(), 0);
-    EXPECT_EQ(t.status(), "Done");
+    EXPECT_EQ(t.status(), "Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
     EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
+TEST_F(OpenTest, OpenBothListsTheMacrosAndTicksTheOnesUsed)
+{
+    addPair();
+    t.openBoth(mig);
+    const auto& items = t.editor().FrameMacros.List1.front().Items.get();
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0], (CheckListBox::Item{"Fire", true}));
+}
+
+TEST_F(OpenTest, OpenBothWithoutCheckIdentifyOKLeavesTheTicksOutAndSaysDone)
+{
+    addPair();
+    t.settings().CheckIdentifyOK = 0;
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(), "Done");
+    EXPECT_EQ(t.editor().FrameMacros.List1.front().Items.get(), (std::vector<CheckListBox::Item>{{"Fire", false}}));
 }
 
 TEST_F(OpenTest, OpenBothFromTheMacroFileFindsTheJoystickFile)
@@ -106,7 +124,7 @@ TEST_F(OpenTest, OpenBothFromTheMacroFileFindsTheJoystickFile)
     t.menus().mnuFileOpen.Click();
     EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
     EXPECT_EQ(macroText(), "Fire = f\r\n");
-    EXPECT_EQ(t.status(), "Done");
+    EXPECT_EQ(t.status(), "Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
 }
 
 TEST_F(OpenTest, OpenBothFiltersBothKinds)

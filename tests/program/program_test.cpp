@@ -335,7 +335,7 @@ TEST(Start, ADamagedSettingsFileIsNoObstacle)
 TEST(Exit, WithNothingToSaveAsksNothing)
 {
     TestProgram t;
-    t.files.addFile("c:\\a\\x.b50", "BTN");
+    t.files.addFile("c:\\a\\x.b50", "BTN S1 fire");
     t.files.addFile("c:\\a\\x.m50", "A = a");
     t.openBoth("c:\\a\\x.b50");
     EXPECT_TRUE(t.program().exit());

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "documents/editor.h"
+
+#include <string_view>
+
+namespace tarvex {
+
+/// What stands before the joystick text while it is searched, so that a name at its very start has blanks before it.
+constexpr std::string_view blanksBeforeText = "   ";
+
+/// Whether a name (bytes) stands in the pane as a whole word, in any case, with a blank or a line end right behind it.
+/// Moves the pane's selection.
+bool isMacroUsed(Pane& text, std::string_view name);
+
+/// Ticks every macro of the lists that the joystick file uses.
+void IdentifyMacrosUsed(Editor& editor);
+void ClearMacroTicks(Editor& editor);
+
+} // namespace tarvex

@@ -1,0 +1,40 @@
+#include "language/macro_commands.h"
+
+#include "language/find_macro.h"
+#include "language/identify_macros.h"
+#include "language/macro_analysis.h"
+#include "language/macro_file_lines.h"
+#include "language/macro_list_events.h"
+#include "language/update_macros.h"
+
+namespace tarvex {
+
+namespace {
+
+/// A command of the editor as a handler.
+template <typename Work> std::function<void()> on(Editor& editor, Work work)
+{
+    return [&editor, work] { work(editor); };
+}
+
+} // namespace
+
+void wireMacros(Editor& editor)
+{
+    Operations& operations = editor.operations;
+    operations.ClearAllForNewMacroFile = on(editor, ClearAllForNewMacroFile);
+    operations.GetEachLineFromMacroFile = on(editor, GetEachLineFromMacroFile);
+    operations.ExtractMacrosAndTitles = on(editor, ExtractMacrosAndTitles);
+    operations.ClearMacroTicks = on(editor, ClearMacroTicks);
+    operations.IdentifyMacrosUsed = on(editor, IdentifyMacrosUsed);
+
+    Menus& menus = editor.menus;
+    menus.mnuEditUpdateMacros.handler = on(editor, mnuEditUpdateMacros_Click);
+    for (MenuItem* item : {&menus.mnuViewIdentify, &menus.mnuRHMIdentify, &menus.mnuRHListIdentify})
+        item->handler = on(editor, IdentifyMacrosUsed);
+    menus.mnuFindInJF.handler = on(editor, FindMacroInJF);
+    menus.mnuRHListInsert.handler = on(editor, mnuRHListInsert_Click);
+    editor.FrameMacros.Combo1.Click = on(editor, Combo1_Click);
+}
+
+} // namespace tarvex
