@@ -14,6 +14,7 @@
 #include "platform/posix/system_calls.h"
 #include "program/program.h"
 #include "shell/appearance.h"
+#include "shell/left_copies.h"
 
 #include <QDir>
 
@@ -115,7 +116,11 @@ int runProgram(tarvex::Application& application, const std::string& file)
     dialogues.setMenus(&program.menus);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
-    const int status = program.start() && !desktop.quits() ? QApplication::exec() : EXIT_SUCCESS;
+    int status = EXIT_SUCCESS;
+    if (program.start() && !desktop.quits()) {
+        tellLeftCopies(dialogues, writer.leftCopies());
+        status = QApplication::exec();
+    }
     application.setErrorRecord(nullptr);
     return status;
 }

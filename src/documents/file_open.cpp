@@ -1,7 +1,7 @@
 #include "documents/file_open.h"
 
 #include "documents/associated_files.h"
-#include "documents/file_filters.h"
+#include "documents/file_dialogues.h"
 #include "documents/file_questions.h"
 #include "documents/tabs.h"
 #include "documents/text_files.h"
@@ -161,7 +161,7 @@ void mnuFileJoystickLoad_Click(Editor& editor)
         if (!mayLeave(editor, editor.joystick, questionBeforeOpen(editor.joystick))) return;
         const auto file = chooseFile(editor, {.title = "Opening joystick file",
                                               .filter = joystickOpenFilter(editor.shared.settings),
-                                              .directory = editor.shared.settings.ProgramFilesPath});
+                                              .directory = dialogueFolder(editor, editor.joystick)});
         if (!file || !loadJoystickFile(editor, *file)) return;
         endLoading(editor, editor.joystick);
         editor.status("Done");
@@ -176,7 +176,7 @@ void MnuFileMacroLoad_Click(Editor& editor)
         if (!mayLeave(editor, editor.macro, questionBeforeOpen(editor.macro))) return;
         const auto file = chooseFile(editor, {.title = "Opening file",
                                               .filter = macroOpenFilter(editor.shared.settings),
-                                              .directory = editor.shared.settings.ProgramFilesPath});
+                                              .directory = dialogueFolder(editor, editor.macro)});
         if (!file || !loadMacroFile(editor, *file)) return;
         endLoading(editor, editor.macro);
         editor.status("Finished opening up macro file and extracting macros from it");
@@ -194,7 +194,7 @@ void mnuFileOpen_Click(Editor& editor)
         const auto file =
             chooseFile(editor, {.title = "Select the joystick file or the macro file - I'll open both of them",
                                 .filter = bothOpenFilter(editor.shared.settings),
-                                .directory = editor.shared.settings.ProgramFilesPath});
+                                .directory = dialogueFolder(editor, editor.joystick)});
         if (!file) return;
         switch (kindOfFile(file->name)) {
         case FileKind::Macro:

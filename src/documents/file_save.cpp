@@ -1,6 +1,6 @@
 #include "documents/file_save.h"
 
-#include "documents/file_filters.h"
+#include "documents/file_dialogues.h"
 #include "documents/tabs.h"
 #include "documents/text_files.h"
 #include "documents/undo.h"
@@ -89,7 +89,7 @@ bool saveAs(Editor& editor, Side& side)
     const auto path = editor.platform.dialogues.saveFile(
         {.title = {},
          .filter = side.tab == 1 ? joystickSaveFilter(settings) : macroSaveFilter(settings),
-         .directory = settings.ProgramFilesPath,
+         .directory = dialogueFolder(editor, side),
          .suggestedName = suggestedName(editor, side),
          .defaultExtension = side.Extension});
     if (!path || !mayOverwrite(editor, *path)) return false;

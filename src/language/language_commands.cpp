@@ -1,9 +1,64 @@
 #include "language/language_commands.h"
 
-#include "language/macro_commands.h"
+#include "language/colour_highlighting.h"
+#include "language/find_macro.h"
+#include "language/identify_macros.h"
+#include "language/macro_analysis.h"
+#include "language/macro_file_lines.h"
+#include "language/macro_list_events.h"
+#include "language/remove_colour.h"
+#include "language/update_macros.h"
 
 namespace tarvex {
 
-void wireLanguage(Editor& editor) { wireMacros(editor); }
+namespace {
+
+/// A command of the editor as a handler.
+template <typename Work> std::function<void()> on(Editor& editor, Work work)
+{
+    return [&editor, work] { work(editor); };
+}
+
+void wireColours(Editor& editor)
+{
+    Menus& menus = editor.menus;
+    editor.operations.ApplyColourHighlighting = on(editor, ApplyColourHighlighting);
+    editor.operations.ApplyMacroColourHighlighting = on(editor, ApplyMacroColourHighlighting);
+    menus.mnuViewColourJoystick.handler = on(editor, ApplyColourHighlighting);
+    menus.mnuViewColourMacro.handler = on(editor, ApplyMacroColourHighlighting);
+    menus.mnuViewApplyColourBothFiles.handler = on(editor, mnuViewApplyColourBothFiles_Click);
+    menus.mnuRemoveColourJoystick.handler = on(editor, mnuRemoveColourJoystick_Click);
+    menus.mnuRemoveColourMacro.handler = on(editor, mnuRemoveColourMacro_Click);
+    menus.mnuRemoveColourSelectedText.handler = on(editor, mnuRemoveColourSelectedText_Click);
+    menus.mnuRHMColour.handler = on(editor, mnuRHMColour_Click);
+    menus.mnuRHMColoursRemove.handler = on(editor, mnuRHMColoursRemove_Click);
+    menus.mnuRHMColoursSelection.handler = on(editor, mnuRemoveColourSelectedText_Click);
+}
+
+void wireMacros(Editor& editor)
+{
+    Operations& operations = editor.operations;
+    operations.ClearAllForNewMacroFile = on(editor, ClearAllForNewMacroFile);
+    operations.GetEachLineFromMacroFile = on(editor, GetEachLineFromMacroFile);
+    operations.ExtractMacrosAndTitles = on(editor, ExtractMacrosAndTitles);
+    operations.ClearMacroTicks = on(editor, ClearMacroTicks);
+    operations.IdentifyMacrosUsed = on(editor, IdentifyMacrosUsed);
+
+    Menus& menus = editor.menus;
+    menus.mnuEditUpdateMacros.handler = on(editor, mnuEditUpdateMacros_Click);
+    for (MenuItem* item : {&menus.mnuViewIdentify, &menus.mnuRHMIdentify, &menus.mnuRHListIdentify})
+        item->handler = on(editor, IdentifyMacrosUsed);
+    menus.mnuFindInJF.handler = on(editor, FindMacroInJF);
+    menus.mnuRHListInsert.handler = on(editor, mnuRHListInsert_Click);
+    editor.FrameMacros.Combo1.Click = on(editor, Combo1_Click);
+}
+
+} // namespace
+
+void wireLanguage(Editor& editor)
+{
+    wireColours(editor);
+    wireMacros(editor);
+}
 
 } // namespace tarvex

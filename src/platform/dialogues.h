@@ -49,8 +49,8 @@ public:
     /// The DOS path of a file to write; it may exist, the dialogue doesn't ask about that. Nothing when cancelled.
     virtual std::optional<std::string> saveFile(const FileRequest& request) = 0;
 
-    /// Shows the window of that name modally and returns when it has closed. A name without a window does nothing.
-    virtual void showModal(const std::string& formName) = 0;
+    /// Shows the window of that name modally and returns when it has closed. False: there is no such window.
+    virtual bool showModal(const std::string& formName) = 0;
 
     /// Shows the menu below `root` at the mouse and returns when it has closed and its command has run.
     virtual void popUp(const MenuItem& root) = 0;

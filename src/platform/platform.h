@@ -22,6 +22,9 @@ public:
     virtual bool anotherInstanceRuns() = 0;
     /// Handles the window events that wait, then returns.
     virtual void doEvents() = 0;
+    /// Work is held up: waits until the user presses Esc. The windows stay drawn meanwhile; nothing else is taken from
+    /// the user, and no timer of the program ticks. Returns at once where nobody can press it.
+    virtual void waitForEscape() {}
     /// Size of the screen in twips.
     virtual float screenWidth() const = 0;
     virtual float screenHeight() const = 0;

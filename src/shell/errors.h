@@ -46,8 +46,14 @@ public:
         try {
             step();
         } catch (const std::exception& error) {
-            if (m_errors) m_errors->report(m_tag, error);
+            fail(error);
         }
+    }
+
+    /// A statement that is known to fail: dealt with like a step that throws, at the price of a call.
+    void fail(const std::exception& error) const
+    {
+        if (m_errors) m_errors->report(m_tag, error);
     }
 
 private:

@@ -54,6 +54,10 @@ struct Menus {
     MenuItem mnuViewColourJoystick{"mnuViewColourJoystick", "Colour &joystick file"};
     MenuItem mnuViewColourMacro{"mnuViewColourMacro", "Colour ma&cro file"};
     MenuItem mnuViewApplyColourBothFiles{"mnuViewApplyColourBothFiles", "Colour &both files"};
+    MenuItem mnuRemoveColour{"mnuRemoveColour", "Remo&ve colour"};
+    MenuItem mnuRemoveColourJoystick{"mnuRemoveColourJoystick", "From the &joystick file"};
+    MenuItem mnuRemoveColourMacro{"mnuRemoveColourMacro", "From the &macro file"};
+    MenuItem mnuRemoveColourSelectedText{"mnuRemoveColourSelectedText", "From the &selected text"};
     MenuItem mnuViewReformat{"mnuViewReformat", "&Reformat"};
     MenuItem mnuViewrefreshIndent{"mnuViewrefreshIndent", "Refresh &indent"};
     MenuItem mnuViewAlignSlashes{"mnuViewAlignSlashes", "&Align slashes"};
@@ -90,6 +94,9 @@ struct Menus {
     MenuItem mnuAppearanceDark{"mnuAppearanceDark", "&Dark"};
 
     MenuItem mnuRHMouse{"mnuRHMouse"}; ///< root of the panes' pop-up menu
+    MenuItem mnuRHMColour{"mnuRHMColour", "Colou&r this file"};
+    MenuItem mnuRHMColoursRemove{"mnuRHMColoursRemove", "Remo&ve colour"};
+    MenuItem mnuRHMColoursSelection{"mnuRHMColoursSelection", "Remove colour from selec&tion"};
     MenuItem mnuRHMIdentify{"mnuRHMIdentify", "Identif&y macros used"};
     MenuItem mnuRHList{"mnuRHList"}; ///< root of the macro lists' pop-up menu
     MenuItem mnuRHListInsert{"mnuRHListInsert", "&Insert into joystick file"};

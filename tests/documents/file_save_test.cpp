@@ -145,6 +145,15 @@ TEST_F(SaveTest, SaveAsOffersItsFilterAndTheDefaultExtension)
     EXPECT_EQ(macro.suggestedName, "untitled.m50");
 }
 
+TEST_F(SaveTest, SaveAsStartsInTheDocumentsFolderWhileNoProgramsFolderIsSet)
+{
+    openPair();
+    t.settings().ProgramFilesPath.clear();
+    t.dialogues.filesToSave = {std::nullopt};
+    t.menus().mnuFileSaveAs.Click();
+    EXPECT_EQ(t.dialogues.saveRequests[0].directory, "c:\\tm\\b50progs\\");
+}
+
 TEST_F(SaveTest, SaveAsSwapsTheOtherKindsExtensionInTheSuggestedName)
 {
     t.editor().pair.JoystickFileName = "odd.m50";

@@ -59,6 +59,16 @@ TEST(Start, OnANewMachineSavesTheSettingsDetectsAndLeadsToThePreferences)
         << "the detected folder has no closing backslash";
 }
 
+TEST(Start, WithoutAPreferencesWindowTheFirstUseIsOverAfterItsBox)
+{
+    for (const bool exists : {true, false}) {
+        TestMachine machine;
+        machine.dialogues.modalFormsExist = exists;
+        EXPECT_TRUE(Program(machine.platform).start());
+        EXPECT_EQ(machine.ini("FileLocations", "FirstTimeUsed"), exists ? "1" : "0");
+    }
+}
+
 TEST(Start, DetectsNothingOnceAProgramsFolderIsSet)
 {
     TestProgram t(false);

@@ -19,6 +19,7 @@ public:
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
+    bool modalFormsExist = true;
     std::function<void()> whileModal;   ///< runs while a modal window is up
 
     std::vector<MessageBox> boxes;
@@ -43,10 +44,11 @@ public:
         saveRequests.push_back(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
     }
-    void showModal(const std::string& formName) override
+    bool showModal(const std::string& formName) override
     {
         modalForms.push_back(formName);
         if (whileModal) whileModal();
+        return modalFormsExist;
     }
     void popUp(const MenuItem&) override {}
 

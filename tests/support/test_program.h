@@ -5,6 +5,7 @@
 #include "support/memory_files.h"
 #include "support/scripted_dialogues.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,9 +17,14 @@ struct FakeDesktop final : Desktop {
     int eventsHandled = 0;
     int quits = 0;
     bool hourglass = false;
+    std::function<void()> whileWaitingForEscape; ///< what the user sees of held work; then Esc is pressed
 
     bool anotherInstanceRuns() override { return otherInstance; }
     void doEvents() override { ++eventsHandled; }
+    void waitForEscape() override
+    {
+        if (whileWaitingForEscape) whileWaitingForEscape();
+    }
     float screenWidth() const override { return 1280.0F * twipsPerPixel; }
     float screenHeight() const override { return 1024.0F * twipsPerPixel; }
     void showHourglass(bool on) override { hourglass = on; }

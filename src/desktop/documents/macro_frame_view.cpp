@@ -20,6 +20,7 @@ constexpr int buttonColumns = 4;
 QListView* makeListView(QWidget* parent)
 {
     auto* view = new QListView(parent);
+    view->setObjectName(QStringLiteral("List1"));
     view->setUniformItemSizes(true);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setAccessibleName(QStringLiteral("Macros"));

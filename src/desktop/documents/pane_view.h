@@ -70,6 +70,7 @@ private:
     void showColours();
     void formatShown();
     bool zoomByKey(const QKeyEvent& event);
+    void tellKeyPress(const QKeyEvent& event);
 
     struct Selection {
         std::int64_t start = 0;

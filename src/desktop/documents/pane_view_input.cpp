@@ -1,5 +1,6 @@
 #include "desktop/documents/pane_view.h"
 
+#include "desktop/documents/pane_text.h"
 #include "desktop/platform/mime.h"
 #include "documents/clipboard_commands.h"
 #include "documents/drag_move.h"
@@ -76,7 +77,22 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         emit overwriteModeChanged(overwriteMode());
         return;
     }
+    tellKeyPress(*event);
     QPlainTextEdit::keyPressEvent(event);
+}
+
+/// A key that is about to write a character, by the character's code.
+void PaneView::tellKeyPress(const QKeyEvent& event)
+{
+    if (m_pane.Locked || !m_pane.KeyPress) return;
+    const QString text = event.text();
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        m_pane.KeyPress('\r');
+    else if (event.key() == Qt::Key_Backspace)
+        m_pane.KeyPress('\b');
+    else if (!command && !text.isEmpty() && text[0].isPrint())
+        m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
 }
 
 bool PaneView::zoomByKey(const QKeyEvent& event)

@@ -143,9 +143,12 @@ std::optional<std::string> QtDialogues::askForFile(const FileRequest& request, b
 std::optional<std::string> QtDialogues::openFile(const FileRequest& request) { return askForFile(request, false); }
 std::optional<std::string> QtDialogues::saveFile(const FileRequest& request) { return askForFile(request, true); }
 
-void QtDialogues::showModal(const std::string& formName)
+bool QtDialogues::showModal(const std::string& formName)
 {
-    if (const auto form = m_forms.find(formName); form != m_forms.end()) form->second();
+    const auto form = m_forms.find(formName);
+    if (form == m_forms.end()) return false;
+    form->second();
+    return true;
 }
 
 void QtDialogues::popUp(const MenuItem& root)

@@ -54,7 +54,7 @@ MumWindow::MumWindow(Program& program)
     addShortcuts();
     bindTitle();
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
-    m_bindings.follow(program.mum.form.Visible, [this] { showForm(m_program.mum.form.Visible); });
+    m_bindings.bind(program.mum.form.Visible, [this](bool on) { showForm(on); });
     m_bindings.follow(program.mum.form.State, [this] {
         if (isVisible()) showForm(true);
     });

@@ -38,7 +38,10 @@ struct Shown {
     }
     static void events() { QApplication::processEvents(); }
     QString text() const { return view.toPlainText(); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(&view, key, modifiers); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&view, key, modifiers);
+    }
     void type(const QString& text) { QTest::keyClicks(&view, text); }
     void caretTo(int position)
     {
@@ -383,6 +386,23 @@ TEST(PaneView, InsertKeyTypesOver)
     EXPECT_EQ(shown.changes, 2);
 }
 
+TEST(PaneView, CharacterKeysAreToldBeforeTheyChangeTheText)
+{
+    Shown t;
+    std::vector<std::pair<int, std::string>> told;
+    t.pane.KeyPress = [&](int key) { told.emplace_back(key, t.pane.Text()); };
+    QTest::keyClicks(&t.view, "a");
+    QTest::keyClick(&t.view, Qt::Key_Return);
+    QTest::keyClick(&t.view, Qt::Key_Backspace);
+    QTest::keyClick(&t.view, Qt::Key_Left);
+    QTest::keyClick(&t.view, Qt::Key_C, Qt::ControlModifier);
+    const std::vector<std::pair<int, std::string>> expected{{'a', ""}, {'\r', "a"}, {'\b', "a\r\n"}};
+    EXPECT_EQ(told, expected);
+    t.pane.Locked = true;
+    QTest::keyClicks(&t.view, "b");
+    EXPECT_EQ(told.size(), 3U);
+}
+
 TEST(PaneView, KeysWithCtrlAreOfferedFirstAndLeftToTheTextWhenRefused)
 {
     Shown shown("abc");
@@ -453,15 +473,34 @@ public:
     void step()
     {
         switch (upTo(9)) {
-        case 0: programInserts(); break;
-        case 1: programRemoves(); break;
-        case 2: programColours(); break;
-        case 3: m_shown.type(QString(QChar('a' + upTo(3)))); break;
-        case 4: m_shown.press(Qt::Key_Return); break;
-        case 5: m_shown.press(upTo(2) != 0 ? Qt::Key_Backspace : Qt::Key_Delete); break;
-        case 6: m_shown.view.settle(); m_shown.select(upTo(documentLength() + 1), upTo(documentLength() + 1)); break;
-        case 7: m_shown.view.settle(); m_shown.caretTo(upTo(documentLength() + 1)); break;
-        default: Shown::events();
+        case 0:
+            programInserts();
+            break;
+        case 1:
+            programRemoves();
+            break;
+        case 2:
+            programColours();
+            break;
+        case 3:
+            m_shown.type(QString(QChar('a' + upTo(3))));
+            break;
+        case 4:
+            m_shown.press(Qt::Key_Return);
+            break;
+        case 5:
+            m_shown.press(upTo(2) != 0 ? Qt::Key_Backspace : Qt::Key_Delete);
+            break;
+        case 6:
+            m_shown.view.settle();
+            m_shown.select(upTo(documentLength() + 1), upTo(documentLength() + 1));
+            break;
+        case 7:
+            m_shown.view.settle();
+            m_shown.caretTo(upTo(documentLength() + 1));
+            break;
+        default:
+            Shown::events();
         }
     }
 

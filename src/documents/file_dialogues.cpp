@@ -1,4 +1,6 @@
-#include "documents/file_filters.h"
+#include "documents/file_dialogues.h"
+
+#include "platform/dos_path.h"
 
 namespace tarvex {
 
@@ -46,6 +48,12 @@ std::string macroSaveFilter(const Settings& settings)
     return own("Macro file", settings.MacroExtension) +
            "F22 macro file(*.m22) |*.m22|F16 macro file(*.m50) |*.m50|FCS macro file(*.mdf) |*.mdf|"
            "All files (*.*)|*.*";
+}
+
+std::string dialogueFolder(const Editor& editor, const Side& side)
+{
+    const std::string& programs = editor.shared.settings.ProgramFilesPath;
+    return programs.empty() ? directoryOf(side.FilePath) : programs;
 }
 
 } // namespace tarvex

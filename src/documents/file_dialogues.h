@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/settings.h"
+#include "documents/editor.h"
 
 #include <string>
 
@@ -12,5 +12,8 @@ std::string macroOpenFilter(const Settings& settings);
 std::string bothOpenFilter(const Settings& settings);
 std::string joystickSaveFilter(const Settings& settings);
 std::string macroSaveFilter(const Settings& settings);
+
+/// Where a file dialogue starts: in the programs folder, or as long as none is set in that of the document.
+std::string dialogueFolder(const Editor& editor, const Side& side);
 
 } // namespace tarvex

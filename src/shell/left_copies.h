@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/dialogues.h"
+
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+/// Tells the user of copies that a save, cut off in the midst, has left: the files they belong to may be half written.
+/// No copies, no box.
+void tellLeftCopies(Dialogues& dialogues, const std::vector<std::string>& paths);
+
+} // namespace tarvex

@@ -1,0 +1,174 @@
+#include "desktop/platform/qt_dialogues.h"
+
+#include "desktop/platform/mime.h"
+#include "desktop/platform/qt_desktop.h"
+#include "platform/posix/drive_map.h"
+#include "support/temporary_directory.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace tarvex {
+namespace {
+
+MessageBox question(BoxButtons buttons) { return {"Ooops!", "a <b> & c\n\nd", BoxIcon::Question, buttons, false}; }
+
+TEST(FillBox, TitleTextIconAndButtonsAreThoseAskedFor)
+{
+    QMessageBox view;
+    fillBox(view, question(BoxButtons::YesNoCancel));
+    EXPECT_EQ(view.windowTitle(), "Ooops!");
+    EXPECT_EQ(view.text(), "a <b> & c\n\nd");
+    EXPECT_EQ(view.textFormat(), Qt::PlainText);
+    EXPECT_EQ(view.icon(), QMessageBox::Question);
+    EXPECT_EQ(view.standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    EXPECT_EQ(view.defaultButton(), view.button(QMessageBox::Yes));
+}
+
+TEST(FillBox, SecondButtonIsTheDefaultWhenAsked)
+{
+    QMessageBox view;
+    MessageBox box = question(BoxButtons::YesNo);
+    box.secondButtonIsDefault = true;
+    fillBox(view, box);
+    EXPECT_EQ(view.defaultButton(), view.button(QMessageBox::No));
+}
+
+/// What the box answers when the user presses a key in it.
+Answer answerTo(BoxButtons buttons, Qt::Key key)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    QTimer::singleShot(0, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
+    return dialogues.show(question(buttons));
+}
+
+TEST(QtDialogues, EscapeIsCancelOrNoOrOkByTheButtonsThatThereAre)
+{
+    EXPECT_EQ(answerTo(BoxButtons::YesNoCancel, Qt::Key_Escape), Answer::Cancel);
+    EXPECT_EQ(answerTo(BoxButtons::YesNo, Qt::Key_Escape), Answer::No);
+    EXPECT_EQ(answerTo(BoxButtons::Ok, Qt::Key_Escape), Answer::Ok);
+}
+
+TEST(QtDialogues, ReturnIsTheDefaultButton)
+{
+    EXPECT_EQ(answerTo(BoxButtons::YesNoCancel, Qt::Key_Return), Answer::Yes);
+    EXPECT_EQ(answerTo(BoxButtons::Ok, Qt::Key_Return), Answer::Ok);
+}
+
+TEST(NameFilters, PairsOfDescriptionAndMasksFitNamesInAnyCase)
+{
+    const QStringList filters = nameFilters("Joystick file (*.b50)|*.b50|All types|*.f22;*.b50|All files (*.*)|*.*");
+    ASSERT_EQ(filters.size(), 3);
+    EXPECT_EQ(filters[0], "Joystick file (*.b50) (*.[bB]50)");
+    EXPECT_EQ(filters[1], "All types (*.[fF]22 *.[bB]50)");
+    EXPECT_EQ(filters[2], "All files (*.*) (*)");
+    const QRegularExpression mask(QRegularExpression::wildcardToRegularExpression("*.[bB]50"));
+    EXPECT_TRUE(mask.match("MIG.B50").hasMatch());
+    EXPECT_TRUE(mask.match("mig.b50").hasMatch());
+    EXPECT_FALSE(mask.match("mig.m50").hasMatch());
+}
+
+TEST(NameFilters, HalfAPairIsLeftOut) { EXPECT_TRUE(nameFilters("Only a description").isEmpty()); }
+
+TEST(QtDialogues, OpenedFileComesBackAsADosPath)
+{
+    const TemporaryDirectory directory;
+    std::ofstream(directory.path() + "/MIG.B50") << "x";
+    const DriveMap drives({{}, "/tmp", directory.path(), directory.path()});
+    QtDialogues dialogues(drives);
+    QString title;
+    QTimer::singleShot(0, [&] {
+        auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        title = dialogue->windowTitle();
+        dialogue->selectFile("MIG.B50");
+        QMetaObject::invokeMethod(dialogue, "accept");
+    });
+    FileRequest request;
+    request.title = "Opening joystick file";
+    request.filter = "Joystick file|*.b50";
+    request.directory = drives.toDos(directory.path());
+    const auto path = dialogues.openFile(request);
+    EXPECT_EQ(title, "Opening joystick file");
+    ASSERT_TRUE(path);
+    EXPECT_EQ(drives.toNative(*path), directory.path() + "/MIG.B50");
+}
+
+TEST(QtDialogues, CancelledFileDialogueGivesNothing)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    FileRequest request;
+    request.directory = "q:\\nowhere";
+    EXPECT_FALSE(dialogues.saveFile(request));
+}
+
+TEST(QtDialogues, UnknownFormAndMenuWithoutEntriesDoNothing)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    Menus menus;
+    dialogues.setMenus(&menus);
+    dialogues.showModal("NoSuchForm");
+    dialogues.popUp(menus.mnuRHList);
+    int shown = 0;
+    dialogues.addForm("Preferences", [&] { ++shown; });
+    dialogues.showModal("Preferences");
+    EXPECT_EQ(shown, 1);
+}
+
+TEST(QtDesktop, SecondCopyInTheSameDirectoryIsNoticedUntilTheFirstEnds)
+{
+    const TemporaryDirectory directory;
+    QtDesktop second(directory.path());
+    {
+        QtDesktop first(directory.path());
+        EXPECT_FALSE(first.anotherInstanceRuns());
+        QtDesktop meanwhile(directory.path());
+        EXPECT_TRUE(meanwhile.anotherInstanceRuns());
+    }
+    EXPECT_FALSE(second.anotherInstanceRuns());
+}
+
+TEST(QtDesktop, LockOfACopyThatDiedIsNoHindrance)
+{
+    const TemporaryDirectory directory;
+    std::ofstream(directory.path() + "/Tarvex.lock") << "999999999\ntarvex\n"
+                                                     << QSysInfo::machineHostName().toStdString() << "\n";
+    QtDesktop desktop(directory.path());
+    EXPECT_FALSE(desktop.anotherInstanceRuns());
+}
+
+TEST(QtDesktop, DirectoryThatTakesNoLockIsNoSecondCopy)
+{
+    QtDesktop desktop("/nonexistent/directory");
+    EXPECT_FALSE(desktop.anotherInstanceRuns());
+}
+
+TEST(Mime, TextGoesOutWithPlainLineEndsAndRtfByAllItsNames)
+{
+    const auto data = toMime({"a\r\nb", "{\\rtf1 x}"});
+    EXPECT_EQ(data->text(), "a\nb");
+    EXPECT_TRUE(data->hasFormat("text/rtf"));
+    EXPECT_TRUE(data->hasFormat("application/rtf"));
+    EXPECT_TRUE(data->hasFormat("text/richtext"));
+    const ClipboardContent back = fromMime(*data);
+    EXPECT_EQ(back.text, "a\nb");
+    EXPECT_EQ(back.rtf, "{\\rtf1 x}");
+    EXPECT_TRUE(holdsContent(*data));
+    EXPECT_FALSE(holdsContent(QMimeData()));
+}
+
+} // namespace
+} // namespace tarvex

@@ -1,0 +1,297 @@
+#include "desktop/shell/mum_window.h"
+
+#include "desktop/shell/menu_view.h"
+#include "desktop/shell/status_bar_view.h"
+#include "documents/tabs.h"
+#include "shell/appearance.h"
+#include "support/test_program.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QTest>
+#include <QToolBar>
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+/// The whole program with its windows, on a machine in memory.
+struct Shown : TestProgram {
+    Appearance appearance{files, programDirectory, menus()};
+    MumWindow window{program()};
+
+    Shown()
+    {
+        window.showNormal();
+        window.resize(1000, 700);
+        events();
+    }
+    static void events() { QApplication::processEvents(); }
+    PaneView& joystick() { return window.editor().pane(editor().joystick); }
+    PaneView& macro() { return window.editor().pane(editor().macro); }
+    QAction* action(const QString& name) { return window.findChild<QAction*>(name); }
+    bool showsText(const QString& text)
+    {
+        const auto labels = window.statusBar()->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) { return label->text() == text; });
+    }
+};
+
+TEST(MumWindow, MenuItemRunsItsCommand)
+{
+    Shown shown;
+    ASSERT_NE(shown.action("mnuViewTileVertically"), nullptr);
+    shown.action("mnuViewTileVertically")->trigger();
+    EXPECT_TRUE(shown.menus().mnuViewTileVertically.Checked);
+    EXPECT_TRUE(shown.action("mnuViewTileVertically")->isChecked());
+    EXPECT_TRUE(shown.joystick().isVisible());
+    EXPECT_TRUE(shown.macro().isVisible());
+    shown.action("mnuViewTileVertically")->trigger();
+    EXPECT_FALSE(shown.action("mnuViewTileVertically")->isChecked());
+    EXPECT_FALSE(shown.macro().isVisible());
+}
+
+TEST(MumWindow, CommandsWithoutAHandlerAreLeftOutOfTheMenus)
+{
+    TestProgram test;
+    MenuItem built("built", "&Built");
+    MenuItem missing("missing", "Missing");
+    MenuItem top("top", "&Top");
+    MenuItem emptyTop("emptyTop", "Empty");
+    int clicks = 0;
+    built.handler = [&] { ++clicks; };
+    const MenuEntry divider{};
+    QMenuBar bar;
+    Bindings bindings;
+    fillMenuBar(bar,
+                {{&top, {}, {{&missing, {}, {}}, divider, {&built, "F8", {}}, divider, {&missing, {}, {}}}},
+                 {&emptyTop, {}, {{&missing, {}, {}}}}},
+                bindings);
+    ASSERT_EQ(bar.actions().size(), 1);
+    const auto actions = bar.actions().constFirst()->menu()->actions();
+    ASSERT_EQ(actions.size(), 1) << "no dividers at the ends";
+    EXPECT_EQ(actions[0]->shortcut(), QKeySequence("F8"));
+    built.Caption = "&Undo (3)";
+    EXPECT_EQ(actions[0]->text(), "&Undo (3)");
+    built.Enabled = false;
+    EXPECT_FALSE(actions[0]->isEnabled());
+    built.Enabled = true;
+    actions[0]->trigger();
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST(MumWindow, TypedTextMakesTheDocumentModifiedAndTheTitleTellsIt)
+{
+    Shown shown;
+    shown.joystick().setFocus();
+    QTest::keyClicks(&shown.joystick(), "BTN S1 a");
+    EXPECT_EQ(shown.editor().JoystickText.Text(), "BTN S1 a");
+    EXPECT_EQ(shown.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_TRUE(shown.window.isWindowModified());
+    EXPECT_TRUE(shown.window.windowTitle().startsWith("Tarvex - untitled."));
+}
+
+TEST(MumWindow, ClickOnATabSelectsItsDocument)
+{
+    Shown shown;
+    QTabBar& tabs = shown.window.editor().tabs();
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(1).center());
+    EXPECT_EQ(shown.editor().TabStrip1.SelectedItem, 2);
+    EXPECT_TRUE(shown.macro().isVisible());
+    EXPECT_FALSE(shown.joystick().isVisible());
+    EXPECT_FALSE(tabs.tabIcon(1).isNull());
+    EXPECT_TRUE(tabs.tabIcon(0).isNull());
+    EXPECT_TRUE(shown.window.windowTitle().contains(toQt(shown.editor().pair.MacroFileName)));
+}
+
+TEST(MumWindow, CtrlTabReachesTheOtherPaneAndTypesNothing)
+{
+    Shown shown;
+    shown.window.activateWindow();
+    shown.joystick().setFocus();
+    QTest::keyClick(&shown.joystick(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(shown.editor().TabStrip1.SelectedItem, 2);
+    EXPECT_EQ(shown.window.focusWidget(), &shown.macro());
+    QTest::keyClick(&shown.macro(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(shown.editor().TabStrip1.SelectedItem, 1);
+    EXPECT_TRUE(shown.editor().JoystickText.Text().empty());
+    EXPECT_TRUE(shown.editor().MacroText.Text().empty());
+}
+
+TEST(MumWindow, KeyOfThePanesRunsItsCommandOnce)
+{
+    Shown shown;
+    int saves = 0;
+    shown.menus().mnuFileSave.handler = [&] { ++saves; };
+    shown.joystick().setFocus();
+    QTest::keyClick(&shown.joystick(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(saves, 1);
+    shown.window.editor().tabs().setFocus();
+    QTest::keyClick(&shown.window.editor().tabs(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(saves, 2) << "from elsewhere in the window too";
+}
+
+TEST(MumWindow, StatusPanelsShowTheirTexts)
+{
+    Shown shown;
+    shown.editor().status("Save & compile\nnow");
+    EXPECT_TRUE(shown.showsText("Save & compile now"));
+    shown.program().mum.StatusBar.Panels(panel::macroFile).Text = "mig.m50";
+    EXPECT_TRUE(shown.showsText("mig.m50"));
+    EXPECT_TRUE(shown.showsText("CAPS"));
+    auto* progress = shown.window.findChild<QProgressBar*>();
+    EXPECT_FALSE(progress->isVisible());
+    shown.program().mum.ProgressBar1.Visible = true;
+    shown.program().mum.ProgressBar1.Value = 40;
+    EXPECT_TRUE(progress->isVisible());
+    EXPECT_EQ(progress->value(), 40);
+}
+
+TEST(MumWindow, InsertKeyTellsItsPanelAndBothPanes)
+{
+    Shown shown;
+    QTest::keyClick(&shown.joystick(), Qt::Key_Insert);
+    EXPECT_TRUE(shown.showsText("OVR"));
+    EXPECT_TRUE(shown.macro().overwriteMode());
+    QTest::keyClick(&shown.joystick(), Qt::Key_Insert);
+    EXPECT_TRUE(shown.showsText("INS"));
+}
+
+TEST(MumWindow, ToolbarShowsTheSlotsWhoseCommandIsThere)
+{
+    Shown shown;
+    EXPECT_NE(shown.action("Toolbar1_3"), nullptr);
+    EXPECT_EQ(shown.action("Toolbar1_36"), nullptr) << "the Launcher isn't there";
+    QTabBar& tabs = shown.window.editor().tabs();
+    int joystick = 0;
+    int macro = 0;
+    shown.menus().mnuFileNewJoystick.handler = [&] { ++joystick; };
+    shown.menus().mnuFileNewMacro.handler = [&] { ++macro; };
+    shown.action("Toolbar1_1")->trigger();
+    tabs.setCurrentIndex(1);
+    shown.action("Toolbar1_1")->trigger();
+    EXPECT_EQ(joystick, 1);
+    EXPECT_EQ(macro, 1);
+    shown.menus().mnuEditPaste.Enabled = false;
+    EXPECT_FALSE(shown.action("Toolbar1_9")->isEnabled());
+    shown.program().mum.Toolbar1.Buttons(3).Visible = false;
+    EXPECT_FALSE(shown.action("Toolbar1_3")->isVisible());
+}
+
+TEST(MumWindow, PanesFillWhatTheTabsLeave)
+{
+    Shown shown;
+    EditorView& view = shown.window.editor();
+    EXPECT_EQ(shown.editor().ScaleWidth, view.width());
+    EXPECT_EQ(shown.joystick().geometry().top(), view.tabs().geometry().bottom() + 1);
+    EXPECT_EQ(shown.joystick().geometry().bottom(), view.height() - 1);
+    shown.window.resize(500, 400);
+    Shown::events();
+    EXPECT_EQ(shown.editor().ScaleWidth, view.width());
+    EXPECT_LE(shown.joystick().geometry().right(), view.width());
+}
+
+TEST(MumWindow, DraggedEdgeWidensTheMacroFrame)
+{
+    Shown shown;
+    shown.action("mnuViewMacros")->trigger();
+    auto* frame = shown.window.findChild<QWidget*>("FrameMacros");
+    ASSERT_TRUE(frame->isVisible());
+    const int width = frame->width();
+    const QPoint edge(width - 2, 200);
+    const auto mouse = [&](QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        QMouseEvent event(type, at, frame->mapToGlobal(at), button, buttons, Qt::NoModifier);
+        QApplication::sendEvent(frame, &event);
+    };
+    mouse(QEvent::MouseMove, edge, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(frame->cursor().shape(), Qt::SizeHorCursor);
+    mouse(QEvent::MouseButtonPress, edge, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {width + 60, 200}, Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(frame->width(), width + 61);
+    EXPECT_EQ(shown.settings().MacroFrameWidth, width + 61);
+    mouse(QEvent::MouseMove, {10, 200}, Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(frame->width(), 185);
+    mouse(QEvent::MouseButtonRelease, {10, 200}, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(frame->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST(MumWindow, MacroListTicksBothWays)
+{
+    Shown shown;
+    FrameMacros& frame = shown.editor().FrameMacros;
+    frame.List1[0].Items = {{"Flaps", false}, {"Gear", true}};
+    auto* list = shown.window.findChild<QWidget*>("FrameMacros")->findChild<QListView*>("List1");
+    QAbstractItemModel* model = list->model();
+    EXPECT_EQ(model->rowCount(), 2);
+    EXPECT_EQ(model->index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
+    model->setData(model->index(0, 0), Qt::Checked, Qt::CheckStateRole);
+    EXPECT_TRUE(frame.List1[0].Items.get()[0].Selected);
+    frame.List1[0].ListIndex = 1;
+    EXPECT_EQ(list->currentIndex().row(), 1);
+    list->setCurrentIndex(model->index(0, 0));
+    EXPECT_EQ(frame.List1[0].ListIndex, 0);
+    frame.List1.emplace_back().Items = {{"Only", false}};
+    frame.List1Changed();
+    EXPECT_EQ(shown.window.findChild<QWidget*>("FrameMacros")->findChildren<QListView*>("List1").size(), 2);
+}
+
+TEST(MumWindow, ProtectedMacroFileShowsThePadlockAndTakesNoKey)
+{
+    Shown shown;
+    shown.action("mnuPreferencesProtectMacroFile")->trigger();
+    shown.editor().TabStrip1.Select(2);
+    QTest::keyClicks(&shown.macro(), "x");
+    EXPECT_TRUE(shown.editor().MacroText.Text().empty());
+    EXPECT_TRUE(shown.macro().isReadOnly());
+    EXPECT_FALSE(shown.window.editor().tabs().tabIcon(1).isNull());
+}
+
+TEST(MumWindow, CancelledQuestionKeepsTheWindowOpen)
+{
+    Shown shown;
+    QTest::keyClicks(&shown.joystick(), "x");
+    shown.dialogues.answers = {Answer::Cancel};
+    EXPECT_FALSE(shown.window.close());
+    EXPECT_TRUE(shown.window.isVisible());
+    shown.dialogues.answers = {Answer::No};
+    EXPECT_TRUE(shown.window.close());
+    EXPECT_FALSE(shown.window.isVisible());
+    EXPECT_EQ(shown.desktop.quits, 1);
+}
+
+TEST(MumWindow, PlaceOfTheWindowReachesTheFormInTwips)
+{
+    Shown shown;
+    shown.window.move(40, 30);
+    shown.window.resize(640, 480);
+    Shown::events();
+    const Form& form = shown.program().mum.form;
+    EXPECT_EQ(form.State, WindowState::Normal);
+    EXPECT_EQ(form.Left.get(), 40 * twipsPerPixel);
+    EXPECT_EQ(form.Top.get(), 30 * twipsPerPixel);
+    EXPECT_EQ(form.Width.get(), 640 * twipsPerPixel);
+    EXPECT_EQ(form.Height.get(), 480 * twipsPerPixel);
+    shown.window.showMaximized();
+    Shown::events();
+    EXPECT_EQ(form.State, WindowState::Maximised);
+    EXPECT_EQ(form.Width.get(), 640 * twipsPerPixel) << "the size to come back to";
+}
+
+TEST(MumWindow, AppearanceCommandTicksAndIsKept)
+{
+    Shown shown;
+    EXPECT_TRUE(shown.action("mnuAppearanceSystem")->isChecked());
+    shown.action("mnuAppearanceDark")->trigger();
+    EXPECT_TRUE(shown.action("mnuAppearanceDark")->isChecked());
+    EXPECT_FALSE(shown.action("mnuAppearanceSystem")->isChecked());
+    EXPECT_NE(shown.fileText("c:\\tarvex\\Platform.ini").find("Theme=dark"), std::string::npos);
+}
+
+} // namespace
+} // namespace tarvex

@@ -1,0 +1,53 @@
+#include "shell/appearance.h"
+
+#include "support/memory_files.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+constexpr const char* path = "c:\\tarvex\\Platform.ini";
+
+TEST(Appearance, WithoutAFileItIsAsTheDesktop)
+{
+    MemoryFiles files;
+    Menus menus;
+    const Appearance appearance(files, "c:\\tarvex", menus);
+    EXPECT_EQ(appearance.theme, Appearance::Theme::System);
+    EXPECT_TRUE(menus.mnuAppearanceSystem.Checked);
+    EXPECT_FALSE(menus.mnuAppearanceDark.Checked);
+}
+
+TEST(Appearance, ChosenCommandIsTickedKeptAndReadAgain)
+{
+    MemoryFiles files;
+    files.createDirectory("c:\\tarvex");
+    Menus menus;
+    Appearance appearance(files, "c:\\tarvex", menus);
+    int told = 0;
+    const Connection connection = appearance.theme.changed.connect([&] { ++told; });
+    menus.mnuAppearanceDark.Click();
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(menus.mnuAppearanceDark.Checked);
+    EXPECT_FALSE(menus.mnuAppearanceSystem.Checked);
+    Menus nextMenus;
+    const Appearance next(files, "c:\\tarvex", nextMenus);
+    EXPECT_EQ(next.theme, Appearance::Theme::Dark);
+    EXPECT_TRUE(nextMenus.mnuAppearanceDark.Checked);
+}
+
+TEST(Appearance, UnknownValueIsAsTheDesktopAndOtherKeysStay)
+{
+    MemoryFiles files;
+    files.createDirectory("c:\\tarvex");
+    files.write(path, "[Appearance]\r\nTheme=purple\r\nOther=1\r\n");
+    Menus menus;
+    Appearance appearance(files, "c:\\tarvex", menus);
+    EXPECT_EQ(appearance.theme, Appearance::Theme::System);
+    appearance.choose(Appearance::Theme::Light);
+    EXPECT_EQ(files.read(path), "[Appearance]\r\nTheme=light\r\nOther=1\r\n");
+}
+
+} // namespace
+} // namespace tarvex
