@@ -11,7 +11,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
-#include <QStyleOption>
 
 namespace tarvex {
 
@@ -122,15 +121,21 @@ bool MacroFrameView::eventFilter(QObject* watched, QEvent* event)
 /// Over the whole height, so that it is hit easily.
 QRect MacroFrameView::grip() const { return {width() - edge, 0, edge, height()}; }
 
+/// A row of dots in the middle; the whole edge while the pointer is on it.
 void MacroFrameView::paintEvent(QPaintEvent*)
 {
+    constexpr int dots = 7;
+    constexpr int size = 2;
+    const bool hot = m_editor.FrameMacros.MousePointer == MousePointer::SizeWestEast;
+    QColor ground = palette().color(QPalette::Highlight);
+    ground.setAlphaF(0.25F);
+    QColor dot = palette().color(hot ? QPalette::Highlight : QPalette::WindowText);
+    if (!hot) dot.setAlphaF(0.5F);
+    const QRect area = grip();
     QPainter painter(this);
-    QStyleOption option;
-    option.initFrom(this);
-    option.rect = grip();
-    option.state.setFlag(QStyle::State_Horizontal);
-    option.state.setFlag(QStyle::State_MouseOver, m_editor.FrameMacros.MousePointer == MousePointer::SizeWestEast);
-    style()->drawControl(QStyle::CE_Splitter, &option, &painter, this);
+    if (hot) painter.fillRect(area, ground);
+    const QPoint first = area.center() - QPoint(size / 2 - 1, (dots - 1) * size);
+    for (int i = 0; i < dots; ++i) painter.fillRect(QRect(first + QPoint(0, 2 * i * size), QSize(size, size)), dot);
 }
 
 /// While the edge is dragged the mouse counts as over it, however fast it moves.

@@ -69,7 +69,20 @@ void EscapeWait::wait()
     qApp->installEventFilter(this);
     m_loop.exec();
     qApp->removeEventFilter(this);
+    if (m_lostFocus != nullptr) QCoreApplication::postEvent(m_lostFocus, new QFocusEvent(QEvent::FocusOut));
+    if (m_gotFocus != nullptr) QCoreApplication::postEvent(m_gotFocus, new QFocusEvent(QEvent::FocusIn));
     if (m_closing != nullptr) QMetaObject::invokeMethod(m_closing, &QWidget::close, Qt::QueuedConnection);
+}
+
+/// Who has the keyboard now is told when the work is done, and only if it isn't who had it before.
+void EscapeWait::keepFocus(QWidget* widget, bool in)
+{
+    QPointer<QWidget>& opposite = in ? m_lostFocus : m_gotFocus;
+    if (opposite == widget) {
+        opposite = nullptr;
+    } else {
+        (in ? m_gotFocus : m_lostFocus) = widget;
+    }
 }
 
 bool EscapeWait::eventFilter(QObject* watched, QEvent* event)
@@ -79,6 +92,11 @@ bool EscapeWait::eventFilter(QObject* watched, QEvent* event)
         event->ignore();
         m_closing = widgetOf(watched);
         m_loop.quit();
+        return true;
+    }
+    const bool in = event->type() == QEvent::FocusIn;
+    if (watched->isWidgetType() && (in || event->type() == QEvent::FocusOut)) {
+        keepFocus(static_cast<QWidget*>(watched), in);
         return true;
     }
     if (!isInput(event->type())) return false;

@@ -19,8 +19,12 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void keepFocus(QWidget* widget, bool in);
+
     QEventLoop m_loop;
     QPointer<QWidget> m_closing;
+    QPointer<QWidget> m_lostFocus;
+    QPointer<QWidget> m_gotFocus;
 };
 
 } // namespace tarvex

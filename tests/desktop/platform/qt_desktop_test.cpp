@@ -22,6 +22,7 @@ struct HeldWindow : QWidget {
     int shortcuts = 0;
     int closes = 0;
     int paints = 0;
+    std::string focusEvents;
     QShortcut shortcut{QKeySequence("F7"), this};
     std::vector<std::function<void()>> acts; ///< of the user, one after the other while the desktop waits
 
@@ -32,6 +33,7 @@ struct HeldWindow : QWidget {
         activateWindow();
         setFocus();
         QApplication::processEvents();
+        focusEvents.clear();
     }
     void press(Qt::Key key)
     {
@@ -53,6 +55,8 @@ struct HeldWindow : QWidget {
 protected:
     void keyPressEvent(QKeyEvent*) override { ++keys; }
     void mousePressEvent(QMouseEvent*) override { ++clicks; }
+    void focusInEvent(QFocusEvent*) override { focusEvents += "in "; }
+    void focusOutEvent(QFocusEvent*) override { focusEvents += "out "; }
     void paintEvent(QPaintEvent*) override { ++paints; }
     void closeEvent(QCloseEvent* event) override
     {
@@ -131,6 +135,22 @@ TEST(WaitForEscape, ClosingTheWindowEndsItAndTheWindowIsAskedAfterwards)
     EXPECT_TRUE(window.waitWhileTheUserActs());
     QApplication::processEvents();
     EXPECT_EQ(window.closes, 1);
+}
+
+TEST(WaitForEscape, TheKeyboardThatComesMeanwhileIsToldAfterwards)
+{
+    HeldWindow window;
+    window.acts.emplace_back([&] {
+        for (const auto type : {QEvent::FocusOut, QEvent::FocusIn, QEvent::FocusOut}) {
+            QFocusEvent event(type);
+            QApplication::sendEvent(&window, &event);
+        }
+        EXPECT_EQ(window.focusEvents, "");
+    });
+    window.press(Qt::Key_Escape);
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    QApplication::processEvents();
+    EXPECT_EQ(window.focusEvents, "out ");
 }
 
 TEST(WaitForEscape, ReturnsAtOnceWhereNoWindowIsShown)
