@@ -8,6 +8,7 @@
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -25,6 +26,23 @@ public:
         constexpr int air = 4;
         return {1, QStyledItemDelegate::sizeHint(option, index).height() + air};
     }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        constexpr int half = 128;
+        if (option.palette.color(QPalette::Base).lightness() >= half) return;
+        // The style draws the box darker than its ground, which can't be seen on a dark one.
+        QStyleOptionViewItem shown = option;
+        initStyleOption(&shown, index);
+        QColor line = option.palette.color(QPalette::Text);
+        line.setAlphaF(0.5F);
+        painter->setPen(line);
+        painter->drawRect(tickRect(shown).adjusted(0, 0, -1, -1));
+    }
+    static QRect tickRect(const QStyleOptionViewItem& option)
+    {
+        return option.widget->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, option.widget);
+    }
     int wholeWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const
     {
         return QStyledItemDelegate::sizeHint(option, index).width();
@@ -41,6 +59,7 @@ MacroListView::MacroListView(Editor& editor, QWidget* frame) : QListView(frame),
     setModel(&m_model);
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTextElideMode(Qt::ElideMiddle); // names of a kind often differ in their ends
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setDragEnabled(true);
     setMouseTracking(true);
@@ -160,7 +179,7 @@ bool MacroListView::isOnTick(const QPoint& position) const
     initViewItemOption(&option);
     option.rect = visualRect(indexAt(position));
     option.features |= QStyleOptionViewItem::HasCheckIndicator;
-    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(position);
+    return MacroDelegate::tickRect(option).contains(position);
 }
 
 /// The mouse's right button has told itself already.

@@ -4,7 +4,8 @@
 
 namespace tarvex {
 
-/// A label of one line that shows as much of its text as there is room for; the tool tip then has the whole.
+/// A label of one line that shows both ends of its text where there is no room for all of it; the tool tip then has the
+/// whole.
 class ElidedLabel : public QLabel {
 public:
     using QLabel::QLabel;

@@ -16,7 +16,7 @@ namespace tarvex {
 namespace {
 
 constexpr int imageSize = 16;
-constexpr int progressWidth = 160;
+constexpr int progressWidth = 96;
 
 /// Pictures of the saved state, by their number.
 QIcon savedStateIcon(int picture)
