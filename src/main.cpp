@@ -42,7 +42,8 @@ std::string fromEnvironment(const char* name)
 
 struct Arguments {
     std::string file;
-    std::optional<int> exitStatus; ///< the process has done its work
+    std::optional<int> exitStatus; ///< the process has nothing more to do than to say `text`
+    std::string text;
 };
 
 Arguments readArguments(const QStringList& given)
@@ -53,22 +54,25 @@ Arguments readArguments(const QStringList& given)
         if (options && argument == QLatin1String("--")) {
             options = false;
         } else if (options && argument == QLatin1String("--help")) {
-            std::cout << help;
-            return {{}, EXIT_SUCCESS};
+            return {{}, EXIT_SUCCESS, std::string(help)};
         } else if (options && argument == QLatin1String("--version")) {
-            std::cout << "Tarvex " TARVEX_VERSION "\n";
-            return {{}, EXIT_SUCCESS};
+            return {{}, EXIT_SUCCESS, "Tarvex " TARVEX_VERSION "\n"};
         } else if (options && argument.startsWith(u'-')) {
-            std::cerr << "tarvex: unknown option " << argument.toStdString() << "\n" << help;
-            return {{}, EXIT_FAILURE};
+            return {{}, EXIT_FAILURE, "tarvex: unknown option " + argument.toStdString() + "\n" + std::string(help)};
         } else if (arguments.file.empty()) {
             arguments.file = argument.toStdString();
         } else {
-            std::cerr << "tarvex: one file at most\n" << help;
-            return {{}, EXIT_FAILURE};
+            return {{}, EXIT_FAILURE, "tarvex: one file at most\n" + std::string(help)};
         }
     }
     return arguments;
+}
+
+/// Says what there is to say; the process's exit status.
+int leave(const Arguments& arguments)
+{
+    (arguments.exitStatus == EXIT_SUCCESS ? std::cout : std::cerr) << arguments.text;
+    return *arguments.exitStatus;
 }
 
 /// Qt takes its own options out of the command line; those that only print need no window system.
@@ -130,11 +134,11 @@ int runProgram(tarvex::Application& application, const std::string& file)
 int main(int argumentCount, char** argumentValues)
 {
     const Arguments early = readArguments(plainArguments(argumentCount, argumentValues));
-    if (early.exitStatus == EXIT_SUCCESS) return EXIT_SUCCESS;
+    if (early.exitStatus == EXIT_SUCCESS) return leave(early);
     tarvex::Application application(argumentCount, argumentValues);
     QApplication::setApplicationName(QStringLiteral("Tarvex"));
     QApplication::setDesktopFileName(QStringLiteral("tarvex"));
     QApplication::setQuitOnLastWindowClosed(false);
     const Arguments arguments = readArguments(QApplication::arguments());
-    return arguments.exitStatus ? *arguments.exitStatus : runProgram(application, arguments.file);
+    return arguments.exitStatus ? leave(arguments) : runProgram(application, arguments.file);
 }

@@ -23,6 +23,13 @@ const Family* familyBy(std::string_view Family::*extension, const std::string& p
     return family == families.end() ? nullptr : family;
 }
 
+/// The family of the file decides, whatever hardware is set.
+std::string macroExtensionFor(const std::string& joystickPath, const Settings& settings)
+{
+    const Family* family = familyBy(&Family::joystickFile, joystickPath);
+    return family ? std::string(family->macroFile) : settings.MacroExtension;
+}
+
 } // namespace
 
 FileKind kindOfFile(const std::string& name)
@@ -40,27 +47,25 @@ std::string associatedJoystickFile(const std::string& macroPath, const Settings&
 
 std::string associatedMacroFile(const std::string& joystickPath, const Settings& settings)
 {
-    const Family* family = familyBy(&Family::joystickFile, joystickPath);
-    return withLastThree(joystickPath, family ? family->macroFile : settings.MacroExtension);
+    return withLastThree(joystickPath, macroExtensionFor(joystickPath, settings));
 }
 
 std::string macroFileByMdef(Pane& joystickText, float& caret, const std::string& joystickPath, const Settings& settings)
 {
     constexpr std::string_view word = "MDEF";
-    const auto length = static_cast<float>(word.size());
+    const auto length = static_cast<std::int64_t>(word.size());
     std::int64_t last = -1;
     caret = 0;
-    for (std::int64_t hit = 0;;) {
-        hit = joystickText.Find(word, static_cast<std::int64_t>(caret));
-        if (hit < 0) break;
+    for (std::int64_t hit = joystickText.Find(word, 0); hit >= 0; hit = joystickText.Find(word, last + length)) {
         last = hit;
-        caret = static_cast<float>(hit) + length;
+        caret = static_cast<float>(hit + length);
     }
     if (last < 0) return {};
 
-    joystickText.setSelStart(last + static_cast<std::int64_t>(word.size()) + 1); // past the blank behind the word
+    joystickText.setSelStart(last + length + 1); // past the blank behind the word
     joystickText.Span("\r\n ", true, true);
-    const std::string name = utf8FromWindows1252(joystickText.SelText()) + "." + settings.MacroExtension;
+    const std::string name =
+        utf8FromWindows1252(joystickText.SelText()) + "." + macroExtensionFor(joystickPath, settings);
     return lowerUtf8(directoryOf(joystickPath) + name);
 }
 

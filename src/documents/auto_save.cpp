@@ -20,8 +20,14 @@ void autoSave(Editor& editor, Side& side)
         editor.status(side.FileName + " couldn't be saved automatically: " + editor.shared.errors.ErrorDescription);
         return;
     }
-    step([&] { writeBackup(editor, side); });
+    bool backedUp = false;
+    step([&] {
+        writeBackup(editor, side);
+        backedUp = true;
+    });
+    const std::string whyNot = editor.shared.errors.ErrorDescription;
     noteSaved(editor, side);
+    if (!backedUp) editor.status(side.FileName + " was saved, but its backup wasn't: " + whyNot);
 }
 
 } // namespace

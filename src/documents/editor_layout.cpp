@@ -10,7 +10,8 @@ namespace {
 constexpr int stripSide = 3;
 constexpr int stripHeader = 23;
 constexpr int stripHeight = 22;
-constexpr int gap = 4; ///< of each tile's width
+constexpr int smallestStrip = 120; ///< what the frame leaves to the panes
+constexpr int gap = 4;             ///< of each tile's width
 
 /// A move that a tiny window has no room for is left out.
 void move(Property<Placement>& place, const Placement& to)
@@ -18,12 +19,20 @@ void move(Property<Placement>& place, const Placement& to)
     if (to.Width >= 0 && to.Height >= 0) place = to;
 }
 
+/// The stored width, as far as a settings file may be believed and the window has room beside the frame.
+int frameWidth(const Editor& editor)
+{
+    const int widest = std::max(smallestMacroFrame, editor.ScaleWidth - smallestStrip);
+    return std::clamp<int>(editor.shared.settings.MacroFrameWidth, smallestMacroFrame, widest);
+}
+
 Placement placeStrip(Editor& editor)
 {
-    const int frame = editor.menus.mnuViewMacros.Checked ? editor.shared.settings.MacroFrameWidth : 0;
+    const int width = frameWidth(editor);
+    const int frame = editor.menus.mnuViewMacros.Checked ? width : 0;
     move(editor.TabStrip1Place, {frame, 0, editor.ScaleWidth - frame, editor.ScaleHeight});
     editor.FrameMacros.Visible = editor.menus.mnuViewMacros.Checked.get();
-    move(editor.FrameMacros.Place, {0, 0, editor.shared.settings.MacroFrameWidth, editor.ScaleHeight});
+    move(editor.FrameMacros.Place, {0, 0, width, editor.ScaleHeight});
     return editor.TabStrip1Place;
 }
 

@@ -1,6 +1,7 @@
 #include "documents/file_new.h"
 
 #include "documents/file_questions.h"
+#include "documents/loading.h"
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
@@ -9,12 +10,13 @@ namespace tarvex {
 
 namespace {
 
-void newDocument(Editor& editor, Side& side, std::string_view tag)
+/// False: the user keeps the document that is there.
+bool newDocument(Editor& editor, Side& side, std::string_view tag)
 {
-    if (!mayLeave(editor, side, questionBeforeNew(side))) return;
+    if (!mayLeave(editor, side, questionBeforeNew(side))) return false;
     const Steps step(editor.shared.errors, tag);
+    const Loading loading(editor.shared);
 
-    editor.shared.IsLoading = 1;
     side.Changed = changed::noText;
     step([&] {
         side.pane.setText("");
@@ -26,7 +28,7 @@ void newDocument(Editor& editor, Side& side, std::string_view tag)
     side.pane.setSelStart(0);
     side.Caret = 0;
     side.SelectionLength = 0;
-    step([&] { keepOnlyThePresent(editor, side); });
+    step([&] { DeleteUndosOnSave(editor, side); });
     showLineNumber(editor, side, side.pane.SelStart());
     if (side.tab == editor.macro.tab) {
         StatusBar::Panel& analysed = editor.mum.StatusBar.Panels(panel::macroFile);
@@ -35,8 +37,11 @@ void newDocument(Editor& editor, Side& side, std::string_view tag)
         step([&] { editor.operations.ClearAllForNewMacroFile(); });
     }
     editor.status("New " + std::string(side.kind) + " file created");
-    editor.shared.IsLoading = 0;
+    return true;
 }
+
+constexpr std::string_view joystickTag = "ED_mnuFileNewJoystick_Click";
+constexpr std::string_view macroTag = "ED_mnuFileNewMacro_Click";
 
 } // namespace
 
@@ -45,17 +50,17 @@ void nameUntitled(Editor& editor, Side& side)
     side.FileName = "untitled." + side.Extension;
     side.FilePath = editor.shared.settings.ProgramFilesPath + side.FileName;
     editor.TabStrip1.Tabs(side.tab).Caption = side.FileName;
+    updateDownload(editor);
     UpdateSavedIcon(editor);
 }
 
-void mnuFileNewJoystick_Click(Editor& editor) { newDocument(editor, editor.joystick, "ED_mnuFileNewJoystick_Click"); }
+void mnuFileNewJoystick_Click(Editor& editor) { newDocument(editor, editor.joystick, joystickTag); }
 
-void mnuFileNewMacro_Click(Editor& editor) { newDocument(editor, editor.macro, "ED_mnuFileNewMacro_Click"); }
+void mnuFileNewMacro_Click(Editor& editor) { newDocument(editor, editor.macro, macroTag); }
 
 void mnuFileNewBoth_Click(Editor& editor)
 {
-    mnuFileNewJoystick_Click(editor);
-    mnuFileNewMacro_Click(editor);
+    if (newDocument(editor, editor.joystick, joystickTag)) newDocument(editor, editor.macro, macroTag);
 }
 
 void mnuFileClose_Click(Editor& editor)

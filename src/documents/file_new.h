@@ -4,7 +4,8 @@
 
 namespace tarvex {
 
-/// An empty document in place of each; asks before unsaved text goes. mnuFileNewBoth asks for each in turn.
+/// An empty document in place of each; asks before unsaved text goes. mnuFileNewBoth asks for each in turn;
+/// a cancel stops it.
 void mnuFileNewJoystick_Click(Editor& editor);
 void mnuFileNewMacro_Click(Editor& editor);
 void mnuFileNewBoth_Click(Editor& editor);

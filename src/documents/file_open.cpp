@@ -3,6 +3,7 @@
 #include "documents/associated_files.h"
 #include "documents/file_dialogues.h"
 #include "documents/file_questions.h"
+#include "documents/loading.h"
 #include "documents/tabs.h"
 #include "documents/text_files.h"
 #include "platform/dos_path.h"
@@ -19,18 +20,6 @@ struct Chosen {
     std::string name;
 };
 
-/// Whatever fails in an open command, what the user types afterwards must count as an edit.
-class LoadingEnds {
-public:
-    explicit LoadingEnds(Shared& shared) : m_shared(shared) {}
-    ~LoadingEnds() { m_shared.IsLoading = 0; }
-    LoadingEnds(const LoadingEnds&) = delete;
-    LoadingEnds& operator=(const LoadingEnds&) = delete;
-
-private:
-    Shared& m_shared;
-};
-
 std::optional<Chosen> chooseFile(Editor& editor, const FileRequest& request)
 {
     if (editor.OpeningWithoutAsking == 1) return Chosen{lowerUtf8(editor.OpeningPath), lowerUtf8(editor.OpeningName)};
@@ -43,8 +32,10 @@ std::optional<Chosen> chooseFile(Editor& editor, const FileRequest& request)
 bool loadJoystickFile(Editor& editor, const Chosen& file)
 {
     const auto bytes = readForOpening(editor, file.path, file.name);
-    if (bytes) showDocument(editor, editor.joystick, file.path, file.name, *bytes);
-    return bytes.has_value();
+    if (!bytes) return false;
+    const Loading loading(editor.shared);
+    showDocument(editor, editor.joystick, file.path, file.name, *bytes);
+    return true;
 }
 
 bool loadMacroFile(Editor& editor, const Chosen& file)
@@ -52,6 +43,7 @@ bool loadMacroFile(Editor& editor, const Chosen& file)
     const Steps step(editor.shared.errors, "ED_loadMacroFile");
     const auto bytes = readForOpening(editor, file.path, file.name);
     if (!bytes) return false;
+    const Loading loading(editor.shared);
     step([&] { editor.operations.ClearAllForNewMacroFile(); });
     showDocument(editor, editor.macro, file.path, file.name, *bytes);
     editor.mum.StatusBar.Panels(panel::macroFile).Text = file.name;
@@ -61,18 +53,16 @@ bool loadMacroFile(Editor& editor, const Chosen& file)
     return true;
 }
 
-/// From here on changes of the panes are the user's again, and the ticks of the macro list are out of date.
-void endLoading(Editor& editor, const Side& side)
+/// The ticks of the macro list are out of date.
+void endOpenOne(Editor& editor, const Side& side)
 {
     editor.TabStrip1.Select(side.tab);
-    editor.shared.IsLoading = 0;
     editor.operations.ClearMacroTicks();
 }
 
 void endOpenBoth(Editor& editor, const Side& side)
 {
     editor.TabStrip1.Select(side.tab);
-    editor.shared.IsLoading = 0;
     editor.status("Done");
     if (editor.shared.settings.CheckIdentifyOK == 1)
         editor.operations.IdentifyMacrosUsed();
@@ -86,7 +76,7 @@ void openMacroAndPartner(Editor& editor, const Chosen& file)
     editor.status("Finished opening up macro file and extracting macros from it");
     const std::string partner = associatedJoystickFile(file.path, editor.shared.settings);
     if (!editor.platform.files.fileExists(partner)) {
-        endLoading(editor, editor.macro);
+        endOpenOne(editor, editor.macro);
         editor.status("Joystick file not opened");
         editor.platform.dialogues.show(
             {.title = "Couldn't find associated joystick file",
@@ -95,8 +85,9 @@ void openMacroAndPartner(Editor& editor, const Chosen& file)
              .icon = BoxIcon::Information});
         return;
     }
-    loadJoystickFile(editor, {partner, fileNameOf(partner)});
-    endOpenBoth(editor, editor.macro);
+    if (loadJoystickFile(editor, {partner, fileNameOf(partner)})) return endOpenBoth(editor, editor.macro);
+    endOpenOne(editor, editor.macro);
+    editor.status("Joystick file not opened");
 }
 
 /// The macro file that belongs to the joystick file just loaded; empty when there is none.
@@ -127,11 +118,12 @@ void openJoystickAndPartner(Editor& editor, const Chosen& file)
                      "whilst I've got your attention, how 'bout spending some of that beer money on me for once. I "
                      "want some RAM .... and a beer ... ",
              .icon = BoxIcon::Information});
-        endLoading(editor, editor.joystick);
+        endOpenOne(editor, editor.joystick);
         return;
     }
-    loadMacroFile(editor, {partner, fileNameOf(partner)});
-    endOpenBoth(editor, editor.joystick);
+    if (loadMacroFile(editor, {partner, fileNameOf(partner)})) return endOpenBoth(editor, editor.joystick);
+    endOpenOne(editor, editor.joystick);
+    editor.status("Macro file not opened");
 }
 
 void refuseUnknownKind(Editor& editor)
@@ -148,7 +140,6 @@ void refuseUnknownKind(Editor& editor)
     editor.platform.dialogues.showModal("Preferences");
     if (editor.shared.FontChanged == 1) editor.operations.DamnFontWasChanged();
     editor.status("Files not opened");
-    editor.shared.IsLoading = 0;
 }
 
 } // namespace
@@ -156,14 +147,13 @@ void refuseUnknownKind(Editor& editor)
 void mnuFileJoystickLoad_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuFileJoystickLoad_Click");
-    const LoadingEnds guard(editor.shared);
     step([&] {
         if (!mayLeave(editor, editor.joystick, questionBeforeOpen(editor.joystick))) return;
         const auto file = chooseFile(editor, {.title = "Opening joystick file",
                                               .filter = joystickOpenFilter(editor.shared.settings),
                                               .directory = dialogueFolder(editor, editor.joystick)});
         if (!file || !loadJoystickFile(editor, *file)) return;
-        endLoading(editor, editor.joystick);
+        endOpenOne(editor, editor.joystick);
         editor.status("Done");
     });
 }
@@ -171,14 +161,13 @@ void mnuFileJoystickLoad_Click(Editor& editor)
 void MnuFileMacroLoad_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_MnuFileMacroLoad_Click");
-    const LoadingEnds guard(editor.shared);
     step([&] {
         if (!mayLeave(editor, editor.macro, questionBeforeOpen(editor.macro))) return;
         const auto file = chooseFile(editor, {.title = "Opening file",
                                               .filter = macroOpenFilter(editor.shared.settings),
                                               .directory = dialogueFolder(editor, editor.macro)});
         if (!file || !loadMacroFile(editor, *file)) return;
-        endLoading(editor, editor.macro);
+        endOpenOne(editor, editor.macro);
         editor.status("Finished opening up macro file and extracting macros from it");
     });
 }
@@ -186,16 +175,16 @@ void MnuFileMacroLoad_Click(Editor& editor)
 void mnuFileOpen_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuFileOpen_Click");
-    const LoadingEnds guard(editor.shared);
     step([&] {
         if (!mayLeave(editor, editor.joystick, questionBeforeOpen(editor.joystick))) return;
         if (!mayLeave(editor, editor.macro, questionBeforeOpen(editor.macro))) return;
+        const std::string before = editor.mum.StatusBar.Panels(panel::progress).Text;
         if (editor.OpeningWithoutAsking != 1) editor.status("Opening joystick and associated macro file together ....");
         const auto file =
             chooseFile(editor, {.title = "Select the joystick file or the macro file - I'll open both of them",
                                 .filter = bothOpenFilter(editor.shared.settings),
                                 .directory = dialogueFolder(editor, editor.joystick)});
-        if (!file) return;
+        if (!file) return editor.status(before);
         switch (kindOfFile(file->name)) {
         case FileKind::Macro:
             return openMacroAndPartner(editor, *file);

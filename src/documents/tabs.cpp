@@ -23,24 +23,6 @@ std::string savedStateTip(const std::string& name, std::int16_t state)
     }
 }
 
-/// A joystick file of another controller family can't be downloaded to this one.
-void updateDownload(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "ED_TabStrip1_Click");
-    Menus& menus = editor.menus;
-    const std::string caption = editor.tabCaption(editor.joystick);
-    const Settings& settings = editor.shared.settings;
-    const bool fits = settings.AlwaysShowCompileDownload == 1 || lastThree(caption) == settings.JoystickExtension;
-
-    menus.mnuSendToJoystick.Enabled = fits;
-    if (fits)
-        menus.mnuAppsQuiet.Enabled = true;
-    else if (menus.mnuAppsQuiet.Checked)
-        menus.mnuAppsQuiet.Enabled = false;
-    menus.mnuSendToJoystick.Caption = fits ? "&Download " + caption : "&Download ";
-    step([&] { editor.mum.Toolbar1.Buttons(compileButton).Enabled = fits; });
-}
-
 bool isProtected(const Editor& editor) { return editor.menus.mnuPreferencesProtectMacroFile.Checked; }
 
 /// A compile result and a macro's definition (it holds "=") stay up.
@@ -82,6 +64,23 @@ void showLineNumber(Editor& editor, const Side& side, std::int64_t position)
 {
     editor.mum.StatusBar.Panels(panel::line).Text =
         "Line no: " + std::to_string(side.pane.GetLineFromChar(position) + 1);
+}
+
+void updateDownload(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_TabStrip1_Click");
+    Menus& menus = editor.menus;
+    const std::string caption = editor.tabCaption(editor.joystick);
+    const Settings& settings = editor.shared.settings;
+    const bool fits = settings.AlwaysShowCompileDownload == 1 || lastThree(caption) == settings.JoystickExtension;
+
+    menus.mnuSendToJoystick.Enabled = fits;
+    if (fits)
+        menus.mnuAppsQuiet.Enabled = true;
+    else if (menus.mnuAppsQuiet.Checked)
+        menus.mnuAppsQuiet.Enabled = false;
+    menus.mnuSendToJoystick.Caption = fits ? "&Download " + caption : "&Download ";
+    step([&] { editor.mum.Toolbar1.Buttons(compileButton).Enabled = fits; });
 }
 
 void UpdateSavedIcon(Editor& editor)

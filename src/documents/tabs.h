@@ -8,6 +8,8 @@ namespace tarvex {
 void UpdateSavedIcon(Editor& editor);
 /// Plain text is black, whichever tab is selected.
 void GetCurrentDefaultTextColour(Editor& editor);
+/// The download command names the joystick file; one of another controller family can't be downloaded to this one.
+void updateDownload(Editor& editor);
 /// A tab was selected, by the user or by the program: pane, focus, status, tab images, download command and undo menus
 /// follow.
 void TabStrip1_Click(Editor& editor);

@@ -4,6 +4,7 @@
 #include "documents/rtf.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
+#include "platform/windows1252.h"
 
 namespace tarvex {
 
@@ -40,7 +41,7 @@ void TempTextRefreshFont(Editor& editor)
 }
 
 /// Whether the shadow brought text and colours into the pane.
-bool loadShadow(Editor& editor, Side& side, const std::string& shadow, const std::string& plain)
+bool putShadow(Editor& editor, Side& side, const std::string& shadow, const std::string& plain)
 {
     const WorkingBox temp(editor.TempRichTextBox);
     const WorkingBox compare(editor.CompareRTF);
@@ -52,14 +53,27 @@ bool loadShadow(Editor& editor, Side& side, const std::string& shadow, const std
     return true;
 }
 
-void loadPlain(Editor& editor, Side& side, const std::string& plain)
+void putPlain(Editor& editor, Side& side, const std::string& plain)
 {
-    const Steps step(editor.shared.errors, "ED_loadPlain");
     side.pane.setTextRTF({}); // drops the old text's formats with it
     applyBaseFormat(editor, side.pane);
     side.pane.setText(plain);
-    step([&] { editor.menus.mnuViewReformat.Click(); });
-    if (editor.shared.settings.ApplyColoursOnFileOpen == 1) step([&] { side.ApplyColours(); });
+}
+
+/// The shadow lies beside no document of its own; a document that is kept in the shadows' folder has none.
+std::string shadowOf(const Editor& editor, const std::string& path, const std::string& name)
+{
+    const std::string shadow = editor.shared.RtfDirectory + name;
+    return lowerUtf8(shadow) == lowerUtf8(path) ? std::string() : shadow;
+}
+
+void tellUnreadable(Editor& editor, const std::string& name)
+{
+    editor.platform.dialogues.show({.title = "Ooops!",
+                                    .text = "I couldn't read " + name +
+                                            ", so I've left everything just as it was. Is it still there, and are you "
+                                            "allowed to read it?",
+                                    .icon = BoxIcon::Exclamation});
 }
 
 } // namespace
@@ -69,35 +83,37 @@ std::optional<std::string> readForOpening(Editor& editor, const std::string& pat
     const Steps step(editor.shared.errors, "ED_readForOpening");
     std::optional<std::string> bytes;
     step([&] { bytes = editor.platform.files.read(path); });
-    if (bytes) return bytes;
-    editor.platform.dialogues.show({.title = "Ooops!",
-                                    .text = "I couldn't read " + name +
-                                            ", so I've left everything just as it was. Is it still there, and are you "
-                                            "allowed to read it?",
-                                    .icon = BoxIcon::Exclamation});
-    return std::nullopt;
+    if (!bytes) tellUnreadable(editor, name);
+    return bytes;
 }
 
 void showDocument(Editor& editor, Side& side, const std::string& path, const std::string& name,
                   const std::string& bytes)
 {
     const Steps step(editor.shared.errors, "ED_showDocument");
-    editor.shared.IsLoading = 1;
-    side.NoteLatestFile(path);
-    side.FilePath = path;
-    side.FileName = name;
-    editor.TabStrip1.Tabs(side.tab).Caption = name;
     if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab); // reformatting works on its pane
 
-    const std::string shadow = editor.shared.RtfDirectory + name;
+    // The text comes first: as long as the pane may hold the old one, it keeps the old name.
     bool coloured = false;
-    if (editor.platform.files.fileExists(shadow)) step([&] { coloured = loadShadow(editor, side, shadow, bytes); });
-    if (!coloured) loadPlain(editor, side, bytes);
+    const std::string shadow = shadowOf(editor, path, name);
+    if (!shadow.empty() && editor.platform.files.fileExists(shadow))
+        step([&] { coloured = putShadow(editor, side, shadow, bytes); });
+    if (!coloured) putPlain(editor, side, bytes);
+    side.FilePath = path;
+    side.FileName = name;
+    side.Changed = changed::saved;
+    editor.TabStrip1.Tabs(side.tab).Caption = name;
+    updateDownload(editor);
+    step([&] { side.NoteLatestFile(path); });
+    if (!coloured) {
+        step([&] { editor.menus.mnuViewReformat.Click(); });
+        if (editor.shared.settings.ApplyColoursOnFileOpen == 1) step([&] { side.ApplyColours(); });
+    }
 
     side.pane.setSelStart(0);
     side.Caret = 0;
     side.SelectionLength = 0;
-    step([&] { keepOnlyThePresent(editor, side); });
+    step([&] { DeleteUndosOnSave(editor, side); });
     side.Changed = changed::saved;
     UpdateSavedIcon(editor);
     showLineNumber(editor, side, 0);
@@ -114,10 +130,11 @@ void saveColouredText(Editor& editor, const Side& side)
 {
     const Steps step(editor.shared.errors, side.tab == 1 ? "ED_SaveColouredTextJF" : "ED_SaveColouredTextMF");
     step([&] {
+        const std::string shadow = shadowOf(editor, side.FilePath, side.FileName);
+        if (shadow.empty()) return;
         const WorkingBox temp(editor.TempRichTextBox);
         editor.TempRichTextBox.setTextRTF(side.pane.TextRTF());
-        editor.platform.files.write(editor.shared.RtfDirectory + side.FileName,
-                                    writeRtf(editor.TempRichTextBox.TextRTF()));
+        editor.platform.files.write(shadow, writeRtf(editor.TempRichTextBox.TextRTF()));
     });
 }
 

@@ -12,7 +12,7 @@ std::optional<std::string> readForOpening(Editor& editor, const std::string& pat
 
 /// Puts a file into its pane: from its coloured shadow when that still has the same plain text, else plain, laid out
 /// anew and, where the settings ask for it, coloured. Name, path, tab and state of the document follow; its tab is
-/// selected. IsLoading stays 1.
+/// selected. The caller keeps a Loading.
 void showDocument(Editor& editor, Side& side, const std::string& path, const std::string& name,
                   const std::string& bytes);
 

@@ -1,6 +1,8 @@
 #include "documents/undo.h"
 
 #include "documents/line_highlight.h"
+#include "documents/loading.h"
+#include "documents/tabs.h"
 
 namespace tarvex {
 
@@ -16,12 +18,16 @@ void keyPress(Side& side, int key)
 {
     UndoHistory& history = side.Undo;
     side.Caret = static_cast<float>(side.pane.SelStart());
+    // What is typed on an undone state mustn't overwrite the newest one.
+    if (history.Position != 1) {
+        side.TakeNewLevel = 1;
+        return;
+    }
     if (key == blankKey && side.pane.TextLength() == 0) {
         side.TakeNewLevel = 0;
         return;
     }
-    // What is typed on an undone state mustn't overwrite the newest one.
-    if (history.Text.size() == 1 || history.Position != 1) {
+    if (history.Text.size() == 1) {
         side.TakeNewLevel = 1;
         return;
     }
@@ -34,29 +40,20 @@ void keyPress(Side& side, int key)
     history.LastKeyWasSpace = key == blankKey ? 1 : 0;
 }
 
-void makeRoom(const Editor& editor, UndoHistory& history)
-{
-    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
-    history.Text.push_front(history.Text.front());
-    history.Caret.push_front(history.Caret.front());
-    if (grows) return;
-    history.Text.pop_back();
-    history.Caret.pop_back();
-}
-
 void showLevel(Editor& editor, std::size_t level)
 {
     Side& side = editor.selected();
     UndoHistory& history = side.Undo;
-    if (level < 1 || level > history.Text.size()) return;
-    editor.shared.IsLoading = 1;
+    if (level < 1 || level > history.Text.size() || side.pane.Locked) return;
+    const Loading loading(editor.shared);
     history.Position = level;
     side.pane.setTextRTF(history.Text[level - 1]);
     side.pane.setSelStart(history.Caret[level - 1]);
     side.Caret = static_cast<float>(history.Caret[level - 1]);
+    side.Changed = changed::modified; // it needn't be what was saved
+    UpdateSavedIcon(editor);
     UpdateUndoRedoMenus(editor);
     if (editor.shared.settings.HighlightLineOnUndo == 1) blinkLineAtIP(editor);
-    editor.shared.IsLoading = 0;
 }
 
 struct Offer {
@@ -81,8 +78,16 @@ void showOffer(Editor& editor, const Offer& offer)
 void JoystickText_KeyPress(Editor& editor, int key) { keyPress(editor.joystick, key); }
 void MacroText_KeyPress(Editor& editor, int key) { keyPress(editor.macro, key); }
 
-void UpdateUndoJoystickText(Editor& editor) { makeRoom(editor, editor.joystick.Undo); }
-void UpdateUndoMacroText(Editor& editor) { makeRoom(editor, editor.macro.Undo); }
+void UpdateUndoText(const Editor& editor, Side& side)
+{
+    UndoHistory& history = side.Undo;
+    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
+    history.Text.push_front(history.Text.front());
+    history.Caret.push_front(history.Caret.front());
+    if (grows) return;
+    history.Text.pop_back();
+    history.Caret.pop_back();
+}
 
 void storeInNewestLevel(Side& side)
 {
@@ -92,8 +97,8 @@ void storeInNewestLevel(Side& side)
 
 void recordUndo(Editor& editor, Side& side)
 {
-    if (side.TakeNewLevel != 1) return storeInNewestLevel(side);
-    makeRoom(editor, side.Undo);
+    if (side.TakeNewLevel != 1 && side.Undo.Position == 1) return storeInNewestLevel(side);
+    UpdateUndoText(editor, side);
     storeInNewestLevel(side);
     side.Undo.Position = 1;
     UpdateUndoRedoMenus(editor);
@@ -118,16 +123,13 @@ void mnuEditRedo_Click(Editor& editor)
     step([&] { showLevel(editor, editor.selected().Undo.Position - 1); });
 }
 
-void keepOnlyThePresent(Editor& editor, Side& side)
+void DeleteUndosOnSave(Editor& editor, Side& side)
 {
     side.Undo = {};
     storeInNewestLevel(side);
     side.TakeNewLevel = 1;
     UpdateUndoRedoMenus(editor);
 }
-
-void DeleteUndosOnSaveJ(Editor& editor) { keepOnlyThePresent(editor, editor.joystick); }
-void DeleteUndosOnSaveM(Editor& editor) { keepOnlyThePresent(editor, editor.macro); }
 
 void DeleteUndosFromMemory(Editor& editor)
 {

@@ -12,9 +12,8 @@ namespace tarvex {
 void JoystickText_KeyPress(Editor& editor, int key);
 void MacroText_KeyPress(Editor& editor, int key);
 
-/// Make room for a new level 1; the oldest falls off once there are UndoMax + 1.
-void UpdateUndoJoystickText(Editor& editor);
-void UpdateUndoMacroText(Editor& editor);
+/// Room for a new level 1 (UpdateUndoJoystickText, UpdateUndoMacroText): the oldest falls off once there are UndoMax + 1.
+void UpdateUndoText(const Editor& editor, Side& side);
 /// Level 1 takes the pane's text and caret; nothing else moves.
 void storeInNewestLevel(Side& side);
 /// The pane changed: into the newest level, or by TakeNewLevel into a new one.
@@ -27,9 +26,7 @@ void mnuEditRedo_Click(Editor& editor);
 
 /// Both histories shrink to one empty level.
 void DeleteUndosFromMemory(Editor& editor);
-/// One history shrinks to the present text as its only level.
-void DeleteUndosOnSaveJ(Editor& editor);
-void DeleteUndosOnSaveM(Editor& editor);
-void keepOnlyThePresent(Editor& editor, Side& side);
+/// One history shrinks to the present text as its only level (DeleteUndosOnSaveJ, DeleteUndosOnSaveM).
+void DeleteUndosOnSave(Editor& editor, Side& side);
 
 } // namespace tarvex

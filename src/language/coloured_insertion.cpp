@@ -53,7 +53,7 @@ void BeginColInsert(Editor& editor)
         editor.shared.IsLoading = 1;
         Side& side = editor.selected();
         if (side.Undo.Position != 1) { // the newest level holds something that was undone and is to stay in reach
-            side.tab == editor.joystick.tab ? UpdateUndoJoystickText(editor) : UpdateUndoMacroText(editor);
+            UpdateUndoText(editor, side);
             side.Undo.Position = 1;
             UpdateUndoRedoMenus(editor);
         }

@@ -117,14 +117,14 @@ Program::Program(Platform& thePlatform)
     wirePanes(editor);
     wireLanguage(editor);
     wireLists(operations, shared.store);
-    menus.mnuFileExit.handler = [this] { exit(); };
+    menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = on(editor, Form_Load);
     operations.QueryUnloadEditor = [this](bool& cancel) { cancel = !Form_QueryUnload(editor); };
     operations.UnloadEditor = on(editor, Form_Unload);
     shared.errors.exitInEmergency = [this] {
         operations.ReleaseGradient();
         for (const char* window : toolWindows) operations.UnloadForm(window);
-        exit();
+        menus.mnuFileExit.Click();
         platform.desktop.quit();
     };
 }
@@ -133,6 +133,6 @@ Program::~Program() = default;
 
 bool Program::start() { return MDIForm_Load({platform, shared, mum, operations}); }
 
-bool Program::exit() { return mnuFileExit_Click({platform, shared, mum, operations}); }
+bool Program::exit() { return mnuMumFileExit_Click({platform, shared, mum, operations}); }
 
 } // namespace tarvex

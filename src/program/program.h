@@ -19,7 +19,7 @@ public:
 
     /// Comes up, in the order that users see. False: another copy runs, and the process is to end at once.
     bool start();
-    /// The exit command: asks about unsaved files, then takes everything down and ends the message loop. False: the
+    /// The frame is to close: asks about unsaved files, then takes everything down and ends the message loop. False: the
     /// user stays.
     bool exit();
 

@@ -17,9 +17,10 @@ void ErrorRecord::report(std::string_view tag, const std::exception& error)
 
 void ErrorRecord::ReportError()
 {
+    const Steps step; // a report that fails must not bring down what it reports on
     ExitRequestedByError = 0;
-    reportWindow();
-    if (ExitRequestedByError == 1) exitInEmergency();
+    step([&] { reportWindow(); });
+    if (ExitRequestedByError == 1) step([&] { exitInEmergency(); });
 }
 
 } // namespace tarvex

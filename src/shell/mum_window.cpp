@@ -77,7 +77,7 @@ bool MDIForm_Load(const MumContext& context)
     step([&] { operations.UpdateTooltips(); });
     step([&] { operations.ShowExtraButtons(); });
     mum.form.Visible = true;
-    mum.Toolbar1.Wrappable = settings.CanWrapToolbar != 0;
+    mum.Toolbar1.Wrappable = settings.CanWrapToolbar == 1;
     if (settings.FlatToolbar == 1) mum.Toolbar1.Flat = true;
     if (settings.GradientEffect == 1) step([&] { operations.PaintGradient(); });
 

@@ -41,7 +41,6 @@ struct Operations {
     Operation<const std::string&> UpdateRecentMFMenuList;
     Operation<const std::string&> NoteLatestJoystickFile; ///< the path just opened
     Operation<const std::string&> NoteLatestMacroFile;
-    Operation<int> FavArrayClick; ///< opens the favourite of that number
 };
 
 } // namespace tarvex

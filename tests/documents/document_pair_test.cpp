@@ -26,8 +26,7 @@ struct PairTest : testing::Test {
     }
 };
 
-// ---- state of the documents
-// -------------------------------------------------------------------------------------------
+// ---- state of the documents ----
 
 TEST_F(PairTest, NewDocumentsHaveNoTextAndAreUntitled)
 {
@@ -103,8 +102,7 @@ TEST_F(PairTest, TypedTextHasTheSchemesFont)
     EXPECT_EQ(format.colour, 0);
 }
 
-// ---- new and close
-// ----------------------------------------------------------------------------------------------------
+// ---- new and close ----
 
 TEST_F(PairTest, NewJoystickAsksBeforeUnsavedTextGoesAndCancelKeepsIt)
 {
@@ -161,8 +159,19 @@ TEST_F(PairTest, CloseIsNewForTheSelectedTab)
     EXPECT_EQ(editor.MacroText.Text(), "");
 }
 
-// ---- tabs
-// -------------------------------------------------------------------------------------------------------------
+// ---- tabs ----
+
+TEST_F(PairTest, ACancelInNewBothKeepsBothDocuments)
+{
+    t.files.addFile("c:\\a\\x.b50", "BTN");
+    t.files.addFile("c:\\a\\x.m50", "A = a");
+    t.openBoth("c:\\a\\x.b50");
+    t.typeJoystick("j");
+    t.dialogues.answers = {Answer::Cancel};
+    t.menus().mnuFileNewBoth.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "jBTN");
+    EXPECT_EQ(editor.MacroText.Text(), "A = a");
+}
 
 TEST_F(PairTest, TabStrip1_ClickShowsThePaneItsImageAndWhatIsEdited)
 {
@@ -224,8 +233,7 @@ TEST_F(PairTest, TheStatementForTheMissingToolbarButtonFailsAndIsSkipped)
     EXPECT_TRUE(t.program().mum.Toolbar1.Buttons(44).Enabled);
 }
 
-// ---- protection
-// -------------------------------------------------------------------------------------------------------
+// ---- protection ----
 
 TEST_F(PairTest, ProtectingLocksTheMacroPaneAndSaysSo)
 {
@@ -263,8 +271,7 @@ TEST_F(PairTest, ProtectingWhileTab2IsSelectedChangesItsImageAtOnceAndBack)
     EXPECT_FALSE(editor.MacroText.Locked);
 }
 
-// ---- layout
-// -----------------------------------------------------------------------------------------------------------
+// ---- layout ----
 
 TEST_F(PairTest, PositionControlsFillsTheTabStrip)
 {
@@ -337,8 +344,7 @@ TEST_F(PairTest, GettingTheFocusShowsTheLineUnlessHelpIsAskedFor)
     EXPECT_EQ(t.status(3), "kept");
 }
 
-// ---- the macro frame's edge
-// -------------------------------------------------------------------------------------------
+// ---- the macro frame's edge ----
 
 TEST_F(PairTest, DraggingTheMacroFramesEdgeSetsItsWidthAndWritesItAtOnce)
 {
@@ -376,6 +382,21 @@ TEST_F(PairTest, TheWidthOnlyFollowsFromTheEdge)
     EXPECT_EQ(t.settings().MacroFrameWidth, 185);
 }
 
+TEST_F(PairTest, AFrameWidthFromADamagedFileIsKeptWithinTheWindow)
+{
+    t.menus().mnuViewMacros.Click();
+    for (const int width : {50, -5}) {
+        t.settings().MacroFrameWidth = static_cast<std::int16_t>(width);
+        resize(1000, 600);
+        EXPECT_EQ(editor.FrameMacros.Place.get().Width, 185);
+        EXPECT_EQ(editor.TabStrip1Place.get(), (Placement{185, 0, 815, 600}));
+    }
+    t.settings().MacroFrameWidth = 30000;
+    resize(1000, 600);
+    EXPECT_EQ(editor.FrameMacros.Place.get().Width, 880);
+    EXPECT_EQ(editor.TabStrip1Place.get(), (Placement{880, 0, 120, 600}));
+}
+
 TEST_F(PairTest, AnEdgeDraggedBeyondA16BitNumberStopsThere)
 {
     FrameMacros_MouseMove(editor, false, 0, true);
@@ -383,8 +404,7 @@ TEST_F(PairTest, AnEdgeDraggedBeyondA16BitNumberStopsThere)
     EXPECT_EQ(t.settings().MacroFrameWidth, 32767);
 }
 
-// ---- hardware
-// ---------------------------------------------------------------------------------------------------------
+// ---- hardware ----
 
 TEST_F(PairTest, AnotherJoystickRenamesUntitledDocumentsAndLeavesNamedOnesAlone)
 {
@@ -416,14 +436,19 @@ TEST_F(PairTest, TheF22ProHasItsCommandsAndNoQuietDownloads)
     EXPECT_EQ(t.ini("Miscellaneous", "UseQonDownload"), "0");
 }
 
-TEST_F(PairTest, QuietDownloadsStayOffAcrossStartsOnceTheF22WasChosen)
+TEST(HardwareHasChanged, ToF22ProKeepsQuietDownloadsOffAcrossStarts)
 {
+    TestProgram t(false);
     t.setIni("Miscellaneous", "UseQonDownload", "1");
-    t.setIni("FileLocations", "JoyName", "0");
     t.start();
+    EXPECT_TRUE(t.menus().mnuAppsQuiet.Checked);
+    ComboJoystick_Click(t.program().shared, 0);
+    HardwareHasChanged(t.editor());
+    t.program().shared.store.SaveOptions();
     t.start();
-    EXPECT_EQ(t.ini("Miscellaneous", "UseQonDownload"), "0");
     EXPECT_FALSE(t.menus().mnuAppsQuiet.Checked);
+    EXPECT_FALSE(t.menus().mnuAppsQuiet.Enabled);
+    EXPECT_EQ(t.settings().UseQonDownload, 0);
 }
 
 TEST_F(PairTest, OtherJoysticksHaveQuietDownloadsOnlyWithWinLoad)
@@ -439,8 +464,7 @@ TEST_F(PairTest, OtherJoysticksHaveQuietDownloadsOnlyWithWinLoad)
     EXPECT_TRUE(t.menus().mnuAppsQuiet.Enabled);
 }
 
-// ---- keys and clipboard
-// -----------------------------------------------------------------------------------------------
+// ---- keys and clipboard ----
 
 TEST_F(PairTest, AKeyRunsTheCommandOfThePaneThatIsSelected)
 {

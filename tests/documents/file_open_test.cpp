@@ -167,6 +167,15 @@ TEST_F(OpenTest, AnMdefLineNamingAMissingFileFallsBackToTheOwnName)
     EXPECT_EQ(macroText(), "Fire = f\r\n");
 }
 
+TEST_F(OpenTest, AnMdefNamesAMacroFileOfTheJoystickFilesFamilyWhateverTheHardware)
+{
+    t.files.addFile("c:\\a\\x.f22", "MDEF foo\r\n");
+    t.files.addFile("c:\\a\\foo.m22", "Right = r");
+    t.files.addFile("c:\\a\\foo.m50", "Wrong = w");
+    t.openBoth("c:\\a\\x.f22");
+    EXPECT_EQ(macroText(), "Right = r");
+}
+
 TEST_F(OpenTest, AnMdefNameEndsAtABlankAndIsLowerCased)
 {
     t.files.addFile(mig, "mdef LONGBOW rem my macros\r\n");
@@ -350,7 +359,7 @@ TEST_F(OpenTest, AnUnreadableShadowLosesToThePlainFile)
     EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
 }
 
-TEST_F(OpenTest, SameNameInTwoFoldersSharesOneShadowWhichThenFailsTheComparison)
+TEST_F(OpenTest, SameNameInTwoFoldersSharesOneBackupAndOneShadowWhichFailsTheComparisonAndIsRebuilt)
 {
     addPair();
     t.openBoth(mig);
@@ -363,6 +372,10 @@ TEST_F(OpenTest, SameNameInTwoFoldersSharesOneShadowWhichThenFailsTheComparison)
     t.menus().mnuFileSave.Click();
     t.openBoth(mig);
     EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\mig.b50"), "another text") << "the backup is shared too";
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(readRtf(t.fileText("c:\\tarvex\\Rtf\\mig.b50"), t.editor().formats).text(),
+              "Rem mine\r\nBTN S1 Fire\r\n");
 }
 
 TEST_F(OpenTest, AFileThatVanishedBetweenDialogueAndOpenLeavesEverythingAsItWas)
@@ -375,6 +388,41 @@ TEST_F(OpenTest, AFileThatVanishedBetweenDialogueAndOpenLeavesEverythingAsItWas)
     EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
     ASSERT_EQ(t.dialogues.boxes.size(), 1U);
     EXPECT_NE(t.lastBox().text.find("gone.b50"), std::string::npos);
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+}
+
+TEST_F(OpenTest, APartnerThatCantBeReadIsNotOpened)
+{
+    addPair();
+    int identified = 0;
+    t.program().operations.IdentifyMacrosUsed = [&] { ++identified; };
+    t.files.failReads(migMacros, RuntimeError(ErrorCode::PermissionDenied, "no"));
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(), "Macro file not opened");
+    EXPECT_EQ(identified, 0);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().pair.MacroFileName, "untitled.m50");
+}
+
+TEST_F(OpenTest, ACancelledOpenBothPutsTheStatusBack)
+{
+    const std::string before = t.status();
+    t.dialogues.whileOpening = [&] {
+        EXPECT_EQ(t.status(), "Opening joystick and associated macro file together ....");
+    };
+    t.dialogues.filesToOpen = {std::nullopt};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(t.status(), before);
+}
+
+TEST_F(OpenTest, AStepThatFailsInAnOpenLeavesNoLoadingMark)
+{
+    addPair();
+    t.program().operations.NoteLatestJoystickFile = [](const std::string&) { throw std::runtime_error("odd"); };
+    t.menus().mnuViewReformat.handler = [] { throw std::runtime_error("odd"); };
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 

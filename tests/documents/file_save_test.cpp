@@ -275,6 +275,53 @@ TEST_F(SaveTest, AFailedShadowIsNoMatterForTheUser)
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_SaveColouredTextJF");
 }
 
+TEST_F(SaveTest, ADocumentInTheShadowsOwnFolderStaysPlainText)
+{
+    t.typeJoystick("mine");
+    t.dialogues.filesToSave = {"C:\\Tarvex\\RTF\\x.b50"};
+    t.menus().mnuFileSaveAs.Click();
+    EXPECT_EQ(written("c:\\tarvex\\rtf\\x.b50"), "mine");
+    t.files.addFile("c:\\tarvex\\rtf\\x.m50", "");
+    t.openBoth("c:\\tarvex\\rtf\\x.b50");
+    EXPECT_EQ(t.editor().JoystickText.Text(), "mine");
+}
+
+TEST_F(SaveTest, AFailedBackupIsToldInItsOwnWordsAlsoWhenTheShadowFailsToo)
+{
+    openPair();
+    t.files.failWrites("c:\\tarvex\\Backup\\mig.b50", RuntimeError(ErrorCode::DiskFull, "the backup's words"));
+    t.files.failWrites("c:\\tarvex\\Rtf\\mig.b50", RuntimeError(ErrorCode::DiskFull, "the shadow's words"));
+    t.dialogues.filesToSave = {std::nullopt};
+    t.menus().mnuFileSave.Click();
+    EXPECT_NE(t.lastBox().text.find("the backup's words"), std::string::npos);
+}
+
+TEST_F(SaveTest, AMacroFileSavedBySaveAsAfterAFailureIsAnalysedOnce)
+{
+    openPair();
+    int updates = 0;
+    t.menus().mnuEditUpdateMacros.handler = [&] { ++updates; };
+    t.files.failWrites(migMacros, RuntimeError(ErrorCode::DiskFull, "full"));
+    t.dialogues.filesToSave = {"c:\\tm\\b50progs\\other.m50"};
+    t.editor().TabStrip1.Select(2);
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(updates, 1);
+    EXPECT_EQ(t.editor().pair.MacroFileName, "other.m50");
+    t.dialogues.filesToSave = {"c:\\tm\\b50progs\\third.m50"};
+    t.menus().mnuFileSaveAs.Click();
+    EXPECT_EQ(updates, 2);
+}
+
+TEST_F(SaveTest, TheDownloadCommandFollowsTheNewName)
+{
+    t.typeJoystick("mine");
+    t.dialogues.filesToSave = {"c:\\tm\\b50progs\\new.b50"};
+    t.menus().mnuFileSaveAs.Click();
+    EXPECT_EQ(t.menus().mnuSendToJoystick.Caption.get(), "&Download new.b50");
+    t.menus().mnuFileNewJoystick.Click();
+    EXPECT_EQ(t.menus().mnuSendToJoystick.Caption.get(), "&Download untitled.b50");
+}
+
 TEST_F(SaveTest, SaveBothSavesEachAndComesBackToTheTab)
 {
     openPair();
@@ -309,8 +356,7 @@ TEST_F(SaveTest, ASavedPathEntersThePreviousFiles)
     EXPECT_EQ(path, mig);
 }
 
-// ---- automatic save
-// ---------------------------------------------------------------------------------------------------
+// ---- automatic save ----
 
 TEST_F(SaveTest, TheTimerSavesAfterItsMinutes)
 {
@@ -365,6 +411,16 @@ TEST_F(SaveTest, AFailedAutomaticSaveStaysModifiedAndSaysSoWithoutABox)
     EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
     EXPECT_NE(t.status().find("No space left on device"), std::string::npos);
     EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
+TEST_F(SaveTest, AnAutomaticSaveWithoutItsBackupSaysSo)
+{
+    openPair();
+    t.typeJoystick("x");
+    t.files.failWrites("c:\\tarvex\\Backup\\mig.b50", RuntimeError(ErrorCode::DiskFull, "No space left on device"));
+    AutoSaveFile(t.editor());
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.status(), "mig.b50 was saved, but its backup wasn't: No space left on device");
 }
 
 TEST_F(SaveTest, TheEmergencySaveSavesBothAndSaysSo)

@@ -40,7 +40,7 @@ std::int64_t caretAfter(std::string_view text, std::int64_t start, std::int64_t 
 
 } // namespace
 
-// ---- Find: words of the language ------------------------------------------------------------------------------------
+// ---- Find: words of the language ----
 
 TEST(PaneFind, BTNInsideXBTNIsNoWholeWord)
 {
@@ -96,7 +96,7 @@ TEST(PaneFind, LaterMatchIsTakenWhenTheFirstIsNoWholeWord)
     EXPECT_EQ(findIn("ANTENNA ANT", "ant", find::wholeWord), 8);
 }
 
-// ---- Find: range ----------------------------------------------------------------------------------------------------
+// ---- Find: range ----
 
 TEST(PaneFind, MatchMustLieWhollyInTheRange)
 {
@@ -202,7 +202,7 @@ TEST(FindBytes, NearMissesArePassedOver)
     EXPECT_EQ(findBytes(text, "qz", 0), text.find("qz"));
 }
 
-// ---- Span and UpTo --------------------------------------------------------------------------------------------------
+// ---- Span and UpTo ----
 
 TEST(PaneSpan, ForwardAndNegatedSelectsUpToTheFirstCharacterOfTheSet)
 {

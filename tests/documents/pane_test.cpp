@@ -60,7 +60,7 @@ struct Told {
 
 } // namespace
 
-// ---- SelStart and SelLength -----------------------------------------------------------------------------------------
+// ---- SelStart and SelLength ----
 
 TEST(PaneSelStart, WritingItPutsACaretThere)
 {
@@ -120,7 +120,7 @@ TEST(PaneSelLength, NegativeValueIsRefusedAndTheSelectionStays)
     EXPECT_EQ(pane.SelText(), "bc");
 }
 
-// ---- lines ----------------------------------------------------------------------------------------------------------
+// ---- lines ----
 
 TEST(PaneGetLineFromChar, EachPositionOfAPairBelongsToTheLineThatItEnds)
 {
@@ -149,7 +149,7 @@ TEST(PaneGetLineFromChar, EmptyTextHasOneLine)
     EXPECT_EQ(pane.lineStart(0), 0);
 }
 
-// ---- text -----------------------------------------------------------------------------------------------------------
+// ---- text ----
 
 TEST(PaneText, EveryWriteMakesLoneLineEndsPairs)
 {
@@ -227,7 +227,7 @@ TEST(PaneText, TenMegabytesAreEditedInTheMiddle)
     EXPECT_EQ(pane.Find("X\r\n", 0, Pane::toEnd), 5'250'000);
 }
 
-// ---- edits and pairs ------------------------------------------------------------------------------------------------
+// ---- edits and pairs ----
 
 TEST(PaneSelText, InsertionInsideAPairGoesBeforeIt)
 {
@@ -280,7 +280,7 @@ TEST(PaneSelText, ReplacesTheSelectionAndLeavesTheCaretBehind)
     EXPECT_EQ(pane.SelLength(), 0);
 }
 
-// ---- insertion format -----------------------------------------------------------------------------------------------
+// ---- insertion format ----
 
 TEST(PaneInsertionFormat, ChosenColourHoldsForTheNextTextOnly)
 {
@@ -365,7 +365,7 @@ TEST(PaneFont, ChangesNoCharacterAndTellsOnce)
     EXPECT_THAT(told.log, ElementsAre("font"));
 }
 
-// ---- look -----------------------------------------------------------------------------------------------------------
+// ---- look ----
 
 TEST(PaneSelFont, EachPropertyIsWrittenOnTheSelectionAlone)
 {
@@ -409,7 +409,7 @@ TEST(PaneSelIndent, LineWithoutCharactersKeepsItForTheNextText)
     EXPECT_EQ(pane.formatAt(3).indent, 20);
 }
 
-// ---- what is told ---------------------------------------------------------------------------------------------------
+// ---- what is told ----
 
 TEST(PaneSignals, EditTellsTextThenSelectionThenChange)
 {
@@ -482,7 +482,7 @@ TEST(PaneSignals, ChangeMayWriteToThePane)
     EXPECT_EQ(pane.Text(), "second");
 }
 
-// ---- the user's edits -----------------------------------------------------------------------------------------------
+// ---- the user's edits ----
 
 TEST(PaneUserEdit, ReplacesWithTheCaretBehindAndRunsChange)
 {

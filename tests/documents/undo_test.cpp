@@ -119,6 +119,40 @@ TEST_F(UndoTest, WhatWasUndoneCanStillBeReachedAfterANewWord)
     EXPECT_NE(std::find(reached.begin(), reached.end(), "one two "), reached.end());
 }
 
+TEST_F(UndoTest, ABlankTypedAfterUndoingBackToAnEmptyPaneKeepsTheNewestLevel)
+{
+    pane.setSelText("my long work");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(pane.Text(), "");
+    press(" ");
+    EXPECT_EQ(history.Position, 1U);
+    EXPECT_EQ(history.Text[1].text(), "my long work");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(pane.Text(), "my long work");
+}
+
+TEST_F(UndoTest, WhatIsUndoneAfterASaveIsUnsavedText)
+{
+    t.files.addFile("c:\\a\\x.b50", "A");
+    t.files.addFile("c:\\a\\x.m50", "");
+    t.openBoth("c:\\a\\x.b50");
+    press("new");
+    t.menus().mnuFileSave.Click();
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(pane.Text(), "A");
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.program().mum.StatusBar.Panels(2).Picture.get(), 3);
+}
+
+TEST_F(UndoTest, AProtectedMacroFileIsNotUndone)
+{
+    editor.TabStrip1.Select(2);
+    t.pressKeys(editor.MacroText, "m");
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(editor.MacroText.Text(), "m");
+}
+
 TEST_F(UndoTest, CaptionsTipsAndButtonsTellHowFarItGoes)
 {
     press("a b");
@@ -181,8 +215,7 @@ TEST_F(UndoTest, DeleteUndosFromMemoryEmptiesBoth)
     EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
 }
 
-// ---- line highlight
-// ---------------------------------------------------------------------------------------------------
+// ---- line highlight ----
 
 TEST_F(UndoTest, UndoHighlightsTheLineTouchedWhenTheSettingAsksForIt)
 {

@@ -8,8 +8,7 @@
 namespace tarvex {
 namespace {
 
-// ---- start
-// ------------------------------------------------------------------------------------------------------------
+// ---- start ----
 
 TEST(Start, ASecondCopyShowsTheBoxAndLeavesTheSettingsUntouched)
 {
@@ -331,13 +330,12 @@ TEST(Start, ADamagedSettingsFileIsNoObstacle)
     }
 }
 
-// ---- exit
-// -------------------------------------------------------------------------------------------------------------
+// ---- exit ----
 
 TEST(Exit, WithNothingToSaveAsksNothing)
 {
     TestProgram t;
-    t.files.addFile("c:\\a\\x.b50", "BTN");
+    t.files.addFile("c:\\a\\x.b50", "BTN S1 fire");
     t.files.addFile("c:\\a\\x.m50", "A = a");
     t.openBoth("c:\\a\\x.b50");
     EXPECT_TRUE(t.program().exit());
@@ -458,6 +456,22 @@ TEST(Exit, StoresTheTicksOfTheMenus)
     EXPECT_EQ(t.ini("Miscellaneous", "OpenSingleFileOnly"), "1");
     EXPECT_EQ(t.ini("Miscellaneous", "MacroSaveIdentifyJF"), "0");
     EXPECT_EQ(t.ini("Miscellaneous", "MacroSaveUpdateMacros"), "1");
+}
+
+TEST(Exit, ClosingTheFrameGivesTheGradientBackFirstAndTheMenuCommandWhenTheFrameUnloads)
+{
+    for (const bool byFrame : {true, false}) {
+        TestProgram t;
+        std::string order;
+        t.program().operations.ReleaseGradient = [&] { order += "gradient "; };
+        t.program().operations.UnloadEditor = [&] { order += "editor "; };
+        if (byFrame)
+            EXPECT_TRUE(t.program().exit());
+        else
+            t.menus().mnuFileExit.Click();
+        EXPECT_EQ(order, byFrame ? "gradient editor gradient " : "editor gradient ");
+        EXPECT_EQ(t.desktop.quits, 1);
+    }
 }
 
 TEST(Exit, TakesTheToolWindowsDownInOrder)

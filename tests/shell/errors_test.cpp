@@ -47,6 +47,18 @@ TEST(ReportError, ClearsTheExitFlagAndReturnsWhenNobodySetsIt)
     EXPECT_EQ(errors.ExitRequestedByError, 0);
 }
 
+TEST(ReportError, AFailureOfItsOwnComesToNothing)
+{
+    ErrorRecord errors;
+    errors.reportWindow = [&] {
+        errors.ExitRequestedByError = 1;
+        throw std::runtime_error("no window");
+    };
+    errors.exitInEmergency = [] { throw std::runtime_error("no exit"); };
+    EXPECT_NO_THROW(errors.report("MODULE Test", std::runtime_error("x")));
+    EXPECT_EQ(errors.ErrorDescription, "x");
+}
+
 TEST(ReportError, ExitsWhenTheReportWindowAsksForIt)
 {
     ErrorRecord errors;

@@ -68,14 +68,21 @@ std::string names(Access set)
 std::string_view nameOf(SettingForm form)
 {
     switch (form) {
-    case SettingForm::Flag: return "flag";
+    case SettingForm::Flag:
+        return "flag";
     case SettingForm::Integer:
-    case SettingForm::IntegerText: return "int";
-    case SettingForm::Text: return "text, 99";
-    case SettingForm::ShortText: return "text, 49";
-    case SettingForm::ColourText: return "colour";
-    case SettingForm::Position: return "twips";
-    case SettingForm::Dropped: break;
+    case SettingForm::IntegerText:
+        return "int";
+    case SettingForm::Text:
+        return "text, 99";
+    case SettingForm::ShortText:
+        return "text, 49";
+    case SettingForm::ColourText:
+        return "colour";
+    case SettingForm::Position:
+        return "twips";
+    case SettingForm::Dropped:
+        break;
     }
     return "none";
 }
@@ -107,7 +114,8 @@ std::string settingsDocument()
     std::string text{introduction};
     std::string heading;
     for (const SettingRow& row : settingsTable()) {
-        const std::string here = "`" + std::string(fileNameOf(row.file)) + "`, section `" + std::string(row.section) + "`";
+        const std::string here =
+            "`" + std::string(fileNameOf(row.file)) + "`, section `" + std::string(row.section) + "`";
         if (here != heading)
             text += "\n## " + here +
                     "\n\n| Key | Form | Default | Read by | Written by | Meaning |\n|---|---|---|---|---|---|\n";

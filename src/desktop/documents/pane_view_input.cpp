@@ -72,6 +72,8 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         const QString keys = QKeySequence(event->keyCombination()).toString(QKeySequence::PortableText);
         if (pressKey(fromQt(keys))) return;
     }
+    // Ctrl+K and Ctrl+U are not for deleting here, whatever other programs of the desktop do with them.
+    if (event->matches(QKeySequence::DeleteEndOfLine) || event->matches(QKeySequence::DeleteCompleteLine)) return;
     if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
         setOverwriteMode(!overwriteMode());
         emit overwriteModeChanged(overwriteMode());
@@ -91,7 +93,7 @@ void PaneView::tellKeyPress(const QKeyEvent& event)
         m_pane.KeyPress('\r');
     else if (event.key() == Qt::Key_Backspace)
         m_pane.KeyPress('\b');
-    else if (!command && !text.isEmpty() && text[0].isPrint())
+    else if (!command && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\t'))
         m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
 }
 

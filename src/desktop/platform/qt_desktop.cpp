@@ -33,6 +33,7 @@ void QtDesktop::doEvents()
     if (m_handlesEvents) return;
     const QScopedValueRollback<bool> handles(m_handlesEvents, true);
     QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); // what those events want painted
 }
 
 float QtDesktop::screenWidth() const { return toTwips(screenSize().width()); }

@@ -4,6 +4,7 @@
 #include "desktop/shell/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
 #include "desktop/shell/toolbar_view.h"
+#include "documents/editor_window.h"
 #include "documents/pane_keys.h"
 
 #include <QCloseEvent>
@@ -15,6 +16,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvex {
 
@@ -54,6 +56,9 @@ MumWindow::MumWindow(Program& program)
     addShortcuts();
     bindTitle();
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive) m_wasElsewhere = true;
+    });
     m_bindings.bind(program.mum.form.Visible, [this](bool on) { showForm(on); });
     m_bindings.follow(program.mum.form.State, [this] {
         if (isVisible()) showForm(true);
@@ -156,11 +161,18 @@ void MumWindow::resizeEvent(QResizeEvent* event)
 void MumWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) cameToTheFront();
     if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
     Form& form = m_program.mum.form;
     const WindowState shown = isMaximized() ? WindowState::Maximised : WindowState::Normal;
     form.State = isMinimized() ? WindowState::Minimised : shown;
     reportPlace();
+}
+
+/// From another window of the program the keyboard goes back to the pane; from another program to where it was.
+void MumWindow::cameToTheFront()
+{
+    if (!std::exchange(m_wasElsewhere, false)) Form_Activate(m_program.editor);
 }
 
 /// The program asks about unsaved files, takes itself down and hides the window; or the user stays.

@@ -29,11 +29,13 @@ private:
     void addShortcuts();
     void bindTitle();
     void showForm(bool on);
+    void cameToTheFront();
     void reportPlace();
 
     Program& m_program;
     EditorView* m_editor;
     StatusBarView* m_status;
+    bool m_wasElsewhere = false; ///< another program had the keyboard
     bool m_exiting = false;
     Bindings m_bindings;
 };

@@ -420,6 +420,14 @@ TEST(PaneView, KeysWithCtrlAreOfferedFirstAndLeftToTheTextWhenRefused)
     EXPECT_EQ(offered, (std::vector<std::string>{"Ctrl+A", "Ctrl+A"}));
 }
 
+TEST(PaneView, RefusedKeyOfACommandDeletesNothing)
+{
+    Shown shown("abc");
+    shown.press(Qt::Key_K, Qt::ControlModifier);
+    shown.press(Qt::Key_U, Qt::ControlModifier);
+    EXPECT_EQ(shown.pane.Text(), "abc");
+}
+
 TEST(PaneView, ZoomGrowsTextAndFormatsAndLeavesThePaneAlone)
 {
     Shown shown("ab");
