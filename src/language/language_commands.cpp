@@ -1,8 +1,17 @@
 #include "language/language_commands.h"
 
+#include "language/align_slashes.h"
 #include "language/colour_highlighting.h"
-#include "language/macro_commands.h"
+#include "language/find_macro.h"
+#include "language/identify_macros.h"
+#include "language/layout_refresh.h"
+#include "language/macro_analysis.h"
+#include "language/macro_file_lines.h"
+#include "language/macro_list_events.h"
+#include "language/rem_block.h"
 #include "language/remove_colour.h"
+#include "language/slash_buttons.h"
+#include "language/update_macros.h"
 
 namespace tarvex {
 
@@ -30,12 +39,42 @@ void wireColours(Editor& editor)
     menus.mnuRHMColoursSelection.handler = on(editor, mnuRemoveColourSelectedText_Click);
 }
 
+void wireMacros(Editor& editor)
+{
+    Operations& operations = editor.operations;
+    operations.ClearAllForNewMacroFile = on(editor, ClearAllForNewMacroFile);
+    operations.GetEachLineFromMacroFile = on(editor, GetEachLineFromMacroFile);
+    operations.ExtractMacrosAndTitles = on(editor, ExtractMacrosAndTitles);
+    operations.ClearMacroTicks = on(editor, ClearMacroTicks);
+    operations.IdentifyMacrosUsed = on(editor, IdentifyMacrosUsed);
+
+    Menus& menus = editor.menus;
+    menus.mnuEditUpdateMacros.handler = on(editor, mnuEditUpdateMacros_Click);
+    for (MenuItem* item : {&menus.mnuViewIdentify, &menus.mnuRHMIdentify, &menus.mnuRHListIdentify})
+        item->handler = on(editor, IdentifyMacrosUsed);
+    menus.mnuFindInJF.handler = on(editor, FindMacroInJF);
+    menus.mnuRHListInsert.handler = on(editor, mnuRHListInsert_Click);
+    editor.FrameMacros.Combo1.Click = on(editor, Combo1_Click);
+    loadSlashButtons(editor);
+}
+
+void wireLayout(Editor& editor)
+{
+    Menus& menus = editor.menus;
+    menus.mnuViewReformat.handler = on(editor, mnuViewReformat_Click);
+    menus.mnuViewrefreshIndent.handler = on(editor, mnuViewrefreshIndent_Click);
+    menus.mnuViewAlignSlashes.handler = on(editor, AlignSlashes);
+    menus.mnuEditREMblock.handler = on(editor, REMblock);
+    menus.mnuEditREMunblock.handler = on(editor, REMunblock);
+}
+
 } // namespace
 
 void wireLanguage(Editor& editor)
 {
     wireColours(editor);
     wireMacros(editor);
+    wireLayout(editor);
 }
 
 } // namespace tarvex

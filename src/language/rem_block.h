@@ -1,0 +1,14 @@
+#pragma once
+
+#include "documents/editor.h"
+
+namespace tarvex {
+
+/// Turns the lines that the selection of the selected tab's pane touches into comments, as one edit.
+void REMblock(Editor& editor);
+/// Writes "Rem " in front of the caret's line; the caret moves with its text.
+void RemBlockCommon(Editor& editor);
+/// Takes "Rem " (or "Rem" alone) from the beginning of the selected lines, as one edit. Other lines stay.
+void REMunblock(Editor& editor);
+
+} // namespace tarvex
