@@ -68,6 +68,13 @@ void TimerBlinkLine_Timer(Editor& editor)
     }
 }
 
+void endBlinking(Editor& editor)
+{
+    if (!editor.TimerBlinkLine.Enabled) return;
+    editor.TimerBlinkLine.Enabled = false;
+    caretBackToLineStart(editor);
+}
+
 void stopBlinking(Editor& editor) { editor.TimerBlinkLine.Enabled = false; }
 
 void HighlightErrorLine(Editor& editor, std::int64_t lineNumber)

@@ -10,6 +10,9 @@ void HighlightLineAtIP(Editor& editor);
 void blinkLineAtIP(Editor& editor);
 void mnuViewHighlightLine_Click(Editor& editor);
 void TimerBlinkLine_Timer(Editor& editor);
+/// The user is about to write: a line that flashes at the moment must not be what he writes over. Ends the flashing
+/// with a caret at the line's beginning.
+void endBlinking(Editor& editor);
 /// An edit ends the flashing, so that no step of it moves the caret away under the user's hands.
 void stopBlinking(Editor& editor);
 

@@ -75,8 +75,17 @@ void showOffer(Editor& editor, const Offer& offer)
 
 } // namespace
 
-void JoystickText_KeyPress(Editor& editor, int key) { keyPress(editor.joystick, key); }
-void MacroText_KeyPress(Editor& editor, int key) { keyPress(editor.macro, key); }
+void JoystickText_KeyPress(Editor& editor, int key)
+{
+    endBlinking(editor);
+    keyPress(editor.joystick, key);
+}
+
+void MacroText_KeyPress(Editor& editor, int key)
+{
+    endBlinking(editor);
+    keyPress(editor.macro, key);
+}
 
 void UpdateUndoText(const Editor& editor, Side& side)
 {

@@ -1,5 +1,6 @@
 #include "language/coloured_insertion.h"
 
+#include "documents/line_highlight.h"
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
@@ -49,6 +50,7 @@ void insertBlack(Side& side, std::string_view text)
 void BeginColInsert(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_BeginColInsert");
+    endBlinking(editor);
     step([&] {
         editor.shared.IsLoading = 1;
         Side& side = editor.selected();

@@ -1,6 +1,7 @@
 #include "language/macro_list_events.h"
 
 #include "documents/editor_layout.h"
+#include "documents/line_highlight.h"
 #include "language/find_macro.h"
 #include "language/macro_analysis.h"
 #include "language/macro_keys.h"
@@ -105,6 +106,7 @@ void List1_DblClick(Editor& editor, std::size_t list)
 {
     const Steps step(editor.shared.errors, "ED_List1_DblClick");
     step([&] {
+        endBlinking(editor);
         if (!editor.JoystickText.Visible) editor.TabStrip1.Select(editor.joystick.tab);
         if (pickMacro(editor, list)) insertMacro(editor);
     });

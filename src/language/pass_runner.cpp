@@ -44,6 +44,7 @@ private:
         m_pass = &pass;
         m_run.position = 0;
         m_read = {};
+        m_coated = {};
         if (!m_run.mum) return;
         if (!pass.status.empty()) m_run.mum->StatusBar.Panels(panel::progress).Text = std::string(pass.status);
         showKeywordProgress(pass.progress != passProgress::byPosition);
@@ -126,7 +127,7 @@ private:
         extend();
         paint(m_pass->colour);
         goOnBehindSelection();
-        paintNameFromHere();
+        paintOnUpTo(" ");
     }
 
     void slash()
@@ -188,9 +189,7 @@ private:
     {
         paint(m_pass->colour);
         goOnBehindSelection();
-        moveCaretHere();
-        m_pane.Span(lineEnd, true, true);
-        paint(m_pass->colour);
+        paintOnUpTo(lineEnd);
     }
 
     void templateDef()
@@ -199,7 +198,7 @@ private:
         const auto length = static_cast<std::int64_t>(m_pass->word.size());
         if (read(0, m_found + length + 1) == " ") paint(&Settings::MiscellaneousColour);
         goOnBehindSelection();
-        paintNameFromHere();
+        paintOnUpTo(" ");
     }
 
     // ---- what they are made of --------------------------------------------------------------------------------------
@@ -208,11 +207,18 @@ private:
     void extend() { m_pane.setSelLength(m_pane.SelLength() + 1); }
     void goOnBehindSelection() { m_run.position = static_cast<float>(m_found + m_pane.SelLength()); }
 
-    void paintNameFromHere()
+    /// Paints from here up to a character of the set, which is the same for the whole pass. What has its coat already
+    /// gets no second one: many signs on one long line would cost the square of its length.
+    void paintOnUpTo(std::string_view set)
     {
         moveCaretHere();
-        m_pane.Span(" ", true, true);
-        paint(m_pass->colour);
+        const std::int64_t begin = m_pane.SelStart();
+        if (begin < m_coated.begin || begin + m_pane.SelLength() > m_coated.end) {
+            m_pane.Span(set, true, true);
+            paint(m_pass->colour);
+            m_coated.end = m_pane.SelStart() + m_pane.SelLength();
+        }
+        m_coated.begin = begin; // a word before it may be painted over
     }
 
     /// A position that has turned negative is refused, and the selection stays.
@@ -247,6 +253,11 @@ private:
     std::int64_t m_match = -1; ///< where it really stands
     std::int16_t m_found = -1; ///< what the pass makes of it
     std::array<std::string_view, 2> m_read;
+    struct Range {
+        std::int64_t begin = 0;
+        std::int64_t end = -1;
+    };
+    Range m_coated; ///< by paintOnUpTo in this pass, up to a character of its set
     bool m_keywords = false;
     bool m_wasHeld = false;
 };

@@ -254,6 +254,16 @@ TEST_F(UndoTest, AnEditEndsTheFlashing)
     EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
 }
 
+TEST_F(UndoTest, AKeyDuringTheFlashingDoesNotWriteOverTheLine)
+{
+    pane.setSelText("first\r\nsecond");
+    t.menus().mnuViewHighlightLine.Click();
+    EXPECT_EQ(pane.SelText(), "second");
+    press("x");
+    EXPECT_EQ(pane.Text(), "first\r\nxsecond");
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+}
+
 TEST_F(UndoTest, AnEmptyPaneHasNoLineToHighlight)
 {
     t.menus().mnuViewHighlightLine.Click();

@@ -48,7 +48,7 @@ void TestProgram::pressKeys(Pane& pane, const std::string& keys)
         if (key == '\b')
             pane.userEdit(caret - 1, 1, "");
         else
-            pane.userEdit(caret, 0, key == '\r' ? "\r\n" : std::string(1, key));
+            pane.userEdit(caret, pane.SelLength(), key == '\r' ? "\r\n" : std::string(1, key));
     }
 }
 

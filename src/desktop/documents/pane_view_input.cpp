@@ -95,6 +95,7 @@ void PaneView::tellKeyPress(const QKeyEvent& event)
         m_pane.KeyPress('\b');
     else if (!command && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\t'))
         m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
+    showPane(); // the caret may have been moved out of the way
 }
 
 bool PaneView::zoomByKey(const QKeyEvent& event)
