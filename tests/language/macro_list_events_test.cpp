@@ -252,6 +252,18 @@ TEST_F(ListEventsTest, DoubleClickBehindAWordAddsABlankAndStopsBeforeTheTrailing
     EXPECT_EQ(editor.pair.JoystickCaret, 7);
 }
 
+TEST_F(ListEventsTest, AfterColouringOrRemovingColourDoubleClickWritesAtACaretBeyond32767)
+{
+    for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuRemoveColourJoystick}) {
+        caretAt(std::string(40000, ' '), 35000);
+        command->Click();
+        doubleClickFire();
+        EXPECT_EQ(joystick.Text().find("Fire "), 35000U);
+        EXPECT_EQ(joystick.SelStart(), 35005);
+        EXPECT_EQ(editor.pair.JoystickCaret, 35005);
+    }
+}
+
 TEST_F(ListEventsTest, DoubleClickReplacesASelection)
 {
     caretAt("one two three", 4);
