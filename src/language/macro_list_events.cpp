@@ -5,6 +5,7 @@
 #include "language/find_macro.h"
 #include "language/macro_analysis.h"
 #include "language/macro_keys.h"
+#include "language/side_caret.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>
@@ -70,11 +71,12 @@ void insertMacro(Editor& editor)
     } else {
         side.Caret = static_cast<float>(pane.SelStart());
     }
-    pane.setSelColor(0);
-    pane.setSelText(text);
+    const FormatId black = pane.formats()->withColour(pane.formats()->idOf(pane.SelFormat()), 0);
+    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
+    // Text and colour in one write: a selection coloured first would be an edit, and an undo level, of its own.
+    pane.setSelRTF(RichText(pane.formats(), text, {{static_cast<std::uint32_t>(text.size()), black}}));
     // A blank in front isn't counted: the caret then stops before the one behind the name.
-    side.Caret += static_cast<float>(name.size() + 1);
-    pane.setSelStart(static_cast<std::int64_t>(side.Caret));
+    putCaret(side, static_cast<std::int64_t>(side.Caret) + static_cast<std::int64_t>(name.size()) + 1);
     pane.SetFocus();
 }
 

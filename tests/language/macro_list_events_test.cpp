@@ -288,6 +288,32 @@ TEST_F(ListEventsTest, DoubleClickWritesInColour0AsOneEditOfTheUsers)
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
 }
 
+TEST_F(ListEventsTest, OneUndoAfterDoubleClickOverASelectionBringsTheOldTextWithItsColoursBack)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    caretAt("one two three", 4);
+    joystick.setSelLength(3);
+    joystick.setSelColor(255);
+    const RichText before = joystick.TextRTF();
+    const std::size_t levels = editor.JoystickUndo.Text.size();
+    doubleClickFire();
+    EXPECT_EQ(joystick.formatAt(4).colour, 0);
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "one two three");
+    EXPECT_TRUE(joystick.TextRTF() == before);
+}
+
+TEST_F(ListEventsTest, DoubleClickOpensAnUndoLevelThoughAKeyChangedNothing)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    caretAt("ab ", 3);
+    joystick.KeyPress('x'); // as in a pane that refuses the key
+    doubleClickFire();
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "ab ");
+}
+
 TEST_F(ListEventsTest, DoubleClickSelectsTab1WhenTheJoystickPaneIsHidden)
 {
     editor.TabStrip1.Select(2);
