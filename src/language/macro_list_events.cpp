@@ -121,7 +121,8 @@ void List1_MouseDown(Editor& editor, std::size_t list, int button, int shift)
 {
     const Steps step(editor.shared.errors, "ED_List1_MouseDown");
     step([&] { showMacro(editor, list, button == mouseButton::left && shift == shiftKey::shift); });
-    if (button != mouseButton::right) return;
+    const auto& lists = editor.FrameMacros.List1;
+    if (button != mouseButton::right || list >= lists.size() || lists[list].Items.get().empty()) return;
     editor.macros.ListClicked = list;
     step([&] { editor.platform.dialogues.popUp(editor.menus.mnuRHList); });
 }

@@ -223,6 +223,16 @@ TEST_F(ListEventsTest, ADragCarriesTheNameBetweenBlanks)
     EXPECT_EQ(List1_OLEStartDrag(editor, 0), " Fire ");
 }
 
+TEST_F(ListEventsTest, TheRightButtonPopsUpNothingOnAnEmptyList)
+{
+    editor.macros.ListClicked = 7;
+    frame.List1[1].Items = std::vector<CheckListBox::Item>();
+    List1_MouseDown(editor, 1, mouseButton::right, shiftKey::none);
+    EXPECT_EQ(editor.macros.ListClicked, 7U) << "the menu would be for it";
+    List1_MouseDown(editor, 0, mouseButton::right, shiftKey::none);
+    EXPECT_EQ(editor.macros.ListClicked, 0U);
+}
+
 // ---- double click
 // -------------------------------------------------------------------------------------------------------
 
