@@ -34,6 +34,7 @@ void loadPlain(Editor& editor, Side& side, const std::string& text)
     pane.setTextRTF({}); // drops the formats of the old text
     applyBaseFormat(editor, pane);
     editor.shared.IsLoading = loading;
+    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
     pane.setText(text);
     side.Caret = 0;
     side.SelectionLength = 0;

@@ -30,11 +30,13 @@ void colourScratch(Editor& editor, std::span<const ColourPass> passes)
 void transfer(Editor& editor)
 {
     Pane& scratch = editor.TempRichTextBox;
-    Pane& target = editor.selected().pane;
+    Side& side = editor.selected();
+    Pane& target = side.pane;
     scratch.setSelStart(0);
     if (touchesAWord(target)) scratch.setSelText(" ");
     scratch.setSelStart(0);
     scratch.setSelLength(static_cast<std::int64_t>(scratch.TextLength()));
+    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
     target.setSelRTF(scratch.SelRTF());
 }
 

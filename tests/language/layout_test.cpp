@@ -139,6 +139,18 @@ TEST_F(LayoutTest, AlignSlashesRewritesThePaneAsOneEditInThePlainFormat)
     EXPECT_EQ(joystick.Text(), "BTN T2   /I Chaff\r\n/O Flare");
 }
 
+TEST_F(LayoutTest, AlignSlashesOpensAnUndoLevelThoughAKeyChangedNothing)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    t.settings().ApplyColoursOnFileOpen = 0;
+    joystick.setText("BTN   S1");
+    joystick.KeyPress('x'); // as in a pane that refuses the key
+    t.menus().mnuViewAlignSlashes.Click();
+    EXPECT_EQ(joystick.Text(), "BTN S1\r\n");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "BTN   S1");
+}
+
 TEST_F(LayoutTest, AlignSlashesOfAnEmptyPaneDoesNothing)
 {
     t.files.clearWrites();
