@@ -2,6 +2,7 @@
 
 #include "documents/tabs.h"
 #include "language/coloured_insertion.h"
+#include "language/protected_pane.h"
 #include "language/side_caret.h"
 #include "platform/windows1252.h"
 
@@ -103,6 +104,7 @@ std::vector<Change> uncommenting(const Pane& pane, const Lines& lines)
 void RemBlockCommon(Editor& editor)
 {
     const Steps step;
+    if (refuseProtected(editor)) return;
     step([&] {
         Side& side = editor.selected();
         Pane& pane = side.pane;
@@ -119,6 +121,7 @@ void RemBlockCommon(Editor& editor)
 void REMblock(Editor& editor)
 {
     const Steps step;
+    if (refuseProtected(editor)) return;
     Side& side = editor.selected();
     const std::int64_t caret = side.pane.SelStart();
     const Lines lines = selectedLines(side.pane);
@@ -137,6 +140,7 @@ void REMblock(Editor& editor)
 void REMunblock(Editor& editor)
 {
     const Steps step;
+    if (refuseProtected(editor)) return;
     Side& side = editor.selected();
     const std::int64_t caret = side.pane.SelStart();
     const std::vector<Change> changes = uncommenting(side.pane, selectedLines(side.pane));

@@ -3,6 +3,7 @@
 #include "documents/pane_change.h"
 #include "language/base_format.h"
 #include "language/colour_highlighting.h"
+#include "language/protected_pane.h"
 #include "platform/text.h"
 
 namespace tarvex {
@@ -44,6 +45,7 @@ void transferColoured(Editor& editor, std::span<const ColourPass> passes)
 {
     const Steps step;
     Pane& scratch = editor.TempRichTextBox;
+    if (refuseProtected(editor)) return scratch.setText("");
     scratch.Visible = true;
     step([&] { colourScratch(editor, passes); });
     step([&] { transfer(editor); });
