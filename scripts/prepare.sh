@@ -4,12 +4,12 @@
 # One row per purpose; a package stands in one row only.
 package_table() {
     cat <<'TABLE'
-build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev
+build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev libxcb1-dev libxcb-xkb-dev
 run       fonts-liberation
 wayland   qt6-wayland
 display   xvfb
 picture   openbox wmctrl imagemagick
-test      libgtest-dev libgmock-dev
+test      libgtest-dev libgmock-dev strace
 sanitize  clang-14 libclang-rt-14-dev llvm-14
 bench     libbenchmark-dev libx11-dev libxdamage-dev
 peers     geany mousepad featherpad

@@ -1,11 +1,16 @@
 #include "cli/colour_command.h"
 #include "cli/input.h"
+#include "cli/layout_command.h"
+#include "cli/macro_commands.h"
+#include "cli/statement_command.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
 #include <exception>
 #include <functional>
+#include <memory>
+#include <utility>
 
 // Reads the controllers' files as the desktop program does, and prints what it makes of them.
 
@@ -17,10 +22,14 @@ constexpr const char* teaching = R"(Examples:
   tarvexctl colour mig.b50                    show a joystick file in its colours
   tarvexctl colour mig.m50 --html > mig.html  a web page of a macro file
   tarvexctl colour - --as macro --json        read standard input as a macro file
+  tarvexctl macros mig.m50                    headings, and the macros under them
+  tarvexctl used mig.b50 mig.m50              which macros the joystick file uses
+  tarvexctl align mig.b50 > aligned.b50       line up the slash modifiers
+  tarvexctl statement mig.b50 H1U             what the hat does when pushed up
 
 Exit status: 0 done; 2 a wrong call, or a file that can't be read; 3 a search
 would never have ended (an unclosed bracket), the result is printed all the same;
-4 there is nothing to analyse.
+4 there is nothing to analyse, or no such statement.
 'tarvexctl COMMAND --help' tells more about a command; so does man tarvexctl.)";
 
 constexpr const char* colourTeaching =
@@ -34,13 +43,53 @@ Runs cover the whole text; positions count bytes from 0, a line end as two;
 a colour is a number of the settings, blue * 65536 + green * 256 + red.
 "held" names the searches that would never have ended, with their line from 1.)";
 
+constexpr const char* macrosTeaching =
+    R"(A macro is a line "name = keys" that is no comment. A heading is a line between
+two rules of comment lines, "Rem -----" or a box of double lines behind "~".
+The heading All has every macro.
+
+JSON: {"headings": ["All", ...], "lists": [["name", ...], ...]}
+The first list has all macros, each other those under the heading of its place.)";
+
+constexpr const char* usedTeaching =
+    R"(A macro counts as used where its name stands as a whole word, in any case, with a
+blank or a line end behind it; also in a comment.
+A joystick file without any letter "e" leaves nothing to analyse.
+
+JSON: for each heading of the macro file a list of ["name", true or false] pairs,
+the first one with all macros.)";
+
+constexpr const char* alignTeaching =
+    R"(Lines that begin with a modifier go below that of their BTN line: /U /M /D, /I /O,
+/P /R and /T each have a column. Tabs go, runs of blanks become one, comment lines
+stay. The result is in the bytes of the file, its lines end in CR LF.)";
+
+constexpr const char* statementTeaching =
+    R"(HEAD is what names the statement: S1, "BTN S1", MDEF, PortB1. It is found as a
+whole word in any case, at its first place; the statement ends before the next
+BTN, RNG, ANT, MDEF, JSX, JSY, PORTB, USE, RATE, SWAPTG, THR or RDDR.
+
+JSON: {"start": n, "length": n, "text": "..."}; positions as those of colour.)";
+
 /// Called once the command line is known to be right; returns the exit status.
 using Work = std::function<int()>;
 
+/// A command whose options are kept until it runs.
+template <typename Options>
+std::pair<CLI::App*, std::shared_ptr<Options>> newCommand(CLI::App& app, Work& work, int (*run)(const Options&),
+                                                          const char* name, const char* help, const char* footer)
+{
+    auto options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand(name, help);
+    command->footer(footer);
+    command->callback([options, run, &work] { work = [options, run] { return run(*options); }; });
+    return {command, options};
+}
+
 void addColour(CLI::App& app, Work& work)
 {
-    auto options = std::make_shared<ColourOptions>();
-    CLI::App* command = app.add_subcommand("colour", "Print a file with its colours");
+    const auto [command, options] =
+        newCommand(app, work, colourCommand, "colour", "Print a file with its colours", colourTeaching);
     command->add_option("FILE", options->file, "joystick file, macro file or template; - reads standard input")
         ->required();
     command->add_option("--as", options->as, "colour it as this kind of file, whatever its name says")
@@ -56,8 +105,42 @@ void addColour(CLI::App& app, Work& work)
     form("--html", ColourForm::Html, "a web page");
     form("--rtf", ColourForm::Rtf, "rich text, for word processors");
     forms->require_option(0, 1);
-    command->footer(colourTeaching);
-    command->callback([options, &work] { work = [options] { return colourCommand(*options); }; });
+}
+
+void addMacros(CLI::App& app, Work& work)
+{
+    const auto [command, options] =
+        newCommand(app, work, macrosCommand, "macros", "List the headings and macros of a macro file", macrosTeaching);
+    command->add_option("FILE", options->file, "macro file; - reads standard input")->required();
+    command->add_flag("--json", options->json, "as JSON");
+}
+
+void addUsed(CLI::App& app, Work& work)
+{
+    const auto [command, options] =
+        newCommand(app, work, usedCommand, "used", "Tell which macros a joystick file uses", usedTeaching);
+    command->add_option("JOYSTICKFILE", options->joystickFile, "joystick file; - reads standard input")->required();
+    command->add_option("MACROFILE", options->macroFile, "macro file; - reads standard input")->required();
+    command->add_flag("--json", options->json, "as JSON");
+}
+
+void addAlign(CLI::App& app, Work& work)
+{
+    constexpr int mostBlanks = 32767;
+    const auto [command, options] =
+        newCommand(app, work, alignCommand, "align", "Line up the slash modifiers of a file", alignTeaching);
+    command->add_option("FILE", options->file, "joystick or macro file; - reads standard input")->required();
+    command->add_option("--indent", options->indent, "blanks to put in front of each line that isn't a comment")
+        ->check(CLI::Range(0, mostBlanks));
+}
+
+void addStatement(CLI::App& app, Work& work)
+{
+    const auto [command, options] = newCommand(app, work, statementCommand, "statement",
+                                               "Print one statement of a joystick file", statementTeaching);
+    command->add_option("JOYSTICKFILE", options->file, "joystick file; - reads standard input")->required();
+    command->add_option("HEAD", options->head, "what names the statement, e.g. S1")->required();
+    command->add_flag("--json", options->json, "as JSON");
 }
 
 int fail(const std::string& text)
@@ -84,6 +167,10 @@ int run(int argc, char** argv)
     app.footer(teaching);
     Work work;
     addColour(app, work);
+    addMacros(app, work);
+    addUsed(app, work);
+    addAlign(app, work);
+    addStatement(app, work);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {

@@ -13,9 +13,8 @@ constexpr char32_t controlPictures = 0x2400;
 constexpr char32_t deletePicture = 0x2421;
 constexpr char32_t replacement = 0xFFFD;
 
-char32_t shown(char byte)
+char32_t shown(char32_t character)
 {
-    const char32_t character = windows1252ToUnicode[static_cast<unsigned char>(byte)];
     if (character == '\n' || character == '\t') return character;
     if (character < blank) return controlPictures + character;
     if (character == deleteCharacter) return deletePicture;
@@ -27,7 +26,16 @@ char32_t shown(char byte)
 void appendShown(std::string& out, std::string_view bytes)
 {
     for (const char byte : bytes) {
-        if (byte != '\r') appendUtf8(out, shown(byte));
+        if (byte != '\r') appendUtf8(out, shown(windows1252ToUnicode[static_cast<unsigned char>(byte)]));
+    }
+}
+
+void appendShownUtf8(std::string& out, std::string_view text)
+{
+    while (!text.empty()) {
+        const Utf8Character first = firstUtf8Character(text);
+        if (text.front() != '\r') appendUtf8(out, first.valid ? shown(first.codePoint) : replacement);
+        text.remove_prefix(first.size);
     }
 }
 

@@ -28,7 +28,9 @@ void Bindings::comboBox(ComboBox& state, QComboBox& widget)
     bind(state.Items, [&widget, showText](const std::vector<std::string>& items) {
         const QSignalBlocker quiet(widget);
         widget.clear();
-        for (const std::string& item : items) widget.addItem(toQt(item));
+        QStringList texts;
+        for (const std::string& item : items) texts.append(toQt(item));
+        widget.addItems(texts);
         showText();
     });
     follow(state.Text, showText);
@@ -54,6 +56,7 @@ void Bindings::progressBar(ProgressBar& state, QProgressBar& widget)
 void Bindings::timer(Timer& state, QObject& owner)
 {
     auto* clockwork = new QTimer(&owner);
+    clockwork->setObjectName(QLatin1String(tickName));
     QObject::connect(clockwork, &QTimer::timeout, clockwork, [&state] {
         if (state.Tick) state.Tick();
     });

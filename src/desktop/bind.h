@@ -13,6 +13,9 @@ class QProgressBar;
 
 namespace tarvex {
 
+/// Name of the objects that run the logic's timers.
+inline constexpr char tickName[] = "Tick";
+
 /// Keeps widgets equal to control state for as long as it lives. A view has one and lets it go before its widgets.
 class Bindings {
 public:

@@ -44,15 +44,20 @@ template <typename Ticked> void tick(CheckListBox& list, Ticked ticked)
 void refuseToAnalyse(Editor& editor)
 {
     editor.platform.dialogues.show(
-        {.title = "You're kidding me...right?!",
-         .text = "Oh come off it ... what's there to analyse? You think I'm some kind of slave that you can just push "
-                 "around ... well no .... computers have feelings you know ... you keep turning me on, and then "
-                 "turning me off ... how would you like it? !!! Next time I'm going to analyse you instead of these "
-                 "damn files ...",
-         .icon = BoxIcon::Exclamation});
+        {.title = "You're kidding me...right?!", .text = std::string(nothingToIdentify), .icon = BoxIcon::Exclamation});
 }
 
 } // namespace
+
+const std::string_view nothingToIdentify =
+    "Oh come off it ... what's there to analyse? You think I'm some kind of slave that you can just push around ... "
+    "well no .... computers have feelings you know ... you keep turning me on, and then turning me off ... how would "
+    "you like it? !!! Next time I'm going to analyse you instead of these damn files ...";
+
+bool canIdentify(const Pane& joystick, const Pane& macros)
+{
+    return joystick.Text().find('e') != std::string::npos && macros.TextLength() != 0;
+}
 
 bool isMacroUsed(Pane& text, std::string_view name)
 {
@@ -77,9 +82,7 @@ void ClearMacroTicks(Editor& editor)
 void IdentifyMacrosUsed(Editor& editor)
 {
     const Steps step;
-    // A joystick file without any "e" passes for an empty one.
-    if (editor.JoystickText.Text().find('e') == std::string::npos || editor.MacroText.TextLength() == 0)
-        return refuseToAnalyse(editor);
+    if (!canIdentify(editor.JoystickText, editor.MacroText)) return refuseToAnalyse(editor);
     step([&] { ClearMacroTicks(editor); });
     editor.status("Analysing the macros you've already assigned in the " + editor.pair.JoystickFileName +
                   ". Please wait ...");

@@ -13,6 +13,11 @@ constexpr std::string_view blanksBeforeText = "   ";
 /// Moves the pane's selection.
 bool isMacroUsed(Pane& text, std::string_view name);
 
+/// Whether there is anything to analyse: a joystick file without any "e" passes for an empty one. Without it the
+/// program says `nothingToIdentify`.
+bool canIdentify(const Pane& joystick, const Pane& macros);
+extern const std::string_view nothingToIdentify;
+
 /// Ticks every macro of the lists that the joystick file uses.
 void IdentifyMacrosUsed(Editor& editor);
 void ClearMacroTicks(Editor& editor);

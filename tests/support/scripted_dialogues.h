@@ -20,12 +20,13 @@ public:
     std::deque<std::optional<std::string>> filesToSave;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
     bool modalFormsExist = true;
-    std::function<void()> whileModal;   ///< runs while a modal window is up
+    std::function<void()> whileModal; ///< runs while a modal window is up
 
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
     std::vector<FileRequest> saveRequests;
     std::vector<std::string> modalForms;
+    std::vector<std::string> popUps; ///< names of the menus that popped up
 
     Answer show(const MessageBox& box) override
     {
@@ -50,7 +51,7 @@ public:
         if (whileModal) whileModal();
         return modalFormsExist;
     }
-    void popUp(const MenuItem&) override {}
+    void popUp(const MenuItem& root) override { popUps.push_back(root.Name); }
 
 private:
     template <typename T> static T next(std::deque<T>& scripted, T otherwise, const std::string& what)

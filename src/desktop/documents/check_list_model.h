@@ -6,12 +6,14 @@
 
 namespace tarvex {
 
-/// The items of a list with ticks, for a QListView.
+/// The items of a list with ticks, for a QListView. A list that changes as a whole is told as a whole.
 class CheckListModel : public QAbstractListModel {
     Q_OBJECT
 public:
-    /// The list outlives the model.
-    explicit CheckListModel(CheckListBox& list, QObject* parent = nullptr);
+    using QAbstractListModel::QAbstractListModel;
+
+    /// From now on the items are those of `list`; null: there are none. The list outlives being shown.
+    void show(CheckListBox* list);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -19,9 +21,13 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
-    CheckListBox& m_list;
+    void takeItems();
+    int itemCount() const;
+    bool holds(const QModelIndex& index) const;
+
+    CheckListBox* m_list = nullptr;
     bool m_ticking = false;
-    int m_rows = 0;
+    int m_rows = 0; ///< as the view knows them
     Bindings m_bindings;
 };
 

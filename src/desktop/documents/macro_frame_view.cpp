@@ -1,31 +1,37 @@
 #include "desktop/documents/macro_frame_view.h"
 
-#include "desktop/documents/check_list_model.h"
+#include "desktop/documents/macro_list_view.h"
 #include "documents/editor_layout.h"
+#include "language/macro_list_events.h"
+#include "language/slash_buttons.h"
 
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QGridLayout>
-#include <QListView>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
-#include <QSignalBlocker>
 
 namespace tarvex {
 
 namespace {
 
 constexpr int edge = 6; // pixels of the frame's right side that can be dragged
-constexpr int buttonColumns = 4;
 
-QListView* makeListView(QWidget* parent)
+/// Where a button stands in the grid, so that the thirteen fill three rows.
+struct GridPlace {
+    int row, column, columns;
+};
+
+constexpr int gridColumns = 5;
+
+GridPlace placeOf(std::size_t index)
 {
-    auto* view = new QListView(parent);
-    view->setObjectName(QStringLiteral("List1"));
-    view->setUniformItemSizes(true);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setAccessibleName(QStringLiteral("Macros"));
-    view->setMinimumHeight(0);
-    return view;
+    constexpr std::size_t delay = 11;
+    constexpr std::size_t ignoreRepeat = 12;
+    if (index == delay) return {2, 2, 3};
+    if (index == ignoreRepeat) return {2, 1, 1};
+    return {static_cast<int>(index) / gridColumns, static_cast<int>(index) % gridColumns, 1};
 }
 
 } // namespace
@@ -38,64 +44,98 @@ MacroFrameView::MacroFrameView(Editor& editor, QWidget* parent) : QFrame(parent)
     column->setContentsMargins(4, 4, edge, 4);
     column->setSpacing(4);
     column->setSizeConstraint(QLayout::SetNoConstraint); // the frame's place is given
-    auto* headings = new QComboBox(this);
-    headings->setAccessibleName(QStringLiteral("Heading"));
-    headings->setMinimumContentsLength(1);
-    headings->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    column->addWidget(headings);
-    m_bindings.comboBox(editor.FrameMacros.Combo1, *headings);
-    m_lists = new QVBoxLayout;
-    column->addLayout(m_lists, 1);
-    m_buttons = new QGridLayout;
-    m_buttons->setSpacing(2);
-    column->addLayout(m_buttons);
-    for (int index = 0; index < static_cast<int>(editor.FrameMacros.Command1.size()); ++index) addButton(index);
-    for (QWidget* child : findChildren<QWidget*>()) child->setCursor(Qt::ArrowCursor);
-    showLists();
-    m_bindings.follow(editor.FrameMacros.List1Changed, [this] { showLists(); });
+    column->addWidget(makeHeadings());
+    column->addWidget(new MacroListView(editor, this), 1);
+    column->addLayout(makeButtons());
+    for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) child->setCursor(Qt::ArrowCursor);
     m_bindings.bind(editor.FrameMacros.MousePointer, [this](MousePointer pointer) {
         setCursor(pointer == MousePointer::SizeWestEast ? Qt::SizeHorCursor : Qt::ArrowCursor);
+        update(grip());
     });
 }
 
-/// A button without a caption has no use yet.
-void MacroFrameView::addButton(int index)
+QComboBox* MacroFrameView::makeHeadings()
 {
-    Button& state = m_editor.FrameMacros.Command1[static_cast<std::size_t>(index)];
+    auto* headings = new QComboBox(this);
+    headings->setObjectName(QStringLiteral("Combo1"));
+    headings->setAccessibleName(QStringLiteral("Heading"));
+    headings->setMinimumContentsLength(1);
+    headings->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    headings->setMaxVisibleItems(20);
+    headings->setMouseTracking(true);
+    headings->installEventFilter(this);
+    m_bindings.comboBox(m_editor.FrameMacros.Combo1, *headings);
+    m_bindings.bind(m_editor.FrameMacros.Combo1.Text, [headings](const std::string& text) {
+        const QString tip = toQt(text).toHtmlEscaped(); // a long heading has no room in the box
+        headings->setToolTip(tip.isEmpty() ? tip : QStringLiteral("<span>") + tip + QStringLiteral("</span>"));
+    });
+    return headings;
+}
+
+QGridLayout* MacroFrameView::makeButtons()
+{
+    auto* grid = new QGridLayout;
+    grid->setSpacing(2);
+    for (int column = 0; column < gridColumns; ++column) grid->setColumnStretch(column, 1);
+    for (std::size_t index = 0; index < m_editor.FrameMacros.Command1.size(); ++index) {
+        const GridPlace place = placeOf(index);
+        grid->addWidget(makeButton(index), place.row, place.column, 1, place.columns);
+    }
+    return grid;
+}
+
+/// A button without a caption has no use yet. The keyboard stays with the pane that the button writes to.
+QWidget* MacroFrameView::makeButton(std::size_t index)
+{
+    Button& state = m_editor.FrameMacros.Command1[index];
     auto* view = new QPushButton(this);
+    view->setObjectName(QStringLiteral("Command1_%1").arg(index));
     view->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    view->setFocusPolicy(Qt::NoFocus);
+    view->setMouseTracking(true);
+    view->installEventFilter(this);
+    m_indexes.emplace(view, index);
     m_bindings.button(state, *view);
     const auto showWhenCaptioned = [view, &state] { view->setVisible(state.Visible && !state.Caption.get().empty()); };
     m_bindings.follow(state.Caption, showWhenCaptioned);
     m_bindings.follow(state.Visible, showWhenCaptioned);
     showWhenCaptioned();
-    m_buttons->addWidget(view, index / buttonColumns, index % buttonColumns);
+    return view;
 }
 
-void MacroFrameView::showLists()
+/// The combo box and the buttons tell when they have the mouse or the keyboard.
+bool MacroFrameView::eventFilter(QObject* watched, QEvent* event)
 {
-    m_listBindings = Bindings();
-    while (QLayoutItem* item = m_lists->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-    for (CheckListBox& list : m_editor.FrameMacros.List1) addList(list);
+    const bool isHeadings = watched->objectName() == QLatin1String("Combo1");
+    if (isHeadings && event->type() == QEvent::MouseMove) Combo1_MouseMove(m_editor);
+    if (isHeadings && event->type() == QEvent::FocusIn &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+        Combo1_GotFocus(m_editor);
+    if (const auto found = m_indexes.find(watched); found != m_indexes.end() && event->type() == QEvent::MouseMove)
+        Command1_MouseMove(m_editor, found->second);
+    return QFrame::eventFilter(watched, event);
 }
 
-void MacroFrameView::addList(CheckListBox& list)
+// ---- the edge -------------------------------------------------------------------------------------------------------
+
+/// Over the whole height, so that it is hit easily.
+QRect MacroFrameView::grip() const { return {width() - edge, 0, edge, height()}; }
+
+/// A row of dots in the middle; the whole edge while the pointer is on it.
+void MacroFrameView::paintEvent(QPaintEvent*)
 {
-    QListView* view = makeListView(this);
-    view->setModel(new CheckListModel(list, view));
-    view->setCursor(Qt::ArrowCursor);
-    m_lists->addWidget(view, 1);
-    m_listBindings.bind(list.Visible, [view](bool on) { view->setVisible(on); });
-    m_listBindings.bind(list.ListIndex, [view](int index) {
-        const QSignalBlocker quiet(view->selectionModel());
-        view->setCurrentIndex(view->model()->index(index, 0));
-        view->viewport()->update();
-    });
-    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, view,
-            [&list](const QModelIndex& current) { list.ListIndex = current.row(); });
+    constexpr int dots = 7;
+    constexpr int size = 2;
+    const bool hot = m_editor.FrameMacros.MousePointer == MousePointer::SizeWestEast;
+    QColor ground = palette().color(QPalette::Highlight);
+    ground.setAlphaF(0.25F);
+    QColor dot = palette().color(hot ? QPalette::Highlight : QPalette::WindowText);
+    if (!hot) dot.setAlphaF(0.5F);
+    const QRect area = grip();
+    QPainter painter(this);
+    if (hot) painter.fillRect(area, ground);
+    const QPoint first = area.center() - QPoint(size / 2 - 1, (dots - 1) * size);
+    for (int i = 0; i < dots; ++i) painter.fillRect(QRect(first + QPoint(0, 2 * i * size), QSize(size, size)), dot);
 }
 
 /// While the edge is dragged the mouse counts as over it, however fast it moves.

@@ -5,11 +5,11 @@
 
 #include <QFrame>
 
-#include <memory>
-#include <vector>
+#include <cstddef>
+#include <map>
 
+class QComboBox;
 class QGridLayout;
-class QVBoxLayout;
 
 namespace tarvex {
 
@@ -24,19 +24,20 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void showLists();
-    void addList(CheckListBox& list);
-    void addButton(int index);
+    QComboBox* makeHeadings();
+    QGridLayout* makeButtons();
+    QWidget* makeButton(std::size_t index);
     void tellMouse(const QMouseEvent& event);
+    QRect grip() const;
 
     Editor& m_editor;
-    QVBoxLayout* m_lists = nullptr;
-    QGridLayout* m_buttons = nullptr;
+    std::map<const QObject*, std::size_t> m_indexes; ///< of the buttons in Command1
     bool m_dragging = false;
     Bindings m_bindings;
-    Bindings m_listBindings; ///< of the lists that are there now
 };
 
 } // namespace tarvex

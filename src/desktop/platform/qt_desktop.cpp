@@ -1,5 +1,6 @@
 #include "desktop/platform/qt_desktop.h"
 
+#include "desktop/platform/escape_wait.h"
 #include "desktop/text.h"
 
 #include <QCursor>
@@ -34,6 +35,12 @@ void QtDesktop::doEvents()
     const QScopedValueRollback<bool> handles(m_handlesEvents, true);
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); // what those events want painted
+}
+
+void QtDesktop::waitForEscape()
+{
+    EscapeWait held;
+    held.wait();
 }
 
 float QtDesktop::screenWidth() const { return toTwips(screenSize().width()); }

@@ -16,6 +16,7 @@ public:
 
     bool anotherInstanceRuns() override;
     void doEvents() override;
+    void waitForEscape() override;
     float screenWidth() const override;
     float screenHeight() const override;
     void showHourglass(bool on) override;

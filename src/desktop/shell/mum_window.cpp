@@ -44,7 +44,9 @@ QRect onScreen(QRect place)
 } // namespace
 
 MumWindow::MumWindow(Program& program)
-    : m_program(program), m_editor(new EditorView(program.editor, this)), m_status(new StatusBarView(program.mum, this))
+    : m_program(program), m_editor(new EditorView(program.editor, this)),
+      m_status(new StatusBarView(program.mum, this)),
+      m_lockKeys([this](LockKeyState state) { m_status->showLockKeys(state); })
 {
     setObjectName(QStringLiteral("Mum"));
     setMinimumSize(smallestSize);

@@ -2,6 +2,7 @@
 
 #include "desktop/bind.h"
 #include "desktop/documents/editor_view.h"
+#include "desktop/platform/lock_keys.h"
 #include "program/program.h"
 
 #include <QMainWindow>
@@ -35,6 +36,7 @@ private:
     Program& m_program;
     EditorView* m_editor;
     StatusBarView* m_status;
+    LockKeys m_lockKeys;
     bool m_wasElsewhere = false; ///< another program had the keyboard
     bool m_exiting = false;
     Bindings m_bindings;

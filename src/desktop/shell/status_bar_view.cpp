@@ -81,9 +81,9 @@ void StatusBarView::addPanels(Mum& mum)
     m_bindings.bind(savedState.Picture, [image](int picture) { image->setIcon(savedStateIcon(picture)); });
 
     addPanel(mum.StatusBar.Panels(panel::line), QStringLiteral("Line no: 00000"));
-    addKeyPanel(mum.StatusBar.Panels(panel::capsLock), QStringLiteral("CAPS"));
+    m_capsLock = addKeyPanel(mum.StatusBar.Panels(panel::capsLock), QStringLiteral("CAPS"));
     m_insert = addKeyPanel(mum.StatusBar.Panels(panel::insert), QStringLiteral("INS"));
-    addKeyPanel(mum.StatusBar.Panels(panel::numLock), QStringLiteral("NUM"));
+    m_numLock = addKeyPanel(mum.StatusBar.Panels(panel::numLock), QStringLiteral("NUM"));
     m_time = addKeyPanel(mum.StatusBar.Panels(panel::time), QStringLiteral("00:00"));
     m_time->setEnabled(true);
     addPanel(mum.StatusBar.Panels(panel::macroFile), QStringLiteral("No macro file analysed"));
@@ -124,6 +124,12 @@ void StatusBarView::showOverwrite(bool on)
 {
     m_insert->setText(on ? QStringLiteral("OVR") : QStringLiteral("INS"));
     m_insert->setEnabled(on);
+}
+
+void StatusBarView::showLockKeys(LockKeyState state)
+{
+    m_capsLock->setEnabled(state.capsLock);
+    m_numLock->setEnabled(state.numLock);
 }
 
 /// Wakes up once a minute and not in between.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/bind.h"
+#include "desktop/platform/lock_keys.h"
 #include "shell/mum.h"
 
 #include <QStatusBar>
@@ -17,6 +18,8 @@ public:
 
     /// Lights or dims the panel of the Insert key: lit while typing writes over the text.
     void showOverwrite(bool on);
+    /// Lights the panels of the lock keys that are on.
+    void showLockKeys(LockKeyState state);
 
 private:
     void addPanels(Mum& mum);
@@ -25,7 +28,9 @@ private:
     QLabel* addKeyPanel(StatusBar::Panel& panel, const QString& name);
     void showTime();
 
+    QLabel* m_capsLock = nullptr;
     QLabel* m_insert = nullptr;
+    QLabel* m_numLock = nullptr;
     QLabel* m_time = nullptr;
     QTimer m_minute;
     Bindings m_bindings;

@@ -9,7 +9,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
-#include <QListView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -153,6 +152,24 @@ TEST(MumWindow, StatusPanelsShowTheirTexts)
     EXPECT_EQ(progress->value(), 40);
 }
 
+TEST(MumWindow, LockKeyPanelsAreLitWhileTheKeysAreOn)
+{
+    TestProgram test;
+    StatusBarView view(test.program().mum);
+    const auto labels = view.findChildren<QLabel*>();
+    const auto lit = [&](const QString& text) {
+        const auto found = std::ranges::find_if(labels, [&](const QLabel* label) { return label->text() == text; });
+        return found != labels.end() && (*found)->isEnabled();
+    };
+    EXPECT_FALSE(lit("CAPS")) << "nobody has told its state";
+    view.showLockKeys({.capsLock = true, .numLock = false});
+    EXPECT_TRUE(lit("CAPS"));
+    EXPECT_FALSE(lit("NUM"));
+    view.showLockKeys({.capsLock = false, .numLock = true});
+    EXPECT_FALSE(lit("CAPS"));
+    EXPECT_TRUE(lit("NUM"));
+}
+
 TEST(MumWindow, InsertKeyTellsItsPanelAndBothPanes)
 {
     Shown shown;
@@ -219,26 +236,6 @@ TEST(MumWindow, DraggedEdgeWidensTheMacroFrame)
     EXPECT_EQ(frame->width(), 185);
     mouse(QEvent::MouseButtonRelease, {10, 200}, Qt::LeftButton, Qt::NoButton);
     EXPECT_EQ(frame->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST(MumWindow, MacroListTicksBothWays)
-{
-    Shown shown;
-    FrameMacros& frame = shown.editor().FrameMacros;
-    frame.List1[0].Items = {{"Flaps", false}, {"Gear", true}};
-    auto* list = shown.window.findChild<QWidget*>("FrameMacros")->findChild<QListView*>("List1");
-    QAbstractItemModel* model = list->model();
-    EXPECT_EQ(model->rowCount(), 2);
-    EXPECT_EQ(model->index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
-    model->setData(model->index(0, 0), Qt::Checked, Qt::CheckStateRole);
-    EXPECT_TRUE(frame.List1[0].Items.get()[0].Selected);
-    frame.List1[0].ListIndex = 1;
-    EXPECT_EQ(list->currentIndex().row(), 1);
-    list->setCurrentIndex(model->index(0, 0));
-    EXPECT_EQ(frame.List1[0].ListIndex, 0);
-    frame.List1.emplace_back().Items = {{"Only", false}};
-    frame.List1Changed();
-    EXPECT_EQ(shown.window.findChild<QWidget*>("FrameMacros")->findChildren<QListView*>("List1").size(), 2);
 }
 
 TEST(MumWindow, ProtectedMacroFileShowsThePadlockAndTakesNoKey)

@@ -1,0 +1,30 @@
+# Completion of tarvexctl for bash.
+
+_tarvexctl() {
+    local word=${COMP_WORDS[COMP_CWORD]} last=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} options
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W 'colour macros used align statement --help --version' -- "$word")
+        return
+    fi
+    case $last in
+    --as)
+        mapfile -t COMPREPLY < <(compgen -W 'joystick macro template' -- "$word")
+        return
+        ;;
+    --indent) return ;;
+    esac
+    case $command in
+    colour) options='--as --ini --json --ansi --html --rtf --help' ;;
+    macros | used | statement) options='--json --help' ;;
+    align) options='--indent --help' ;;
+    *) return ;;
+    esac
+    if [[ $word == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+    else
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+    fi
+}
+complete -F _tarvexctl tarvexctl

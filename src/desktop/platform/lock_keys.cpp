@@ -1,0 +1,135 @@
+#include "desktop/platform/lock_keys.h"
+
+#include <QGuiApplication>
+
+#if defined(TARVEX_XCB_XKB) && QT_CONFIG(xcb)
+
+#include <QAbstractNativeEventFilter>
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <string_view>
+#include <utility>
+
+// The header is one of C and names a member so.
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
+#define explicit explicitComponents
+#include <xcb/xkb.h>
+#undef explicit
+
+namespace tarvex {
+
+namespace {
+
+struct Free {
+    void operator()(void* memory) const { std::free(memory); }
+};
+template <typename T> using Reply = std::unique_ptr<T, Free>;
+
+constexpr xcb_xkb_device_spec_t coreKeyboard = XCB_XKB_ID_USE_CORE_KBD;
+
+xcb_connection_t* connection()
+{
+    const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 != nullptr ? x11->connection() : nullptr;
+}
+
+xcb_atom_t atom(xcb_connection_t* display, std::string_view name)
+{
+    const auto cookie = xcb_intern_atom(display, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(display, cookie, nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+bool hasExtension(xcb_connection_t* display)
+{
+    const auto cookie = xcb_xkb_use_extension(display, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
+    const Reply<xcb_xkb_use_extension_reply_t> reply(xcb_xkb_use_extension_reply(display, cookie, nullptr));
+    return reply && reply->supported;
+}
+
+} // namespace
+
+/// Follows the keyboard's lights, which are the same for all programs, whoever has the keyboard.
+class LockKeys::Watch : public QAbstractNativeEventFilter {
+public:
+    Watch(xcb_connection_t* display, std::function<void(LockKeyState)> changed)
+        : m_display(display), m_changed(std::move(changed))
+    {
+        const xcb_query_extension_reply_t* extension = xcb_get_extension_data(display, &xcb_xkb_id);
+        if (extension == nullptr || !extension->present || !hasExtension(display)) return;
+        m_event = extension->first_event;
+        m_capsLock = atom(display, "Caps Lock");
+        m_numLock = atom(display, "Num Lock");
+        constexpr std::uint16_t wanted = XCB_XKB_EVENT_TYPE_INDICATOR_STATE_NOTIFY;
+        xcb_xkb_select_events(display, coreKeyboard, wanted, 0, wanted, 0, 0, nullptr);
+        qApp->installNativeEventFilter(this);
+        tell();
+    }
+    ~Watch() override { qApp->removeNativeEventFilter(this); }
+
+    bool nativeEventFilter(const QByteArray&, void* message, qintptr*) override
+    {
+        const auto* event = static_cast<const xcb_xkb_indicator_state_notify_event_t*>(message);
+        constexpr int sentByProgram = 0x80;
+        if ((event->response_type & ~sentByProgram) == m_event && event->xkbType == XCB_XKB_INDICATOR_STATE_NOTIFY)
+            tell();
+        return false;
+    }
+
+private:
+    using Cookie = xcb_xkb_get_named_indicator_cookie_t;
+
+    void tell()
+    {
+        const Cookie capsLock = ask(m_capsLock);
+        const Cookie numLock = ask(m_numLock);
+        const bool caps = isOn(capsLock);
+        m_changed({caps, isOn(numLock)});
+    }
+    Cookie ask(xcb_atom_t name)
+    {
+        return xcb_xkb_get_named_indicator(m_display, coreKeyboard, XCB_XKB_LED_CLASS_DFLT_XI_CLASS,
+                                           XCB_XKB_ID_DFLT_XI_ID, name);
+    }
+    bool isOn(Cookie cookie)
+    {
+        const Reply<xcb_xkb_get_named_indicator_reply_t> reply(
+            xcb_xkb_get_named_indicator_reply(m_display, cookie, nullptr));
+        return reply && reply->found && reply->on;
+    }
+
+    xcb_connection_t* m_display;
+    std::function<void(LockKeyState)> m_changed;
+    int m_event = -1;
+    xcb_atom_t m_capsLock = XCB_ATOM_NONE;
+    xcb_atom_t m_numLock = XCB_ATOM_NONE;
+};
+
+LockKeys::LockKeys(std::function<void(LockKeyState)> changed)
+{
+    if (xcb_connection_t* display = connection()) m_watch = std::make_unique<Watch>(display, std::move(changed));
+}
+
+} // namespace tarvex
+
+#else
+
+namespace tarvex {
+
+class LockKeys::Watch {};
+
+LockKeys::LockKeys(std::function<void(LockKeyState)>) {}
+
+} // namespace tarvex
+
+#endif
+
+namespace tarvex {
+
+LockKeys::~LockKeys() = default;
+
+} // namespace tarvex

@@ -1,0 +1,167 @@
+#include "desktop/platform/qt_desktop.h"
+
+#include "desktop/bind.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+/// A window that counts what reaches it, on a desktop that waits for Esc.
+struct HeldWindow : QWidget {
+    QtDesktop desktop{"/nowhere"};
+    int keys = 0;
+    int clicks = 0;
+    int shortcuts = 0;
+    int closes = 0;
+    int paints = 0;
+    std::string focusEvents;
+    QShortcut shortcut{QKeySequence("F7"), this};
+    std::vector<std::function<void()>> acts; ///< of the user, one after the other while the desktop waits
+
+    HeldWindow()
+    {
+        QObject::connect(&shortcut, &QShortcut::activated, this, [this] { ++shortcuts; });
+        show();
+        activateWindow();
+        setFocus();
+        QApplication::processEvents();
+        focusEvents.clear();
+    }
+    void press(Qt::Key key)
+    {
+        acts.emplace_back([this, key] { QTest::keyClick(windowHandle(), key); });
+    }
+    /// Lets the user act; true: all acts were done when the wait ended.
+    bool waitWhileTheUserActs()
+    {
+        std::size_t done = 0;
+        QTimer user;
+        QObject::connect(&user, &QTimer::timeout, &user, [&] {
+            if (done < acts.size()) acts[done++]();
+        });
+        user.start(0);
+        desktop.waitForEscape();
+        return done == acts.size();
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent*) override { ++keys; }
+    void mousePressEvent(QMouseEvent*) override { ++clicks; }
+    void focusInEvent(QFocusEvent*) override { focusEvents += "in "; }
+    void focusOutEvent(QFocusEvent*) override { focusEvents += "out "; }
+    void paintEvent(QPaintEvent*) override { ++paints; }
+    void closeEvent(QCloseEvent* event) override
+    {
+        ++closes;
+        event->ignore();
+    }
+};
+
+TEST(WaitForEscape, EndsWithEscAndTakesNothingElse)
+{
+    HeldWindow window;
+    window.press(Qt::Key_A);
+    window.press(Qt::Key_F7);
+    window.acts.emplace_back([&] { QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5)); });
+    window.press(Qt::Key_Return);
+    window.press(Qt::Key_Escape);
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    EXPECT_EQ(window.keys + window.clicks + window.shortcuts, 0);
+}
+
+TEST(WaitForEscape, TheWindowTakesInputAgainAfterwards)
+{
+    HeldWindow window;
+    window.press(Qt::Key_Escape);
+    window.waitWhileTheUserActs();
+    QTest::keyClick(window.windowHandle(), Qt::Key_A);
+    QTest::keyClick(window.windowHandle(), Qt::Key_F7);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(window.keys, 1);
+    EXPECT_EQ(window.shortcuts, 1);
+    EXPECT_EQ(window.clicks, 1);
+}
+
+TEST(WaitForEscape, TheWindowIsDrawnMeanwhile)
+{
+    HeldWindow window;
+    int before = 0;
+    int after = 0;
+    window.acts.emplace_back([&] {
+        before = window.paints;
+        window.update();
+    });
+    window.acts.emplace_back([] {});
+    window.acts.emplace_back([&] { after = window.paints; });
+    window.press(Qt::Key_Escape);
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    EXPECT_GT(after, before);
+}
+
+TEST(WaitForEscape, NoTimerOfTheProgramTicks)
+{
+    HeldWindow window;
+    Timer timer(0);
+    int ticks = 0;
+    timer.Tick = [&] { ++ticks; };
+    Bindings bindings;
+    bindings.timer(timer, window);
+    timer.Enabled = true;
+    for (int i = 0; i < 5; ++i) window.acts.emplace_back([] {});
+    window.press(Qt::Key_Escape);
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    EXPECT_EQ(ticks, 0);
+    QApplication::processEvents();
+    EXPECT_GT(ticks, 0) << "it goes on afterwards";
+}
+
+TEST(WaitForEscape, ClosingTheWindowEndsItAndTheWindowIsAskedAfterwards)
+{
+    HeldWindow window;
+    window.acts.emplace_back([&] {
+        QCloseEvent event;
+        QApplication::sendEvent(window.windowHandle(), &event);
+        EXPECT_FALSE(event.isAccepted());
+        EXPECT_EQ(window.closes, 0);
+    });
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    QApplication::processEvents();
+    EXPECT_EQ(window.closes, 1);
+}
+
+TEST(WaitForEscape, TheKeyboardThatComesMeanwhileIsToldAfterwards)
+{
+    HeldWindow window;
+    window.acts.emplace_back([&] {
+        for (const auto type : {QEvent::FocusOut, QEvent::FocusIn, QEvent::FocusOut}) {
+            QFocusEvent event(type);
+            QApplication::sendEvent(&window, &event);
+        }
+        EXPECT_EQ(window.focusEvents, "");
+    });
+    window.press(Qt::Key_Escape);
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    QApplication::processEvents();
+    EXPECT_EQ(window.focusEvents, "out ");
+}
+
+TEST(WaitForEscape, ReturnsAtOnceWhereNoWindowIsShown)
+{
+    QtDesktop desktop("/nowhere");
+    bool happened = false;
+    QTimer::singleShot(0, qApp, [&] { happened = true; });
+    desktop.waitForEscape();
+    EXPECT_FALSE(happened) << "no event was handled";
+    QApplication::processEvents();
+}
+
+} // namespace
+} // namespace tarvex
