@@ -1,6 +1,7 @@
 #include "language/align_slashes.h"
 
 #include "documents/pane_change.h"
+#include "language/protected_pane.h"
 #include "language/slash_columns.h"
 
 #include <optional>
@@ -34,6 +35,7 @@ void loadPlain(Editor& editor, Side& side, const std::string& text)
     pane.setTextRTF({}); // drops the formats of the old text
     applyBaseFormat(editor, pane);
     editor.shared.IsLoading = loading;
+    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
     pane.setText(text);
     side.Caret = 0;
     side.SelectionLength = 0;
@@ -45,7 +47,7 @@ void AlignSlashes(Editor& editor)
 {
     const Steps step;
     Side& side = editor.selected();
-    if (side.pane.TextLength() == 0) return;
+    if (refuseProtected(editor) || side.pane.TextLength() == 0) return;
     FileSystem& files = editor.platform.files;
     const Settings& settings = editor.shared.settings;
     editor.status(" Hang on - this could take time ...");

@@ -2,6 +2,7 @@
 
 #include "documents/text_files.h"
 #include "language/base_format.h"
+#include "language/side_caret.h"
 
 #include <array>
 
@@ -42,10 +43,8 @@ public:
 
     void giveBack(const Steps& step)
     {
-        for (const OfSide& kept : m_of) kept.side->Caret = kept.caret;
         for (const OfSide& kept : {m_of[1], m_of[0]}) {
-            step([&] { kept.side->pane.setSelStart(kept.caret); });
-            kept.side->pane.setSelLength(0);
+            step([&] { putCaret(*kept.side, kept.caret); });
         }
         for (const OfSide& kept : m_of) kept.side->Changed = kept.changed;
         m_editor.shared.IsLoading = 0;
@@ -54,13 +53,10 @@ public:
 private:
     struct OfSide {
         Side* side;
-        std::int16_t caret; ///< 16 bits of it: one behind 32,767 turns negative and can't be given back
+        std::int64_t caret; ///< all of it: only the running positions of the passes have 16 bits
         std::int16_t changed;
     };
-    static OfSide of(Side& side)
-    {
-        return {&side, static_cast<std::int16_t>(static_cast<std::int32_t>(side.Caret)), side.Changed};
-    }
+    static OfSide of(Side& side) { return {&side, static_cast<std::int64_t>(side.Caret), side.Changed}; }
 
     Editor& m_editor;
     std::array<OfSide, 2> m_of;

@@ -5,6 +5,7 @@
 #include "language/find_macro.h"
 #include "language/macro_analysis.h"
 #include "language/macro_keys.h"
+#include "language/side_caret.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>
@@ -70,11 +71,12 @@ void insertMacro(Editor& editor)
     } else {
         side.Caret = static_cast<float>(pane.SelStart());
     }
-    pane.setSelColor(0);
-    pane.setSelText(text);
+    const FormatId black = pane.formats()->withColour(pane.formats()->idOf(pane.SelFormat()), 0);
+    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
+    // Text and colour in one write: a selection coloured first would be an edit, and an undo level, of its own.
+    pane.setSelRTF(RichText(pane.formats(), text, {{static_cast<std::uint32_t>(text.size()), black}}));
     // A blank in front isn't counted: the caret then stops before the one behind the name.
-    side.Caret += static_cast<float>(name.size() + 1);
-    pane.setSelStart(static_cast<std::int64_t>(side.Caret));
+    putCaret(side, static_cast<std::int64_t>(side.Caret) + static_cast<std::int64_t>(name.size()) + 1);
     pane.SetFocus();
 }
 
@@ -119,7 +121,8 @@ void List1_MouseDown(Editor& editor, std::size_t list, int button, int shift)
 {
     const Steps step(editor.shared.errors, "ED_List1_MouseDown");
     step([&] { showMacro(editor, list, button == mouseButton::left && shift == shiftKey::shift); });
-    if (button != mouseButton::right) return;
+    const auto& lists = editor.FrameMacros.List1;
+    if (button != mouseButton::right || list >= lists.size() || lists[list].Items.get().empty()) return;
     editor.macros.ListClicked = list;
     step([&] { editor.platform.dialogues.popUp(editor.menus.mnuRHList); });
 }

@@ -1,5 +1,7 @@
 #include "language/remove_colour.h"
 
+#include "language/side_caret.h"
+
 namespace tarvex {
 
 namespace {
@@ -12,7 +14,7 @@ void removeColour(Editor& editor, Side& side, std::string_view tag)
     Pane& pane = side.pane;
     editor.status("Removing colour highlighting from " + editor.tabCaption(side) + ". Please wait ...");
     editor.shared.IsLoading = 1;
-    const auto caret = static_cast<std::int16_t>(static_cast<std::int32_t>(side.Caret));
+    const auto caret = static_cast<std::int64_t>(side.Caret);
     step([&] {
         pane.setSelStart(0);
         pane.setSelLength(static_cast<std::int64_t>(pane.TextLength()));
@@ -21,9 +23,7 @@ void removeColour(Editor& editor, Side& side, std::string_view tag)
         pane.setSelLength(0);
         pane.Refresh();
     });
-    side.Caret = caret;
-    step([&] { pane.setSelStart(caret); });
-    pane.setSelLength(0);
+    step([&] { putCaret(side, caret); });
     editor.status("Done");
     editor.shared.IsLoading = 0;
 }

@@ -1,6 +1,7 @@
 #include "language/slash_buttons.h"
 
 #include "language/coloured_insertion.h"
+#include "language/protected_pane.h"
 
 namespace tarvex {
 
@@ -90,6 +91,7 @@ void loadSlashButtons(Editor& editor)
 void Command1_Click(Editor& editor, std::size_t index)
 {
     const Steps step(editor.shared.errors, "ED_Command1_Click");
+    if (refuseProtected(editor)) return;
     step([&] {
         const std::string& caption = editor.FrameMacros.Command1.at(index).Caption;
         index == delayButton ? insertDelay(editor) : insertModifier(editor, caption);

@@ -3,6 +3,7 @@
 #include "documents/pane_change.h"
 #include "language/base_format.h"
 #include "language/colour_highlighting.h"
+#include "language/protected_pane.h"
 #include "platform/text.h"
 
 namespace tarvex {
@@ -30,11 +31,13 @@ void colourScratch(Editor& editor, std::span<const ColourPass> passes)
 void transfer(Editor& editor)
 {
     Pane& scratch = editor.TempRichTextBox;
-    Pane& target = editor.selected().pane;
+    Side& side = editor.selected();
+    Pane& target = side.pane;
     scratch.setSelStart(0);
     if (touchesAWord(target)) scratch.setSelText(" ");
     scratch.setSelStart(0);
     scratch.setSelLength(static_cast<std::int64_t>(scratch.TextLength()));
+    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
     target.setSelRTF(scratch.SelRTF());
 }
 
@@ -42,6 +45,7 @@ void transferColoured(Editor& editor, std::span<const ColourPass> passes)
 {
     const Steps step;
     Pane& scratch = editor.TempRichTextBox;
+    if (refuseProtected(editor)) return scratch.setText("");
     scratch.Visible = true;
     step([&] { colourScratch(editor, passes); });
     step([&] { transfer(editor); });

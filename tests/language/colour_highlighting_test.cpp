@@ -323,6 +323,39 @@ TEST_F(ColourTest, BothCaretsComeBack)
     EXPECT_EQ(t.editor().pair.JoystickCaret, 4);
 }
 
+TEST_F(ColourTest, ACaretOnBothSidesOf32767StaysInPaneAndRecord)
+{
+    std::string text(70000, 'x');
+    text.replace(0, 10, "BTN S1 /P ");
+    joystick().setText(text);
+    macro().setText(text);
+    for (const int caret : {32767, 32768, 35000, 65536, 70000}) {
+        for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuViewColourMacro,
+                                  &t.menus().mnuRemoveColourJoystick, &t.menus().mnuRemoveColourMacro}) {
+            t.editor().pair.JoystickCaret = static_cast<float>(caret);
+            t.editor().pair.MacroCaret = static_cast<float>(caret - 1);
+            joystick().setSelStart(caret);
+            macro().setSelStart(caret - 1);
+            command->Click();
+            EXPECT_EQ(joystick().SelStart(), caret) << command->Name;
+            EXPECT_EQ(t.editor().pair.JoystickCaret, static_cast<float>(caret)) << command->Name;
+            EXPECT_EQ(macro().SelStart(), caret - 1) << command->Name;
+            EXPECT_EQ(t.editor().pair.MacroCaret, static_cast<float>(caret - 1)) << command->Name;
+        }
+    }
+}
+
+TEST_F(ColourTest, ARecordedCaretBeyondTheTextComesBackAsThePanesOwn)
+{
+    joystick().setText("BTN S1 x");
+    for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuRemoveColourJoystick}) {
+        t.editor().pair.JoystickCaret = 20;
+        command->Click();
+        EXPECT_EQ(joystick().SelStart(), 8);
+        EXPECT_EQ(t.editor().pair.JoystickCaret, 8);
+    }
+}
+
 TEST_F(ColourTest, TheColouredTextGoesToTheUndoLevelThatIsShowing)
 {
     t.typeJoystick("BTN S1 x");

@@ -139,6 +139,18 @@ TEST_F(LayoutTest, AlignSlashesRewritesThePaneAsOneEditInThePlainFormat)
     EXPECT_EQ(joystick.Text(), "BTN T2   /I Chaff\r\n/O Flare");
 }
 
+TEST_F(LayoutTest, AlignSlashesOpensAnUndoLevelThoughAKeyChangedNothing)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    t.settings().ApplyColoursOnFileOpen = 0;
+    joystick.setText("BTN   S1");
+    joystick.KeyPress('x'); // as in a pane that refuses the key
+    t.menus().mnuViewAlignSlashes.Click();
+    EXPECT_EQ(joystick.Text(), "BTN S1\r\n");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "BTN   S1");
+}
+
 TEST_F(LayoutTest, AlignSlashesOfAnEmptyPaneDoesNothing)
 {
     t.files.clearWrites();
@@ -267,6 +279,112 @@ TEST_F(LayoutTest, REMunblockUndoesREMblock)
     select(0, static_cast<std::int64_t>(macro.TextLength()));
     t.menus().mnuEditREMunblock.Click();
     EXPECT_EQ(macro.Text(), text);
+}
+
+TEST_F(LayoutTest, REMblockWritesWhatWritingLineByLineGivesAndSparesTheColoursOfTheLines)
+{
+    for (const bool coloured : {false, true}) {
+        t.menus().mnuInsertWithColour.Checked = coloured;
+        Pane expected(editor.formats);
+        joystick.setText("\r\none\r\n\r\ntwo three\r\nfour\r\n");
+        paint(joystick, 3, 4);
+        paint(joystick, 11, 2);
+        expected.setFont(joystick.Font());
+        expected.setSelIndent(20);
+        expected.setTextRTF(joystick.TextRTF());
+        for (std::int64_t line = 0; line < 5; ++line) {
+            expected.setSelStart(expected.lineStart(line));
+            if (coloured) expected.setSelColor(t.settings().RemStatements);
+            expected.setSelText("Rem ");
+        }
+        select(0, 22); // up to within "four"
+        t.menus().mnuEditREMblock.Click();
+        EXPECT_EQ(joystick.Text(), "Rem \r\nRem one\r\nRem \r\nRem two three\r\nRem four\r\n");
+        EXPECT_TRUE(joystick.TextRTF() == expected.TextRTF()) << coloured;
+        select(0, 40);
+        t.menus().mnuEditREMunblock.Click();
+        EXPECT_EQ(joystick.Text(), "\r\none\r\n\r\ntwo three\r\nfour\r\n");
+        EXPECT_EQ(joystick.formatAt(3).colour, red);
+        EXPECT_EQ(joystick.formatAt(11).colour, red);
+        EXPECT_EQ(joystick.formatAt(13).colour, 0);
+    }
+}
+
+TEST_F(LayoutTest, TheBlockCommandsWriteManyLinesInOneEdit)
+{
+    std::string plain;
+    std::string commented;
+    for (int line = 0; line < 20000; ++line) {
+        plain += "BTN S1 x\r\n";
+        commented += "Rem BTN S1 x\r\n";
+    }
+    joystick.setText(plain);
+    int edits = 0;
+    const auto listening = joystick.edited.connect([&](const Pane::Edit&) { ++edits; });
+    select(0, static_cast<std::int64_t>(plain.size()) - 1);
+    t.menus().mnuEditREMblock.Click();
+    EXPECT_EQ(joystick.Text(), commented);
+    EXPECT_EQ(edits, 1);
+    select(0, static_cast<std::int64_t>(commented.size()));
+    t.menus().mnuEditREMunblock.Click();
+    EXPECT_EQ(joystick.Text(), plain);
+    EXPECT_EQ(edits, 2);
+}
+
+TEST_F(LayoutTest, ALineOfREMunblockThatDoesntBeginWithTheCommentWordStaysAsItIs)
+{
+    const std::string text = "Remark\r\nrem_1\r\nRem2\r\nRem\xE9\r\n rem\r\nre\r\nRe";
+    joystick.setText(text);
+    select(0, static_cast<std::int64_t>(text.size()));
+    t.menus().mnuEditREMunblock.Click();
+    EXPECT_EQ(joystick.Text(), text);
+}
+
+TEST_F(LayoutTest, REMunblockTakesTheCommentWordBeforeWhatIsNoWordCharacter)
+{
+    joystick.setText("Rem----\r\nrem\tx\r\nREM  y\r\nrem");
+    select(0, 27);
+    t.menus().mnuEditREMunblock.Click();
+    EXPECT_EQ(joystick.Text(), "----\r\n\tx\r\n y\r\n");
+}
+
+TEST_F(LayoutTest, REMunblockOverLinesWithoutACommentChangesNothing)
+{
+    joystick.setText("one\r\nRemark\r\n");
+    const std::size_t levels = editor.JoystickUndo.Text.size();
+    editor.pair.JoystickChanged = changed::saved;
+    select(5, 6);
+    t.menus().mnuEditREMunblock.Click();
+    EXPECT_EQ(joystick.Text(), "one\r\nRemark\r\n");
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels);
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+    EXPECT_EQ(joystick.SelStart(), 5);
+    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.pair.JoystickSelectionLength, 0);
+    EXPECT_EQ(t.status(3), "Line no: 2");
+}
+
+TEST_F(LayoutTest, AfterREMunblockTheRecordedCaretIsThePanesEvenWhereTheTextHasBecomeTooShort)
+{
+    joystick.setText("Rem ");
+    select(4, 0);
+    editor.pair.JoystickCaret = 1;
+    t.menus().mnuEditREMunblock.Click();
+    EXPECT_EQ(joystick.Text(), "");
+    EXPECT_EQ(joystick.SelStart(), 0);
+    EXPECT_EQ(editor.pair.JoystickCaret, 0);
+}
+
+TEST_F(LayoutTest, REMblockOfOneLineOpensAnUndoLevelThoughAKeyChangedNothing)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    joystick.setText("one");
+    joystick.KeyPress('x'); // as in a pane that refuses the key
+    t.menus().mnuEditREMblock.Click();
+    EXPECT_EQ(joystick.Text(), "Rem one");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "one");
 }
 
 TEST_F(LayoutTest, TheBlockCommandsEndAtTheLastLineWithASelectionToTheTextsEnd)

@@ -223,6 +223,16 @@ TEST_F(ListEventsTest, ADragCarriesTheNameBetweenBlanks)
     EXPECT_EQ(List1_OLEStartDrag(editor, 0), " Fire ");
 }
 
+TEST_F(ListEventsTest, TheRightButtonPopsUpNothingOnAnEmptyList)
+{
+    editor.macros.ListClicked = 7;
+    frame.List1[1].Items = std::vector<CheckListBox::Item>();
+    List1_MouseDown(editor, 1, mouseButton::right, shiftKey::none);
+    EXPECT_EQ(editor.macros.ListClicked, 7U) << "the menu would be for it";
+    List1_MouseDown(editor, 0, mouseButton::right, shiftKey::none);
+    EXPECT_EQ(editor.macros.ListClicked, 0U);
+}
+
 // ---- double click
 // -------------------------------------------------------------------------------------------------------
 
@@ -252,6 +262,18 @@ TEST_F(ListEventsTest, DoubleClickBehindAWordAddsABlankAndStopsBeforeTheTrailing
     EXPECT_EQ(editor.pair.JoystickCaret, 7);
 }
 
+TEST_F(ListEventsTest, AfterColouringOrRemovingColourDoubleClickWritesAtACaretBeyond32767)
+{
+    for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuRemoveColourJoystick}) {
+        caretAt(std::string(40000, ' '), 35000);
+        command->Click();
+        doubleClickFire();
+        EXPECT_EQ(joystick.Text().find("Fire "), 35000U);
+        EXPECT_EQ(joystick.SelStart(), 35005);
+        EXPECT_EQ(editor.pair.JoystickCaret, 35005);
+    }
+}
+
 TEST_F(ListEventsTest, DoubleClickReplacesASelection)
 {
     caretAt("one two three", 4);
@@ -274,6 +296,32 @@ TEST_F(ListEventsTest, DoubleClickWritesInColour0AsOneEditOfTheUsers)
     EXPECT_EQ(joystick.formatAt(3).colour, 0);
     EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+}
+
+TEST_F(ListEventsTest, OneUndoAfterDoubleClickOverASelectionBringsTheOldTextWithItsColoursBack)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    caretAt("one two three", 4);
+    joystick.setSelLength(3);
+    joystick.setSelColor(255);
+    const RichText before = joystick.TextRTF();
+    const std::size_t levels = editor.JoystickUndo.Text.size();
+    doubleClickFire();
+    EXPECT_EQ(joystick.formatAt(4).colour, 0);
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "one two three");
+    EXPECT_TRUE(joystick.TextRTF() == before);
+}
+
+TEST_F(ListEventsTest, DoubleClickOpensAnUndoLevelThoughAKeyChangedNothing)
+{
+    t.settings().HighlightLineOnUndo = 0;
+    caretAt("ab ", 3);
+    joystick.KeyPress('x'); // as in a pane that refuses the key
+    doubleClickFire();
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "ab ");
 }
 
 TEST_F(ListEventsTest, DoubleClickSelectsTab1WhenTheJoystickPaneIsHidden)

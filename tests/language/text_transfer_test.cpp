@@ -111,6 +111,18 @@ TEST_F(TransferTest, ATransferReplacesTheSelectionAsOneEditOfTheUsers)
     EXPECT_EQ(joystick.Text(), "one two");
 }
 
+TEST_F(TransferTest, ATransferOpensAnUndoLevelThoughAKeyChangedNothing)
+{
+    settings.HighlightLineOnUndo = 0;
+    joystick.setText("one ");
+    joystick.setSelStart(4);
+    joystick.KeyPress('x'); // as in a pane that refuses the key
+    SafeinTransferText(editor, "2");
+    EXPECT_EQ(joystick.Text(), "one 2");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(joystick.Text(), "one ");
+}
+
 TEST_F(TransferTest, ABlockForTheMacroPaneGoesThereInTheJoystickFilesColours)
 {
     editor.TabStrip1.Select(2);
