@@ -88,8 +88,9 @@ std::pair<CLI::App*, std::shared_ptr<Options>> newCommand(CLI::App& app, Work& w
 
 void addColour(CLI::App& app, Work& work)
 {
-    const auto [command, options] =
-        newCommand(app, work, colourCommand, "colour", "Print a file with its colours", colourTeaching);
+    const auto made = newCommand(app, work, colourCommand, "colour", "Print a file with its colours", colourTeaching);
+    CLI::App* command = made.first;
+    const std::shared_ptr<ColourOptions> options = made.second;
     command->add_option("FILE", options->file, "joystick file, macro file or template; - reads standard input")
         ->required();
     command->add_option("--as", options->as, "colour it as this kind of file, whatever its name says")

@@ -1,5 +1,6 @@
 #include "language/text_transfer.h"
 
+#include "documents/line_highlight.h"
 #include "documents/pane_change.h"
 #include "language/base_format.h"
 #include "language/colour_highlighting.h"
@@ -46,6 +47,7 @@ void transferColoured(Editor& editor, std::span<const ColourPass> passes)
     const Steps step;
     Pane& scratch = editor.TempRichTextBox;
     if (refuseProtected(editor)) return scratch.setText("");
+    endBlinking(editor);
     scratch.Visible = true;
     step([&] { colourScratch(editor, passes); });
     step([&] { transfer(editor); });
