@@ -12,7 +12,7 @@ picture   openbox wmctrl imagemagick
 test      libgtest-dev libgmock-dev strace
 sanitize  clang-14 libclang-rt-14-dev llvm-14
 bench     libbenchmark-dev libx11-dev libxdamage-dev
-peers     geany mousepad featherpad
+peers     geany mousepad featherpad highlight source-highlight python3-pygments bat
 TABLE
 }
 
