@@ -42,5 +42,5 @@ function(tarvex_fuzz name)
     file(GLOB seeds CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}/*)
     list(JOIN seeds "," seeds)
     add_test(NAME ${TARVEX_TEST_PREFIX}Fuzz.${name}
-        COMMAND ${name} -seed=1 -runs=20000 -max_len=4096 -timeout=10 -rss_limit_mb=1024 -seed_inputs=${seeds})
+        COMMAND ${name} -seed=1 -runs=20000 -max_total_time=20 -max_len=4096 -timeout=10 -rss_limit_mb=1024 -seed_inputs=${seeds})
 endfunction()
