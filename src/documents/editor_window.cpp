@@ -73,14 +73,10 @@ void readLists(Editor& editor, const Steps& step)
 /// The last favourite of the wanted name counts.
 void openFavourite(Editor& editor)
 {
-    int found = 0;
-    for (int i = 1; i <= editor.shared.settings.FavArrayNum; ++i) {
-        const auto index = static_cast<std::size_t>(i);
-        if (index < editor.menus.mnuFavArray.size() &&
-            editor.menus.mnuFavArray[index].Caption == editor.shared.settings.FavNameToLoad)
-            found = i;
+    MenuArray& favourites = editor.menus.mnuFavArray;
+    for (int i = favourites.UBound(); i > 0; --i) {
+        if (favourites[i].Caption == editor.shared.settings.FavNameToLoad) return favourites[i].Click();
     }
-    if (found > 0) editor.menus.mnuFavArray[static_cast<std::size_t>(found)].Click();
 }
 
 /// The command line's file wins over a favourite.

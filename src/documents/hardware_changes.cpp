@@ -35,7 +35,7 @@ void F22MenusUpdate(Editor& editor)
          {&menus.mnuF22Setup, &menus.mnuF22Clear, &menus.mnuF22Reset, &menus.mnuF22Delay, &menus.mnuAppDivider1})
         item->Visible = isF22;
     editor.FrameMacros.Command1[analogueButton].Caption = isF22 ? "/F" : "/A";
-    menus.mnuSlashModifierA.Caption = isF22 ? "/F  format as repeating" : "/A  force analogue";
+    menus.mnuSlashModifierArray[analogueButton].Caption = isF22 ? "/F  format as repeating" : "/A  force analogue";
     if (!isF22) {
         menus.mnuAppsQuiet.Enabled = loaderIsWinLoad(settings);
         return;

@@ -86,6 +86,11 @@ void loadSlashButtons(Editor& editor)
         button.Caption = buttons[index].caption;
         button.handler = [&editor, index] { Command1_Click(editor, index); };
     }
+    // The menu has the same modifiers in the same order, without the delay.
+    editor.menus.mnuSlashModifierArray.setHandler([&editor](int item) {
+        const auto index = static_cast<std::size_t>(item);
+        Command1_Click(editor, index < delayButton ? index : index + 1);
+    });
 }
 
 void Command1_Click(Editor& editor, std::size_t index)

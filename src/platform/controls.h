@@ -5,7 +5,9 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <initializer_list>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +39,54 @@ struct MenuItem {
     {
         if (handler) handler();
     }
+};
+
+/// Items of one name, told apart by their index from 0. Lists of the user's have a pattern at 0, which stands in for
+/// an empty list, and their entries from 1.
+class MenuArray {
+public:
+    /// Starts with one item for each caption.
+    MenuArray(std::string name, std::initializer_list<const char*> captions) : Name(std::move(name))
+    {
+        for (const char* caption : captions) Load(static_cast<int>(m_items.size()))->Caption = caption;
+    }
+
+    const std::string Name; ///< e.g. "mnuJFArray"; the item at 3 has the name "mnuJFArray(3)"
+    Signal<> changed;       ///< an item was loaded or unloaded
+    bool plain = false;     ///< captions are the user's own texts: "&" stands for itself
+
+    /// What a click of an item runs, with the item's index.
+    void setHandler(std::function<void(int)> handler)
+    {
+        m_handler = std::move(handler);
+        for (int index = 0; index <= UBound(); ++index) (*this)[index].handler = [this, index] { m_handler(index); };
+    }
+
+    /// Throws std::out_of_range for an index that isn't loaded.
+    MenuItem& operator[](int index) { return m_items.at(static_cast<std::size_t>(index)); }
+    /// Index of the last item.
+    int UBound() const { return static_cast<int>(m_items.size()) - 1; }
+
+    /// Makes the next item; throws std::out_of_range for another index. The new item is visible.
+    MenuItem* Load(int index)
+    {
+        if (index != UBound() + 1) throw std::out_of_range(Name);
+        MenuItem& item = m_items.emplace_back(Name + "(" + std::to_string(index) + ")");
+        if (m_handler) item.handler = [this, index] { m_handler(index); };
+        changed();
+        return &item;
+    }
+    /// Removes the last item; throws std::out_of_range for another index, and for the pattern.
+    void Unload(int index)
+    {
+        if (index != UBound() || index == 0) throw std::out_of_range(Name);
+        m_items.pop_back();
+        changed();
+    }
+
+private:
+    std::deque<MenuItem> m_items;
+    std::function<void(int)> m_handler;
 };
 
 struct Button {
@@ -152,6 +202,8 @@ enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
 struct Form {
     Property<std::string> Caption;
     Property<bool> Visible = false;
+    Property<bool> TopMost = false; ///< stays before all other windows
+    std::function<void()> Close;    ///< the user closes it by its frame or by Esc; none: it is hidden
     Property<WindowState> State = WindowState::Normal;
     Property<float> Left = 0.0F;
     Property<float> Top = 0.0F;

@@ -118,6 +118,7 @@ Program::Program(Platform& thePlatform)
     wireLanguage(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
+    menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = on(editor, Form_Load);
     operations.QueryUnloadEditor = [this](bool& cancel) { cancel = !Form_QueryUnload(editor); };
     operations.UnloadEditor = on(editor, Form_Unload);

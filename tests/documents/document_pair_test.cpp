@@ -429,7 +429,7 @@ TEST_F(PairTest, TheF22ProHasItsCommandsAndNoQuietDownloads)
     EXPECT_TRUE(t.menus().mnuF22Setup.Visible);
     EXPECT_TRUE(t.menus().mnuAppDivider1.Visible);
     EXPECT_EQ(editor.FrameMacros.Command1[5].Caption.get(), "/F");
-    EXPECT_EQ(t.menus().mnuSlashModifierA.Caption.get(), "/F  format as repeating");
+    EXPECT_EQ(t.menus().mnuSlashModifierArray[5].Caption.get(), "/F  format as repeating");
     EXPECT_FALSE(t.menus().mnuAppsQuiet.Checked);
     EXPECT_FALSE(t.menus().mnuAppsQuiet.Enabled);
     EXPECT_EQ(t.settings().UseQonDownload, 0);
@@ -458,7 +458,7 @@ TEST_F(PairTest, OtherJoysticksHaveQuietDownloadsOnlyWithWinLoad)
     EXPECT_FALSE(t.menus().mnuAppsQuiet.Enabled);
     EXPECT_FALSE(t.menus().mnuF22Reset.Visible);
     EXPECT_EQ(editor.FrameMacros.Command1[5].Caption.get(), "/A");
-    EXPECT_EQ(t.menus().mnuSlashModifierA.Caption.get(), "/A  force analogue");
+    EXPECT_EQ(t.menus().mnuSlashModifierArray[5].Caption.get(), "/A  force analogue");
     t.settings().B50LoadPath = "c:\\tm\\winld.exe";
     F22MenusUpdate(editor);
     EXPECT_TRUE(t.menus().mnuAppsQuiet.Enabled);

@@ -123,6 +123,18 @@ TEST_F(SlashButtonsTest, InTheMacroPaneTheClosingBracketOfADelayIsBlackAndItsWor
     EXPECT_EQ(macro.formatAt(macro.TextLength() - 2).colour, 0);
 }
 
+TEST_F(SlashButtonsTest, TheMenuInsertsTheModifierThatItsEntryNames)
+{
+    settings.InsertWithColour = 0;
+    MenuArray& menu = t.menus().mnuSlashModifierArray;
+    std::string expected;
+    for (int index = 0; index <= menu.UBound(); ++index) {
+        menu[index].Click();
+        expected += menu[index].Caption.get().substr(0, 2) + " ";
+    }
+    EXPECT_EQ(joystick.Text(), expected);
+}
+
 TEST_F(SlashButtonsTest, AClickIsOneUndoStep)
 {
     settings.HighlightLineOnUndo = 0;

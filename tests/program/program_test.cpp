@@ -167,12 +167,10 @@ struct Favourites : TestProgram {
         Program program(platform);
         program.operations.GetFavourites = [&] {
             program.shared.store.read(Access::GetFavourites, "MODULE GetFavourites");
-            program.menus.mnuFavArray.emplace_back("mnuFavArray(0)");
+            program.menus.mnuFavArray.setHandler([this](int index) { opened.push_back(index); });
             int index = 0;
-            for (const std::string& name : program.shared.settings.FavName) {
-                MenuItem& item = program.menus.mnuFavArray.emplace_back("mnuFavArray", name);
-                item.handler = [this, i = ++index] { opened.push_back(i); };
-            }
+            for (const std::string& name : program.shared.settings.FavName)
+                program.menus.mnuFavArray.Load(++index)->Caption = name;
         };
         EXPECT_TRUE(program.start());
     }

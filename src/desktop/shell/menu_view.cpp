@@ -1,5 +1,6 @@
 #include "desktop/shell/menu_view.h"
 
+#include "desktop/shell/menu_array_view.h"
 #include "documents/pane_keys.h"
 
 #include <QAction>
@@ -13,11 +14,22 @@ namespace tarvex {
 
 namespace {
 
-bool hasCommand(const MenuEntry& entry)
+constexpr char dividerCaption[] = "-";
+
+void bindCommand(MenuItem& item, QAction& action, Bindings& bindings)
 {
-    if (entry.item == nullptr) return false;
-    if (entry.entries.empty()) return static_cast<bool>(entry.item->handler);
-    return std::any_of(entry.entries.begin(), entry.entries.end(), hasCommand);
+    action.setObjectName(toQt(item.Name));
+    bindings.bind(item.Enabled, [&action, &item](bool on) { action.setEnabled(on && item.handler); });
+    bindings.bind(item.Visible, [&action](bool on) { action.setVisible(on); });
+    bindings.bind(item.Checked, [&action](bool on) {
+        if (on) action.setCheckable(true); // a command that is never ticked has no box
+        action.setChecked(on);
+    });
+    // The tick is the command's business, not the click's.
+    QObject::connect(&action, &QAction::triggered, &action, [&item, &action] {
+        item.Click();
+        action.setChecked(item.Checked);
+    });
 }
 
 /// These keys go to the pane of the selected tab, each to the command that it has there.
@@ -39,6 +51,13 @@ void addCommand(QMenu& menu, const MenuEntry& entry, Bindings& bindings)
     }
 }
 
+void addDivider(QMenu& menu, MenuItem& item, Bindings& bindings)
+{
+    QAction* divider = menu.addSeparator();
+    divider->setObjectName(toQt(item.Name));
+    bindings.bind(item.Visible, [divider](bool on) { divider->setVisible(on); });
+}
+
 void addMenu(QMenu& subMenu, const MenuEntry& entry, Bindings& bindings)
 {
     subMenu.setObjectName(toQt(entry.item->Name));
@@ -53,45 +72,45 @@ void addMenu(QMenu& subMenu, const MenuEntry& entry, Bindings& bindings)
 
 void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys)
 {
-    action.setObjectName(toQt(item.Name));
+    bindCommand(item, action, bindings);
     bindings.bind(item.Caption, [&action, shownKeys](const std::string& caption) {
         action.setText(shownKeys.isEmpty() ? toQt(caption) : toQt(caption) + u'\t' + shownKeys);
     });
-    bindings.bind(item.Enabled, [&action, &item](bool on) { action.setEnabled(on && item.handler); });
-    bindings.bind(item.Visible, [&action](bool on) { action.setVisible(on); });
-    bindings.bind(item.Checked, [&action](bool on) {
-        if (on) action.setCheckable(true); // a command that is never ticked has no box
-        action.setChecked(on);
-    });
-    // The tick is the command's business, not the click's.
-    QObject::connect(&action, &QAction::triggered, &action, [&item, &action] {
-        item.Click();
-        action.setChecked(item.Checked);
+}
+
+void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings)
+{
+    bindCommand(item, action, bindings);
+    bindings.bind(item.Caption, [&action](const std::string& caption) {
+        QString text = withoutAccessKeys(toQt(caption));
+        for (QChar& character : text) {
+            if (!character.isPrint()) character = u' '; // a tab would part the keys from the caption
+        }
+        action.setText(text);
     });
 }
 
 void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, Bindings& bindings)
 {
-    bool divides = false;
+    menu.setSeparatorsCollapsible(true);
     for (const MenuEntry& entry : entries) {
-        if (entry.item == nullptr) {
-            divides = !menu.isEmpty();
-        } else if (hasCommand(entry)) {
-            if (std::exchange(divides, false)) menu.addSeparator();
-            if (entry.entries.empty()) {
-                addCommand(menu, entry, bindings);
-            } else {
-                addMenu(*menu.addMenu(QString()), entry, bindings);
-            }
+        if (entry.array != nullptr) {
+            new MenuArrayView(*entry.array, menu);
+        } else if (entry.item == nullptr) {
+            menu.addSeparator();
+        } else if (entry.item->Caption == dividerCaption) {
+            addDivider(menu, *entry.item, bindings);
+        } else if (entry.entries.empty()) {
+            addCommand(menu, entry, bindings);
+        } else {
+            addMenu(*menu.addMenu(QString()), entry, bindings);
         }
     }
 }
 
 void fillMenuBar(QMenuBar& bar, const std::vector<MenuEntry>& entries, Bindings& bindings)
 {
-    for (const MenuEntry& entry : entries) {
-        if (hasCommand(entry)) addMenu(*bar.addMenu(QString()), entry, bindings);
-    }
+    for (const MenuEntry& entry : entries) addMenu(*bar.addMenu(QString()), entry, bindings);
 }
 
 } // namespace tarvex

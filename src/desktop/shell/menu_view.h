@@ -14,8 +14,10 @@ namespace tarvex {
 /// Shows an item's caption, tick, enabling and visibility; choosing it runs its command. An item without a handler is
 /// disabled. `shownKeys` stand beside the caption and do nothing.
 void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys = {});
+/// The same for an item whose caption is a text of the user's, without access key.
+void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings);
 
-/// Fills a menu. Entries without a command are left out, and so are dividers that would divide nothing.
+/// Fills a menu. Dividers that would divide nothing aren't seen.
 void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, Bindings& bindings);
 void fillMenuBar(QMenuBar& bar, const std::vector<MenuEntry>& entries, Bindings& bindings);
 

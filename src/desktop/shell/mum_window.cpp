@@ -54,7 +54,7 @@ MumWindow::MumWindow(Program& program)
     setCentralWidget(m_editor);
     setStatusBar(m_status);
     addToolBar(new ToolbarView(program, this));
-    fillMenuBar(*menuBar(), tarvex::menuBar(program.menus), m_bindings);
+    addMenuBars();
     addShortcuts();
     bindTitle();
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
@@ -73,6 +73,19 @@ MumWindow::MumWindow(Program& program)
         } else {
             unsetCursor();
         }
+    });
+}
+
+/// The document window's menus, and the frame's own while there is no document window.
+void MumWindow::addMenuBars()
+{
+    fillMenuBar(*menuBar(), tarvex::menuBar(m_program.menus), m_bindings);
+    const QList<QAction*> ofEditor = menuBar()->actions();
+    fillMenuBar(*menuBar(), mumMenuBar(m_program.menus), m_bindings);
+    const QList<QAction*> ofFrame = menuBar()->actions().mid(ofEditor.size());
+    m_bindings.bind(m_program.editor.Visible, [ofEditor, ofFrame](bool on) {
+        for (QAction* action : ofEditor) action->setVisible(on);
+        for (QAction* action : ofFrame) action->setVisible(!on);
     });
 }
 

@@ -27,6 +27,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void addMenuBars();
     void addShortcuts();
     void bindTitle();
     void showForm(bool on);

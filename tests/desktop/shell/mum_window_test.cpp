@@ -56,33 +56,53 @@ TEST(MumWindow, MenuItemRunsItsCommand)
     EXPECT_FALSE(shown.macro().isVisible());
 }
 
-TEST(MumWindow, CommandsWithoutAHandlerAreLeftOutOfTheMenus)
+TEST(MumWindow, CommandsWithoutAHandlerAreGreyInTheMenus)
 {
     TestProgram test;
     MenuItem built("built", "&Built");
     MenuItem missing("missing", "Missing");
     MenuItem top("top", "&Top");
-    MenuItem emptyTop("emptyTop", "Empty");
     int clicks = 0;
     built.handler = [&] { ++clicks; };
-    const MenuEntry divider{};
     QMenuBar bar;
     Bindings bindings;
-    fillMenuBar(bar,
-                {{&top, {}, {{&missing, {}, {}}, divider, {&built, "F8", {}}, divider, {&missing, {}, {}}}},
-                 {&emptyTop, {}, {{&missing, {}, {}}}}},
-                bindings);
-    ASSERT_EQ(bar.actions().size(), 1);
+    fillMenuBar(bar, {{&top, {}, {{&missing, {}, {}}, {}, {&built, "F8", {}}}}}, bindings);
     const auto actions = bar.actions().constFirst()->menu()->actions();
-    ASSERT_EQ(actions.size(), 1) << "no dividers at the ends";
-    EXPECT_EQ(actions[0]->shortcut(), QKeySequence("F8"));
-    built.Caption = "&Undo (3)";
-    EXPECT_EQ(actions[0]->text(), "&Undo (3)");
-    built.Enabled = false;
+    ASSERT_EQ(actions.size(), 3);
     EXPECT_FALSE(actions[0]->isEnabled());
+    EXPECT_TRUE(actions[1]->isSeparator());
+    EXPECT_EQ(actions[2]->shortcut(), QKeySequence("F8"));
+    built.Caption = "&Undo (3)";
+    EXPECT_EQ(actions[2]->text(), "&Undo (3)");
+    built.Enabled = false;
+    EXPECT_FALSE(actions[2]->isEnabled());
     built.Enabled = true;
-    actions[0]->trigger();
+    actions[2]->trigger();
     EXPECT_EQ(clicks, 1);
+}
+
+TEST(MumWindow, AMenuShowsTheItemsOfAnArrayAsTheyAreWhenItIsOpened)
+{
+    MenuItem top("top", "&Top");
+    MenuArray files("mnuFiles", {"(none)"});
+    files.plain = true;
+    int clicked = 0;
+    files.setHandler([&](int index) { clicked = index; });
+    QMenu menu;
+    Bindings bindings;
+    fillMenu(menu, {{nullptr, {}, {}, &files}, {}, {&top}}, bindings);
+    files[0].Visible = false;
+    files.Load(1)->Caption = "c:\\a & b\t.f22";
+    emit menu.aboutToShow();
+    auto* item = menu.findChild<QAction*>("mnuFiles(1)");
+    ASSERT_NE(item, nullptr);
+    EXPECT_EQ(item->text(), "c:\\a && b .f22");
+    EXPECT_FALSE(menu.findChild<QAction*>("mnuFiles(0)")->isVisible());
+    item->trigger();
+    EXPECT_EQ(clicked, 1);
+    files.Unload(1);
+    emit menu.aboutToShow();
+    EXPECT_EQ(menu.findChild<QAction*>("mnuFiles(1)"), nullptr);
 }
 
 TEST(MumWindow, TypedTextMakesTheDocumentModifiedAndTheTitleTellsIt)

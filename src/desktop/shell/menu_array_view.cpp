@@ -1,0 +1,33 @@
+#include "desktop/shell/menu_array_view.h"
+
+#include "desktop/shell/menu_view.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace tarvex {
+
+MenuArrayView::MenuArrayView(MenuArray& array, QMenu& menu)
+    : QObject(&menu), m_array(array), m_menu(menu), m_end(menu.addAction(QString()))
+{
+    m_end->setVisible(false);
+    m_bindings.follow(array.changed, [this] { m_filled = false; });
+    connect(&menu, &QMenu::aboutToShow, this, &MenuArrayView::fill);
+    fill();
+}
+
+void MenuArrayView::fill()
+{
+    if (std::exchange(m_filled, true)) return;
+    m_items = Bindings();
+    qDeleteAll(m_actions);
+    m_actions.clear();
+    for (int index = 0; index <= m_array.UBound(); ++index) {
+        auto* action = new QAction(&m_menu);
+        (m_array.plain ? bindPlainItem(m_array[index], *action, m_items) : bindItem(m_array[index], *action, m_items));
+        m_menu.insertAction(m_end, action);
+        m_actions.append(action);
+    }
+}
+
+} // namespace tarvex
