@@ -10,6 +10,7 @@
 #include "documents/menu_choices.h"
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 #include "language/language_commands.h"
@@ -116,6 +117,7 @@ Program::Program(Platform& thePlatform)
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
     wireLanguage(editor);
+    followEdits(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
