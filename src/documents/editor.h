@@ -95,6 +95,7 @@ struct Editor {
     std::int16_t OpeningWithoutAsking = 0;
     std::int16_t ExitInProgress = 0;
     int BlinkStep = 0;                ///< of the line highlight
+    int BlinkTab = 1;                 ///< of the pane whose line flashes
     std::int64_t HighlightLength = 0; ///< characters of the line highlighted
     int AutoSaveMinutes = 0;          ///< since the last automatic save
 
