@@ -7,6 +7,7 @@
 #include "documents/file_new.h"
 #include "documents/file_open.h"
 #include "documents/file_save.h"
+#include "documents/frame_commands.h"
 #include "documents/menu_choices.h"
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
@@ -115,6 +116,7 @@ Program::Program(Platform& thePlatform)
     wireEditMenu(menus, editor);
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
+    wireFrame(editor);
     wireLanguage(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
