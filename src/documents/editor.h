@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/colour_selector.h"
 #include "documents/macro_record.h"
 #include "documents/pair_record.h"
 #include "documents/pane.h"
@@ -86,6 +87,7 @@ struct Editor {
     tarvex::TabStrip TabStrip1{2};
     Property<Placement> TabStrip1Place;
     tarvex::FrameMacros FrameMacros;
+    tarvex::ColourSelector ColourSelector;
     Timer Timer1{60000};       ///< minutes of the automatic save
     Timer TimerBlinkLine{100}; ///< line highlight
 

@@ -7,6 +7,7 @@
 #include "documents/file_new.h"
 #include "documents/file_open.h"
 #include "documents/file_save.h"
+#include "documents/frame_commands.h"
 #include "documents/menu_choices.h"
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
@@ -119,6 +120,7 @@ Program::Program(Platform& thePlatform)
     wirePanes(editor);
     wirePaneMenu(editor);
     wireFindAndReplace(findAndReplace, operations);
+    wireFrame(editor);
     wireLanguage(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
