@@ -12,6 +12,7 @@
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
 #include "documents/pane_menu.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 #include "language/language_commands.h"
@@ -122,6 +123,7 @@ Program::Program(Platform& thePlatform)
     wireFindAndReplace(findAndReplace, operations);
     wireFrame(editor);
     wireLanguage(editor);
+    followEdits(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
