@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/colour_selector.h"
 #include "documents/journal_record.h"
 #include "documents/macro_record.h"
 #include "documents/pair_record.h"
@@ -90,6 +91,7 @@ struct Editor {
     tarvex::TabStrip TabStrip1{2};
     Property<Placement> TabStrip1Place;
     tarvex::FrameMacros FrameMacros;
+    tarvex::ColourSelector ColourSelector;
     Timer Timer1{60000};       ///< minutes of the automatic save
     Timer TimerBlinkLine{100}; ///< line highlight
     Timer TimerJournal{15000}; ///< runs while a journal isn't on the disk yet
@@ -100,6 +102,7 @@ struct Editor {
     std::int16_t OpeningWithoutAsking = 0;
     std::int16_t ExitInProgress = 0;
     int BlinkStep = 0;                ///< of the line highlight
+    int BlinkTab = 1;                 ///< of the pane whose line flashes
     std::int64_t HighlightLength = 0; ///< characters of the line highlighted
     int AutoSaveMinutes = 0;          ///< since the last automatic save
     std::uint64_t LastJournal = 0;    ///< number of the newest journal; 0: not looked for yet

@@ -19,7 +19,7 @@ void textChanged(Editor& editor, Side& side)
 
 void paneChange(Editor& editor, Side& side)
 {
-    stopBlinking(editor);
+    stopBlinking(editor, side);
     // emptying a pane takes the indent with the text
     if (side.pane.TextLength() == 0) side.pane.setSelIndent(paragraphIndent);
     if (editor.shared.IsLoading == 1) return;
