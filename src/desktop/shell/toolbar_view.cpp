@@ -89,7 +89,7 @@ ToolbarView::ToolbarView(Program& program, QWidget* parent)
     m_extension->setAccessibleName(QStringLiteral("More buttons"));
     m_extension->setAutoRaise(true);
     m_extension->setFocusPolicy(Qt::NoFocus);
-    m_extension->setIcon(style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton));
+    m_extension->setIcon(themeIcon(QStringLiteral("more")));
     connect(m_extension, &QToolButton::clicked, this, [this] { popUpExtension(); });
     scaleIcons();
     m_bindings.follow(bar.refreshWanted, [this] { showAll(); });
@@ -185,7 +185,7 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
 void ToolbarView::showPicture(const ToolbarSlot& slot)
 {
     const qreal scale = devicePixelRatioF();
-    const int size = m_extension->iconSize().height();
+    const int size = static_cast<QToolButton*>(m_slots[slot.number].widget)->iconSize().height();
     QPixmap swatch(QSize(size, size) * scale);
     swatch.setDevicePixelRatio(scale);
     swatch.fill(Qt::transparent);
@@ -208,7 +208,8 @@ void ToolbarView::scaleIcons()
 {
     const int size = std::max(smallestIcon, fontMetrics().height() + 4);
     for (QToolButton* button : findChildren<QToolButton*>()) button->setIconSize({size, size});
-    m_extension->setFixedWidth(m_extension->style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent) + 4);
+    m_extension->setIconSize({size / 2, size / 2});
+    m_extension->setFixedWidth(size);
     showAll();
     m_layout->invalidate();
 }
