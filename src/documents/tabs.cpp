@@ -26,22 +26,6 @@ std::string savedStateTip(const std::string& name, std::int16_t state)
 
 bool isProtected(const Editor& editor) { return editor.menus.mnuPreferencesProtectMacroFile.Checked; }
 
-/// A compile result and a macro's definition (it holds "=") stay up.
-void showEditingText(Editor& editor)
-{
-    StatusBar::Panel& progress = editor.mum.StatusBar.Panels(panel::progress);
-    Side& side = editor.selected();
-    if (side.tab == editor.macro.tab && isProtected(editor)) {
-        progress.Text = editor.tabCaption(side) + " is protected and can't be edited.";
-        progress.Enabled = false;
-        return;
-    }
-    progress.Enabled = true;
-    const std::string& text = progress.Text;
-    if (text.starts_with("Compile") || text.find('=') != std::string::npos) return;
-    progress.Text = "Editing " + editor.tabCaption(side);
-}
-
 void showTabImages(Editor& editor)
 {
     const bool joystickSelected = editor.TabStrip1.SelectedItem == editor.joystick.tab;
@@ -61,6 +45,21 @@ void gotFocus(Editor& editor, Side& side)
 }
 
 } // namespace
+
+void showEditingText(Editor& editor)
+{
+    StatusBar::Panel& progress = editor.mum.StatusBar.Panels(panel::progress);
+    Side& side = editor.selected();
+    if (side.tab == editor.macro.tab && isProtected(editor)) {
+        progress.Text = editor.tabCaption(side) + " is protected and can't be edited.";
+        progress.Enabled = false;
+        return;
+    }
+    progress.Enabled = true;
+    const std::string& text = progress.Text;
+    if (text.starts_with("Compile") || text.find('=') != std::string::npos) return;
+    progress.Text = "Editing " + editor.tabCaption(side);
+}
 
 void showLineNumber(Editor& editor, const Side& side, std::int64_t position)
 {

@@ -98,7 +98,13 @@ private:
     std::function<void(int)> m_handler;
 };
 
-struct Button {
+/// What can have the keyboard.
+struct Focusable {
+    Signal<> focusWanted;
+    void SetFocus() const { focusWanted(); }
+};
+
+struct Button : Focusable {
     Property<std::string> Caption;
     Property<bool> Enabled = true;
     Property<bool> Visible = true;
@@ -110,10 +116,34 @@ struct Button {
     }
 };
 
-struct ComboBox {
+/// A line of text that the user writes.
+struct TextBox : Focusable {
+    Property<std::string> Text;
+    Signal<> selectAllWanted;
+    void SelectAll() const { selectAllWanted(); }
+    std::function<void()> GotFocus;
+};
+
+/// A tick of the user's is in Value when Click runs.
+struct CheckBox {
+    Property<std::string> Caption;
+    Property<bool> Value = false;
+    std::function<void()> Click;
+};
+
+/// One of several of which one is chosen. The user's choice only runs Click, which gives all of them their values.
+struct OptionButton {
+    Property<std::string> Caption;
+    Property<bool> Value = false;
+    std::function<void()> Click;
+};
+
+struct ComboBox : Focusable {
     Property<std::vector<std::string>> Items;
-    Property<std::string> Text; ///< the text shown; usually one of Items
+    Property<std::string> Text; ///< the text shown: one of Items, or where the view lets the user write, any
     std::function<void()> Click; ///< the user chose an item
+    Signal<> selectAllWanted;
+    void SelectAll() const { selectAllWanted(); }
 };
 
 struct CheckListBox {
@@ -224,6 +254,15 @@ struct Form {
     Property<float> Top = 0.0F;
     Property<float> Width = 0.0F;
     Property<float> Height = 0.0F;
+    Signal<> frontWanted;
+
+    /// Shows the window before the program's others, with the keyboard.
+    void Show()
+    {
+        if (State == WindowState::Minimised) State = WindowState::Normal;
+        Visible = true;
+        frontWanted();
+    }
 };
 
 } // namespace tarvex

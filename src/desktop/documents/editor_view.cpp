@@ -40,6 +40,7 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     bindPlaces();
     m_bindings.timer(editor.Timer1, *this);
     m_bindings.timer(editor.TimerBlinkLine, *this);
+    m_bindings.timer(editor.TimerJournal, *this);
     setFocusProxy(m_joystick);
 }
 
