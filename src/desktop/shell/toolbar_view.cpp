@@ -243,19 +243,25 @@ void ToolbarView::reportPlaces()
     }
 }
 
-/// Also over the buttons, which leave a mouse that only moves to the bar.
-void ToolbarView::mouseMoveEvent(QMouseEvent* event)
+void ToolbarView::mouseMoveEvent(QMouseEvent* event) { hover(*event, event->position()); }
+
+/// `at` is a point of the bar.
+void ToolbarView::hover(const QMouseEvent& event, QPointF at)
 {
-    if (childAt(event->position().toPoint()) == m_slots[pictureSlot].widget)
-        return Picture1_MouseMove(m_program.editor);
+    if (childAt(at.toPoint()) == m_slots[pictureSlot].widget) return Picture1_MouseMove(m_program.editor);
     reportPlaces();
-    Toolbar1_MouseMove(m_program.editor, toLogic(event->buttons()), toLogic(event->modifiers()),
-                       static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+    Toolbar1_MouseMove(m_program.editor, toLogic(event.buttons()), toLogic(event.modifiers()),
+                       static_cast<float>(at.x()), static_cast<float>(at.y()));
 }
 
-/// Qt shows the command's name where there is no tip; the user may have turned the tips off.
+/// A disabled button keeps the mouse to itself. And Qt shows the command's name where there is no tip, though the user
+/// may have turned the tips off.
 bool ToolbarView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::MouseMove) {
+        const auto& move = *static_cast<QMouseEvent*>(event);
+        hover(move, static_cast<QWidget*>(watched)->mapToParent(move.position()));
+    }
     if (event->type() == QEvent::ToolTip) {
         const bool off = m_program.shared.settings.OKtoShowToolTips != 1;
         for (const auto& [number, shown] : m_slots) {

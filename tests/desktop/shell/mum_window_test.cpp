@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QTest>
@@ -197,8 +198,11 @@ TEST(MumWindow, TheMouseOverTheStatusBarIsGreetedInItsLeftPart)
     Shown shown;
     QStatusBar* bar = shown.window.statusBar();
     const auto moveTo = [&](int x) {
-        QTest::mouseMove(shown.window.windowHandle(), bar->mapTo(&shown.window, QPoint(x, bar->height() / 2)));
-        Shown::events();
+        const QPoint at(x, bar->height() / 2);
+        QWidget* under = bar->childAt(at) != nullptr ? bar->childAt(at) : bar;
+        QMouseEvent move(QEvent::MouseMove, under->mapFrom(bar, at), bar->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(under, &move);
         return shown.status();
     };
     EXPECT_EQ(moveTo(267), "Hi there buddy, I'm the status bar");
