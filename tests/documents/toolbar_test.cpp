@@ -362,7 +362,8 @@ TEST_F(ToolbarTest, WithOKtoShowToolTips0AllTipsAreBlankThoughTheHoverTextsGoOn)
     layOut();
     t.settings().OKtoShowToolTips = 0;
     t.program().operations.UpdateTooltips();
-    for (int number = 1; number <= bar.Count(); ++number) EXPECT_EQ(bar.Buttons(number).ToolTipText.get(), "") << number;
+    for (int number = 1; number <= bar.Count(); ++number)
+        EXPECT_EQ(bar.Buttons(number).ToolTipText.get(), "") << number;
     t.program().operations.UpdateToolBarOpenSaveTooltips();
     EXPECT_EQ(bar.Buttons(2).ToolTipText.get(), "");
     EXPECT_EQ(bar.Buttons(3).ToolTipText.get(), "");

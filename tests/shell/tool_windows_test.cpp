@@ -79,7 +79,8 @@ TEST_F(ToolWindowsTest, UnloadingHidesOrRunsWhatTheWindowAsksFor)
 {
     Form third;
     int unloads = 0;
-    t.program().mum.toolWindows.add({.name = "Third", .form = &third, .openFlag = nullptr, .unload = [&] { ++unloads; }});
+    t.program().mum.toolWindows.add(
+        {.name = "Third", .form = &third, .openFlag = nullptr, .unload = [&] { ++unloads; }});
     open.Visible = true;
     third.Visible = true;
     t.program().operations.UnloadForm("Open");

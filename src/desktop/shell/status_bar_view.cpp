@@ -91,7 +91,8 @@ void StatusBarView::addPanels(Mum& mum)
     m_time->setEnabled(true);
     auto* macroFile = new ElidedLabel(this); // a file's name can be of any length
     macroFile->setContentsMargins(4, 0, 4, 0);
-    macroFile->setSamples(QStringLiteral("No macro file analysed"), QStringLiteral("a name as long as most, and then some"));
+    macroFile->setSamples(QStringLiteral("No macro file analysed"),
+                          QStringLiteral("a name as long as most, and then some"));
     bindPanel(mum.StatusBar.Panels(panel::macroFile), *macroFile);
     addPermanentWidget(macroFile);
 }

@@ -2,14 +2,14 @@
 
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
+#include "desktop/shell/toolbar_icons.h"
+#include "desktop/shell/toolbar_separator.h"
 #include "documents/toolbar.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyleOption>
 #include <QStyleOptionToolBar>
 #include <QStylePainter>
 #include <QToolButton>
@@ -22,46 +22,6 @@ namespace {
 
 constexpr int pictureSlot = 29;
 constexpr int smallestIcon = 22; // pixels
-
-const char* iconOf(int number)
-{
-    static const std::map<int, const char*> icons{
-        {1, "file-new"},        {2, "file-open"},      {3, "file-save"},        {5, "print"},
-        {7, "cut"},             {8, "copy"},           {9, "paste"},            {11, "undo"},
-        {12, "redo"},           {14, "find"},          {15, "replace"},         {16, "goto-line"},
-        {18, "favourite-add"},  {20, "macros-update"}, {21, "macros-view"},     {23, "composer"},
-        {24, "template-insert"}, {25, "keyboard"},     {26, "title-insert"},    {27, "heading-insert"},
-        {28, "rem-insert"},     {30, "tile-vertically"}, {32, "colour-apply"},  {33, "highlight-line"},
-        {34, "identify"},       {36, "launcher"},      {37, "calibrate"},       {38, "ctfj"},
-        {39, "image-viewer"},   {40, "key-test"},      {41, "template-editor"}, {42, "control-centre"},
-        {44, "download"},       {46, "preferences"},   {47, "help"},
-    };
-    const auto found = icons.find(number);
-    return found != icons.end() ? found->second : "";
-}
-
-/// The gap between two groups of buttons.
-class Separator : public QWidget {
-public:
-    using QWidget::QWidget;
-    QSize sizeHint() const override
-    {
-        QStyleOption option;
-        option.initFrom(this);
-        const int width = style()->pixelMetric(QStyle::PM_ToolBarSeparatorExtent, &option, this);
-        return {width, width};
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QStylePainter painter(this);
-        QStyleOption option;
-        option.initFrom(this);
-        option.state |= QStyle::State_Horizontal;
-        painter.drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, option);
-    }
-};
 
 QString plainCaption(const MenuItem& item)
 {
@@ -104,7 +64,7 @@ ToolbarView::ToolbarView(Program& program, QWidget* parent)
 
 void ToolbarView::addSeparator(int number)
 {
-    auto* separator = new Separator(this);
+    auto* separator = new ToolbarSeparator(this);
     separator->setObjectName(QStringLiteral("Toolbar1_%1").arg(number));
     separator->setMouseTracking(true);
     m_layout->addSeparator(separator);
@@ -173,7 +133,7 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
     if (slot.number == pictureSlot) return showPicture(slot);
     const MenuItem* command = toolbarCommand(m_program.editor, slot.number);
     const bool both = toolbarMeansBoth(m_program.editor, slot);
-    const QString icon = QString::fromLatin1(iconOf(slot.number)) + (both ? QStringLiteral("-both") : QString());
+    const QString icon = toolbarIcon(slot.number) + (both ? QStringLiteral("-both") : QString());
     if (icon != shown.icon) action.setIcon(themeIcon(icon));
     shown.icon = icon;
     action.setText(plainCaption(*command));
@@ -181,21 +141,10 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
     action.setChecked(command->Checked);
 }
 
-/// A swatch as large as an icon.
 void ToolbarView::showPicture(const ToolbarSlot& slot)
 {
-    const qreal scale = devicePixelRatioF();
-    const int size = static_cast<QToolButton*>(m_slots[slot.number].widget)->iconSize().height();
-    QPixmap swatch(QSize(size, size) * scale);
-    swatch.setDevicePixelRatio(scale);
-    swatch.fill(Qt::transparent);
-    QPainter painter(&swatch);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Disabled, QPalette::WindowText), 1));
-    painter.setBrush(toQt(m_program.mum.Picture1.get()));
-    painter.drawRoundedRect(QRectF(2.5, 2.5, size - 5, size - 5), 2, 2);
-    painter.end();
-    m_slots[slot.number].action->setIcon(swatch);
+    const auto* button = static_cast<QToolButton*>(m_slots[slot.number].widget);
+    m_slots[slot.number].action->setIcon(swatch(toQt(m_program.mum.Picture1.get()), *button));
 }
 
 void ToolbarView::showAll()

@@ -249,10 +249,7 @@ TEST(ToolbarView, ABarThatIsntVisibleIsntShown)
 
 // ---- the picture ----
 
-QColor pictureColour(Bar& t)
-{
-    return t.action(29).icon().pixmap(22, 22).toImage().pixelColor(11, 11);
-}
+QColor pictureColour(Bar& t) { return t.action(29).icon().pixmap(22, 22).toImage().pixelColor(11, 11); }
 
 TEST(ToolbarView, ThePictureFollowsTheCaretAndTheColouring)
 {
