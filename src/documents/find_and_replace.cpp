@@ -146,15 +146,16 @@ FindAndReplace::FindAndReplace(Editor& theEditor) : editor(theEditor)
     LineToFind.GotFocus = quietly([this] { LineToFind.SelectAll(); });
 }
 
-void wireFindAndReplace(FindAndReplace& window, Operations& operations)
+void wireFindAndReplace(FindAndReplace& window)
 {
     Menus& menus = window.editor.menus;
     menus.mnuEditFind.handler = [&window] { mnuEditFind_Click(window); };
     menus.mnuEditReplace.handler = [&window] { mnuEditReplace_Click(window); };
     menus.mnuEditGoto.handler = [&window] { mnuEditGoto_Click(window); };
-    operations.UnloadForm += [&window](const std::string& name) {
-        if (name == formName) Form_Unload(window);
-    };
+    window.editor.mum.toolWindows.add({.name = formName,
+                                       .form = &window.form,
+                                       .openFlag = &window.editor.shared.FindWindowOpen,
+                                       .unload = [&window] { Form_Unload(window); }});
 }
 
 void Form_Load(FindAndReplace& window)
