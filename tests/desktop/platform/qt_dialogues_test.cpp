@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -126,6 +127,52 @@ TEST(QtDialogues, UnknownFormAndMenuWithoutEntriesDoNothing)
     dialogues.addForm("Preferences", [&] { ++shown; });
     dialogues.showModal("Preferences");
     EXPECT_EQ(shown, 1);
+}
+
+TEST(QtDialogues, AMenuAtTheCaretComesUpBelowIt)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    Menus menus;
+    dialogues.setMenus(&menus);
+    QPlainTextEdit text;
+    text.setPlainText("one\ntwo\nthree");
+    text.move(50, 60);
+    text.show();
+    text.setFocus();
+    text.moveCursor(QTextCursor::End);
+    QApplication::processEvents();
+    QPoint place;
+    QTimer::singleShot(0, [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        ASSERT_NE(menu, nullptr);
+        place = menu->pos();
+        menu->close();
+    });
+    dialogues.popUpAtCaret(menus.mnuInsert);
+    EXPECT_EQ(place, text.viewport()->mapToGlobal(text.cursorRect().bottomLeft()));
+}
+
+TEST(QtDialogues, ABoxBelongsToTheWindowThatTheUserWorksIn)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    QWidget frame;
+    dialogues.setParent(&frame);
+    frame.show();
+    QDialog tool(&frame);
+    for (QWidget* active : {&frame, static_cast<QWidget*>(&tool)}) {
+        active->show();
+        active->activateWindow();
+        QApplication::processEvents();
+        const QWidget* parent = nullptr;
+        QTimer::singleShot(0, [&] {
+            parent = QApplication::activeModalWidget()->parentWidget();
+            QApplication::activeModalWidget()->close();
+        });
+        dialogues.show({.title = "", .text = "x"});
+        EXPECT_EQ(parent, active);
+    }
 }
 
 TEST(QtDesktop, SecondCopyInTheSameDirectoryIsNoticedUntilTheFirstEnds)
