@@ -65,6 +65,7 @@ void Bindings::editableComboBox(ComboBox& state, QComboBox& widget)
         for (const std::string& item : items) texts.append(toQt(item));
         widget.clear();
         widget.addItems(texts);
+        widget.setCurrentIndex(static_cast<int>(texts.indexOf(written))); // where the arrow keys go on from
         widget.setEditText(written);
         showText();
     });

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -42,7 +41,7 @@ QWidget* pageOf(QLayout* fields, std::initializer_list<QPushButton*> buttons)
 } // namespace
 
 FindAndReplaceView::FindAndReplaceView(FindAndReplace& window, QWidget* parent)
-    : FormWindow(window.form, QStringLiteral("FindAndReplace"), parent), m_window(window), m_tabs(new QTabWidget)
+    : FormWindow(window.form, QStringLiteral("FindAndReplace"), parent), m_window(window), m_tabs(new QTabWidget(this))
 {
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
     for (QWidget* page : {findTabPage(), replaceTabPage(), lineTabPage()}) m_tabs->addTab(page, QString());
@@ -55,6 +54,15 @@ FindAndReplaceView::FindAndReplaceView(FindAndReplace& window, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_tabs, 1);
     column->addLayout(below);
+    moveBesideText();
+}
+
+/// Over the right side of the text at first, where lines of a controller file seldom reach.
+void FindAndReplaceView::moveBesideText()
+{
+    constexpr QPoint off(-30, 110);
+    const QRect frame = parentWidget()->frameGeometry();
+    move(frame.topRight() + off - QPoint(sizeHint().width(), 0));
 }
 
 // ---- pages ----------------------------------------------------------------------------------------------------------

@@ -5,7 +5,6 @@
 #include "documents/find_text.h"
 
 class QGridLayout;
-class QGroupBox;
 class QPushButton;
 class QTabWidget;
 
@@ -21,6 +20,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void moveBesideText();
     QWidget* findTabPage();
     QWidget* replaceTabPage();
     QWidget* lineTabPage();

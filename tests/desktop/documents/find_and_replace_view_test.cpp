@@ -44,7 +44,13 @@ struct FindView : testing::Test {
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
-    void click(const char* name) { QTest::mouseClick(get<QAbstractButton>(name), Qt::LeftButton); }
+    /// Near the left edge, where check boxes have their box.
+    void click(const char* name)
+    {
+        auto* button = get<QAbstractButton>(name);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+        events();
+    }
     /// Into whatever has the keyboard.
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
@@ -100,18 +106,22 @@ TEST_F(FindView, TypedTextAndEnterFindTheFirstMatchAndEnterAgainTheNext)
 TEST_F(FindView, TheHistoryIsInTheListAndDoesntCompleteWhatIsTyped)
 {
     press(Qt::Key_F, Qt::ControlModifier);
-    type("Fire");
-    press(Qt::Key_Return);
     auto* combo = get<QComboBox>("ComboTextFind");
-    combo->setFocus();
-    combo->lineEdit()->selectAll();
-    type("fi");
-    EXPECT_EQ(combo->currentText(), "fi");
-    EXPECT_EQ(t.program().findAndReplace.ComboTextFind.Text.get(), "fi");
-    EXPECT_EQ(combo->count(), 1);
+    for (const char* text : {"Fire", "BTN", "fi"}) {
+        combo->setFocus();
+        combo->lineEdit()->selectAll();
+        type(QLatin1String(text));
+        EXPECT_EQ(combo->currentText(), text);
+        EXPECT_EQ(t.program().findAndReplace.ComboTextFind.Text.get(), text);
+        press(Qt::Key_Return);
+    }
+    EXPECT_EQ(combo->count(), 3);
     EXPECT_EQ(combo->itemText(0), "Fire");
-    press(Qt::Key_Down);
+    combo->setFocus();
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
     EXPECT_EQ(t.program().findAndReplace.ComboTextFind.Text.get(), "Fire");
+    EXPECT_EQ(get<QPushButton>("Command1")->text(), "&Find first");
 }
 
 TEST_F(FindView, AMatchOutOfSightScrollsIntoSightWhileTheWindowHasTheKeyboard)
