@@ -247,9 +247,9 @@ TEST_F(Find_, OpeningItAgainComesToTheFrontAndKeepsTheSearchGoing)
 TEST_F(Find_, ClosingByEveryRoadUnloadsIt)
 {
     const std::vector<std::function<void()>> roads{
-        [&] { window.form.Close(); },     [&] { window.Command2.Click(); }, [&] { window.Command4.Click(); },
-        [&] { window.Command8.Click(); }, [&] { window.Command9.Click(); },
-        [&] { t.program().operations.UnloadForm("FindAndReplace"); }};
+        [&] { window.form.Close(); },     [&] { window.Command2.Click(); },
+        [&] { window.Command4.Click(); }, [&] { window.Command8.Click(); },
+        [&] { window.Command9.Click(); }, [&] { t.program().operations.UnloadForm("FindAndReplace"); }};
     for (const auto& road : roads) {
         t.menus().mnuEditFind.Click();
         EXPECT_EQ(t.program().shared.FindWindowOpen, 1);

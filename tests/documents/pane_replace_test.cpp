@@ -135,7 +135,8 @@ TEST(ReplaceEach, IsTheSameAsFindAndSetSelTextByTurns)
         ASSERT_EQ(whole.count, turns.count) << "round " << round;
         ASSERT_EQ(whole.found, turns.found) << "round " << round;
         ASSERT_EQ(whole.caret, turns.caret) << "round " << round;
-        for (std::int64_t line = 0; line < twin.lineCount(); ++line) ASSERT_EQ(pane.lineStart(line), twin.lineStart(line));
+        for (std::int64_t line = 0; line < twin.lineCount(); ++line)
+            ASSERT_EQ(pane.lineStart(line), twin.lineStart(line));
         ASSERT_EQ(pane.Find("B", 0), twin.Find("B", 0)) << "the copy that is searched";
         replacedInAll += static_cast<int>(whole.count);
     }

@@ -45,9 +45,9 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     m_joystick->setAccessibleName(QStringLiteral("Joystick file"));
     m_macro->setObjectName(QStringLiteral("MacroText"));
     m_macro->setAccessibleName(QStringLiteral("Macro file"));
-    addPane(editor.joystick, *m_joystick,
-            {JoystickText_GotFocus, JoystickText_KeyDown, JoystickText_KeyUp, JoystickText_Click,
-             JoystickText_MouseDown});
+    addPane(
+        editor.joystick, *m_joystick,
+        {JoystickText_GotFocus, JoystickText_KeyDown, JoystickText_KeyUp, JoystickText_Click, JoystickText_MouseDown});
     addPane(editor.macro, *m_macro,
             {MacroText_GotFocus, MacroText_KeyDown, MacroText_KeyUp, MacroText_Click, MacroText_MouseDown});
     bindPlaces();
@@ -92,9 +92,8 @@ void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
     connect(&view, &PaneView::mousePressed, this, [this, mouseDown = events.mouseDown](Qt::MouseButton button) {
         mouseDown(m_editor, toLogic(button), false);
     });
-    connect(&view, &PaneView::popUpWanted, this, [this, mouseDown = events.mouseDown](bool byKey) {
-        mouseDown(m_editor, mouseButton::right, byKey);
-    });
+    connect(&view, &PaneView::popUpWanted, this,
+            [this, mouseDown = events.mouseDown](bool byKey) { mouseDown(m_editor, mouseButton::right, byKey); });
     connect(&view, &PaneView::filesDropped, this, &EditorView::filesDropped);
     connect(&view, &PaneView::overwriteModeChanged, this, [this](bool on) {
         m_joystick->setOverwriteMode(on);

@@ -182,8 +182,7 @@ QWidget* FindAndReplaceView::checkBox(CheckBox& state, const char* name, char ac
 /// The logic's captions are compared with; their access keys are only for the eye and the keyboard.
 void FindAndReplaceView::showAccessKey(Property<std::string>& caption, QAbstractButton& view, char key)
 {
-    m_bindings.bind(caption,
-                    [&view, key](const std::string& text) { view.setText(withAccessKey(toQt(text), key)); });
+    m_bindings.bind(caption, [&view, key](const std::string& text) { view.setText(withAccessKey(toQt(text), key)); });
 }
 
 /// What Enter runs from wherever the page has the keyboard.
@@ -197,7 +196,8 @@ bool FindAndReplaceView::eventFilter(QObject* watched, QEvent* event)
 {
     // Later, because a click that brings the keyboard sets the caret after it.
     if (event->type() == QEvent::FocusIn)
-        QMetaObject::invokeMethod(this, [this] { m_window.LineToFind.GotFocus(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { m_window.LineToFind.GotFocus(); }, Qt::QueuedConnection);
     return FormWindow::eventFilter(watched, event);
 }
 

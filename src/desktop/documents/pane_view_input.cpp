@@ -38,7 +38,8 @@ bool isInput(const QEvent& event)
 /// Keys that can be a command of the pane; empty for all others.
 std::string commandKeys(const QKeyEvent& event)
 {
-    const bool plain = event.modifiers() == Qt::NoModifier && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F1);
+    const bool plain =
+        event.modifiers() == Qt::NoModifier && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F1);
     const bool ctrl = event.modifiers() == Qt::ControlModifier && event.key() != Qt::Key_Control;
     if (!plain && !ctrl) return {};
     return fromQt(QKeySequence(event.keyCombination()).toString(QKeySequence::PortableText));
@@ -82,6 +83,10 @@ void PaneView::keyPressEvent(QKeyEvent* event)
 {
     if (zoomByKey(*event)) return;
     if (pressKey && pressKey(commandKeys(*event))) return;
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) { // the desktop tells of the Menu key
+        emit popUpWanted(true);
+        return;
+    }
     // Ctrl+K and Ctrl+U are not for deleting here, whatever other programs of the desktop do with them.
     if (event->matches(QKeySequence::DeleteEndOfLine) || event->matches(QKeySequence::DeleteCompleteLine)) return;
     if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {

@@ -96,7 +96,9 @@ TEST_F(EditorViewTest, TheRightButtonPopsUpAtTheMouseAndTheKeyAtTheCaret)
     EXPECT_FALSE(t.menus().mnuRHMCut.Enabled);
     QContextMenuEvent byKey(QContextMenuEvent::Keyboard, place, joystick().mapToGlobal(place));
     QApplication::sendEvent(&joystick(), &byKey);
-    EXPECT_EQ(t.dialogues.popUpsAtCaret, std::vector<std::string>{"mnuRHMouse"});
+    EXPECT_EQ(t.dialogues.popUpsAtCaret.size(), 1U);
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(t.dialogues.popUpsAtCaret, (std::vector<std::string>{"mnuRHMouse", "mnuRHMouse"}));
 }
 
 } // namespace

@@ -278,7 +278,8 @@ TEST_F(FindView, EveryFieldHasAnAccessKeyThatNoOtherOfItsTabHas)
     auto* tabs = get<QTabWidget>("SSTab1");
     for (int tab = 0; tab < tabs->count(); ++tab) {
         std::vector<QKeySequence> keys{get<QPushButton>("Command10")->shortcut()};
-        for (const auto* button : tabs->widget(tab)->findChildren<QAbstractButton*>()) keys.push_back(button->shortcut());
+        for (const auto* button : tabs->widget(tab)->findChildren<QAbstractButton*>())
+            keys.push_back(button->shortcut());
         for (const auto* label : tabs->widget(tab)->findChildren<QLabel*>()) {
             EXPECT_NE(label->buddy(), nullptr);
             keys.push_back(QKeySequence::mnemonic(label->text()));
