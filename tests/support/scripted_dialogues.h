@@ -19,6 +19,7 @@ public:
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
+    std::function<void()> whileSaving;
     bool modalFormsExist = true;
     std::function<void()> whileModal; ///< runs while a modal window is up
 
@@ -45,6 +46,7 @@ public:
     std::optional<std::string> saveFile(const FileRequest& request) override
     {
         saveRequests.push_back(request);
+        if (whileSaving) whileSaving();
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
     }
     bool showModal(const std::string& formName) override
