@@ -12,6 +12,7 @@
 #include "documents/pane_change.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
+#include "download/download_commands.h"
 #include "language/language_commands.h"
 #include "shell/mum_window.h"
 
@@ -116,6 +117,7 @@ Program::Program(Platform& thePlatform)
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
     wireLanguage(editor);
+    wireDownload(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };

@@ -26,7 +26,7 @@ struct DiskProgram {
     explicit DiskProgram(const std::string& folder, const std::string& commandLine = {})
         : drives({.winePrefix = {}, .home = {}, .programDirectory = folder, .workingDirectory = folder}),
           writer(folder + "/Recovery", calls), files(drives, writer),
-          platform{files, dialogues, desktop, sound, clipboard, drives.toDos(folder), drives.fromArgument(commandLine)}
+          platform{files, dialogues, desktop, sound, clipboard, processes, drives.toDos(folder), drives.fromArgument(commandLine)}
     {
         std::filesystem::create_directories(folder + "/drive_c");
     }
@@ -45,6 +45,7 @@ struct DiskProgram {
     FakeDesktop desktop;
     FakeSound sound;
     FakeClipboard clipboard;
+    FakeProcesses processes;
     Platform platform;
     std::unique_ptr<Program> program;
 };
