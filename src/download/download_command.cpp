@@ -1,9 +1,9 @@
 #include "download/download_command.h"
 
-#include "download/loader_result.h"
-#include "download/shell_and_wait.h"
 #include "documents/line_highlight.h"
 #include "documents/menu_choices.h"
+#include "download/loader_result.h"
+#include "download/shell_and_wait.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 
@@ -64,7 +64,8 @@ bool savedOrAccepted(Editor& editor)
 {
     if (editor.pair.JoystickChanged != changed::modified) return true;
     editor.menus.mnuFileSave.Click();
-    return editor.pair.JoystickChanged != changed::modified || editor.platform.dialogues.show(notSaved()) == Answer::Yes;
+    return editor.pair.JoystickChanged != changed::modified ||
+           editor.platform.dialogues.show(notSaved()) == Answer::Yes;
 }
 
 /// The loaders take names of the old kind only. A longer one is to be saved anew, whatever the user answers, and the

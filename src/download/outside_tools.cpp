@@ -15,7 +15,7 @@ constexpr std::string_view pathNeeded = "You need to enter the path in preferenc
 struct Tool {
     MenuItem Menus::*item;
     std::string_view tag;
-    std::string_view file;     ///< empty: the Control Centre itself
+    std::string_view file;      ///< empty: the Control Centre itself
     std::string_view mentioned; ///< how the tool is named when its folder isn't known; empty: not at all
 };
 
@@ -113,13 +113,14 @@ void mnuAppsProPanel_Click(Editor& editor)
     const std::string systemPanel = windows + "\\system\\joy.cpl";
     const std::string panel = firstThatExists(editor, {windows + "\\system\\tm.cpl", systemPanel});
     if (panel.empty()) {
-        tell(editor, "Couldn't find ProPanel or Game Controllers",
-             "I'm afraid I couldn't find Thrustmaster's ProPanel or Windows Game Controllers on your system. The latter "
-             "should be located here: " +
-                 systemPanel +
-                 ". If you haven't done so already, I suggest you download ProPanel from the Thrustmaster website and "
-                 "install it.",
-             BoxIcon::Information);
+        tell(
+            editor, "Couldn't find ProPanel or Game Controllers",
+            "I'm afraid I couldn't find Thrustmaster's ProPanel or Windows Game Controllers on your system. The latter "
+            "should be located here: " +
+                systemPanel +
+                ". If you haven't done so already, I suggest you download ProPanel from the Thrustmaster website and "
+                "install it.",
+            BoxIcon::Information);
         return;
     }
     changeToRootOf(editor.shared.currentDirectory, windows, step);

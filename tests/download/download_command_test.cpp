@@ -17,6 +17,7 @@ struct Loaded : TestProgram {
         start();
         openBoth(file);
         dialogues.boxes.clear();
+        program().mum.form.State = WindowState::Normal;
         program().mum.StatusBar.Panels(panel::progress).Text = "old text";
     }
     void download() { menus().mnuSendToJoystick.Click(); }
