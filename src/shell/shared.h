@@ -34,6 +34,7 @@ struct Shared {
     std::int16_t IsLoading = 0;             ///< 1: the program itself changes pane text; no edit of the user's
     std::int16_t HardwareChangedMark = 0;   ///< 1: another joystick was chosen in the preferences
     std::int16_t FontChanged = 0;           ///< 1: the pane font was changed in the preferences
+    std::int16_t FindWindowOpen = 0;        ///< 1: the find and replace window is loaded
     Colour DefaultTextColour = 0;           ///< of plain inserted text
 
     /// Remembered places of tool windows, twips; -1: not remembered.
