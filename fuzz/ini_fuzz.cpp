@@ -83,6 +83,17 @@ void checkChange(const Difference& difference)
     check(difference.come.size() <= difference.gone.size() + 2, "at most a header and an entry are added");
 }
 
+/// The keys STEM1 and so on read alike together and one by one.
+void checkFamily(const ProfileFile& ini, const std::string& section, const std::string& stem)
+{
+    if (stem.empty() || (stem.back() >= '0' && stem.back() <= '9')) return;
+    const auto family = ini.readStrings(section, stem, 12, "none", ample);
+    for (std::size_t i = 0; i < family.size(); ++i) {
+        check(family[i] == ini.readString(section, stem + std::to_string(i + 1), "none", ample),
+              "a family reads as its keys do");
+    }
+}
+
 void run(const std::string& section, const std::string& key, const std::string& value, const std::string& bytes)
 {
     OneFile file(bytes);
@@ -93,6 +104,7 @@ void run(const std::string& section, const std::string& key, const std::string& 
     check(utf8Length(ini.readString(section, key, value, 10)) <= 9, "a buffer of 10 keeps 9 characters");
     check(file.writes() == 0, "reading doesn't write");
 
+    checkFamily(ini, section, std::string(cleanProfileName(key, "=")));
     ini.writeString(section, key, value);
     const std::string expected = decodeProfileText(strippedValue(cutProfileValue(value)));
     const std::string name = std::string(cleanProfileName(key, "="));

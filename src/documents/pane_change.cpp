@@ -1,6 +1,7 @@
 #include "documents/pane_change.h"
 
 #include "documents/line_highlight.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 
@@ -12,6 +13,7 @@ void textChanged(Editor& editor, Side& side)
 {
     side.Changed = changed::modified;
     UpdateSavedIcon(editor);
+    writeDownChanges(editor, side);
     recordUndo(editor, side);
 }
 

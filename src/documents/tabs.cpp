@@ -1,6 +1,7 @@
 #include "documents/tabs.h"
 
 #include "documents/editor_layout.h"
+#include "documents/toolbar.h"
 #include "documents/undo.h"
 #include "platform/dos_path.h"
 
@@ -39,6 +40,7 @@ void gotFocus(Editor& editor, Side& side)
     UpdateUndoRedoMenus(editor);
     editor.operations.UpdateCCPButtons();
     showLineNumber(editor, side, side.pane.SelStart());
+    showCaretColour(editor);
     showEditingText(editor);
 }
 
@@ -106,6 +108,7 @@ void TabStrip1_Click(Editor& editor)
     UpdateSavedIcon(editor);
     step([&] { UpdateUndoRedoMenus(editor); });
     showLineNumber(editor, editor.selected(), editor.selected().pane.SelStart());
+    showCaretColour(editor);
     editor.selected().pane.SetFocus();
 }
 
@@ -117,6 +120,7 @@ void noteCaret(Editor& editor, Side& side)
     side.Caret = static_cast<float>(side.pane.SelStart());
     side.SelectionLength = static_cast<std::int32_t>(side.pane.SelLength());
     showLineNumber(editor, side, side.pane.SelStart());
+    showCaretColour(editor);
     editor.operations.UpdateCCPButtons();
 }
 
@@ -129,6 +133,7 @@ void mnuPreferencesProtectMacroFile_Click(Editor& editor)
         editor.MacroText.Locked = item.Checked.get();
         editor.TabImage = item.Checked ? tabImage::macroProtected : tabImage::selected;
         if (editor.TabStrip1.SelectedItem == editor.macro.tab) showTabImages(editor);
+        editor.operations.UpdateCCPButtons();
     });
 }
 

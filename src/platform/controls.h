@@ -24,6 +24,15 @@ constexpr int twipsPerPixel = 15;
 /// A colour as the settings keep it: 0x00BBGGRR, so 255 is red.
 using Colour = std::int32_t;
 
+/// A rectangle inside a window, in pixels.
+struct Placement {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const Placement&) const = default;
+};
+
 struct MenuItem {
     explicit MenuItem(std::string name, std::string caption = {}) : Name(std::move(name)), Caption(std::move(caption)) {}
 
@@ -204,18 +213,24 @@ struct ProgressBar {
 /// Buttons are numbered from 1; separators count.
 class ToolBar {
 public:
+    struct Slot : Button {
+        Placement Place; ///< inside the bar, told by the view; empty while the button isn't to be seen
+    };
     explicit ToolBar(int count) : m_buttons(static_cast<std::size_t>(count)) {}
 
     /// Throws std::out_of_range for a number that the bar doesn't have.
-    Button& Buttons(int index) { return m_buttons.at(static_cast<std::size_t>(index - 1)); }
+    Slot& Buttons(int index) { return m_buttons.at(static_cast<std::size_t>(index - 1)); }
     int Count() const { return static_cast<int>(m_buttons.size()); }
+    /// Asks the view to show the commands of all buttons anew.
+    void Refresh() { refreshWanted(); }
+    Signal<> refreshWanted;
 
     Property<bool> Visible = false;
-    Property<bool> Wrappable = false;
+    Property<bool> Wrappable = false; ///< what has no room goes into further rows
     Property<bool> Flat = false;
 
 private:
-    std::deque<Button> m_buttons;
+    std::deque<Slot> m_buttons;
 };
 
 /// Interval in milliseconds. Whoever runs the timers calls Tick while Enabled.
@@ -248,15 +263,6 @@ struct Form {
         Visible = true;
         frontWanted();
     }
-};
-
-/// A rectangle inside a window, in pixels.
-struct Placement {
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
-    bool operator==(const Placement&) const = default;
 };
 
 } // namespace tarvex

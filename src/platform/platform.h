@@ -2,6 +2,7 @@
 
 #include "platform/dialogues.h"
 #include "platform/files.h"
+#include "platform/processes.h"
 
 #include <string>
 
@@ -45,6 +46,8 @@ public:
     virtual ~Clipboard() = default;
     virtual void put(const ClipboardContent& content) = 0;
     virtual ClipboardContent get() const = 0;
+    /// There is a text to get, plain or as RTF. Cheap enough for every key.
+    virtual bool holdsText() const = 0;
 };
 
 /// The world as the program sees it. All members outlive the program.
@@ -54,6 +57,7 @@ struct Platform {
     Desktop& desktop;
     Sound& sound;
     Clipboard& clipboard;
+    Processes& processes;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
     std::string commandLine; ///< one DOS path or nothing
 };

@@ -4,6 +4,7 @@
 #include "platform/windows1252.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace tarvex {
@@ -37,32 +38,66 @@ void endLastLine(ProfileLines& lines, std::string_view lineEnd)
     if (!lines.empty() && !lines.back().ends_with('\n') && !lines.back().ends_with('\r')) lines.back() += lineEnd;
 }
 
-void insertEntry(ProfileLines& lines, const ProfilePlace& place, const Names& names, std::string_view value)
+std::string entryLine(std::string_view key, std::string_view value, bool onlyUtf8, std::string_view lineEnd)
+{
+    std::string entry = encodeProfileText(key, onlyUtf8);
+    entry += '=';
+    entry += encodeProfileText(value, onlyUtf8);
+    entry += lineEnd;
+    return entry;
+}
+
+/// Puts new entries, whole lines, behind the last of their section, which is made when it isn't there.
+void insertEntries(ProfileLines& lines, std::optional<std::size_t> header, std::size_t insertAt,
+                   std::string_view section, ProfileLines entries)
 {
     const std::string lineEnd(prevailingLineEnd(lines));
-    const bool onlyUtf8 = hasUtf8Mark(lines);
-    std::string entry = encodeProfileText(names.key, onlyUtf8) + "=" + encodeProfileText(value, onlyUtf8) + lineEnd;
-    if (!place.header || place.insertAt == lines.size()) endLastLine(lines, lineEnd);
-    if (place.header) {
-        lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(place.insertAt), std::move(entry));
-        return;
+    if (!header || insertAt == lines.size()) endLastLine(lines, lineEnd);
+    if (!header) {
+        lines.push_back("[" + encodeProfileText(section, hasUtf8Mark(lines)) + "]" + lineEnd);
+        insertAt = lines.size();
     }
-    lines.push_back("[" + encodeProfileText(names.section, onlyUtf8) + "]" + lineEnd);
-    lines.push_back(std::move(entry));
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(insertAt), std::make_move_iterator(entries.begin()),
+                 std::make_move_iterator(entries.end()));
+}
+
+/// Returns whether the line has changed.
+bool changeEntry(std::string& line, std::string_view value, bool onlyUtf8)
+{
+    const ProfileEntry old = splitProfileEntry(line);
+    if (readable(old.value) == readable(value)) return false;
+    line = std::string(old.before) + encodeProfileText(value, onlyUtf8) + std::string(old.lineEnd);
+    return true;
 }
 
 /// Returns whether the lines have changed.
 bool setValue(ProfileLines& lines, const Names& names, std::string_view value)
 {
+    const bool onlyUtf8 = hasUtf8Mark(lines);
     const ProfilePlace place = findProfileEntry(lines, names.section, names.key);
-    if (!place.entry) {
-        insertEntry(lines, place, names, value);
-        return true;
+    if (place.entry) return changeEntry(lines[*place.entry], value, onlyUtf8);
+    insertEntries(lines, place.header, place.insertAt, names.section,
+                  {entryLine(names.key, value, onlyUtf8, prevailingLineEnd(lines))});
+    return true;
+}
+
+/// Returns whether the lines have changed.
+bool setValues(ProfileLines& lines, const Names& names, const std::vector<std::string>& values)
+{
+    const bool onlyUtf8 = hasUtf8Mark(lines);
+    const std::string lineEnd(prevailingLineEnd(lines));
+    const ProfileFamily family = findProfileFamily(lines, names.section, names.key, values.size());
+    ProfileLines missing;
+    bool changed = false;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const std::string_view value = cutProfileValue(values[i]);
+        if (family.entries[i])
+            changed = changeEntry(lines[*family.entries[i]], value, onlyUtf8) || changed;
+        else
+            missing.push_back(entryLine(std::string(names.key) + std::to_string(i + 1), value, onlyUtf8, lineEnd));
     }
-    std::string& line = lines[*place.entry];
-    const ProfileEntry old = splitProfileEntry(line);
-    if (readable(old.value) == readable(value)) return false;
-    line = std::string(old.before) + encodeProfileText(value, hasUtf8Mark(lines)) + std::string(old.lineEnd);
+    if (missing.empty()) return changed;
+    insertEntries(lines, family.header, family.insertAt, names.section, std::move(missing));
     return true;
 }
 
@@ -107,6 +142,32 @@ void ProfileFile::writeString(std::string_view section, std::string_view key, st
     const Names names = cleanNames(section, key);
     if (!m_readable || !names.usable()) return;
     if (setValue(m_lines, names, cutProfileValue(value))) m_dirty = true;
+    if (m_batches == 0) flush();
+}
+
+std::vector<std::string> ProfileFile::readStrings(std::string_view section, std::string_view stem, std::size_t count,
+                                                  std::string_view defaultValue, std::size_t buffer) const
+{
+    refresh();
+    const Names names = cleanNames(section, stem);
+    const std::size_t characters = buffer == 0 ? 0 : buffer - 1;
+    std::vector<std::string> values(count, std::string(utf8Left(readable(defaultValue), characters)));
+    if (!names.usable()) return values;
+    const ProfileFamily family = findProfileFamily(m_lines, names.section, names.key, count);
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!family.entries[i]) continue;
+        values[i] = readable(splitProfileEntry(m_lines[*family.entries[i]]).value);
+        values[i].resize(utf8Left(values[i], characters).size());
+    }
+    return values;
+}
+
+void ProfileFile::writeStrings(std::string_view section, std::string_view stem, const std::vector<std::string>& values)
+{
+    refresh();
+    const Names names = cleanNames(section, stem);
+    if (!m_readable || !names.usable() || values.empty()) return;
+    if (setValues(m_lines, names, values)) m_dirty = true;
     if (m_batches == 0) flush();
 }
 

@@ -36,6 +36,12 @@ public:
     /// reads the same already leaves the file untouched.
     void writeString(std::string_view section, std::string_view key, std::string_view value);
 
+    /// The keys of an indexed family, STEM1 to STEM`count`, each as readString and writeString treat it. The cost grows
+    /// with the section and not with its square, however many keys a damaged file asks for.
+    std::vector<std::string> readStrings(std::string_view section, std::string_view stem, std::size_t count,
+                                         std::string_view defaultValue, std::size_t buffer = 100) const;
+    void writeStrings(std::string_view section, std::string_view stem, const std::vector<std::string>& values);
+
     /// Holds the writes of one procedure back until it ends, so that they reach the disk together, whole or not at
     /// all. Batches may nest.
     class Batch {

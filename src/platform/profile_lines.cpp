@@ -3,6 +3,7 @@
 #include "platform/windows1252.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace tarvex {
 
@@ -64,6 +65,35 @@ std::optional<std::string_view> keyName(std::string_view content)
     return trimmed(content.substr(0, equals));
 }
 
+/// Hands each key of the section, with its line, to `take` until that returns false. Where a new key belongs, and the
+/// header, go to `place`, which is a ProfilePlace or a ProfileFamily.
+template <typename Place, typename Take>
+void walkSection(const ProfileLines& lines, std::string_view section, Place& place, Take take)
+{
+    const NameMatcher isSection(section);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        std::string_view content = lines[i];
+        if (i == 0 && content.starts_with(utf8Mark)) content.remove_prefix(utf8Mark.size());
+        content = trimmed(withoutLineEnd(content));
+        if (const auto name = sectionName(content)) {
+            if (place.header) break;
+            if (isSection(*name)) place.header = i;
+        } else if (const auto key = keyName(content); place.header && key && !take(*key, i)) {
+            break;
+        }
+        if (place.header && !content.empty()) place.insertAt = i + 1;
+    }
+}
+
+/// The decimal number, without leading zeros, at the end of a key; nothing when it has none or one too large.
+std::optional<std::size_t> indexAtEnd(std::string_view digits)
+{
+    std::size_t index = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), index);
+    if (read.ec != std::errc() || digits.front() == '0') return std::nullopt;
+    return index;
+}
+
 } // namespace
 
 ProfileLines splitProfileLines(std::string_view bytes)
@@ -121,23 +151,30 @@ std::string encodeProfileText(std::string_view text, bool onlyUtf8)
 
 ProfilePlace findProfileEntry(const ProfileLines& lines, std::string_view section, std::string_view key)
 {
-    const NameMatcher isSection(section);
     const NameMatcher isKey(key);
     ProfilePlace place;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        std::string_view content = lines[i];
-        if (i == 0 && content.starts_with(utf8Mark)) content.remove_prefix(utf8Mark.size());
-        content = trimmed(withoutLineEnd(content));
-        if (const auto name = sectionName(content)) {
-            if (place.header) break;
-            if (isSection(*name)) place.header = i;
-        } else if (const auto found = keyName(content); place.header && found && isKey(*found)) {
-            place.entry = i;
-            break;
-        }
-        if (place.header && !content.empty()) place.insertAt = i + 1;
-    }
+    walkSection(lines, section, place, [&](std::string_view found, std::size_t line) {
+        if (!isKey(found)) return true;
+        place.entry = line;
+        return false;
+    });
     return place;
+}
+
+ProfileFamily findProfileFamily(const ProfileLines& lines, std::string_view section, std::string_view stem,
+                                std::size_t count)
+{
+    const NameMatcher isStem(stem);
+    ProfileFamily family;
+    family.entries.resize(count);
+    walkSection(lines, section, family, [&](std::string_view key, std::size_t line) {
+        const std::size_t digits = key.find_last_not_of("0123456789") + 1;
+        if (digits == key.size() || !isStem(key.substr(0, digits))) return true;
+        const auto index = indexAtEnd(key.substr(digits));
+        if (index && *index <= count && !family.entries[*index - 1]) family.entries[*index - 1] = line;
+        return true;
+    });
+    return family;
 }
 
 ProfileEntry splitProfileEntry(std::string_view line)

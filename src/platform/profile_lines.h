@@ -37,6 +37,16 @@ struct ProfilePlace {
 /// The names are clean; the key isn't empty.
 ProfilePlace findProfileEntry(const ProfileLines& lines, std::string_view section, std::string_view key);
 
+/// The same for the keys STEM1, STEM2 and so on, for all of them at the price of one.
+struct ProfileFamily {
+    std::optional<std::size_t> header;
+    std::vector<std::optional<std::size_t>> entries; ///< line of key i + 1
+    std::size_t insertAt = 0;
+};
+/// The names are clean; the stem isn't empty and doesn't end in a digit.
+ProfileFamily findProfileFamily(const ProfileLines& lines, std::string_view section, std::string_view stem,
+                                std::size_t count);
+
 /// The part of an entry's line up to its value, blanks behind "=" included; the value; the line end.
 struct ProfileEntry {
     std::string_view before;

@@ -7,12 +7,15 @@
 #include "documents/file_new.h"
 #include "documents/file_open.h"
 #include "documents/file_save.h"
+#include "documents/frame_commands.h"
 #include "documents/menu_choices.h"
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
 #include "documents/pane_menu.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
+#include "download/download_commands.h"
 #include "language/language_commands.h"
 #include "shell/mum_window.h"
 
@@ -119,7 +122,10 @@ Program::Program(Platform& thePlatform)
     wirePanes(editor);
     wirePaneMenu(editor);
     wireFindAndReplace(findAndReplace, operations);
+    wireFrame(editor);
     wireLanguage(editor);
+    wireDownload(editor);
+    followEdits(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };

@@ -84,8 +84,9 @@ struct Key {
 };
 
 template <typename Member>
-constexpr bool isFamily = std::is_same_v<Member, std::vector<std::int16_t> Settings::*> ||
-                          std::is_same_v<Member, std::vector<std::string> Settings::*>;
+constexpr bool isTextFamily = std::is_same_v<Member, std::vector<std::string> Settings::*>;
+template <typename Member>
+constexpr bool isNumberFamily = std::is_same_v<Member, std::vector<std::int16_t> Settings::*>;
 
 std::string indexed(std::string_view stem, std::size_t index) { return std::string(stem) + std::to_string(index); }
 
@@ -124,7 +125,10 @@ void SettingsStore::readRow(const SettingRow& row)
             using Member = decltype(member);
             if constexpr (std::is_same_v<Member, std::monostate>) {
                 profile.readInt(row.section, row.key, numberOf(row.readDefault)); // read, and thrown away
-            } else if constexpr (isFamily<Member>) {
+            } else if constexpr (isTextFamily<Member>) {
+                m_settings.*member = profile.readStrings(row.section, row.key, static_cast<std::size_t>(countOf(row)),
+                                                         row.readDefault, bufferOf(row.form));
+            } else if constexpr (isNumberFamily<Member>) {
                 auto& values = m_settings.*member;
                 values.assign(static_cast<std::size_t>(countOf(row)), {});
                 for (std::size_t i = 0; i < values.size(); ++i)
@@ -144,7 +148,9 @@ void SettingsStore::writeRow(const SettingRow& row)
             using Member = decltype(member);
             if constexpr (std::is_same_v<Member, std::monostate>) {
                 profile.writeString(row.section, row.key, "");
-            } else if constexpr (isFamily<Member>) {
+            } else if constexpr (isTextFamily<Member>) {
+                profile.writeStrings(row.section, row.key, m_settings.*member);
+            } else if constexpr (isNumberFamily<Member>) {
                 const auto& values = m_settings.*member;
                 for (std::size_t i = 0; i < values.size(); ++i)
                     Key{profile, row, indexed(row.key, i + 1)}.write(values[i]);

@@ -347,4 +347,55 @@ TEST_F(Profile, MissingDirectoryLosesTheWriteInSilence)
     EXPECT_EQ(other.readString("Games", "A", "default"), "default");
 }
 
+// ---- indexed families -----------------------------------------------------------------------------------------------
+
+/// Files in which a family is easy to misread.
+const std::string oddFiles[] = {
+    "",
+    "[Games]",
+    "[Games]\r\nStem1=a\r\nStem3=c\r\nStem2=b\r\n",
+    " [ gAMES ] \n sTEM1 = \"a\" \nSTEM01=zero\nStem1=second\n;Stem2=comment\nStem=none\nStem-1=no\n",
+    "[Other]\r\nStem1=other\r\n[Games]\r\n\r\n; end\r\n\r\n[Games]\r\nStem2=later\r\n",
+    "\xEF\xBB\xBF[Games]\nStem2=\xC3\xA4\nStem4=no line end",
+    "[Games]\r\nStem99999999999999999999=large\r\nStem4=too far\r\nStem2x=no\r\n12=no\r\n",
+};
+
+TEST_F(Profile, AFamilyReadsAsItsKeysDoOneByOne)
+{
+    for (const std::string& file : oddFiles) {
+        fileHolds(file);
+        const auto values = ini.readStrings("Games", "Stem", 3, " default ");
+        ASSERT_EQ(values.size(), 3U);
+        for (std::size_t i = 0; i < 3; ++i)
+            EXPECT_EQ(values[i], read("Stem" + std::to_string(i + 1))) << file << " key " << i + 1;
+    }
+}
+
+TEST_F(Profile, AFamilyIsWrittenAsItsKeysAreOneByOne)
+{
+    const std::vector<std::string> values{"new", "", "\xC3\xA4\r\n[Evil]\r\nx=1"};
+    for (const std::string& file : oddFiles) {
+        fileHolds(file);
+        ini.writeStrings("Games", "Stem", values);
+        const std::string together = bytes();
+        fileHolds(file);
+        for (std::size_t i = 0; i < values.size(); ++i) write("Stem" + std::to_string(i + 1), values[i]);
+        EXPECT_EQ(together, bytes()) << file;
+    }
+}
+
+TEST_F(Profile, AnEqualFamilyLeavesTheFileUntouched)
+{
+    fileHolds("[Games]\r\nStem1 = a\r\nStem2=\"b\"\r\n");
+    ini.writeStrings("Games", "Stem", {"a", "b"});
+    ini.writeStrings("None", "Stem", {});
+    EXPECT_TRUE(files.writes().empty());
+}
+
+TEST_F(Profile, AFamilysValuesAreCutToTheBuffer)
+{
+    fileHolds("[Games]\r\nStem1=abcdef\r\n");
+    EXPECT_EQ(ini.readStrings("Games", "Stem", 2, "uvwxyz", 4), (std::vector<std::string>{"abc", "uvw"}));
+}
+
 } // namespace tarvex

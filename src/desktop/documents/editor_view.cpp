@@ -5,6 +5,7 @@
 #include "documents/editor_layout.h"
 #include "documents/pane_events.h"
 #include "documents/tabs.h"
+#include "documents/toolbar.h"
 #include "platform/input.h"
 
 #include <QEvent>
@@ -53,6 +54,7 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     bindPlaces();
     m_bindings.timer(editor.Timer1, *this);
     m_bindings.timer(editor.TimerBlinkLine, *this);
+    m_bindings.timer(editor.TimerJournal, *this);
     setFocusProxy(m_joystick);
 }
 
@@ -94,6 +96,7 @@ void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
     });
     connect(&view, &PaneView::popUpWanted, this,
             [this, mouseDown = events.mouseDown](bool byKey) { mouseDown(m_editor, mouseButton::right, byKey); });
+    connect(&view, &PaneView::paneShown, this, [this] { showCaretColour(m_editor); });
     connect(&view, &PaneView::filesDropped, this, &EditorView::filesDropped);
     connect(&view, &PaneView::overwriteModeChanged, this, [this](bool on) {
         m_joystick->setOverwriteMode(on);

@@ -37,6 +37,8 @@ signals:
     void gotFocus();
     /// The user moved the caret or changed the selection.
     void caretMoved();
+    /// The view follows what the program did to the pane.
+    void paneShown();
     void overwriteModeChanged(bool on);
     void filesDropped(const QStringList& paths);
     /// A key was released, the left button was released, a button went down; the pane has what they did.

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QLocale>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProgressBar>
 #include <QTime>
@@ -56,6 +57,8 @@ private:
 StatusBarView::StatusBarView(Mum& mum, QWidget* parent) : QStatusBar(parent)
 {
     addPanels(mum);
+    setMouseTracking(true);
+    for (QWidget* child : findChildren<QWidget*>()) child->setMouseTracking(true);
     m_minute.setSingleShot(true);
     m_minute.setTimerType(Qt::PreciseTimer);
     connect(&m_minute, &QTimer::timeout, this, [this] { showTime(); });
@@ -86,7 +89,12 @@ void StatusBarView::addPanels(Mum& mum)
     m_numLock = addKeyPanel(mum.StatusBar.Panels(panel::numLock), QStringLiteral("NUM"));
     m_time = addKeyPanel(mum.StatusBar.Panels(panel::time), QStringLiteral("00:00"));
     m_time->setEnabled(true);
-    addPanel(mum.StatusBar.Panels(panel::macroFile), QStringLiteral("No macro file analysed"));
+    auto* macroFile = new ElidedLabel(this); // a file's name can be of any length
+    macroFile->setContentsMargins(4, 0, 4, 0);
+    macroFile->setSamples(QStringLiteral("No macro file analysed"),
+                          QStringLiteral("a name as long as most, and then some"));
+    bindPanel(mum.StatusBar.Panels(panel::macroFile), *macroFile);
+    addPermanentWidget(macroFile);
 }
 
 void StatusBarView::bindPanel(StatusBar::Panel& panel, QLabel& view)
@@ -118,6 +126,12 @@ QLabel* StatusBarView::addKeyPanel(StatusBar::Panel& panel, const QString& name)
     m_bindings.bind(panel.ToolTipText, [view](const std::string& tip) { view->setToolTip(toQt(tip)); });
     addPermanentWidget(view);
     return view;
+}
+
+/// Also over the panels, which leave the mouse to the bar.
+void StatusBarView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (hovered) hovered(static_cast<int>(event->position().x()));
 }
 
 void StatusBarView::showOverwrite(bool on)
