@@ -121,8 +121,11 @@ void open(FindAndReplace& window, int tab)
     window.form.Show(); // first, because only what is shown can take the keyboard
     const int document = window.editor.TabStrip1.SelectedItem;
     for (const FindPage& page : {findPage(window), replacePage(window)}) chooseFile(window, page, document);
-    if (window.SSTab1.SelectedItem != tab) return window.SSTab1.Select(tab);
-    focusTab(window);
+    if (window.SSTab1.SelectedItem != tab) {
+        window.SSTab1.Select(tab);
+    } else {
+        focusTab(window);
+    }
     window.ComboTextFind.SelectAll();
     window.ComboTextReplaceFind.SelectAll();
 }
