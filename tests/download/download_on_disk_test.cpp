@@ -22,6 +22,7 @@ struct Road {
         EXPECT_TRUE(t->start());
         t->program->shared.settings.B50LoadPath = loaderPath;
         t->program->editor.status("old text");
+        t->dialogues.boxes.clear(); // what the opening told
     }
     void standIn(const std::string& name) const
     {

@@ -49,7 +49,7 @@ TEST_F(DosboxTest, PathsThatDosCannotHaveReachItByAnotherName)
     const std::string folder = drives.toDos(driveC + "/" + odd);
     EXPECT_EQ(run("\"" + folder + "\\-load;er.com\" " + folder + "\\x;y z.b50 Q", folder), 0);
     const std::string seen = contents(odd + "/SEEN.TXT");
-    EXPECT_EQ(seen.substr(2), ":\\FILE2.B50 Q\r\n" + seen.substr(18, 1) + ":\\\r\nBTN S1 a") << "the folder itself";
+    EXPECT_EQ(seen.substr(2), ":\\FILE2.B50 Q\r\n" + seen.substr(17, 1) + ":\\\r\nBTN S1 a") << "the folder itself";
 }
 
 TEST_F(DosboxTest, OnlyTheLastLetterOfTheAlphabetIsOutOfReach)
