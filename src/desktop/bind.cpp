@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -38,6 +39,22 @@ void Bindings::comboBox(ComboBox& state, QComboBox& widget)
         state.Text = fromQt(widget.itemText(index));
         if (state.Click) state.Click();
     });
+}
+
+void Bindings::focus(Focusable& state, QWidget& widget)
+{
+    follow(state.focusWanted, [&widget] { widget.setFocus(Qt::OtherFocusReason); });
+}
+
+void Bindings::textBox(TextBox& state, QLineEdit& widget)
+{
+    focus(state, widget);
+    bind(state.Text, [&widget](const std::string& text) {
+        if (toQt(text) != widget.text()) widget.setText(toQt(text));
+    });
+    follow(state.selectAllWanted, [&widget] { widget.selectAll(); });
+    QObject::connect(&widget, &QLineEdit::textChanged, &widget,
+                     [&state](const QString& text) { state.Text = fromQt(text); });
 }
 
 void Bindings::progressBar(ProgressBar& state, QProgressBar& widget)

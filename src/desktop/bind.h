@@ -8,8 +8,10 @@
 
 class QAbstractButton;
 class QComboBox;
+class QLineEdit;
 class QObject;
 class QProgressBar;
+class QWidget;
 
 namespace tarvex {
 
@@ -39,11 +41,15 @@ public:
     void button(Button& state, QAbstractButton& widget);
     /// Items and text; a choice of the user sets Text and runs Click.
     void comboBox(ComboBox& state, QComboBox& widget);
+    /// Text, both ways.
+    void textBox(TextBox& state, QLineEdit& widget);
     void progressBar(ProgressBar& state, QProgressBar& widget);
     /// Runs Tick at its interval while it is enabled. `owner` owns the clockwork and bounds its life.
     void timer(Timer& state, QObject& owner);
 
 private:
+    void focus(Focusable& state, QWidget& widget);
+
     std::vector<Connection> m_connections;
 };
 

@@ -89,6 +89,12 @@ private:
     std::function<void(int)> m_handler;
 };
 
+/// What can have the keyboard.
+struct Focusable {
+    Signal<> focusWanted;
+    void SetFocus() const { focusWanted(); }
+};
+
 struct Button {
     Property<std::string> Caption;
     Property<bool> Enabled = true;
@@ -99,6 +105,18 @@ struct Button {
     {
         if (handler) handler();
     }
+};
+
+/// A line of text that the user writes.
+struct TextBox : Focusable {
+    Property<std::string> Text;
+    Signal<> selectAllWanted;
+    void SelectAll() const { selectAllWanted(); }
+    std::function<void()> GotFocus;
+};
+
+struct Label {
+    Property<std::string> Caption;
 };
 
 struct ComboBox {

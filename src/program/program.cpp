@@ -98,25 +98,16 @@ void wirePanes(Editor& editor)
     editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);
 }
 
-void wireLists(Operations& operations, SettingsStore& store)
-{
-    operations.GetPreviousFiles = [&store] { store.read(Access::GetPreviousFiles, "MODULE GetPreviousFiles"); };
-    operations.GetFavourites = [&store] { store.read(Access::GetFavourites, "MODULE GetFavourites"); };
-    operations.GetGames = [&store] { store.read(Access::GetGames, "MODULE GetGames"); };
-    operations.GetCustomApps = [&store] { store.read(Access::GetCustomApps, "MODULE GetCustomApps"); };
-}
-
 } // namespace
 
 Program::Program(Platform& thePlatform)
-    : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations)
+    : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations), lists(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
     wireLanguage(editor);
-    wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = on(editor, Form_Load);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/editor.h"
+#include "lists/lists.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
 #include "shell/mum.h"
@@ -29,6 +30,7 @@ public:
     Mum mum;
     Operations operations;
     Editor editor;
+    Lists lists;
 };
 
 } // namespace tarvex

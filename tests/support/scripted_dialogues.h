@@ -18,6 +18,7 @@ public:
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
+    std::deque<std::optional<std::string>> folders;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
     bool modalFormsExist = true;
     std::function<void()> whileModal; ///< runs while a modal window is up
@@ -25,6 +26,7 @@ public:
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
     std::vector<FileRequest> saveRequests;
+    std::vector<std::string> folderTitles;
     std::vector<std::string> modalForms;
     std::vector<std::string> popUps; ///< names of the menus that popped up
 
@@ -44,6 +46,11 @@ public:
     {
         saveRequests.push_back(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
+    }
+    std::optional<std::string> chooseFolder(const std::string& title) override
+    {
+        folderTitles.push_back(title);
+        return next(folders, std::optional<std::string>(), "folder " + title);
     }
     bool showModal(const std::string& formName) override
     {
