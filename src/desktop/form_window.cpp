@@ -15,6 +15,7 @@ FormWindow::FormWindow(Form& form, const QString& name, QWidget* parent) : QDial
     m_bindings.bind(form.Caption, [this](const std::string& caption) { setWindowTitle(toQt(caption)); });
     m_bindings.follow(form.TopMost, [this] { keepOnTop(m_form.TopMost); });
     m_bindings.follow(form.Visible, [this] { refresh(); });
+    m_bindings.follow(form.frontWanted, [this] { refresh(); });
     m_bindings.follow(form.State, [this] {
         if (isVisible()) refresh();
     });

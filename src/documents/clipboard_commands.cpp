@@ -6,6 +6,20 @@
 
 namespace tarvex {
 
+namespace {
+
+constexpr int cutButton = 7;
+constexpr int copyButton = 8;
+constexpr int pasteButton = 9;
+
+void enable(Editor& editor, MenuItem& item, int button, bool on)
+{
+    item.Enabled = on;
+    editor.mum.Toolbar1.Buttons(button).Enabled = on;
+}
+
+} // namespace
+
 ClipboardContent selectionContent(const Pane& pane)
 {
     if (pane.SelLength() == 0) return {};
@@ -26,6 +40,7 @@ void mnuEditCopy_Click(Editor& editor)
     const Steps step(editor.shared.errors, "ED_mnuEditCopy_Click");
     const Pane& pane = editor.selected().pane;
     if (pane.SelLength() > 0) step([&] { editor.platform.clipboard.put(selectionContent(pane)); });
+    UpdateCCPButtons(editor);
 }
 
 void mnuEditCut_Click(Editor& editor)
@@ -37,12 +52,14 @@ void mnuEditCut_Click(Editor& editor)
         editor.platform.clipboard.put(selectionContent(pane));
         pane.setSelText("");
     });
+    UpdateCCPButtons(editor);
 }
 
 void mnuEditPaste_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditPaste_Click");
     step([&] { insertContent(editor.selected().pane, editor.platform.clipboard.get()); });
+    UpdateCCPButtons(editor);
 }
 
 void mnuEditDelete_Click(Editor& editor)
@@ -50,6 +67,7 @@ void mnuEditDelete_Click(Editor& editor)
     const Steps step(editor.shared.errors, "ED_mnuEditDelete_Click");
     Pane& pane = editor.selected().pane;
     if (!pane.Locked && pane.SelLength() > 0) step([&] { pane.setSelText(""); });
+    UpdateCCPButtons(editor);
 }
 
 void mnuEditSelectAll_Click(Editor& editor)
@@ -61,6 +79,15 @@ void mnuEditSelectAll_Click(Editor& editor)
         pane.setSelLength(static_cast<std::int64_t>(pane.TextLength()));
         noteCaret(editor, editor.selected());
     });
+}
+
+void UpdateCCPButtons(Editor& editor)
+{
+    const Pane& pane = editor.selected().pane;
+    const bool selection = pane.SelLength() > 0;
+    enable(editor, editor.menus.mnuEditCut, cutButton, selection && !pane.Locked);
+    enable(editor, editor.menus.mnuEditCopy, copyButton, selection);
+    enable(editor, editor.menus.mnuEditPaste, pasteButton, !pane.Locked && editor.platform.clipboard.holdsText());
 }
 
 } // namespace tarvex

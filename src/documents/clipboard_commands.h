@@ -11,6 +11,10 @@ void mnuEditPaste_Click(Editor& editor);
 void mnuEditDelete_Click(Editor& editor);
 void mnuEditSelectAll_Click(Editor& editor);
 
+/// Brings Cut, Copy and Paste of menu and toolbar up to date with selection and clipboard. A protected pane offers
+/// neither Cut nor Paste.
+void UpdateCCPButtons(Editor& editor);
+
 /// What a copy, or a drag, of the pane's selection carries.
 ClipboardContent selectionContent(const Pane& pane);
 /// Replaces the pane's selection by what was pasted or dropped; a locked pane stays.

@@ -17,6 +17,7 @@ Editor::Editor(Platform& thePlatform, Shared& theShared, Mum& theMum, Menus& the
                                     .Extension = shared.settings.JoystickExtension,
                                     .Background = shared.settings.BackgroundColour,
                                     .Undo = JoystickUndo,
+                                    .Journal = JoystickJournal,
                                     .ApplyColours = operations.ApplyColourHighlighting,
                                     .NoteLatestFile = operations.NoteLatestJoystickFile,
                                     .UpdateRecentMenuList = operations.UpdateRecentJFMenuList},
@@ -32,6 +33,7 @@ Editor::Editor(Platform& thePlatform, Shared& theShared, Mum& theMum, Menus& the
             .Extension = shared.settings.MacroExtension,
             .Background = shared.settings.MacroBackgroundColour,
             .Undo = MacroUndo,
+            .Journal = MacroJournal,
             .ApplyColours = operations.ApplyMacroColourHighlighting,
             .NoteLatestFile = operations.NoteLatestMacroFile,
             .UpdateRecentMenuList = operations.UpdateRecentMFMenuList}

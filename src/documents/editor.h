@@ -1,5 +1,7 @@
 #pragma once
 
+#include "documents/colour_selector.h"
+#include "documents/journal_record.h"
 #include "documents/macro_record.h"
 #include "documents/pair_record.h"
 #include "documents/pane.h"
@@ -49,6 +51,7 @@ struct Side {
     std::string& Extension; ///< the one that new files of the kind get
     Colour& Background;
     UndoHistory& Undo;
+    JournalRecord& Journal;
     Operation<>& ApplyColours;
     Operation<const std::string&>& NoteLatestFile;
     Operation<const std::string&>& UpdateRecentMenuList;
@@ -77,6 +80,8 @@ struct Editor {
     Pane CompareRTF;      ///< hidden; the plain file beside its coloured shadow
     UndoHistory JoystickUndo;
     UndoHistory MacroUndo;
+    JournalRecord JoystickJournal;
+    JournalRecord MacroJournal;
     Side joystick;
     Side macro;
 
@@ -86,8 +91,10 @@ struct Editor {
     tarvex::TabStrip TabStrip1{2};
     Property<Placement> TabStrip1Place;
     tarvex::FrameMacros FrameMacros;
+    tarvex::ColourSelector ColourSelector;
     Timer Timer1{60000};       ///< minutes of the automatic save
     Timer TimerBlinkLine{100}; ///< line highlight
+    Timer TimerJournal{15000}; ///< runs while a journal isn't on the disk yet
 
     int TabImage = tabImage::selected; ///< of the macro file's tab while it is selected
     std::string OpeningPath;           ///< what OpenPreviouslySavedFiles hands to the open commands
@@ -95,8 +102,11 @@ struct Editor {
     std::int16_t OpeningWithoutAsking = 0;
     std::int16_t ExitInProgress = 0;
     int BlinkStep = 0;                ///< of the line highlight
+    int BlinkTab = 1;                 ///< of the pane whose line flashes
     std::int64_t HighlightLength = 0; ///< characters of the line highlighted
     int AutoSaveMinutes = 0;          ///< since the last automatic save
+    std::uint64_t LastJournal = 0;    ///< number of the newest journal; 0: not looked for yet
+    bool ToldJournalFailure = false;  ///< the user knows that journals can't be written
 
     /// The document of the selected tab.
     Side& selected() { return TabStrip1.SelectedItem == 1 ? joystick : macro; }

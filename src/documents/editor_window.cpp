@@ -5,6 +5,8 @@
 #include "documents/file_questions.h"
 #include "documents/hardware_changes.h"
 #include "documents/pane_change.h"
+#include "documents/recovery_journal.h"
+#include "documents/recovery_offer.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 #include "platform/windows1252.h"
@@ -79,15 +81,18 @@ void openFavourite(Editor& editor)
     }
 }
 
-/// The command line's file wins over a favourite.
+/// The command line's file wins over a favourite. Text that was brought back is shown in their stead; a file that is no
+/// part of it is opened after the usual question.
 void openFirstFile(Editor& editor)
 {
     Shared& shared = editor.shared;
+    const auto broughtBack = offerRecovery(editor);
     if (!shared.CommandLineFile.empty()) TestCommandLine(editor);
     if (!shared.CommandLineFile.empty()) {
+        if (isAmong(broughtBack, shared.CommandLineFile)) return;
         editor.OpeningPath = shared.CommandLineFile;
         OpenPreviouslySavedFiles(editor);
-    } else if (!shared.settings.FavNameToLoad.empty() && shared.settings.FavLoadOnStart == 1) {
+    } else if (broughtBack.empty() && !shared.settings.FavNameToLoad.empty() && shared.settings.FavLoadOnStart == 1) {
         openFavourite(editor);
     }
 }
@@ -206,6 +211,7 @@ void Form_Unload(Editor& editor)
     SettingsStore& store = editor.shared.store;
     step([&] { store.SaveOpenSingleOnly(); });
     step([&] { store.SaveIndentStuff(); });
+    endJournals(editor);
     editor.Timer1.Enabled = false;
     editor.TimerBlinkLine.Enabled = false;
     for (const char* form : {"FindAndReplace", "InsertOptions", "Heading", "KeyTestForm", "InfoWindow", "RAWform"})

@@ -3,6 +3,7 @@
 #include "documents/file_questions.h"
 #include "documents/loading.h"
 #include "documents/pane_change.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 
@@ -29,6 +30,7 @@ bool newDocument(Editor& editor, Side& side, std::string_view tag)
     side.Caret = 0;
     side.SelectionLength = 0;
     step([&] { DeleteUndosOnSave(editor, side); });
+    noteTextSettled(editor, side, std::nullopt);
     showLineNumber(editor, side, side.pane.SelStart());
     if (side.tab == editor.macro.tab) {
         StatusBar::Panel& analysed = editor.mum.StatusBar.Panels(panel::macroFile);

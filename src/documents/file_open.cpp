@@ -28,29 +28,15 @@ std::optional<Chosen> chooseFile(Editor& editor, const FileRequest& request)
     return Chosen{lowerUtf8(*path), lowerUtf8(fileNameOf(*path))};
 }
 
-/// False: the file couldn't be read, and the user was told.
-bool loadJoystickFile(Editor& editor, const Chosen& file)
-{
-    const auto bytes = readForOpening(editor, file.path, file.name);
-    if (!bytes) return false;
-    const Loading loading(editor.shared);
-    showDocument(editor, editor.joystick, file.path, file.name, *bytes);
-    return true;
-}
-
-bool loadMacroFile(Editor& editor, const Chosen& file)
+void showMacroFile(Editor& editor, const std::string& path, const std::string& name, const std::string& bytes)
 {
     const Steps step(editor.shared.errors, "ED_loadMacroFile");
-    const auto bytes = readForOpening(editor, file.path, file.name);
-    if (!bytes) return false;
-    const Loading loading(editor.shared);
     step([&] { editor.operations.ClearAllForNewMacroFile(); });
-    showDocument(editor, editor.macro, file.path, file.name, *bytes);
-    editor.mum.StatusBar.Panels(panel::macroFile).Text = file.name;
+    showDocument(editor, editor.macro, path, name, bytes);
+    editor.mum.StatusBar.Panels(panel::macroFile).Text = name;
     step([&] { editor.operations.GetEachLineFromMacroFile(); });
     step([&] { editor.operations.ExtractMacrosAndTitles(); });
     if (!editor.menus.mnuViewMacros.Checked) editor.menus.mnuViewMacros.Click();
-    return true;
 }
 
 /// The ticks of the macro list are out of date.
@@ -72,7 +58,7 @@ void endOpenBoth(Editor& editor, const Side& side)
 
 void openMacroAndPartner(Editor& editor, const Chosen& file)
 {
-    if (!loadMacroFile(editor, file)) return;
+    if (!loadFile(editor, editor.macro, file.path, file.name)) return;
     editor.status("Finished opening up macro file and extracting macros from it");
     const std::string partner = associatedJoystickFile(file.path, editor.shared.settings);
     if (!editor.platform.files.fileExists(partner)) {
@@ -85,7 +71,7 @@ void openMacroAndPartner(Editor& editor, const Chosen& file)
              .icon = BoxIcon::Information});
         return;
     }
-    if (loadJoystickFile(editor, {partner, fileNameOf(partner)})) return endOpenBoth(editor, editor.macro);
+    if (loadFile(editor, editor.joystick, partner, fileNameOf(partner))) return endOpenBoth(editor, editor.macro);
     endOpenOne(editor, editor.macro);
     editor.status("Joystick file not opened");
 }
@@ -104,7 +90,7 @@ std::string findMacroFile(Editor& editor, const std::string& joystickPath)
 
 void openJoystickAndPartner(Editor& editor, const Chosen& file)
 {
-    if (!loadJoystickFile(editor, file)) return;
+    if (!loadFile(editor, editor.joystick, file.path, file.name)) return;
     editor.status("Looking for associated macro file");
     if (editor.TabStrip1.SelectedItem != editor.joystick.tab) editor.TabStrip1.Select(editor.joystick.tab);
     const std::string partner = findMacroFile(editor, file.path);
@@ -121,7 +107,7 @@ void openJoystickAndPartner(Editor& editor, const Chosen& file)
         endOpenOne(editor, editor.joystick);
         return;
     }
-    if (loadMacroFile(editor, {partner, fileNameOf(partner)})) return endOpenBoth(editor, editor.joystick);
+    if (loadFile(editor, editor.macro, partner, fileNameOf(partner))) return endOpenBoth(editor, editor.joystick);
     endOpenOne(editor, editor.joystick);
     editor.status("Macro file not opened");
 }
@@ -144,6 +130,20 @@ void refuseUnknownKind(Editor& editor)
 
 } // namespace
 
+void showFile(Editor& editor, Side& side, const std::string& path, const std::string& name, const std::string& bytes)
+{
+    const Loading loading(editor.shared);
+    if (side.tab == editor.macro.tab) return showMacroFile(editor, path, name, bytes);
+    showDocument(editor, side, path, name, bytes);
+}
+
+bool loadFile(Editor& editor, Side& side, const std::string& path, const std::string& name)
+{
+    const auto bytes = readForOpening(editor, path, name);
+    if (bytes) showFile(editor, side, path, name, *bytes);
+    return bytes.has_value();
+}
+
 void mnuFileJoystickLoad_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuFileJoystickLoad_Click");
@@ -152,7 +152,7 @@ void mnuFileJoystickLoad_Click(Editor& editor)
         const auto file = chooseFile(editor, {.title = "Opening joystick file",
                                               .filter = joystickOpenFilter(editor.shared.settings),
                                               .directory = dialogueFolder(editor, editor.joystick)});
-        if (!file || !loadJoystickFile(editor, *file)) return;
+        if (!file || !loadFile(editor, editor.joystick, file->path, file->name)) return;
         endOpenOne(editor, editor.joystick);
         editor.status("Done");
     });
@@ -166,7 +166,7 @@ void MnuFileMacroLoad_Click(Editor& editor)
         const auto file = chooseFile(editor, {.title = "Opening file",
                                               .filter = macroOpenFilter(editor.shared.settings),
                                               .directory = dialogueFolder(editor, editor.macro)});
-        if (!file || !loadMacroFile(editor, *file)) return;
+        if (!file || !loadFile(editor, editor.macro, file->path, file->name)) return;
         endOpenOne(editor, editor.macro);
         editor.status("Finished opening up macro file and extracting macros from it");
     });

@@ -1,6 +1,7 @@
 #include "documents/file_save.h"
 
 #include "documents/file_dialogues.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/text_files.h"
 #include "documents/undo.h"
@@ -135,6 +136,7 @@ void noteSaved(Editor& editor, Side& side)
     step([&] { side.UpdateRecentMenuList(side.FilePath); });
     editor.status(side.FilePath + " saved successfully.");
     side.Changed = changed::saved;
+    noteTextSettled(editor, side, sumOf(side.pane.Text()));
     UpdateSavedIcon(editor);
     saveColouredText(editor, side);
 }

@@ -16,7 +16,7 @@ std::int64_t lineLength(const Pane& pane, std::int64_t line)
 
 void caretBackToLineStart(Editor& editor)
 {
-    Side& side = editor.selected();
+    Side& side = editor.BlinkTab == editor.joystick.tab ? editor.joystick : editor.macro;
     side.pane.setSelStart(static_cast<std::int64_t>(side.Caret));
     editor.HighlightLength = 0;
 }
@@ -40,8 +40,10 @@ void HighlightLineAtIP(Editor& editor)
 void blinkLineAtIP(Editor& editor)
 {
     if (editor.selected().pane.TextLength() == 0) return;
+    if (editor.BlinkTab != editor.selected().tab) endBlinking(editor);
     HighlightLineAtIP(editor);
     editor.BlinkStep = 0;
+    editor.BlinkTab = editor.selected().tab;
     editor.TimerBlinkLine.Enabled = true;
 }
 
@@ -53,19 +55,23 @@ void mnuViewHighlightLine_Click(Editor& editor)
 
 void TimerBlinkLine_Timer(Editor& editor)
 {
-    switch (editor.BlinkStep) {
-    case 0:
-    case 2:
-        caretBackToLineStart(editor);
-        ++editor.BlinkStep;
-        break;
-    case 1:
-        HighlightLineAtIP(editor);
-        ++editor.BlinkStep;
-        break;
-    default:
-        editor.TimerBlinkLine.Enabled = false;
-    }
+    const Steps step(editor.shared.errors, "ED_TimerBlinkLine_Timer");
+    step([&] {
+        if (editor.selected().tab != editor.BlinkTab) return endBlinking(editor); // the user went to the other pane
+        switch (editor.BlinkStep) {
+        case 0:
+        case 2:
+            ++editor.BlinkStep;
+            caretBackToLineStart(editor);
+            break;
+        case 1:
+            ++editor.BlinkStep;
+            HighlightLineAtIP(editor);
+            break;
+        default:
+            editor.TimerBlinkLine.Enabled = false;
+        }
+    });
 }
 
 void endBlinking(Editor& editor)
@@ -75,18 +81,28 @@ void endBlinking(Editor& editor)
     caretBackToLineStart(editor);
 }
 
-void stopBlinking(Editor& editor) { editor.TimerBlinkLine.Enabled = false; }
+void stopBlinking(Editor& editor, const Side& side)
+{
+    if (side.tab == editor.BlinkTab) editor.TimerBlinkLine.Enabled = false;
+}
+
+std::optional<std::int64_t> startOfLine(const Pane& pane, std::int64_t lineNumber)
+{
+    if (lineNumber < 1 || lineNumber > pane.lineCount()) return std::nullopt;
+    return pane.lineStart(lineNumber - 1);
+}
 
 void HighlightErrorLine(Editor& editor, std::int64_t lineNumber)
 {
     Pane& pane = editor.JoystickText;
-    if (lineNumber < 1 || lineNumber > pane.lineCount()) {
+    const auto start = startOfLine(pane, lineNumber);
+    if (!start) {
         editor.platform.dialogues.show(
             {.title = "Hmmm....bizarre...", .text = "The line number is invalid", .icon = BoxIcon::Exclamation});
         return;
     }
     if (editor.TabStrip1.SelectedItem != editor.joystick.tab) editor.TabStrip1.Select(editor.joystick.tab);
-    pane.setSelStart(pane.lineStart(lineNumber - 1));
+    pane.setSelStart(*start);
     blinkLineAtIP(editor);
 }
 

@@ -118,6 +118,20 @@ public:
     /// above it.
     std::int64_t Find(std::string_view text, std::int64_t start, std::int64_t end = toEnd, int options = 0);
 
+    /// What replaceEach did; positions are those of the text as it is then.
+    struct Replaced {
+        std::int64_t count = 0;
+        std::int64_t found = -1; ///< where the search that ended it found the text; -1: nowhere
+        std::int64_t caret = 0;  ///< behind the last replacement, or where it all began
+    };
+    /// Replaces each match from `start` on as Find, with the end of the text, and setSelText would by turns, beginning
+    /// behind each replacement again, but as one edit with one Change at most. The replacement has only CR LF pairs.
+    /// Ends where no match is left, or at the first that `mayReplace` refuses by its position. The caret stands behind
+    /// the last replacement; without any the selection stays. A text that begins with LF or ends with CR, and so parts
+    /// pairs, has no match here. `start` is not negative.
+    Replaced replaceEach(std::string_view text, std::string_view replacement, std::int64_t start, int options,
+                         const std::function<bool(std::int64_t position)>& mayReplace);
+
     /// Extends the selection forward from its end (or backward from its start) over the characters that are in `set`,
     /// or with `negate` over those that aren't. `set` is matched exactly.
     void Span(std::string_view set, bool forward, bool negate);

@@ -1,6 +1,7 @@
 #include "documents/pane_change.h"
 
 #include "documents/line_highlight.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 
@@ -12,12 +13,13 @@ void textChanged(Editor& editor, Side& side)
 {
     side.Changed = changed::modified;
     UpdateSavedIcon(editor);
+    writeDownChanges(editor, side);
     recordUndo(editor, side);
 }
 
 void paneChange(Editor& editor, Side& side)
 {
-    stopBlinking(editor);
+    stopBlinking(editor, side);
     // emptying a pane takes the indent with the text
     if (side.pane.TextLength() == 0) side.pane.setSelIndent(paragraphIndent);
     if (editor.shared.IsLoading == 1) return;

@@ -1,6 +1,7 @@
 #include "documents/tabs.h"
 
 #include "documents/editor_layout.h"
+#include "documents/toolbar.h"
 #include "documents/undo.h"
 #include "platform/dos_path.h"
 
@@ -25,22 +26,6 @@ std::string savedStateTip(const std::string& name, std::int16_t state)
 
 bool isProtected(const Editor& editor) { return editor.menus.mnuPreferencesProtectMacroFile.Checked; }
 
-/// A compile result and a macro's definition (it holds "=") stay up.
-void showEditingText(Editor& editor)
-{
-    StatusBar::Panel& progress = editor.mum.StatusBar.Panels(panel::progress);
-    Side& side = editor.selected();
-    if (side.tab == editor.macro.tab && isProtected(editor)) {
-        progress.Text = editor.tabCaption(side) + " is protected and can't be edited.";
-        progress.Enabled = false;
-        return;
-    }
-    progress.Enabled = true;
-    const std::string& text = progress.Text;
-    if (text.starts_with("Compile") || text.find('=') != std::string::npos) return;
-    progress.Text = "Editing " + editor.tabCaption(side);
-}
-
 void showTabImages(Editor& editor)
 {
     const bool joystickSelected = editor.TabStrip1.SelectedItem == editor.joystick.tab;
@@ -55,10 +40,26 @@ void gotFocus(Editor& editor, Side& side)
     UpdateUndoRedoMenus(editor);
     editor.operations.UpdateCCPButtons();
     showLineNumber(editor, side, side.pane.SelStart());
+    showCaretColour(editor);
     showEditingText(editor);
 }
 
 } // namespace
+
+void showEditingText(Editor& editor)
+{
+    StatusBar::Panel& progress = editor.mum.StatusBar.Panels(panel::progress);
+    Side& side = editor.selected();
+    if (side.tab == editor.macro.tab && isProtected(editor)) {
+        progress.Text = editor.tabCaption(side) + " is protected and can't be edited.";
+        progress.Enabled = false;
+        return;
+    }
+    progress.Enabled = true;
+    const std::string& text = progress.Text;
+    if (text.starts_with("Compile") || text.find('=') != std::string::npos) return;
+    progress.Text = "Editing " + editor.tabCaption(side);
+}
 
 void showLineNumber(Editor& editor, const Side& side, std::int64_t position)
 {
@@ -107,6 +108,7 @@ void TabStrip1_Click(Editor& editor)
     UpdateSavedIcon(editor);
     step([&] { UpdateUndoRedoMenus(editor); });
     showLineNumber(editor, editor.selected(), editor.selected().pane.SelStart());
+    showCaretColour(editor);
     editor.selected().pane.SetFocus();
 }
 
@@ -118,6 +120,7 @@ void noteCaret(Editor& editor, Side& side)
     side.Caret = static_cast<float>(side.pane.SelStart());
     side.SelectionLength = static_cast<std::int32_t>(side.pane.SelLength());
     showLineNumber(editor, side, side.pane.SelStart());
+    showCaretColour(editor);
     editor.operations.UpdateCCPButtons();
 }
 
@@ -130,6 +133,7 @@ void mnuPreferencesProtectMacroFile_Click(Editor& editor)
         editor.MacroText.Locked = item.Checked.get();
         editor.TabImage = item.Checked ? tabImage::macroProtected : tabImage::selected;
         if (editor.TabStrip1.SelectedItem == editor.macro.tab) showTabImages(editor);
+        editor.operations.UpdateCCPButtons();
     });
 }
 

@@ -20,6 +20,8 @@ void MacroText_GotFocus(Editor& editor);
 void noteCaret(Editor& editor, Side& side);
 /// Locks the macro pane against edits, or frees it again.
 void mnuPreferencesProtectMacroFile_Click(Editor& editor);
+/// What the selected document is, in the status; a compile result and a macro's definition (it holds "=") stay up.
+void showEditingText(Editor& editor);
 /// Status panel 3: the line of a position, from 1.
 void showLineNumber(Editor& editor, const Side& side, std::int64_t position);
 

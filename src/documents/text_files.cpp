@@ -1,6 +1,7 @@
 #include "documents/text_files.h"
 
 #include "documents/pane_change.h"
+#include "documents/recovery_journal.h"
 #include "documents/rtf.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
@@ -104,7 +105,7 @@ void showDocument(Editor& editor, Side& side, const std::string& path, const std
     side.Changed = changed::saved;
     editor.TabStrip1.Tabs(side.tab).Caption = name;
     updateDownload(editor);
-    step([&] { side.NoteLatestFile(path); });
+    if (editor.platform.files.fileExists(path)) step([&] { side.NoteLatestFile(path); });
     if (!coloured) {
         step([&] { editor.menus.mnuViewReformat.Click(); });
         if (editor.shared.settings.ApplyColoursOnFileOpen == 1) step([&] { side.ApplyColours(); });
@@ -115,6 +116,7 @@ void showDocument(Editor& editor, Side& side, const std::string& path, const std
     side.SelectionLength = 0;
     step([&] { DeleteUndosOnSave(editor, side); });
     side.Changed = changed::saved;
+    noteTextSettled(editor, side, sumOf(bytes));
     UpdateSavedIcon(editor);
     showLineNumber(editor, side, 0);
 }

@@ -2,6 +2,7 @@
 
 #include "documents/line_highlight.h"
 #include "documents/loading.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 
 namespace tarvex {
@@ -52,6 +53,7 @@ void showLevel(Editor& editor, std::size_t level)
     side.Caret = static_cast<float>(history.Caret[level - 1]);
     side.Changed = changed::modified; // it needn't be what was saved
     UpdateSavedIcon(editor);
+    writeDownChanges(editor, side);
     UpdateUndoRedoMenus(editor);
     if (editor.shared.settings.HighlightLineOnUndo == 1) blinkLineAtIP(editor);
 }

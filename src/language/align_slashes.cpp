@@ -1,7 +1,7 @@
 #include "language/align_slashes.h"
 
 #include "documents/pane_change.h"
-#include "language/protected_pane.h"
+#include "documents/protected_pane.h"
 #include "language/slash_columns.h"
 
 #include <optional>

@@ -34,7 +34,6 @@ void fillLists(FrameMacros& frame, const std::vector<MacroNames>& macros)
 {
     for (std::size_t i = 0; i < macros.size(); ++i) {
         if (i == frame.List1.size()) frame.List1.emplace_back().Visible = false;
-        frame.List1[i].ToolTipText = "Double click macro to insert into Joystick file, or use drag and drop";
         addItems(frame.List1[i], macros[i]);
     }
     frame.List1Changed();
@@ -106,6 +105,7 @@ void ExtractMacrosAndTitles(Editor& editor)
         headings.insert(headings.end(), record.MacroHeadings.begin(), record.MacroHeadings.end());
         frame.Combo1.Items = std::move(headings);
     });
+    editor.operations.UpdateEditorTooltips(); // for the lists that were loaded
     editor.status("Done");
     showAllMacros(editor);
     step([&] {

@@ -1,8 +1,8 @@
 #include "language/rem_block.h"
 
+#include "documents/protected_pane.h"
 #include "documents/tabs.h"
 #include "language/coloured_insertion.h"
-#include "language/protected_pane.h"
 #include "language/side_caret.h"
 #include "platform/windows1252.h"
 

@@ -1,7 +1,7 @@
 #include "language/slash_buttons.h"
 
+#include "documents/protected_pane.h"
 #include "language/coloured_insertion.h"
-#include "language/protected_pane.h"
 
 namespace tarvex {
 

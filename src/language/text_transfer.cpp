@@ -2,9 +2,9 @@
 
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
+#include "documents/protected_pane.h"
 #include "language/base_format.h"
 #include "language/colour_highlighting.h"
-#include "language/protected_pane.h"
 #include "platform/text.h"
 
 namespace tarvex {

@@ -24,6 +24,15 @@ constexpr int twipsPerPixel = 15;
 /// A colour as the settings keep it: 0x00BBGGRR, so 255 is red.
 using Colour = std::int32_t;
 
+/// A rectangle inside a window, in pixels.
+struct Placement {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const Placement&) const = default;
+};
+
 struct MenuItem {
     explicit MenuItem(std::string name, std::string caption = {}) : Name(std::move(name)), Caption(std::move(caption)) {}
 
@@ -95,7 +104,7 @@ struct Focusable {
     void SetFocus() const { focusWanted(); }
 };
 
-struct Button {
+struct Button : Focusable {
     Property<std::string> Caption;
     Property<bool> Enabled = true;
     Property<bool> Visible = true;
@@ -119,10 +128,26 @@ struct Label {
     Property<std::string> Caption;
 };
 
-struct ComboBox {
+/// A tick of the user's is in Value when Click runs.
+struct CheckBox {
+    Property<std::string> Caption;
+    Property<bool> Value = false;
+    std::function<void()> Click;
+};
+
+/// One of several of which one is chosen. The user's choice only runs Click, which gives all of them their values.
+struct OptionButton {
+    Property<std::string> Caption;
+    Property<bool> Value = false;
+    std::function<void()> Click;
+};
+
+struct ComboBox : Focusable {
     Property<std::vector<std::string>> Items;
-    Property<std::string> Text; ///< the text shown; usually one of Items
+    Property<std::string> Text; ///< the text shown: one of Items, or where the view lets the user write, any
     std::function<void()> Click; ///< the user chose an item
+    Signal<> selectAllWanted;
+    void SelectAll() const { selectAllWanted(); }
 };
 
 struct CheckListBox {
@@ -192,18 +217,24 @@ struct ProgressBar {
 /// Buttons are numbered from 1; separators count.
 class ToolBar {
 public:
+    struct Slot : Button {
+        Placement Place; ///< inside the bar, told by the view; empty while the button isn't to be seen
+    };
     explicit ToolBar(int count) : m_buttons(static_cast<std::size_t>(count)) {}
 
     /// Throws std::out_of_range for a number that the bar doesn't have.
-    Button& Buttons(int index) { return m_buttons.at(static_cast<std::size_t>(index - 1)); }
+    Slot& Buttons(int index) { return m_buttons.at(static_cast<std::size_t>(index - 1)); }
     int Count() const { return static_cast<int>(m_buttons.size()); }
+    /// Asks the view to show the commands of all buttons anew.
+    void Refresh() { refreshWanted(); }
+    Signal<> refreshWanted;
 
     Property<bool> Visible = false;
-    Property<bool> Wrappable = false;
+    Property<bool> Wrappable = false; ///< what has no room goes into further rows
     Property<bool> Flat = false;
 
 private:
-    std::deque<Button> m_buttons;
+    std::deque<Slot> m_buttons;
 };
 
 /// Interval in milliseconds. Whoever runs the timers calls Tick while Enabled.
@@ -227,15 +258,15 @@ struct Form {
     Property<float> Top = 0.0F;
     Property<float> Width = 0.0F;
     Property<float> Height = 0.0F;
-};
+    Signal<> frontWanted;
 
-/// A rectangle inside a window, in pixels.
-struct Placement {
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
-    bool operator==(const Placement&) const = default;
+    /// Shows the window before the program's others, with the keyboard.
+    void Show()
+    {
+        if (State == WindowState::Minimised) State = WindowState::Normal;
+        Visible = true;
+        frontWanted();
+    }
 };
 
 } // namespace tarvex

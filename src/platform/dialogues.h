@@ -57,6 +57,8 @@ public:
 
     /// Shows the menu below `root` at the mouse and returns when it has closed and its command has run.
     virtual void popUp(const MenuItem& root) = 0;
+    /// The same at the caret of the text that has the keyboard; at the mouse when none has it.
+    virtual void popUpAtCaret(const MenuItem& root) = 0;
 };
 
 } // namespace tarvex

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "platform/errors.h"
+
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarvex {
@@ -12,6 +16,18 @@ struct FileStamp {
     std::int64_t modifiedNanoseconds = 0;
     std::uint64_t identity = 0; ///< 0: no such file
     bool operator==(const FileStamp&) const = default;
+};
+
+/// A file that only grows. Made by FileSystem::createAppendFile.
+class AppendFile {
+public:
+    virtual ~AppendFile() = default;
+    /// What was appended outlives the process from now on, however that ends; the end of the machine only once it is
+    /// synced. Throws RuntimeError; a part of the bytes may be in the file then.
+    virtual void append(std::string_view bytes) = 0;
+    /// Has everything appended so far put onto the disk, without waiting for that. False: the disk is still busy with
+    /// an earlier call, ask again. Throws RuntimeError when the disk didn't take what an earlier call gave it.
+    virtual bool sync() = 0;
 };
 
 /// The files of the world, by DOS path: drive letter, ":", "\", names in any case (the exact spelling wins). Paths are
@@ -32,6 +48,12 @@ public:
     virtual void write(const std::string& path, const std::string& bytes) = 0;
     /// One level; the parent must exist. An existing directory is an error.
     virtual void createDirectory(const std::string& path) = 0;
+    /// A new file that nobody but its owner may look into; its directory is made (one level), likewise private, when it
+    /// isn't there. An existing file is an error. A disk that is only read from has no such files.
+    virtual std::unique_ptr<AppendFile> createAppendFile(const std::string& path)
+    {
+        throw RuntimeError(ErrorCode::PermissionDenied, "Permission denied: " + path);
+    }
     virtual void removeFile(const std::string& path) = 0;
     /// Names (not paths) of the files and directories in a directory, in no particular order.
     virtual std::vector<std::string> list(const std::string& path) const = 0;

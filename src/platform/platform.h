@@ -45,6 +45,8 @@ public:
     virtual ~Clipboard() = default;
     virtual void put(const ClipboardContent& content) = 0;
     virtual ClipboardContent get() const = 0;
+    /// There is a text to get, plain or as RTF. Cheap enough for every key.
+    virtual bool holdsText() const = 0;
 };
 
 /// The world as the program sees it. All members outlive the program.

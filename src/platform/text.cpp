@@ -2,6 +2,7 @@
 
 #include "platform/errors.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -26,6 +27,16 @@ template <typename Whole> Whole rounded(std::string_view text)
     const double value = std::nearbyint(toNumber(text)); // halves go to the even neighbour
     if (value < std::numeric_limits<Whole>::min() || value > std::numeric_limits<Whole>::max()) throwOverflow();
     return static_cast<Whole>(value);
+}
+
+/// What a number becomes that no double holds: too large, or with a negative exponent too small.
+double outOfRange(std::string_view digits)
+{
+    const std::size_t exponent = digits.find_first_of("eE");
+    const std::size_t significant = std::min(digits.find_first_not_of('0'), digits.size() - 1);
+    const bool tiny =
+        exponent != digits.npos ? digits.substr(exponent + 1).starts_with('-') : digits[significant] == '.';
+    return tiny ? 0 : std::numeric_limits<double>::infinity();
 }
 
 } // namespace
@@ -63,6 +74,25 @@ double toNumber(std::string_view text)
 short toInteger(std::string_view text) { return rounded<short>(text); }
 
 int toLong(std::string_view text) { return rounded<int>(text); }
+
+double Val(std::string_view text)
+{
+    std::string digits;
+    for (const char character : text) {
+        if (std::string_view(" \t\r\n").find(character) != std::string_view::npos) continue;
+        digits += character == 'd' || character == 'D' ? 'e' : character;
+    }
+    const bool negative = digits.starts_with('-');
+    if (negative || digits.starts_with('+')) digits.erase(0, 1);
+    const bool startsRight = !digits.empty() && (digits[0] == '.' || (digits[0] >= '0' && digits[0] <= '9'));
+    if (!startsRight) return 0; // also keeps "inf", "nan" and a second sign out
+
+    double value = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (result.ec == std::errc::invalid_argument) return 0;
+    if (result.ec == std::errc::result_out_of_range) value = outOfRange(digits);
+    return negative ? -value : value;
+}
 
 std::string withWindowsLineEnds(std::string_view text)
 {

@@ -24,6 +24,10 @@ double toNumber(std::string_view text);
 short toInteger(std::string_view text);
 int toLong(std::string_view text);
 
+/// The number that a text begins with, in decimal, with a fraction and an exponent ("E" or "D") if it has them; blanks,
+/// tabs and line ends between its characters don't count. 0 where it begins with none. Beyond all numbers: infinite.
+double Val(std::string_view text);
+
 /// Lone CR and lone LF become CR LF; pairs stay.
 std::string withWindowsLineEnds(std::string_view text);
 

@@ -7,9 +7,12 @@
 #include "documents/file_new.h"
 #include "documents/file_open.h"
 #include "documents/file_save.h"
+#include "documents/frame_commands.h"
 #include "documents/menu_choices.h"
 #include "documents/line_highlight.h"
 #include "documents/pane_change.h"
+#include "documents/pane_menu.h"
+#include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 #include "language/language_commands.h"
@@ -101,18 +104,23 @@ void wirePanes(Editor& editor)
 } // namespace
 
 Program::Program(Platform& thePlatform)
-    : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations), lists(editor)
+    : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
+      findAndReplace(editor), lists(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
+    wirePaneMenu(editor);
+    wireFindAndReplace(findAndReplace, operations);
+    wireFrame(editor);
     wireLanguage(editor);
+    followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
-    operations.ShowEditor = on(editor, Form_Load);
+    operations.ShowEditor = [this] { Form_Load(editor); };
     operations.QueryUnloadEditor = [this](bool& cancel) { cancel = !Form_QueryUnload(editor); };
-    operations.UnloadEditor = on(editor, Form_Unload);
+    operations.UnloadEditor = [this] { Form_Unload(editor); };
     shared.errors.exitInEmergency = [this] {
         operations.ReleaseGradient();
         for (const char* window : toolWindows) operations.UnloadForm(window);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/editor.h"
+#include "documents/find_and_replace.h"
 #include "lists/lists.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
@@ -30,6 +31,7 @@ public:
     Mum mum;
     Operations operations;
     Editor editor;
+    FindAndReplace findAndReplace;
     Lists lists;
 };
 

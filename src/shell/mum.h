@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls.h"
+#include "shell/tool_windows.h"
 
 namespace tarvex {
 
@@ -22,12 +23,18 @@ constexpr int macroFile = 8;
 struct Mum {
     static constexpr int toolbarButtons = 47;
 
+    /// The frame as it was drawn, before the program has come up.
+    Mum();
+
     Form form; ///< position and size in twips
     ToolBar Toolbar1{toolbarButtons};
     tarvex::StatusBar StatusBar{8};
     ProgressBar ProgressBar1;
     /// Colour of the text at the caret, shown over toolbar button 29.
     Property<Colour> Picture1 = 0;
+    Placement Picture1Place; ///< on the screen, in pixels; told by the view before each click
+    Property<bool> Gradient = false; ///< the area behind the document window is painted in steps of a colour
+    ToolWindows toolWindows;
     Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
 };
 

@@ -112,6 +112,17 @@ void SaveMumPosition(const MumContext& context)
     context.shared.store.write(Access::SaveMumPosition, "MUM SaveMumPosition");
 }
 
+void MDIForm_Resize(const MumContext& context)
+{
+    const Steps step;
+    ToolWindows& windows = context.mum.toolWindows;
+    if (context.mum.form.State != WindowState::Minimised) {
+        step([&] { windows.restoreAll(); });
+    } else if (context.shared.settings.MinimiseAll == 1) {
+        step([&] { windows.minimiseAll(); });
+    }
+}
+
 bool mnuFileExit_Click(const MumContext& context)
 {
     bool cancel = false;

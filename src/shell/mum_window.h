@@ -22,6 +22,9 @@ bool MDIForm_Load(const MumContext& context);
 /// The frame is taken down after its document window agreed.
 void MDIForm_Unload(const MumContext& context);
 
+/// The frame has another size or state: its tool windows are minimised and brought back with it.
+void MDIForm_Resize(const MumContext& context);
+
 void GetMumPosition(const MumContext& context);
 /// Writes nothing while the frame is minimised, so that the last real place survives.
 void SaveMumPosition(const MumContext& context);

@@ -1,4 +1,4 @@
-#include "language/protected_pane.h"
+#include "documents/protected_pane.h"
 
 #include "language/rem_block.h"
 #include "language/text_transfer.h"

@@ -31,7 +31,7 @@ struct Fav : TestProgram {
     {
         setIni("Favourites", "FavArrayNum", std::to_string(count));
         for (int i = 1; i <= count; ++i) {
-            setIni("Favourites", "FavName" + std::to_string(i), "n" + std::to_string(i));
+            setIni("Favourites", "FavName" + std::to_string(i), std::string("n").append(std::to_string(i)));
             setIni("Favourites", "FavJFPath" + std::to_string(i), joystick);
             setIni("Favourites", "FavMFPath" + std::to_string(i), macro);
         }

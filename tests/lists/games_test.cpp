@@ -17,7 +17,7 @@ struct Play : TestProgram {
         setIni("Games", "GameArrayNum", std::to_string(count));
         for (int i = 1; i <= count; ++i) {
             const std::string number = std::to_string(i);
-            setIni("Games", "GameName" + number, "g" + number);
+            setIni("Games", "GameName" + number, std::string("g").append(number));
             setIni("Games", "GamePath" + number, "D:\\G" + number + "\\g.exe +Fast");
             setIni("Games", "GameDIRPath" + number, "D:\\G" + number);
             setIni("Games", "GameJF" + number, "c:\\tm\\g" + number + ".b50");

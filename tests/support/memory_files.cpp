@@ -55,6 +55,12 @@ void MemoryFiles::failReads(const std::string& path, std::optional<RuntimeError>
     fileAt(path).readError = std::move(error);
 }
 
+void MemoryFiles::failAppends(std::optional<RuntimeError> error, std::size_t after)
+{
+    m_appendError = std::move(error);
+    m_appendRoom = after;
+}
+
 std::optional<std::string> MemoryFiles::contents(const std::string& path) const
 {
     if (!fileExists(path)) return std::nullopt;
@@ -114,6 +120,41 @@ void MemoryFiles::createDirectory(const std::string& path)
     if (find(path)) fail(ErrorCode::PathFileAccess, "Path/File access error");
     if (!directoryExists(parentOf(path))) fail(ErrorCode::PathNotFound, "Path not found");
     addDirectory(path);
+}
+
+/// As on a real disk, a file that was removed may still be written to; nobody sees it.
+class MemoryFiles::GrowingFile final : public AppendFile {
+public:
+    GrowingFile(MemoryFiles& files, std::string path) : m_files(files), m_path(std::move(path)) {}
+
+    void append(std::string_view bytes) override
+    {
+        const auto& error = m_files.m_appendError;
+        const std::size_t taken = error ? std::min(bytes.size(), m_files.m_appendRoom) : bytes.size();
+        if (error) m_files.m_appendRoom -= taken;
+        if (m_files.fileExists(m_path))
+            m_files.put(m_path, m_files.find(m_path)->bytes + std::string(bytes.substr(0, taken)));
+        if (taken < bytes.size()) throw RuntimeError(*error);
+    }
+    bool sync() override
+    {
+        if (m_files.m_appendError && m_files.m_appendRoom == 0) throw RuntimeError(*m_files.m_appendError);
+        ++m_files.m_syncs;
+        return true;
+    }
+
+private:
+    MemoryFiles& m_files;
+    std::string m_path;
+};
+
+std::unique_ptr<AppendFile> MemoryFiles::createAppendFile(const std::string& path)
+{
+    if (m_appendError && m_appendRoom == 0) throw RuntimeError(*m_appendError);
+    if (find(path)) fail(ErrorCode::FileExists, "File already exists");
+    if (!directoryExists(parentOf(path))) createDirectory(parentOf(path));
+    put(path, "");
+    return std::make_unique<GrowingFile>(*this, path);
 }
 
 void MemoryFiles::removeFile(const std::string& path)

@@ -24,6 +24,9 @@ public:
     void failWrites(const std::string& path, std::optional<RuntimeError> error);
     void failReads(const std::string& path, std::optional<RuntimeError> error);
 
+    /// Every file that grows fails to from now on, or no longer; `after` more bytes still get through.
+    void failAppends(std::optional<RuntimeError> error, std::size_t after = 0);
+
     // What a test looks at.
     struct Write {
         std::string path; ///< as it was given
@@ -32,6 +35,8 @@ public:
     /// The writes that succeeded, in order.
     const std::vector<Write>& writes() const { return m_writes; }
     void clearWrites() { m_writes.clear(); }
+    /// How often a growing file was synced.
+    int syncs() const { return m_syncs; }
     /// The bytes of a file; nothing when there is none.
     std::optional<std::string> contents(const std::string& path) const;
     /// The path in the case in which its file or directory was made, or the path itself.
@@ -44,10 +49,12 @@ public:
     std::string read(const std::string& path) const override;
     void write(const std::string& path, const std::string& bytes) override;
     void createDirectory(const std::string& path) override;
+    std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;
     void removeFile(const std::string& path) override;
     std::vector<std::string> list(const std::string& path) const override;
 
 private:
+    class GrowingFile;
     struct Entry {
         std::string path;
         bool isDirectory = false;
@@ -64,6 +71,9 @@ private:
     std::map<std::string, RuntimeError> m_writeErrors; ///< by key(path), also of files that don't exist
     std::vector<Write> m_writes;
     std::uint64_t m_clock = 0;
+    std::optional<RuntimeError> m_appendError;
+    std::size_t m_appendRoom = 0; ///< bytes until the error
+    int m_syncs = 0;
 };
 
 } // namespace tarvex

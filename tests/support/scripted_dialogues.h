@@ -29,6 +29,8 @@ public:
     std::vector<std::string> folderTitles;
     std::vector<std::string> modalForms;
     std::vector<std::string> popUps; ///< names of the menus that popped up
+    std::vector<std::string> popUpsAtCaret;
+    std::function<void()> whilePoppedUp; ///< runs while a menu is up
 
     Answer show(const MessageBox& box) override
     {
@@ -58,7 +60,16 @@ public:
         if (whileModal) whileModal();
         return modalFormsExist;
     }
-    void popUp(const MenuItem& root) override { popUps.push_back(root.Name); }
+    void popUp(const MenuItem& root) override
+    {
+        popUps.push_back(root.Name);
+        if (whilePoppedUp) whilePoppedUp();
+    }
+    void popUpAtCaret(const MenuItem& root) override
+    {
+        popUpsAtCaret.push_back(root.Name);
+        if (whilePoppedUp) whilePoppedUp();
+    }
 
 private:
     template <typename T> static T next(std::deque<T>& scripted, T otherwise, const std::string& what)

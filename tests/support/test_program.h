@@ -40,6 +40,7 @@ struct FakeClipboard final : Clipboard {
     ClipboardContent content;
     void put(const ClipboardContent& what) override { content = what; }
     ClipboardContent get() const override { return content; }
+    bool holdsText() const override { return !content.text.empty() || !content.rtf.empty(); }
 };
 
 /// The machine that a test program runs on: drive c: with the program's folder, and a user who answers by script. It

@@ -4,6 +4,7 @@
 #include "documents/editor_layout.h"
 #include "documents/pane_keys.h"
 #include "documents/tabs.h"
+#include "documents/toolbar.h"
 
 #include <QEvent>
 #include <QSignalBlocker>
@@ -39,6 +40,7 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     bindPlaces();
     m_bindings.timer(editor.Timer1, *this);
     m_bindings.timer(editor.TimerBlinkLine, *this);
+    m_bindings.timer(editor.TimerJournal, *this);
     setFocusProxy(m_joystick);
 }
 
@@ -77,6 +79,7 @@ void EditorView::addPane(Side& side, PaneView& view, void (*gotFocus)(Editor&))
     };
     connect(&view, &PaneView::gotFocus, this, [this, gotFocus] { gotFocus(m_editor); });
     connect(&view, &PaneView::caretMoved, this, [this, &side] { noteCaret(m_editor, side); });
+    connect(&view, &PaneView::paneShown, this, [this] { showCaretColour(m_editor); });
     connect(&view, &PaneView::filesDropped, this, &EditorView::filesDropped);
     connect(&view, &PaneView::overwriteModeChanged, this, [this](bool on) {
         m_joystick->setOverwriteMode(on);

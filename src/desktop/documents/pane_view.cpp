@@ -114,6 +114,7 @@ void PaneView::showPane()
     }
     formatShown();
     viewport()->update();
+    emit paneShown();
 }
 
 /// Puts the caret where the pane has it. True: it is another place than before, which is to be seen.

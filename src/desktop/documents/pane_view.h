@@ -36,6 +36,8 @@ signals:
     void gotFocus();
     /// The user moved the caret or changed the selection.
     void caretMoved();
+    /// The view follows what the program did to the pane.
+    void paneShown();
     void overwriteModeChanged(bool on);
     void filesDropped(const QStringList& paths);
     void popUpWanted();

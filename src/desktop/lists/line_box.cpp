@@ -3,18 +3,36 @@
 #include <QFocusEvent>
 #include <QRegularExpression>
 #include <QTimer>
+#include <QValidator>
+
+#include <algorithm>
 
 namespace tarvex {
+
+namespace {
+
+/// Cuts a text at its first line break; anything else is right.
+class FirstLine final : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& caret) const override
+    {
+        static const QRegularExpression lineBreak(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]"));
+        const qsizetype end = text.indexOf(lineBreak);
+        if (end >= 0) text.truncate(end);
+        caret = std::min(caret, static_cast<int>(text.size()));
+        return Acceptable;
+    }
+};
+
+} // namespace
 
 LineBox::LineBox(TextBox& state, const QString& name, Bindings& bindings) : m_state(state)
 {
     setObjectName(name);
+    setValidator(new FirstLine(this));
     bindings.textBox(state, *this);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-        static const QRegularExpression lineBreak(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]"));
-        const qsizetype end = text.indexOf(lineBreak);
-        if (end >= 0) setText(text.left(end));
-    });
 }
 
 void LineBox::focusInEvent(QFocusEvent* event)

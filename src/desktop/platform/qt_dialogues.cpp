@@ -85,9 +85,12 @@ void fillBox(QMessageBox& view, const MessageBox& box)
     if (box.buttons == BoxButtons::YesNo) view.setEscapeButton(QMessageBox::No);
 }
 
+/// The window that the user works in: a box that belongs to another could come up behind one that is kept on top.
 QWidget* QtDialogues::parentNow() const
 {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    QWidget* active = QApplication::activeWindow();
+    if (active != nullptr && active->windowType() == Qt::Dialog) return active;
     return m_parent != nullptr && m_parent->isVisible() ? m_parent : nullptr;
 }
 
@@ -162,13 +165,22 @@ bool QtDialogues::showModal(const std::string& formName)
     return true;
 }
 
-void QtDialogues::popUp(const MenuItem& root)
+void QtDialogues::popUp(const MenuItem& root) { popUpAt(root, QCursor::pos()); }
+
+void QtDialogues::popUpAtCaret(const MenuItem& root)
+{
+    const QWidget* text = QApplication::focusWidget();
+    const QRect caret = text != nullptr ? text->inputMethodQuery(Qt::ImCursorRectangle).toRect() : QRect();
+    popUpAt(root, caret.isValid() ? text->mapToGlobal(caret.bottomLeft()) : QCursor::pos());
+}
+
+void QtDialogues::popUpAt(const MenuItem& root, const QPoint& place)
 {
     if (m_menus == nullptr) return;
     Bindings bindings;
     QMenu menu(m_parent);
     fillMenu(menu, popUpMenu(*m_menus, root), bindings);
-    if (!menu.isEmpty()) menu.exec(QCursor::pos());
+    if (!menu.isEmpty()) menu.exec(place);
 }
 
 } // namespace tarvex

@@ -10,6 +10,7 @@
 #include <string>
 
 class QMessageBox;
+class QPoint;
 class QWidget;
 
 namespace tarvex {
@@ -34,9 +35,11 @@ public:
     std::optional<std::string> chooseFolder(const std::string& title) override;
     bool showModal(const std::string& formName) override;
     void popUp(const MenuItem& root) override;
+    void popUpAtCaret(const MenuItem& root) override;
 
 private:
     std::optional<std::string> askForFile(const FileRequest& request, bool save);
+    void popUpAt(const MenuItem& root, const QPoint& place);
     QString startDirectory(const FileRequest& request) const;
     QWidget* parentNow() const;
 

@@ -1,11 +1,15 @@
 #include "desktop/shell/mum_window.h"
 
+#include "desktop/documents/colour_selector_view.h"
 #include "desktop/icon_theme.h"
+#include "desktop/shell/client_area.h"
 #include "desktop/shell/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
 #include "desktop/shell/toolbar_view.h"
 #include "documents/editor_window.h"
 #include "documents/pane_keys.h"
+#include "documents/toolbar.h"
+#include "shell/mum_window.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -51,9 +55,9 @@ MumWindow::MumWindow(Program& program)
     setObjectName(QStringLiteral("Mum"));
     setMinimumSize(smallestSize);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setCentralWidget(m_editor);
+    setCentralWidget(new ClientArea(program.mum.Gradient, new ToolbarView(program, this), m_editor, this));
     setStatusBar(m_status);
-    addToolBar(new ToolbarView(program, this));
+    m_status->hovered = [&program](int x) { StatusBar_MouseMove(program.editor, toTwips(x)); };
     addMenuBars();
     addShortcuts();
     bindTitle();
@@ -61,6 +65,8 @@ MumWindow::MumWindow(Program& program)
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive) m_wasElsewhere = true;
     });
+    makeWhenShown(program.editor.ColourSelector.form, m_bindings,
+                  [this] { return new ColourSelectorView(m_program.editor, this); });
     m_bindings.bind(program.mum.form.Visible, [this](bool on) { showForm(on); });
     m_bindings.follow(program.mum.form.State, [this] {
         if (isVisible()) showForm(true);
@@ -181,6 +187,7 @@ void MumWindow::changeEvent(QEvent* event)
     Form& form = m_program.mum.form;
     const WindowState shown = isMaximized() ? WindowState::Maximised : WindowState::Normal;
     form.State = isMinimized() ? WindowState::Minimised : shown;
+    MDIForm_Resize({m_program.platform, m_program.shared, m_program.mum, m_program.operations});
     reportPlace();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QLocale>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProgressBar>
 #include <QTime>
@@ -56,6 +57,8 @@ private:
 StatusBarView::StatusBarView(Mum& mum, QWidget* parent) : QStatusBar(parent)
 {
     addPanels(mum);
+    setMouseTracking(true);
+    for (QWidget* child : findChildren<QWidget*>()) child->setMouseTracking(true);
     m_minute.setSingleShot(true);
     m_minute.setTimerType(Qt::PreciseTimer);
     connect(&m_minute, &QTimer::timeout, this, [this] { showTime(); });
@@ -118,6 +121,12 @@ QLabel* StatusBarView::addKeyPanel(StatusBar::Panel& panel, const QString& name)
     m_bindings.bind(panel.ToolTipText, [view](const std::string& tip) { view->setToolTip(toQt(tip)); });
     addPermanentWidget(view);
     return view;
+}
+
+/// Also over the panels, which leave the mouse to the bar.
+void StatusBarView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (hovered) hovered(static_cast<int>(event->position().x()));
 }
 
 void StatusBarView::showOverwrite(bool on)

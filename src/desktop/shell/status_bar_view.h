@@ -7,6 +7,8 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include <functional>
+
 class QLabel;
 
 namespace tarvex {
@@ -16,10 +18,16 @@ class StatusBarView : public QStatusBar {
 public:
     explicit StatusBarView(Mum& mum, QWidget* parent = nullptr);
 
+    /// The mouse is over the bar, so many pixels from its left edge.
+    std::function<void(int)> hovered;
+
     /// Lights or dims the panel of the Insert key: lit while typing writes over the text.
     void showOverwrite(bool on);
     /// Lights the panels of the lock keys that are on.
     void showLockKeys(LockKeyState state);
+
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
     void addPanels(Mum& mum);

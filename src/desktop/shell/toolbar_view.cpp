@@ -1,166 +1,303 @@
 #include "desktop/shell/toolbar_view.h"
 
 #include "desktop/icon_theme.h"
+#include "desktop/input.h"
+#include "documents/toolbar.h"
 
+#include <QAction>
 #include <QEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
+#include <QStyleOptionToolBar>
+#include <QStylePainter>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace tarvex {
 
 namespace {
 
-constexpr int openSlot = 2;
-constexpr int saveSlot = 3;
-constexpr int iconPixels = 22;
+constexpr int pictureSlot = 29;
+constexpr int smallestIcon = 22; // pixels
+
+const char* iconOf(int number)
+{
+    static const std::map<int, const char*> icons{
+        {1, "file-new"},        {2, "file-open"},      {3, "file-save"},        {5, "print"},
+        {7, "cut"},             {8, "copy"},           {9, "paste"},            {11, "undo"},
+        {12, "redo"},           {14, "find"},          {15, "replace"},         {16, "goto-line"},
+        {18, "favourite-add"},  {20, "macros-update"}, {21, "macros-view"},     {23, "composer"},
+        {24, "template-insert"}, {25, "keyboard"},     {26, "title-insert"},    {27, "heading-insert"},
+        {28, "rem-insert"},     {30, "tile-vertically"}, {32, "colour-apply"},  {33, "highlight-line"},
+        {34, "identify"},       {36, "launcher"},      {37, "calibrate"},       {38, "ctfj"},
+        {39, "image-viewer"},   {40, "key-test"},      {41, "template-editor"}, {42, "control-centre"},
+        {44, "download"},       {46, "preferences"},   {47, "help"},
+    };
+    const auto found = icons.find(number);
+    return found != icons.end() ? found->second : "";
+}
+
+/// The gap between two groups of buttons.
+class Separator : public QWidget {
+public:
+    using QWidget::QWidget;
+    QSize sizeHint() const override
+    {
+        QStyleOption option;
+        option.initFrom(this);
+        const int width = style()->pixelMetric(QStyle::PM_ToolBarSeparatorExtent, &option, this);
+        return {width, width};
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QStylePainter painter(this);
+        QStyleOption option;
+        option.initFrom(this);
+        option.state |= QStyle::State_Horizontal;
+        painter.drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, option);
+    }
+};
+
+QString plainCaption(const MenuItem& item)
+{
+    return toQt(item.Caption.get()).remove(u'&').remove(QStringLiteral("..."));
+}
 
 } // namespace
 
-/// Slots in their order; what stands between two numbers that don't follow each other is a separator. A slot whose item
-/// isn't told yet is shown when the bar's button has a handler.
-struct ToolbarView::Slot {
-    int number;
-    const char* icon;
-    MenuItem Menus::*joystick = nullptr; ///< while tab 1 is selected
-    MenuItem Menus::*macro = nullptr;    ///< while tab 2 is; none: the same
-    const char* name = nullptr;          ///< of a slot without an item, for screen readers
-};
-
-const ToolbarView::Slot ToolbarView::table[] = {
-    {1, "file-new", &Menus::mnuFileNewJoystick, &Menus::mnuFileNewMacro},
-    {2, "file-open", &Menus::mnuFileJoystickLoad, &Menus::MnuFileMacroLoad},
-    {3, "file-save", &Menus::mnuFileSave},
-    {5, "print", &Menus::mnuFilePrintJoystick, &Menus::mnuFilePrintMacro},
-    {7, "cut", &Menus::mnuEditCut},
-    {8, "copy", &Menus::mnuEditCopy},
-    {9, "paste", &Menus::mnuEditPaste},
-    {11, "undo", &Menus::mnuEditUndo},
-    {12, "redo", &Menus::mnuEditRedo},
-    {14, "find", &Menus::mnuEditFind},
-    {15, "replace", &Menus::mnuEditReplace},
-    {16, "goto-line", &Menus::mnuEditGoto},
-    {18, "favourite-add", nullptr, nullptr, "Add current files to Favourites"},
-    {20, "macros-update", &Menus::mnuEditUpdateMacros},
-    {21, "macros-view", &Menus::mnuViewMacros},
-    {23, "composer", nullptr, nullptr, "Composer"},
-    {24, "template-insert", nullptr, nullptr, "Select a template and insert it"},
-    {25, "keyboard", nullptr, nullptr, "Safein"},
-    {26, "title-insert", nullptr, nullptr, "Insert Title"},
-    {27, "heading-insert", nullptr, nullptr, "Insert Heading"},
-    {28, "rem-insert", nullptr, nullptr, "Insert Rem statement"},
-    {29, "", nullptr, nullptr, "Colour of text at cursor"},
-    {30, "tile-vertically", &Menus::mnuViewTileVertically},
-    {32, "colour-apply", &Menus::mnuViewColourJoystick, &Menus::mnuViewColourMacro},
-    {33, "highlight-line", &Menus::mnuViewHighlightLine},
-    {34, "identify", &Menus::mnuViewIdentify},
-    {36, "launcher", nullptr, nullptr, "Launcher"},
-    {37, "calibrate", &Menus::mnuAppsProPanel},
-    {38, "ctfj", nullptr, nullptr, "Ned Marl's CTFJ"},
-    {39, "image-viewer", nullptr, nullptr, "Image viewer"},
-    {40, "key-test", &Menus::mnuSendToKeyTest},
-    {41, "template-editor", nullptr, nullptr, "Template Editor"},
-    {42, "control-centre", nullptr, nullptr, "Thrustmaster Control Centre"},
-    {44, "download", &Menus::mnuSendToJoystick},
-    {46, "preferences", &Menus::mnuPreferencesEdit},
-    {47, "help", nullptr, nullptr, "Help topics"},
-};
-
-ToolbarView::ToolbarView(Program& program, QWidget* parent) : QToolBar(parent), m_program(program)
+ToolbarView::ToolbarView(Program& program, QWidget* parent)
+    : QWidget(parent), m_program(program), m_extension(new QToolButton(this)),
+      m_layout(new ToolbarLayout(m_extension, this))
 {
+    ToolBar& bar = program.mum.Toolbar1;
     setObjectName(QStringLiteral("Toolbar1"));
-    setWindowTitle(QStringLiteral("Toolbar"));
-    setMovable(false);
-    setContextMenuPolicy(Qt::PreventContextMenu);
-    setIconSize({iconPixels, iconPixels});
-    int last = 0;
-    int lastOfTable = 0;
-    for (const Slot& slot : table) {
-        const bool newGroup = slot.number > lastOfTable + 1;
-        lastOfTable = slot.number;
-        if (newGroup && last > 0) last = -last; // a separator is due before the next slot that is shown
-        if (!isThere(program, slot)) continue;
-        if (last < 0) {
-            QAction* separator = addSeparator();
-            m_bindings.bind(program.mum.Toolbar1.Buttons(slot.number - 1).Visible,
-                            [separator](bool on) { separator->setVisible(on); });
-        }
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_layout->setContentsMargins(3, 2, 3, 3);
+    int number = 1;
+    for (const ToolbarSlot& slot : toolbarSlots()) {
+        for (; number < slot.number; ++number) addSeparator(number);
         addSlot(slot);
-        last = slot.number;
+        number = slot.number + 1;
     }
-    m_bindings.bind(program.mum.Toolbar1.Visible, [this](bool on) { setVisible(on); });
-}
-
-bool ToolbarView::isThere(Program& program, const Slot& slot)
-{
-    if (program.mum.Toolbar1.Buttons(slot.number).handler) return true;
-    const auto built = [&](MenuItem Menus::*item) { return item != nullptr && (program.menus.*item).handler; };
-    return built(slot.joystick) || built(slot.macro);
-}
-
-/// The command behind a slot just now.
-MenuItem* ToolbarView::itemOf(const Slot& slot) const
-{
-    Menus& menus = m_program.menus;
-    const Settings& settings = m_program.shared.settings;
-    if (slot.number == openSlot && settings.OpenBothOnToolbar == 1) return &menus.mnuFileOpen;
-    if (slot.number == saveSlot && settings.SaveBothOnToolbar == 1) return &menus.mnuFileSaveBoth;
-    const bool macroSelected = m_program.editor.TabStrip1.SelectedItem == 2;
-    MenuItem Menus::*item = macroSelected && slot.macro != nullptr ? slot.macro : slot.joystick;
-    return item != nullptr ? &(menus.*item) : nullptr;
-}
-
-void ToolbarView::addSlot(const Slot& slot)
-{
-    QAction* action = addAction(QString());
-    action->setObjectName(QStringLiteral("Toolbar1_%1").arg(slot.number));
-    const auto show = [this, &slot, action] { showSlot(slot, *action); };
-    Button& button = m_program.mum.Toolbar1.Buttons(slot.number);
-    m_bindings.follow(button.Enabled, show);
-    m_bindings.follow(button.Visible, show);
-    m_bindings.follow(button.ToolTipText, show);
-    m_bindings.follow(m_program.editor.TabStrip1.SelectedItem, show);
-    for (MenuItem Menus::*item : {slot.joystick, slot.macro}) {
-        if (item == nullptr) continue;
-        m_bindings.follow((m_program.menus.*item).Enabled, show);
-        m_bindings.follow((m_program.menus.*item).Checked, show);
-    }
-    connect(action, &QAction::triggered, this, [this, &slot, action] {
-        press(slot);
-        showSlot(slot, *action);
+    m_extension->setObjectName(QStringLiteral("Extension"));
+    m_extension->setAccessibleName(QStringLiteral("More buttons"));
+    m_extension->setAutoRaise(true);
+    m_extension->setFocusPolicy(Qt::NoFocus);
+    m_extension->setIcon(style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton));
+    connect(m_extension, &QToolButton::clicked, this, [this] { popUpExtension(); });
+    scaleIcons();
+    m_bindings.follow(bar.refreshWanted, [this] { showAll(); });
+    m_bindings.bind(bar.Wrappable, [this](bool on) { m_layout->setWraps(on); });
+    m_bindings.bind(bar.Flat, [this](bool on) {
+        for (QToolButton* button : findChildren<QToolButton*>()) button->setAutoRaise(on || button == m_extension);
     });
-    widgetForAction(action)->installEventFilter(this);
-    show();
+    m_bindings.bind(bar.Visible, [this](bool on) { setVisible(on); });
 }
 
-void ToolbarView::showSlot(const Slot& slot, QAction& action)
+// ---- slots ----------------------------------------------------------------------------------------------------------
+
+void ToolbarView::addSeparator(int number)
 {
-    const Button& button = m_program.mum.Toolbar1.Buttons(slot.number);
-    const MenuItem* item = itemOf(slot);
-    const bool both = item == &m_program.menus.mnuFileOpen || item == &m_program.menus.mnuFileSaveBoth;
-    action.setIcon(themeIcon(QString::fromLatin1(slot.icon) + (both ? QStringLiteral("-both") : QString())));
-    action.setText(item != nullptr ? toQt(item->Caption.get()).remove(u'&').remove(QStringLiteral("..."))
-                                   : QString::fromUtf8(slot.name));
-    action.setToolTip(toQt(button.ToolTipText.get()));
-    action.setVisible(button.Visible);
-    action.setEnabled(button.Enabled && (button.handler || (item != nullptr && item->Enabled && item->handler)));
-    if (item != nullptr && item->Checked) action.setCheckable(true);
-    action.setChecked(item != nullptr && item->Checked);
+    auto* separator = new Separator(this);
+    separator->setObjectName(QStringLiteral("Toolbar1_%1").arg(number));
+    separator->setMouseTracking(true);
+    m_layout->addSeparator(separator);
+    m_slots[number] = {.action = nullptr, .widget = separator, .icon = {}};
+    m_bindings.bind(m_program.mum.Toolbar1.Buttons(number).Visible,
+                    [separator](bool on) { separator->setVisible(on); });
 }
 
-void ToolbarView::press(const Slot& slot)
+void ToolbarView::addSlot(const ToolbarSlot& slot)
 {
-    const Button& button = m_program.mum.Toolbar1.Buttons(slot.number);
-    if (button.handler) {
-        button.Click();
-    } else if (const MenuItem* item = itemOf(slot)) {
-        item->Click();
+    auto* action = new QAction(this);
+    action->setObjectName(QStringLiteral("Toolbar1_%1").arg(slot.number));
+    QToolButton* button = makeButton(*action);
+    m_layout->addWidget(button);
+    m_slots[slot.number] = {.action = action, .widget = button, .icon = {}};
+    connect(action, &QAction::triggered, this, [this, &slot] {
+        press(slot);
+        showSlot(slot); // a click ticks a button that isn't for ticking
+    });
+    if (slot.number == pictureSlot) {
+        button->setObjectName(QStringLiteral("Picture1"));
+        action->setText(QStringLiteral("Colour of text at cursor"));
+        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C"))); // the bar is the only way to it
+        m_bindings.follow(m_program.mum.Picture1, [this, &slot] { showPicture(slot); });
+    }
+    followSlot(slot, *action);
+}
+
+QToolButton* ToolbarView::makeButton(QAction& action)
+{
+    auto* button = new QToolButton(this);
+    button->setDefaultAction(&action);
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setFocusPolicy(Qt::NoFocus); // the keyboard stays with the pane
+    button->setMouseTracking(true);
+    button->installEventFilter(this);
+    return button;
+}
+
+void ToolbarView::followSlot(const ToolbarSlot& slot, QAction& action)
+{
+    const auto show = [this, &slot] { showSlot(slot); };
+    ToolBar::Slot& state = m_program.mum.Toolbar1.Buttons(slot.number);
+    m_bindings.follow(state.Enabled, show);
+    m_bindings.bind(state.ToolTipText, [&action](const std::string& tip) { action.setToolTip(toQt(tip)); });
+    QWidget* button = m_slots[slot.number].widget;
+    m_bindings.bind(state.Visible, [&action, button](bool on) {
+        action.setVisible(on);
+        button->setVisible(on);
+    });
+    if (slot.macro != nullptr) m_bindings.follow(m_program.editor.TabStrip1.SelectedItem, show);
+    for (MenuItem Menus::*command : {slot.joystick, slot.macro, slot.both.command}) {
+        if (command == nullptr) continue;
+        MenuItem& item = m_program.menus.*command;
+        m_bindings.follow(item.Enabled, show);
+        m_bindings.follow(item.Checked, show);
+        m_bindings.follow(item.Caption, show);
     }
 }
 
-/// Qt shows the button's name where there is no tip; the user may have turned the tips off.
+void ToolbarView::showSlot(const ToolbarSlot& slot)
+{
+    Shown& shown = m_slots[slot.number];
+    QAction& action = *shown.action;
+    action.setEnabled(toolbarOffers(m_program.editor, slot.number));
+    if (slot.number == pictureSlot) return showPicture(slot);
+    const MenuItem* command = toolbarCommand(m_program.editor, slot.number);
+    const bool both = toolbarMeansBoth(m_program.editor, slot);
+    const QString icon = QString::fromLatin1(iconOf(slot.number)) + (both ? QStringLiteral("-both") : QString());
+    if (icon != shown.icon) action.setIcon(themeIcon(icon));
+    shown.icon = icon;
+    action.setText(plainCaption(*command));
+    if (command->Checked) action.setCheckable(true);
+    action.setChecked(command->Checked);
+}
+
+/// A swatch as large as an icon.
+void ToolbarView::showPicture(const ToolbarSlot& slot)
+{
+    const qreal scale = devicePixelRatioF();
+    const int size = m_extension->iconSize().height();
+    QPixmap swatch(QSize(size, size) * scale);
+    swatch.setDevicePixelRatio(scale);
+    swatch.fill(Qt::transparent);
+    QPainter painter(&swatch);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Disabled, QPalette::WindowText), 1));
+    painter.setBrush(toQt(m_program.mum.Picture1.get()));
+    painter.drawRoundedRect(QRectF(2.5, 2.5, size - 5, size - 5), 2, 2);
+    painter.end();
+    m_slots[slot.number].action->setIcon(swatch);
+}
+
+void ToolbarView::showAll()
+{
+    for (const ToolbarSlot& slot : toolbarSlots()) showSlot(slot);
+}
+
+/// With the font, so that the bar stays in proportion.
+void ToolbarView::scaleIcons()
+{
+    const int size = std::max(smallestIcon, fontMetrics().height() + 4);
+    for (QToolButton* button : findChildren<QToolButton*>()) button->setIconSize({size, size});
+    m_extension->setFixedWidth(m_extension->style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent) + 4);
+    showAll();
+    m_layout->invalidate();
+}
+
+// ---- what the user does ---------------------------------------------------------------------------------------------
+
+void ToolbarView::press(const ToolbarSlot& slot)
+{
+    if (slot.number == pictureSlot) {
+        reportPicture();
+        Picture1_Click(m_program.editor);
+    } else {
+        Toolbar1_ButtonClick(m_program.editor, slot.number);
+    }
+}
+
+/// While the picture has no room, its place is that of the menu where it was chosen.
+void ToolbarView::reportPicture()
+{
+    const QWidget* picture = m_slots[pictureSlot].widget;
+    const QWidget* seen = m_layout->isLeftOut(picture) ? m_extension : picture;
+    const QPoint corner = seen->mapToGlobal(QPoint(0, 0));
+    m_program.mum.Picture1Place = {corner.x(), corner.y(), seen->width(), seen->height()};
+}
+
+void ToolbarView::reportPlaces()
+{
+    for (const auto& [number, shown] : m_slots) {
+        const QRect place = shown.widget->isVisible() ? shown.widget->geometry() : QRect();
+        m_program.mum.Toolbar1.Buttons(number).Place = {place.x(), place.y(), place.width(), place.height()};
+    }
+}
+
+/// Also over the buttons, which leave a mouse that only moves to the bar.
+void ToolbarView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (childAt(event->position().toPoint()) == m_slots[pictureSlot].widget)
+        return Picture1_MouseMove(m_program.editor);
+    reportPlaces();
+    Toolbar1_MouseMove(m_program.editor, toLogic(event->buttons()), toLogic(event->modifiers()),
+                       static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+}
+
+/// Qt shows the command's name where there is no tip; the user may have turned the tips off.
 bool ToolbarView::eventFilter(QObject* watched, QEvent* event)
 {
-    return (event->type() == QEvent::ToolTip && m_program.shared.settings.OKtoShowToolTips != 1) ||
-           QToolBar::eventFilter(watched, event);
+    if (event->type() == QEvent::ToolTip) {
+        const bool off = m_program.shared.settings.OKtoShowToolTips != 1;
+        for (const auto& [number, shown] : m_slots) {
+            if (shown.widget != watched) continue;
+            return off || m_program.mum.Toolbar1.Buttons(number).ToolTipText.get().empty();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+/// A menu of the slots that have no room.
+void ToolbarView::popUpExtension()
+{
+    auto* menu = new QMenu(m_extension);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    bool gap = false;
+    for (const auto& [number, shown] : m_slots) {
+        gap = gap || shown.action == nullptr;
+        if (shown.action == nullptr || !m_layout->isLeftOut(shown.widget)) continue;
+        if (gap && !menu->isEmpty()) menu->addSeparator();
+        gap = false;
+        menu->addAction(shown.action);
+    }
+    menu->popup(m_extension->mapToGlobal(QPoint(0, m_extension->height())));
+}
+
+// ---- look -----------------------------------------------------------------------------------------------------------
+
+void ToolbarView::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolBar option;
+    option.initFrom(this);
+    option.state |= QStyle::State_Horizontal;
+    option.toolBarArea = Qt::TopToolBarArea;
+    painter.drawControl(QStyle::CE_ToolBar, option);
+}
+
+void ToolbarView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) scaleIcons();
+    if (event->type() == QEvent::PaletteChange) showAll();
 }
 
 } // namespace tarvex

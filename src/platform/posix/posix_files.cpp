@@ -1,6 +1,7 @@
 #include "platform/posix/posix_files.h"
 
 #include "platform/posix/open_file.h"
+#include "platform/posix/posix_append_file.h"
 #include "platform/posix/system_error.h"
 
 #include <cerrno>
@@ -107,6 +108,12 @@ void PosixFiles::createDirectory(const std::string& path)
         if (error == EEXIST) throw RuntimeError(ErrorCode::PathFileAccess, systemError(error).what(), error);
         throw systemError(error);
     });
+}
+
+std::unique_ptr<AppendFile> PosixFiles::createAppendFile(const std::string& path)
+{
+    const std::string native = m_drives.toNative(path);
+    return withErrorsOf(native, [&] { return std::make_unique<PosixAppendFile>(m_calls, native); });
 }
 
 void PosixFiles::removeFile(const std::string& path)

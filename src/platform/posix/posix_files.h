@@ -21,12 +21,14 @@ public:
     std::string read(const std::string& path) const override;
     void write(const std::string& path, const std::string& bytes) override;
     void createDirectory(const std::string& path) override;
+    std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;
     void removeFile(const std::string& path) override;
     std::vector<std::string> list(const std::string& path) const override;
 
 private:
     const DriveMap& m_drives;
     SafeWriter& m_writer;
+    SystemCalls m_calls; ///< of the files that grow
 };
 
 } // namespace tarvex

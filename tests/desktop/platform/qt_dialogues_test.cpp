@@ -148,7 +148,7 @@ TEST(QtDialogues, UnknownFormAndMenuWithoutEntriesDoNothing)
     Menus menus;
     dialogues.setMenus(&menus);
     dialogues.showModal("NoSuchForm");
-    dialogues.popUp(menus.mnuRHList);
+    dialogues.popUp(menus.mnuFile);
     int shown = 0;
     dialogues.addForm("Preferences", [&] { ++shown; });
     dialogues.showModal("Preferences");

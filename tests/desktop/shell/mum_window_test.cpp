@@ -66,7 +66,7 @@ TEST(MumWindow, CommandsWithoutAHandlerAreGreyInTheMenus)
     built.handler = [&] { ++clicks; };
     QMenuBar bar;
     Bindings bindings;
-    fillMenuBar(bar, {{&top, {}, {{&missing, {}, {}}, {}, {&built, "F8", {}}}}}, bindings);
+    fillMenuBar(bar, {{&top, {}, {{&missing, {}, {}}, MenuEntry(), {&built, "F8", {}}}}}, bindings);
     const auto actions = bar.actions().constFirst()->menu()->actions();
     ASSERT_EQ(actions.size(), 3);
     EXPECT_FALSE(actions[0]->isEnabled());
@@ -90,7 +90,7 @@ TEST(MumWindow, AMenuShowsTheItemsOfAnArrayAsTheyAreWhenItIsOpened)
     files.setHandler([&](int index) { clicked = index; });
     QMenu menu;
     Bindings bindings;
-    fillMenu(menu, {{nullptr, {}, {}, &files}, {}, {&top}}, bindings);
+    fillMenu(menu, {{nullptr, {}, {}, &files}, MenuEntry(), {&top, {}, {}}}, bindings);
     files[0].Visible = false;
     files.Load(1)->Caption = "c:\\a & b\t.f22";
     emit menu.aboutToShow();

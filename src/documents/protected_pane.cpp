@@ -1,13 +1,14 @@
-#include "language/protected_pane.h"
+#include "documents/protected_pane.h"
 
 namespace tarvex {
 
-bool refuseProtected(Editor& editor)
+bool refuseProtected(Editor& editor, const Side& side)
 {
-    const Side& side = editor.selected();
     if (!side.pane.Locked) return false;
     editor.status(editor.tabCaption(side) + " is protected and can't be edited.");
     return true;
 }
+
+bool refuseProtected(Editor& editor) { return refuseProtected(editor, editor.selected()); }
 
 } // namespace tarvex

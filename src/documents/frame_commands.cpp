@@ -1,0 +1,36 @@
+#include "documents/frame_commands.h"
+
+#include "documents/clipboard_commands.h"
+#include "documents/colour_selector.h"
+#include "shell/toolbar_tips.h"
+
+namespace tarvex {
+
+void UpdateEditorTooltips(Editor& editor)
+{
+    const bool on = editor.shared.settings.OKtoShowToolTips == 1;
+    for (CheckListBox& list : editor.FrameMacros.List1)
+        list.ToolTipText = on ? "Double click macro to insert into Joystick file, or use drag and drop" : "";
+}
+
+void wireFrame(Editor& editor)
+{
+    Operations& operations = editor.operations;
+    Mum& mum = editor.mum;
+    const Settings& settings = editor.shared.settings;
+    operations.UpdateTooltips = [&mum, &settings] { UpdateTooltips(mum, settings); };
+    operations.ShowExtraButtons = [&mum, &settings] { ShowExtraButtons(mum, settings); };
+    operations.UpdateToolBarOpenSaveTooltips = [&mum, &settings] { UpdateToolBarOpenSaveTooltips(mum, settings); };
+    operations.UpdateEditorTooltips = [&editor] { UpdateEditorTooltips(editor); };
+    operations.UpdateCCPButtons = [&editor] { UpdateCCPButtons(editor); };
+    operations.PaintGradient = [&mum] { mum.Gradient = true; };
+    operations.ReleaseGradient = [&mum] { mum.Gradient = false; };
+    operations.UnloadForm = [&mum](const std::string& name) { mum.toolWindows.unload(name); };
+
+    ColourSelector& selector = editor.ColourSelector;
+    for (std::size_t index = 0; index < ColourSelector::count; ++index)
+        selector.Command1[index].handler = [&editor, index] { ColourSelector_Command1_Click(editor, index); };
+    mum.toolWindows.add({.name = "ColourSelector", .form = &selector.form, .openFlag = nullptr, .unload = nullptr});
+}
+
+} // namespace tarvex

@@ -1,0 +1,190 @@
+#include "documents/recovery_offer.h"
+
+#include "documents/file_open.h"
+#include "documents/loading.h"
+#include "documents/recovery_find.h"
+#include "documents/recovery_journal.h"
+#include "documents/tabs.h"
+#include "documents/text_files.h"
+#include "platform/dos_path.h"
+#include "platform/windows1252.h"
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::string_view tag = "ED_offerRecovery";
+
+/// One that names no file yet: "mig.b50", "mig-2.b50", ...
+std::string freePath(const Editor& editor, const std::string& directory, const std::string& name)
+{
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    std::string path = directory + name;
+    for (int count = 2; editor.platform.files.fileExists(path) || editor.platform.files.directoryExists(path); ++count)
+        path = directory + name.substr(0, dot) + "-" + std::to_string(count) + name.substr(dot);
+    return path;
+}
+
+// ---- bringing back --------------------------------------------------------------------------------------------------
+
+Side& sideOf(Editor& editor, const LeftJournal& found)
+{
+    return found.journal.start.tab == editor.joystick.tab ? editor.joystick : editor.macro;
+}
+
+/// A document that had no file yet goes on as the empty one that is there.
+bool wasNew(const LeftJournal& found) { return found.fileIsSame && !found.journal.start.file; }
+
+/// Where a text goes. A new name begins with "untitled", so that Save asks for one.
+std::string pathFor(Editor& editor, const LeftJournal& found)
+{
+    const JournalStart& start = found.journal.start;
+    const bool untitled = start.name.starts_with("untitled");
+    if (found.fileIsSame && start.file) return start.path;
+    const std::string& present = sideOf(editor, found).FilePath;
+    if (wasNew(found) && lowerUtf8(start.path) == lowerUtf8(present)) return present;
+    return freePath(editor, directoryOf(present), (untitled ? "" : "untitled-") + fileNameOf(start.name));
+}
+
+/// The change from the saved text to the unsaved one, as if the user had made it.
+void putUnsavedText(Editor& editor, Side& side, const std::string& text)
+{
+    const TextEdit edit = differenceOf(side.pane.Text(), text);
+    side.pane.setSelStart(static_cast<std::int64_t>(edit.position));
+    side.pane.setSelLength(static_cast<std::int64_t>(edit.removed));
+    if (edit != TextEdit{edit.position, 0, {}}) side.pane.setSelText(edit.inserted);
+    side.Changed = changed::modified;
+    UpdateSavedIcon(editor);
+    const std::int64_t caret = side.pane.SelStart();
+    if (editor.shared.settings.ApplyColoursOnFileOpen == 1) side.ApplyColours();
+    side.pane.setSelStart(caret);
+    noteCaret(editor, side);
+}
+
+void showBase(Editor& editor, Side& side, const std::string& path, const std::string& base)
+{
+    if (!base.empty()) return showFile(editor, side, path, fileNameOf(path), base);
+    const Loading loading(editor.shared);
+    showDocument(editor, side, path, fileNameOf(path), base); // no macros to list
+}
+
+/// The path that the text has now; the journal goes once the one of the document that it has become is there.
+std::string bringBack(Editor& editor, const LeftJournal& found)
+{
+    const Steps step(editor.shared.errors, tag);
+    const JournalStart& start = found.journal.start;
+    Side& side = sideOf(editor, found);
+    const std::string path = pathFor(editor, found);
+    showBase(editor, side, path, start.base);
+    noteTextSettled(editor, side, found.fileIsSame ? start.file : std::nullopt);
+    side.Journal.Number = found.number;
+    step([&] { putUnsavedText(editor, side, found.journal.text); });
+    if (!side.Journal.Out && !side.Journal.Failed) beginJournal(editor, side, found.number);
+    return path;
+}
+
+/// The document that was open beside one that is brought back, and had nothing unsaved.
+void openPartner(Editor& editor, const LeftJournal& found, std::vector<std::string>& open)
+{
+    const std::string& path = found.journal.start.partnerPath;
+    if (path.empty() || !editor.platform.files.fileExists(path)) return;
+    if (loadFile(editor, editor.other(sideOf(editor, found)), path, fileNameOf(path))) open.push_back(path);
+}
+
+// ---- asking ---------------------------------------------------------------------------------------------------------
+
+/// For each pane the newest; a pane holds no more than one.
+struct Offer {
+    std::vector<LeftJournal> wanted; ///< joystick first
+    std::vector<LeftJournal> older;
+};
+
+Offer sortedOut(std::vector<LeftJournal> journals)
+{
+    Offer offer;
+    for (LeftJournal& found : journals) {
+        const auto samePane = [&](const LeftJournal& other) {
+            return other.journal.start.tab == found.journal.start.tab;
+        };
+        const bool taken = std::any_of(offer.wanted.begin(), offer.wanted.end(), samePane);
+        (taken ? offer.older : offer.wanted).push_back(std::move(found));
+    }
+    std::sort(offer.wanted.begin(), offer.wanted.end(),
+              [](const LeftJournal& a, const LeftJournal& b) { return a.journal.start.tab < b.journal.start.tab; });
+    return offer;
+}
+
+std::string boxText(Editor& editor, const Offer& offer)
+{
+    std::string text = "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been "
+                       "taking notes all along, and here's what I've got:\n";
+    for (const LeftJournal& found : offer.wanted) {
+        const std::string& name = found.journal.start.name;
+        const std::string newName = fileNameOf(pathFor(editor, found));
+        text += "\n    " + name;
+        if (!found.fileIsSame)
+            text +=
+                "  (its file isn't what it was any more, so I'd call this " + newName + " and leave the file alone)";
+    }
+    const std::string directory = journalDirectory(editor);
+    text += "\n\nShall I bring it back? It will be just as you left it, not saved yet, and one Undo away from what was "
+            "saved. If you press No I'll put it into " +
+            directory + " as plain text and won't bother you with it again.";
+    if (!offer.older.empty())
+        text +=
+            "\n\nThere are older notes as well; I'll put those there in any case, as there's no room for them here.";
+    return text;
+}
+
+/// The journal stays when its text can't be written.
+void putAside(Editor& editor, const LeftJournal& found)
+{
+    const Steps step(editor.shared.errors, tag);
+    const std::string path = freePath(editor, journalDirectory(editor) + "\\", fileNameOf(found.journal.start.name));
+    step([&] {
+        editor.platform.files.write(path, found.journal.text);
+        removeJournal(editor, found.number);
+    });
+}
+
+std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
+{
+    const Steps step(editor.shared.errors, tag);
+    std::vector<std::string> open;
+    for (const LeftJournal& found : offer.wanted) {
+        step([&] {
+            open.push_back(bringBack(editor, found));
+            open.push_back(found.journal.start.path);
+        });
+    }
+    if (offer.wanted.size() == 1) step([&] { openPartner(editor, offer.wanted.front(), open); });
+    editor.TabStrip1.Select(sideOf(editor, offer.wanted.front()).tab);
+    return open;
+}
+
+} // namespace
+
+std::vector<std::string> offerRecovery(Editor& editor)
+{
+    std::vector<LeftJournal> journals = findJournals(editor);
+    if (journals.empty()) return {};
+    const Offer offer = sortedOut(std::move(journals));
+    const Answer answer = editor.platform.dialogues.show({.title = "Phew ... nothing's lost!",
+                                                          .text = boxText(editor, offer),
+                                                          .icon = BoxIcon::Question,
+                                                          .buttons = BoxButtons::YesNo});
+    for (const LeftJournal& found : offer.older) putAside(editor, found);
+    if (answer == Answer::Yes) return bringAllBack(editor, offer);
+    for (const LeftJournal& found : offer.wanted) putAside(editor, found);
+    return {};
+}
+
+bool isAmong(const std::vector<std::string>& paths, const std::string& path)
+{
+    return std::any_of(paths.begin(), paths.end(),
+                       [&](const std::string& one) { return lowerUtf8(one) == lowerUtf8(path); });
+}
+
+} // namespace tarvex

@@ -1,0 +1,40 @@
+#include "shell/mum.h"
+
+namespace tarvex {
+
+namespace {
+
+struct PanelDesign {
+    int number;
+    const char* text;
+    const char* toolTip;
+};
+
+/// The toolkit's own panels write their texts themselves.
+constexpr PanelDesign panels[] = {
+    {panel::progress, "Welcome!", ""},
+    {panel::savedState, "", "Currently active file saved state"},
+    {panel::line, "Line no:", "Current insertion point in the joystick file"},
+    {panel::capsLock, "CAPS", "State of the Caps Lock key"},
+    {panel::insert, "", "State of the Insert key"},
+    {panel::numLock, "", "State of the Num Lock key"},
+    {panel::time, "", "The current time"},
+    {panel::macroFile, "No macrofile analysed", "The macros in the macros list are from this file"},
+};
+
+constexpr int preferencesButton = 46;
+
+} // namespace
+
+Mum::Mum()
+{
+    for (const PanelDesign& design : panels) {
+        tarvex::StatusBar::Panel& panel = StatusBar.Panels(design.number);
+        panel.Text = design.text;
+        panel.ToolTipText = design.toolTip;
+    }
+    // The table of tips passes this button by.
+    Toolbar1.Buttons(preferencesButton).ToolTipText = "Edit Preferences (F9)";
+}
+
+} // namespace tarvex

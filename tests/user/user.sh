@@ -1,0 +1,104 @@
+# What the walks of a user share: the real program on a display of its own, driven by real keys and clicks. Sourced by
+# bash. What the program did is read where a user would find it: in the titles of its windows, in files, in settings.
+
+set -uo pipefail
+
+program=${1:?the program to walk through}
+place=$(mktemp -d)
+pid=
+
+finish() {
+    [ -n "$pid" ] && kill -KILL "$pid" 2>/dev/null
+    rm -rf "$place"
+}
+trap finish EXIT
+
+fail() {
+    printf 'FAILED: %s\n' "$*" >&2
+    printf 'Windows: %s\n' "$(titles | paste -sd '|')" >&2
+    [ -n "${TARVEX_WALK_PICTURE:-}" ] && import -silent -window root "$TARVEX_WALK_PICTURE" 2>/dev/null
+    exit 1
+}
+
+# until_true SECONDS COMMAND...: tries again and again, for at most that long.
+until_true() {
+    local limit=$((SECONDS + $1))
+    shift
+    until "$@"; do
+        [ $SECONDS -lt $limit ] || return 1
+        sleep 0.05
+    done
+}
+
+titles() { wmctrl -l 2>/dev/null | cut -d ' ' -f 5-; }
+has_title() { titles | grep -qF -- "$1"; }
+lacks_title() { ! has_title "$1"; }
+expect_title() { until_true 20 has_title "$1" || fail "no window \"$1\""; }
+expect_no_title() { until_true 20 lacks_title "$1" || fail "there is still a window \"$1\""; }
+
+# expect_active TITLE: keys go to the window of that title from now on.
+active_is() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == *"$1"* ]]; }
+expect_active() { until_true 20 active_is "$1" || fail "\"$1\" is not the active window"; }
+
+menus_open() { xdotool search --onlyvisible --pid "$pid" 2>/dev/null | wc -l; }
+
+# The menu that ALT+key opens is a window of its own.
+open_menu() {
+    local before
+    before=$(menus_open)
+    more() { [ "$(menus_open)" -gt "$before" ]; }
+    press "alt+$1"
+    until_true 10 more || fail "Alt+$1 opened no menu"
+}
+close_menu() {
+    local before
+    before=$(menus_open)
+    fewer() { [ "$(menus_open)" -lt "$before" ]; }
+    press Escape
+    until_true 10 fewer || fail "Esc closed no menu"
+    press Escape # the menu bar lets go of the keyboard
+}
+
+press() { xdotool key --delay 20 "$@"; }
+type_text() { xdotool type --delay 5 -- "$1"; }
+# click X Y: in pixels of the active window.
+click() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click 1; }
+
+file_holds() { grep -qF -- "$2" "$1" 2>/dev/null; }
+file_lacks() { [ -f "$1" ] && ! grep -qF -- "$2" "$1"; }
+expect_in_file() { until_true 20 file_holds "$1" "$2" || fail "$(basename "$1") doesn't hold \"$2\" but: $(cat "$1")"; }
+expect_not_in_file() { until_true 20 file_lacks "$1" "$2" || fail "$(basename "$1") holds \"$2\""; }
+
+# setting SECTION KEY VALUE...: one more setting before the program starts.
+setting() { printf '[%s]\r\n%s=%s\r\n' "$1" "$2" "$3" >>"$place/Tarvex.ini"; }
+
+# start [FILE...]: a program folder of its own, first use over, and the window in front.
+start() {
+    cp "$program" "$place/tarvex"
+    if [ ! -f "$place/Tarvex.ini" ]; then
+        printf '[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nJoystickExtension=b50\r\nMacroExtension=m50\r\n' \
+            >"$place/Tarvex.ini"
+        printf 'JoyName=1\r\nProgramFilesPath=z:%s\\\r\n' "${place//\//\\}" >>"$place/Tarvex.ini"
+        printf '[Miscellaneous]\r\nOpenSingleFileOnly=0\r\nMumWindowstate=0\r\n' >>"$place/Tarvex.ini"
+    fi
+    start_again "$@"
+}
+start_again() {
+    "$place/tarvex" "$@" >"$place/output" 2>&1 &
+    pid=$!
+    expect_title "Tarvex - "
+    expect_active "Tarvex - "
+}
+
+# A joystick file and its macro file, walk.b50 and walk.m50.
+write_pair() {
+    printf 'BTN S1 first\r\nBTN S2 second\r\n' >"$place/walk.b50"
+    printf 'first = a\r\nsecond = b\r\n' >"$place/walk.m50"
+}
+
+gone() { ! kill -0 "$pid" 2>/dev/null; }
+expect_gone() {
+    until_true 20 gone || fail "the program still runs"
+    wait "$pid" || fail "the program ended with $?: $(cat "$place/output")"
+    pid=
+}
