@@ -102,19 +102,11 @@ void wirePanes(Editor& editor)
     editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);
 }
 
-void wireLists(Operations& operations, SettingsStore& store)
-{
-    operations.GetPreviousFiles = [&store] { store.read(Access::GetPreviousFiles, "MODULE GetPreviousFiles"); };
-    operations.GetFavourites = [&store] { store.read(Access::GetFavourites, "MODULE GetFavourites"); };
-    operations.GetGames = [&store] { store.read(Access::GetGames, "MODULE GetGames"); };
-    operations.GetCustomApps = [&store] { store.read(Access::GetCustomApps, "MODULE GetCustomApps"); };
-}
-
 } // namespace
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor)
+      findAndReplace(editor), lists(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -126,7 +118,6 @@ Program::Program(Platform& thePlatform)
     wireLanguage(editor);
     wireDownload(editor);
     followEdits(editor);
-    wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = [this] { Form_Load(editor); };

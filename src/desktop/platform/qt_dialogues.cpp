@@ -173,6 +173,17 @@ std::optional<std::string> QtDialogues::askForFile(const FileRequest& request, b
 std::optional<std::string> QtDialogues::openFile(const FileRequest& request) { return askForFile(request, false); }
 std::optional<std::string> QtDialogues::saveFile(const FileRequest& request) { return askForFile(request, true); }
 
+std::optional<std::string> QtDialogues::chooseFolder(const std::string& title)
+{
+    QFileDialog dialogue(parentNow());
+    dialogue.setFileMode(QFileDialog::Directory);
+    dialogue.setOption(QFileDialog::ShowDirsOnly);
+    dialogue.setWindowTitle(toQt(title));
+    dialogue.setDirectory(QDir::homePath());
+    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
+    return m_drives.toDos(fromQt(dialogue.selectedFiles().constFirst()));
+}
+
 bool QtDialogues::showModal(const std::string& formName)
 {
     const auto form = m_forms.find(formName);
