@@ -1,7 +1,9 @@
 #include "desktop/application.h"
+#include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/shell/mum_window.h"
 #include "desktop/text.h"
@@ -109,7 +111,9 @@ int runProgram(tarvex::Application& application, const std::string& file)
     QtDesktop desktop(directory);
     SdlSound sound(drives);
     QtClipboard clipboard;
-    Platform platform{files, dialogues, desktop, sound, clipboard, drives.toDos(directory), drives.fromArgument(file)};
+    QtProcesses processes(drives, files, dialogues, drives.toDos(directory));
+    Platform platform{
+        files, dialogues, desktop, sound, clipboard, processes, drives.toDos(directory), drives.fromArgument(file)};
 
     Program program(platform);
     application.setErrorRecord(&program.shared.errors);
@@ -118,6 +122,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     MumWindow window(program);
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
+    addListForms(dialogues, program.lists, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;

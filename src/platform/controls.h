@@ -124,6 +124,10 @@ struct TextBox : Focusable {
     std::function<void()> GotFocus;
 };
 
+struct Label {
+    Property<std::string> Caption;
+};
+
 /// A tick of the user's is in Value when Click runs.
 struct CheckBox {
     Property<std::string> Caption;
@@ -140,7 +144,7 @@ struct OptionButton {
 
 struct ComboBox : Focusable {
     Property<std::vector<std::string>> Items;
-    Property<std::string> Text; ///< the text shown: one of Items, or where the view lets the user write, any
+    Property<std::string> Text;  ///< the text shown: one of Items, or where the view lets the user write, any
     std::function<void()> Click; ///< the user chose an item
     Signal<> selectAllWanted;
     void SelectAll() const { selectAllWanted(); }

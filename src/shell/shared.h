@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "shell/current_directory.h"
 #include "shell/errors.h"
 #include "shell/settings.h"
 #include "shell/settings_store.h"
@@ -12,13 +13,18 @@ namespace tarvex {
 
 /// Process-wide values: one struct, passed in, so that many programs can live in one process.
 struct Shared {
-    explicit Shared(Platform& platform) : store(platform.files, platform.programDirectory, settings, errors) {}
+    explicit Shared(Platform& platform)
+        : store(platform.files, platform.programDirectory, settings, errors),
+          currentDirectory(platform.files, platform.programDirectory)
+    {
+    }
     Shared(const Shared&) = delete;
     Shared& operator=(const Shared&) = delete;
 
     Settings settings;
     ErrorRecord errors;
     SettingsStore store; ///< moves `settings` to and from the INI files
+    CurrentDirectory currentDirectory;
 
     std::string IniFilePath;                ///< of Tarvex.ini
     std::string BackupDirectory;            ///< with "\" at the end
@@ -27,6 +33,7 @@ struct Shared {
     std::int16_t StartupSoundAvailable = 0; ///< 1: a start-up sound file exists
     std::int16_t IsLoading = 0;             ///< 1: the program itself changes pane text; no edit of the user's
     std::int16_t HardwareChangedMark = 0;   ///< 1: another joystick was chosen in the preferences
+    std::int16_t PreferencesPage = 0;       ///< the page at which the preferences are to open, from 0
     std::int16_t FontChanged = 0;           ///< 1: the pane font was changed in the preferences
     std::int16_t FindWindowOpen = 0;        ///< 1: the find and replace window is loaded
     Colour DefaultTextColour = 0;           ///< of plain inserted text

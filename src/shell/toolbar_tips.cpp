@@ -62,8 +62,7 @@ void UpdateTooltips(Mum& mum, const Settings& settings)
 {
     const Steps step;
     if (!tipsAreOn(settings)) {
-        for (int number = 1; number <= lastTip; ++number)
-            step([&] { mum.Toolbar1.Buttons(number).ToolTipText = ""; });
+        for (int number = 1; number <= lastTip; ++number) step([&] { mum.Toolbar1.Buttons(number).ToolTipText = ""; });
         return;
     }
     for (const ToolTip& tip : toolTips) step([&] { mum.Toolbar1.Buttons(tip.number).ToolTipText = tip.text; });

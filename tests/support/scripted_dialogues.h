@@ -18,7 +18,9 @@ public:
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
+    std::deque<std::optional<std::string>> folders;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
+    std::function<void()> whileSaving;
     bool modalFormsExist = true;
     std::function<void()> whileModal; ///< runs while a modal window is up
 
@@ -30,6 +32,7 @@ public:
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
     std::vector<FileRequest> saveRequests;
+    std::vector<std::string> folderTitles;
     std::vector<std::string> modalForms;
     std::vector<std::string> popUps; ///< names of the menus that popped up
     std::vector<std::string> popUpsAtCaret;
@@ -52,8 +55,14 @@ public:
     std::optional<std::string> saveFile(const FileRequest& request) override
     {
         saveRequests.push_back(request);
+        if (whileSaving) whileSaving();
         if (filesToSave.empty() && otherFilesToSave) return otherFilesToSave(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
+    }
+    std::optional<std::string> chooseFolder(const std::string& title) override
+    {
+        folderTitles.push_back(title);
+        return next(folders, std::optional<std::string>(), "folder " + title);
     }
     bool showModal(const std::string& formName) override
     {

@@ -32,6 +32,7 @@ public:
     Answer show(const MessageBox& box) override;
     std::optional<std::string> openFile(const FileRequest& request) override;
     std::optional<std::string> saveFile(const FileRequest& request) override;
+    std::optional<std::string> chooseFolder(const std::string& title) override;
     bool showModal(const std::string& formName) override;
     void popUp(const MenuItem& root) override;
     void popUpAtCaret(const MenuItem& root) override;
