@@ -2,6 +2,7 @@
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/shell/mum_window.h"
 #include "desktop/text.h"
@@ -109,7 +110,9 @@ int runProgram(tarvex::Application& application, const std::string& file)
     QtDesktop desktop(directory);
     SdlSound sound(drives);
     QtClipboard clipboard;
-    Platform platform{files, dialogues, desktop, sound, clipboard, drives.toDos(directory), drives.fromArgument(file)};
+    QtProcesses processes(drives, files, dialogues, drives.toDos(directory));
+    Platform platform{
+        files, dialogues, desktop, sound, clipboard, processes, drives.toDos(directory), drives.fromArgument(file)};
 
     Program program(platform);
     application.setErrorRecord(&program.shared.errors);

@@ -2,6 +2,7 @@
 
 #include "platform/dialogues.h"
 #include "platform/files.h"
+#include "platform/processes.h"
 
 #include <string>
 
@@ -56,6 +57,7 @@ struct Platform {
     Desktop& desktop;
     Sound& sound;
     Clipboard& clipboard;
+    Processes& processes;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
     std::string commandLine; ///< one DOS path or nothing
 };

@@ -15,6 +15,7 @@
 #include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
+#include "download/download_commands.h"
 #include "language/language_commands.h"
 #include "shell/mum_window.h"
 
@@ -123,6 +124,7 @@ Program::Program(Platform& thePlatform)
     wireFindAndReplace(findAndReplace);
     wireFrame(editor);
     wireLanguage(editor);
+    wireDownload(editor);
     followEdits(editor);
     wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };

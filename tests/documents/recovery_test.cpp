@@ -314,6 +314,37 @@ TEST(Recovery, OpensTheFileThatStoodBesideIt)
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2) << "where there is something to save";
 }
 
+TEST(Recovery, OpensTheFileThatStoodBesideItASecondTimeToo)
+{
+    OpenPair t;
+    t.typeMacro("x");
+    t.killAndStart({Answer::Yes});
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
+    t.typeJoystick("y");
+    t.killAndStart({Answer::Yes});
+    t.editor().TabStrip1.Select(2);
+    t.menus().mnuFileSave.Click();
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "yBTN S1 fire\r\n");
+    EXPECT_EQ(t.editor().MacroText.Text(), "xfire = x\r\n");
+}
+
+TEST(Recovery, OpensTheFileThatCameToStandBesideItLater)
+{
+    OpenPair t;
+    t.typeMacro("x");
+    t.files.addFile("c:\\tm\\b50progs\\su27.b50", "BTN S2 b");
+    t.dialogues.filesToOpen = {"c:\\tm\\b50progs\\su27.b50"};
+    t.menus().mnuFileJoystickLoad.Click();
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S2 b");
+    t.menus().mnuFileNewJoystick.Click();
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "");
+    EXPECT_EQ(t.editor().MacroText.Text(), "xfire = x\r\n");
+}
+
 TEST(Recovery, AnUntitledDocumentComesBackUntitled)
 {
     TestProgram t;
@@ -617,7 +648,6 @@ TEST(Recovery, OfTwoForOnePaneTheNewestComesBackAndTheOtherIsPutAside)
     OpenPair t;
     t.typeJoystick("new");
     std::uint64_t chain = 0;
-    t.files.addFile("c:\\tarvex\\Recover\\0.journal", "");
     t.files.addFile(std::string(directory) + "\\1.journal", journalStart({.tab = 1,
                                                                           .replaces = 0,
                                                                           .path = "c:\\a\\old.b50",

@@ -1,6 +1,7 @@
 #include "desktop/shell/mum_window.h"
 
 #include "desktop/documents/colour_selector_view.h"
+#include "desktop/documents/find_and_replace_view.h"
 #include "desktop/icon_theme.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/menu_view.h"
@@ -61,6 +62,8 @@ MumWindow::MumWindow(Program& program)
     addMenuBars();
     addShortcuts();
     bindTitle();
+    makeWhenShown(program.findAndReplace.form, m_bindings,
+                  [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive) m_wasElsewhere = true;
