@@ -116,19 +116,21 @@ Offer sortedOut(std::vector<LeftJournal> journals)
     return offer;
 }
 
-std::string nameInBox(Editor& editor, const LeftJournal& found)
+/// What becomes of a text whose file somebody else has written.
+std::string newNameInBox(Editor& editor, const LeftJournal& found)
 {
-    const std::string name = "\n    " + fileNameOf(found.journal.start.name);
-    if (found.fileIsSame) return name;
-    return name + "  (somebody has been at the file since, so I'd leave that alone and call this one " +
-           fileNameOf(pathFor(editor, found)) + ")";
+    if (found.fileIsSame) return {};
+    return "\n\n" + fileNameOf(found.journal.start.name) +
+           " isn't what it was then, so I'd leave the file alone and call yours " + fileNameOf(pathFor(editor, found)) +
+           ".";
 }
 
 std::string boxText(Editor& editor, const Offer& offer)
 {
     std::string text = "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been "
                        "taking notes all along, and here's what I've got:\n";
-    for (const LeftJournal& found : offer.wanted) text += nameInBox(editor, found);
+    for (const LeftJournal& found : offer.wanted) text += "\n    " + fileNameOf(found.journal.start.name);
+    for (const LeftJournal& found : offer.wanted) text += newNameInBox(editor, found);
     text += "\n\nShall I bring it back? It will be just as you left it: not saved yet, and one Undo away from what was "
             "saved. If you press No it goes as plain text into\n\n    " +
             journalDirectory(editor) + "\n\nand I won't bother you with it again.";
