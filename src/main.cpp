@@ -1,4 +1,5 @@
 #include "desktop/application.h"
+#include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
@@ -121,6 +122,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     MumWindow window(program);
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
+    addListForms(dialogues, program.lists, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;

@@ -124,6 +124,10 @@ struct TextBox : Focusable {
     std::function<void()> GotFocus;
 };
 
+struct Label {
+    Property<std::string> Caption;
+};
+
 /// A tick of the user's is in Value when Click runs.
 struct CheckBox {
     Property<std::string> Caption;

@@ -64,6 +64,23 @@ std::string mapped(std::string_view bytes, const std::array<unsigned char, 256>&
     return result;
 }
 
+std::string mappedUtf8(std::string_view text, const std::array<unsigned char, 256>& table)
+{
+    std::string changed;
+    changed.reserve(text.size());
+    while (!text.empty()) {
+        const Utf8Character next = firstUtf8Character(text);
+        const int byte = next.valid ? windows1252FromUnicode(next.codePoint) : -1;
+        if (byte < 0) {
+            changed += text.substr(0, next.size);
+        } else {
+            appendUtf8(changed, windows1252ToUnicode[table[static_cast<std::size_t>(byte)]]);
+        }
+        text.remove_prefix(next.size);
+    }
+    return changed;
+}
+
 } // namespace
 
 constinit const std::array<char16_t, 256> windows1252ToUnicode = makeToUnicode();
@@ -133,21 +150,8 @@ std::string lowerWindows1252(std::string_view bytes) { return mapped(bytes, wind
 
 std::string upperWindows1252(std::string_view bytes) { return mapped(bytes, windows1252Upper); }
 
-std::string lowerUtf8(std::string_view text)
-{
-    std::string lower;
-    lower.reserve(text.size());
-    while (!text.empty()) {
-        const Utf8Character next = firstUtf8Character(text);
-        const int byte = next.valid ? windows1252FromUnicode(next.codePoint) : -1;
-        if (byte < 0) {
-            lower += text.substr(0, next.size);
-        } else {
-            appendUtf8(lower, windows1252ToUnicode[windows1252Lower[static_cast<std::size_t>(byte)]]);
-        }
-        text.remove_prefix(next.size);
-    }
-    return lower;
-}
+std::string lowerUtf8(std::string_view text) { return mappedUtf8(text, windows1252Lower); }
+
+std::string upperUtf8(std::string_view text) { return mappedUtf8(text, windows1252Upper); }
 
 } // namespace tarvex

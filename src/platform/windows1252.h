@@ -36,5 +36,7 @@ std::string upperWindows1252(std::string_view bytes);
 /// Lower case of a UTF-8 text; letters outside the code page stay, so that two names that differ only in those never
 /// become one.
 std::string lowerUtf8(std::string_view text);
+/// Upper case, likewise.
+std::string upperUtf8(std::string_view text);
 
 } // namespace tarvex

@@ -97,36 +97,29 @@ void wirePanes(Editor& editor)
     editor.MacroText.Change = on(editor, MacroText_Change);
     editor.JoystickText.KeyPress = [&editor](int key) { JoystickText_KeyPress(editor, key); };
     editor.MacroText.KeyPress = [&editor](int key) { MacroText_KeyPress(editor, key); };
+    editor.JoystickText.EditComing = on(editor, endBlinking);
+    editor.MacroText.EditComing = on(editor, endBlinking);
     editor.TabStrip1.Click = on(editor, TabStrip1_Click);
     editor.Timer1.Tick = on(editor, Timer1_Timer);
     editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);
-}
-
-void wireLists(Operations& operations, SettingsStore& store)
-{
-    operations.GetPreviousFiles = [&store] { store.read(Access::GetPreviousFiles, "MODULE GetPreviousFiles"); };
-    operations.GetFavourites = [&store] { store.read(Access::GetFavourites, "MODULE GetFavourites"); };
-    operations.GetGames = [&store] { store.read(Access::GetGames, "MODULE GetGames"); };
-    operations.GetCustomApps = [&store] { store.read(Access::GetCustomApps, "MODULE GetCustomApps"); };
 }
 
 } // namespace
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor)
+      findAndReplace(editor), lists(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
     wirePaneMenu(editor);
-    wireFindAndReplace(findAndReplace, operations);
+    wireFindAndReplace(findAndReplace);
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor);
     followEdits(editor);
-    wireLists(operations, shared.store);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = [this] { Form_Load(editor); };

@@ -2,6 +2,7 @@
 
 #include "documents/editor.h"
 #include "documents/find_and_replace.h"
+#include "lists/lists.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
 #include "shell/mum.h"
@@ -31,6 +32,7 @@ public:
     Operations operations;
     Editor editor;
     FindAndReplace findAndReplace;
+    Lists lists;
 };
 
 } // namespace tarvex

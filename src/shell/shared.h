@@ -33,6 +33,7 @@ struct Shared {
     std::int16_t StartupSoundAvailable = 0; ///< 1: a start-up sound file exists
     std::int16_t IsLoading = 0;             ///< 1: the program itself changes pane text; no edit of the user's
     std::int16_t HardwareChangedMark = 0;   ///< 1: another joystick was chosen in the preferences
+    std::int16_t PreferencesPage = 0;       ///< the page at which the preferences are to open, from 0
     std::int16_t FontChanged = 0;           ///< 1: the pane font was changed in the preferences
     std::int16_t FindWindowOpen = 0;        ///< 1: the find and replace window is loaded
     Colour DefaultTextColour = 0;           ///< of plain inserted text

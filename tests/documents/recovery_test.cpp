@@ -528,6 +528,17 @@ TEST(Recovery, ListsTheMacrosOfTheFile)
     ASSERT_EQ(t.editor().FrameMacros.List1[0].Items.get().size(), 1U) << "as they are in the file";
 }
 
+TEST(Recovery, TicksTheMacrosInUseWhenOpeningBothFilesWould)
+{
+    OpenPair t;
+    t.setIni("Miscellaneous", "CheckIdentifyOK", "1");
+    t.typeJoystick("x");
+    t.killAndStart({Answer::Yes});
+    ASSERT_EQ(t.settings().CheckIdentifyOK, 1);
+    ASSERT_EQ(t.editor().FrameMacros.List1[0].Items.get().size(), 1U);
+    EXPECT_TRUE(t.editor().FrameMacros.List1[0].Items.get()[0].Selected);
+}
+
 // ---- and the file of the command line ----
 
 TEST(Recovery, TheFileOnTheCommandLineIsNotOpenedOverItsOwnText)

@@ -75,6 +75,21 @@ TEST_F(ToolWindowsTest, AWindowThatWasClosedMeanwhileIsLeftAlone)
     EXPECT_EQ(open.State, WindowState::Minimised) << "forgotten";
 }
 
+TEST_F(ToolWindowsTest, FindAndReplaceGoesWithTheFrame)
+{
+    Form& find = t.program().findAndReplace.form;
+    t.menus().mnuEditFind.Click();
+    setFrame(WindowState::Minimised);
+    EXPECT_EQ(find.State, WindowState::Minimised);
+    setFrame(WindowState::Normal);
+    EXPECT_EQ(find.State, WindowState::Normal);
+    t.program().operations.UnloadForm("FindAndReplace");
+    EXPECT_FALSE(find.Visible);
+    EXPECT_EQ(t.program().shared.FindWindowOpen, 0);
+    setFrame(WindowState::Minimised);
+    EXPECT_EQ(find.State, WindowState::Normal) << "not loaded";
+}
+
 TEST_F(ToolWindowsTest, UnloadingHidesOrRunsWhatTheWindowAsksFor)
 {
     Form third;

@@ -18,6 +18,7 @@ public:
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
+    std::deque<std::optional<std::string>> folders;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
     std::function<void()> whileSaving;
     bool modalFormsExist = true;
@@ -31,6 +32,7 @@ public:
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
     std::vector<FileRequest> saveRequests;
+    std::vector<FileRequest> folderRequests;
     std::vector<std::string> modalForms;
     std::vector<std::string> popUps; ///< names of the menus that popped up
     std::vector<std::string> popUpsAtCaret;
@@ -56,6 +58,11 @@ public:
         if (whileSaving) whileSaving();
         if (filesToSave.empty() && otherFilesToSave) return otherFilesToSave(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
+    }
+    std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) override
+    {
+        folderRequests.push_back({.title = title, .directory = directory});
+        return next(folders, std::optional<std::string>(), "folder " + title);
     }
     bool showModal(const std::string& formName) override
     {

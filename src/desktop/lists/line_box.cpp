@@ -1,0 +1,48 @@
+#include "desktop/lists/line_box.h"
+
+#include <QFocusEvent>
+#include <QRegularExpression>
+#include <QTimer>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+/// Cuts a text at its first line break; anything else is right.
+class FirstLine final : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& caret) const override
+    {
+        static const QRegularExpression lineBreak(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]"));
+        const qsizetype end = text.indexOf(lineBreak);
+        if (end >= 0) text.truncate(end);
+        caret = std::min(caret, static_cast<int>(text.size()));
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+LineBox::LineBox(TextBox& state, const QString& name, Bindings& bindings) : m_state(state)
+{
+    setObjectName(name);
+    setValidator(new FirstLine(this));
+    bindings.textBox(state, *this);
+}
+
+void LineBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    if (event->reason() == Qt::PopupFocusReason) return; // back from its own menu
+    // A click gives the keyboard first and puts the caret then.
+    QTimer::singleShot(0, this, [this] {
+        if (m_state.GotFocus) m_state.GotFocus();
+    });
+}
+
+} // namespace tarvex

@@ -1,0 +1,69 @@
+#include "lists/recent_list.h"
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+/// Place, from 1, of the last entry with this first text; 0 when there is none.
+int lastPlaceOf(const RecentList& list, const std::string& text)
+{
+    const std::vector<std::string>& texts = *list.columns.front();
+    const auto found = std::find(texts.rbegin(), texts.rend(), text);
+    return static_cast<int>(texts.rend() - found);
+}
+
+/// Place, from 1, whose entry may go: a new one, or in a full list the last.
+int placeForNew(const RecentList& list)
+{
+    if (list.count >= mostEntries) return mostEntries;
+    ++list.count;
+    resizeColumns(list);
+    return list.count;
+}
+
+} // namespace
+
+void resizeColumns(const RecentList& list)
+{
+    list.count = std::max<std::int16_t>(list.count, 0);
+    for (std::vector<std::string>* column : list.columns) column->resize(static_cast<std::size_t>(list.count));
+}
+
+void showMenu(const RecentList& list)
+{
+    MenuArray& menu = list.menu;
+    while (menu.UBound() > list.count) menu.Unload(menu.UBound());
+    while (menu.UBound() < list.count) menu.Load(menu.UBound() + 1);
+    menu[0].Visible = list.count == 0;
+    const std::vector<std::string>& texts = *list.columns.front();
+    for (int i = 1; i <= list.count; ++i) {
+        menu[i].Caption = texts[static_cast<std::size_t>(i - 1)];
+        menu[i].Visible = true;
+    }
+}
+
+std::int16_t isOnMenu(const RecentList& list, const std::string& caption)
+{
+    const int last = std::min<int>(list.count, list.menu.UBound());
+    for (int i = 1; i <= last; ++i) {
+        if (list.menu[i].Caption == caption) return -1;
+    }
+    return 0;
+}
+
+void putOnTop(const RecentList& list, const std::vector<std::string>& entry)
+{
+    resizeColumns(list);
+    int place = isOnMenu(list, entry.front()) != 0 ? lastPlaceOf(list, entry.front()) : 0;
+    if (place == 0) place = placeForNew(list);
+    for (std::size_t i = 0; i < list.columns.size(); ++i) {
+        const auto first = list.columns[i]->begin();
+        std::move_backward(first, first + place - 1, first + place);
+        *first = entry[i];
+    }
+    showMenu(list);
+}
+
+} // namespace tarvex

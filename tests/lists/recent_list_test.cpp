@@ -1,0 +1,135 @@
+#include "lists/recent_list.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+using testing::ElementsAre;
+
+/// Names with a second column, and their menu.
+struct Names {
+    std::int16_t count = 0;
+    std::vector<std::string> names;
+    std::vector<std::string> paths;
+    MenuArray menu{"mnuNames", {"(none)"}};
+    RecentList list{count, {&names, &paths}, menu};
+
+    explicit Names(int entries = 0)
+    {
+        count = static_cast<std::int16_t>(entries);
+        for (int i = 1; i <= entries; ++i) {
+            names.push_back(std::string("n").append(std::to_string(i)));
+            paths.push_back(std::string("p").append(std::to_string(i)));
+        }
+        showMenu(list);
+    }
+    std::vector<std::string> captions()
+    {
+        std::vector<std::string> texts;
+        for (int i = 1; i <= menu.UBound(); ++i) texts.push_back(menu[i].Caption);
+        return texts;
+    }
+};
+
+TEST(PutOnTop, TheFirstEntryOfAllHidesThePattern)
+{
+    Names t;
+    EXPECT_TRUE(t.menu[0].Visible);
+    putOnTop(t.list, {"a", "1"});
+    EXPECT_EQ(t.count, 1);
+    EXPECT_THAT(t.names, ElementsAre("a"));
+    EXPECT_THAT(t.paths, ElementsAre("1"));
+    EXPECT_THAT(t.captions(), ElementsAre("a"));
+    EXPECT_FALSE(t.menu[0].Visible);
+    EXPECT_TRUE(t.menu[1].Visible);
+}
+
+TEST(PutOnTop, ANewEntryMovesAllOthersOnePlaceBack)
+{
+    Names t(2);
+    putOnTop(t.list, {"new", "p"});
+    EXPECT_THAT(t.names, ElementsAre("new", "n1", "n2"));
+    EXPECT_THAT(t.paths, ElementsAre("p", "p1", "p2"));
+    EXPECT_THAT(t.captions(), ElementsAre("new", "n1", "n2"));
+}
+
+TEST(PutOnTop, AKnownEntryMovesUpAndTheOthersKeepTheirOrder)
+{
+    Names t(4);
+    putOnTop(t.list, {"n3", "other"});
+    EXPECT_THAT(t.names, ElementsAre("n3", "n1", "n2", "n4"));
+    EXPECT_THAT(t.paths, ElementsAre("other", "p1", "p2", "p4"));
+    EXPECT_EQ(t.count, 4);
+}
+
+TEST(PutOnTop, OfSeveralAlikeTheLastMovesUp)
+{
+    Names t(4);
+    t.names = {"a", "x", "b", "x"};
+    showMenu(t.list);
+    putOnTop(t.list, {"x", "new"});
+    EXPECT_THAT(t.names, ElementsAre("x", "a", "x", "b"));
+    EXPECT_THAT(t.paths, ElementsAre("new", "p1", "p2", "p3"));
+}
+
+TEST(PutOnTop, TwentyNineEntriesTakeOneMoreAndThirtyDropTheLast)
+{
+    Names t(29);
+    putOnTop(t.list, {"thirtieth", ""});
+    EXPECT_EQ(t.count, 30);
+    EXPECT_EQ(t.names.back(), "n29");
+    putOnTop(t.list, {"one more", ""});
+    EXPECT_EQ(t.count, 30);
+    EXPECT_EQ(t.names.size(), 30U);
+    EXPECT_EQ(t.names.front(), "one more");
+    EXPECT_EQ(t.names.back(), "n28");
+    EXPECT_EQ(t.menu.UBound(), 30);
+}
+
+TEST(PutOnTop, AListThatIsTooLongMovesEntriesWithinItsFirstThirty)
+{
+    Names t(40);
+    putOnTop(t.list, {"new", "p"});
+    EXPECT_EQ(t.count, 40);
+    EXPECT_EQ(t.names[0], "new");
+    EXPECT_EQ(t.names[29], "n29");
+    EXPECT_EQ(t.names[30], "n31");
+    EXPECT_EQ(t.menu.UBound(), 40);
+}
+
+TEST(PutOnTop, AnEntryBehindTheThirtiethMovesUpLikeAnyOther)
+{
+    Names t(40);
+    putOnTop(t.list, {"n35", "p"});
+    EXPECT_EQ(t.names[0], "n35");
+    EXPECT_EQ(t.names[34], "n34");
+    EXPECT_EQ(t.names[35], "n36");
+}
+
+TEST(ResizeColumns, ACountBelowZeroIsNone)
+{
+    Names t(2);
+    t.count = -5;
+    resizeColumns(t.list);
+    showMenu(t.list);
+    EXPECT_EQ(t.count, 0);
+    EXPECT_TRUE(t.names.empty());
+    EXPECT_TRUE(t.paths.empty());
+    EXPECT_EQ(t.menu.UBound(), 0);
+    EXPECT_TRUE(t.menu[0].Visible);
+}
+
+TEST(IsOnMenu, ComparesExactlyAndLeavesThePatternOut)
+{
+    Names t(2);
+    EXPECT_EQ(isOnMenu(t.list, "n2"), -1);
+    EXPECT_EQ(isOnMenu(t.list, "N2"), 0);
+    EXPECT_EQ(isOnMenu(t.list, "n"), 0);
+    EXPECT_EQ(isOnMenu(t.list, "(none)"), 0);
+    EXPECT_EQ(isOnMenu(Names().list, "n1"), 0);
+}
+
+} // namespace
+} // namespace tarvex
