@@ -118,7 +118,7 @@ Program::Program(Platform& thePlatform)
     wireFindAndReplace(findAndReplace);
     wireFrame(editor);
     wireLanguage(editor);
-    wireDownload(editor);
+    wireDownload(editor, lists.games);
     followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
