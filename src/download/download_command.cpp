@@ -180,10 +180,4 @@ void mnuUseWakeWarning_Click(Editor& editor)
     editor.shared.store.SaveOpenSingleOnly();
 }
 
-void mnuGamesDownloadFirst_Click(Editor& editor)
-{
-    toggle(editor.menus.mnuGamesDownloadFirst, editor.shared.settings.GameDownloadOption);
-    editor.shared.store.write(Access::mnuGamesDownloadFirst_Click, "mnuGamesDownloadFirst_Click");
-}
-
 } // namespace tarvex

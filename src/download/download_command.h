@@ -13,7 +13,6 @@ void mnuSendToJoystick_Click(Editor& editor);
 
 void mnuAppsQuiet_Click(Editor& editor);
 void mnuUseWakeWarning_Click(Editor& editor);
-void mnuGamesDownloadFirst_Click(Editor& editor);
 
 // What a game's download before its start has in common with the command.
 

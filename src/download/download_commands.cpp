@@ -1,6 +1,7 @@
 #include "download/download_commands.h"
 
 #include "download/download_command.h"
+#include "download/game_launch.h"
 #include "download/outside_tools.h"
 
 namespace tarvex {
@@ -15,14 +16,14 @@ template <typename Work> std::function<void()> on(Editor& editor, Work work)
 
 } // namespace
 
-void wireDownload(Editor& editor)
+void wireDownload(Editor& editor, Games& games)
 {
     Menus& menus = editor.menus;
     menus.mnuSendToJoystick.handler = on(editor, mnuSendToJoystick_Click);
     menus.mnuRHMDownload.handler = on(editor, mnuSendToJoystick_Click);
     menus.mnuAppsQuiet.handler = on(editor, mnuAppsQuiet_Click);
     menus.mnuUseWakeWarning.handler = on(editor, mnuUseWakeWarning_Click);
-    menus.mnuGamesDownloadFirst.handler = on(editor, mnuGamesDownloadFirst_Click);
+    games.LaunchGame = [&editor](const Game& game) { launchGame(editor, game); };
 
     wireControlCentreTools(editor);
     menus.mnuAppsTMScope.handler = on(editor, mnuAppsTMScope_Click);

@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::string_view pathNeeded = "You need to enter the path in preferences for the Thrustmaster Control Centre";
 
+constexpr std::int16_t preferencesPage = 2;
+
 /// A tool that lies in the Control Centre's folder.
 struct Tool {
     MenuItem Menus::*item;
@@ -168,6 +170,10 @@ void mnuCustomApp_Click(Editor& editor, int index)
     });
 }
 
-void mnuAppsEdit_Click(Editor& editor) { editor.platform.dialogues.showModal("Preferences"); }
+void mnuAppsEdit_Click(Editor& editor)
+{
+    editor.shared.PreferencesPage = preferencesPage;
+    editor.menus.mnuPreferencesEdit.Click();
+}
 
 } // namespace tarvex

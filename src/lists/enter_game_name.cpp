@@ -38,8 +38,10 @@ std::string joystickFilter(const std::string& extension)
 
 void lookForGame(EnterGameName& form)
 {
-    const auto path = form.editor.platform.dialogues.openFile(
-        {.title = {}, .filter = "Executables (*.exe)|*.exe|All files (*.*)|*.*"});
+    const auto path =
+        form.editor.platform.dialogues.openFile({.title = {},
+                                                 .filter = "Executables (*.exe)|*.exe|All files (*.*)|*.*",
+                                                 .directory = directoryOf(form.Text2.Text.get())});
     if (!path) return;
     form.Text2.Text = lowerUtf8(*path);
     if (form.Text3.Text.get().starts_with("eg")) form.Text3.Text = directoryOf(form.Text2.Text.get()); // the sample
@@ -100,7 +102,8 @@ void GAME_Command1_Click(EnterGameName& form, int index)
 void GAME_Command2_Click(EnterGameName& form)
 {
     handle(form, "GAME Command2_Click", [&] {
-        const auto folder = form.editor.platform.dialogues.chooseFolder("Select your game's working directory");
+        const auto folder =
+            form.editor.platform.dialogues.chooseFolder("Select your game's working directory", form.Text3.Text);
         if (folder) form.Text3.Text = *folder;
     });
 }

@@ -49,8 +49,9 @@ public:
     /// The DOS path of a file to write; it may exist, the dialogue doesn't ask about that. Nothing when cancelled.
     virtual std::optional<std::string> saveFile(const FileRequest& request) = 0;
 
-    /// The DOS path of an existing folder, without "\\" at its end except for a drive's root; nothing when cancelled.
-    virtual std::optional<std::string> chooseFolder(const std::string& title) = 0;
+    /// The DOS path of an existing folder, without "\" at its end except for a drive's root; nothing when cancelled.
+    /// The dialogue starts in `directory`, if that is a folder.
+    virtual std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) = 0;
 
     /// Shows the window of that name modally and returns when it has closed. False: there is no such window.
     virtual bool showModal(const std::string& formName) = 0;

@@ -48,6 +48,7 @@ public:
     virtual ClipboardContent get() const = 0;
     /// There is a text to get, plain or as RTF. Cheap enough for every key.
     virtual bool holdsText() const = 0;
+    Signal<> changed; ///< it may hold something else than before, by whoever
 };
 
 /// The world as the program sees it. All members outlive the program.

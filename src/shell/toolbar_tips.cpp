@@ -44,6 +44,7 @@ constexpr ToolTip toolTips[] = {
     {42, "Thrustmaster Control Centre"},
     {44, "Download joystick file to joystick (F12)"},
     {45, "Compile joystick file (Shift F12)"},
+    {46, "Edit Preferences (F9)"},
     {47, "Edit Preferences (F9)"},
     {48, "Help topics (F1)"}, // no such button
 };

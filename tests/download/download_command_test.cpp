@@ -273,11 +273,12 @@ TEST(SendToJoystick, WakeUpWarningAsksAndNoStops)
     EXPECT_EQ(t.lastBox().title, "Shall I download your joystick file now?");
     EXPECT_EQ(t.lastBox().icon, BoxIcon::Information);
     EXPECT_EQ(t.lastBox().buttons, BoxButtons::YesNo);
-    EXPECT_EQ(t.lastBox().text,
-              "Wake up your joystick now to ensure that the download will be successful. To do this, press button S1 on "
-              "the side of the joystick a few times.\n\nIt's a good idea as well just to press a few keys on your "
-              "keyboard, and if you have any other devices inline with the keyboard, such as a MasterPilot, to check "
-              "that these are connected and working properly.\n\nPress Yes to proceed with the download.");
+    EXPECT_EQ(
+        t.lastBox().text,
+        "Wake up your joystick now to ensure that the download will be successful. To do this, press button S1 on "
+        "the side of the joystick a few times.\n\nIt's a good idea as well just to press a few keys on your "
+        "keyboard, and if you have any other devices inline with the keyboard, such as a MasterPilot, to check "
+        "that these are connected and working properly.\n\nPress Yes to proceed with the download.");
     EXPECT_EQ(t.command(), "(nothing)");
     EXPECT_EQ(t.program().shared.currentDirectory.path(), "c:\\tm") << "the directory stays changed";
     EXPECT_EQ(t.program().mum.form.State, WindowState::Normal);

@@ -31,7 +31,7 @@ struct Tools : TestProgram {
 TEST(ControlCentreTools, AreStartedInTheirFolderWithANormalWindow)
 {
     const std::pair<MenuItem Menus::*, std::string> tools[] = {
-        {&Menus::mnuAppsCandCC, "c:\\tm\\tm.bat"},    {&Menus::mnuF22Setup, "c:\\tm\\f22setup.exe"},
+        {&Menus::mnuAppsCandCC, "c:\\tm\\tm.bat"},     {&Menus::mnuF22Setup, "c:\\tm\\f22setup.exe"},
         {&Menus::mnuF22Clear, "c:\\tm\\f22clear.exe"}, {&Menus::mnuF22Reset, "c:\\tm\\f22reset.exe"},
         {&Menus::mnuF22Delay, "c:\\tm\\f22dly2.exe"},
     };
@@ -99,10 +99,11 @@ TEST(TMScope, ThatIsMissingIsToldWithTheFolderWhereItWasExpected)
     t.menus().mnuAppsTMScope.Click();
     EXPECT_EQ(t.started(), "(nothing)");
     EXPECT_EQ(t.lastBox().title, "Couldn't find TMScope");
-    EXPECT_EQ(t.lastBox().text,
-              "I couldn't find TMScope which should be located here: c:\\gone\\. Goto your preferences and make sure "
-              "you've entered the correct path for the Thrustmaster Control Centre because tms.exe should be in the same "
-              "directory. You've told me that this is: c:\\gone\\tm.bat");
+    EXPECT_EQ(
+        t.lastBox().text,
+        "I couldn't find TMScope which should be located here: c:\\gone\\. Goto your preferences and make sure "
+        "you've entered the correct path for the Thrustmaster Control Centre because tms.exe should be in the same "
+        "directory. You've told me that this is: c:\\gone\\tm.bat");
 }
 
 TEST(ProPanel, TheMakersAppletComesBeforeThatOfTheSystem)
@@ -152,10 +153,11 @@ TEST(Ctfj, AtAWrongPathTellsItAndOpensThePreferences)
     t.settings().CTFJPath = "c:\\gone\\ctfj.exe";
     t.menus().mnuAppsCTFJ.Click();
     EXPECT_EQ(t.lastBox().title, "Where is CTFJ on your hard disk?");
-    EXPECT_EQ(t.lastBox().text,
-              "You need to enter the correct path in preferences for whichever version of CTFJ you have on your system. "
-              "At the moment, you have told me it is located here: c:\\gone\\ctfj.exe, and I can't find it there! I'll "
-              "take you to the Preferences window now.");
+    EXPECT_EQ(
+        t.lastBox().text,
+        "You need to enter the correct path in preferences for whichever version of CTFJ you have on your system. "
+        "At the moment, you have told me it is located here: c:\\gone\\ctfj.exe, and I can't find it there! I'll "
+        "take you to the Preferences window now.");
     EXPECT_EQ(opened, 1);
     EXPECT_EQ(t.started(), "(nothing)");
 }
@@ -206,11 +208,14 @@ TEST(CustomApp, ThatDoesNotStartIsRecordedAndShowsNothing)
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
 
-TEST(AppsEdit, OpensThePreferences)
+TEST(AppsEdit, OpensThePreferencesAtTheirPage)
 {
     Tools t;
+    int opened = 0;
+    t.menus().mnuPreferencesEdit.handler = [&] { ++opened; };
     t.menus().mnuAppsEdit.Click();
-    EXPECT_EQ(t.dialogues.modalForms.back(), "Preferences");
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(t.program().shared.PreferencesPage, 2);
 }
 
 } // namespace

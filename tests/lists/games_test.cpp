@@ -232,10 +232,12 @@ TEST(EnterGameName, BrowsingForTheJoystickFileStartsInTheProgramsFolder)
 TEST(EnterGameName, SelectTakesAFolder)
 {
     Play t;
+    t.form().Text3.Text = "d:\\games";
     t.dialogues.folders = {"d:\\f22"};
     t.form().Command2.Click();
     EXPECT_EQ(t.form().Text3.Text.get(), "d:\\f22");
-    EXPECT_THAT(t.dialogues.folderTitles, ElementsAre("Select your game's working directory"));
+    EXPECT_EQ(t.dialogues.folderRequests[0].title, "Select your game's working directory");
+    EXPECT_EQ(t.dialogues.folderRequests[0].directory, "d:\\games");
 }
 
 TEST(EnterGameName, TheHelpButtonsTell)

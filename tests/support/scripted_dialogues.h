@@ -32,7 +32,7 @@ public:
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
     std::vector<FileRequest> saveRequests;
-    std::vector<std::string> folderTitles;
+    std::vector<FileRequest> folderRequests;
     std::vector<std::string> modalForms;
     std::vector<std::string> popUps; ///< names of the menus that popped up
     std::vector<std::string> popUpsAtCaret;
@@ -59,9 +59,9 @@ public:
         if (filesToSave.empty() && otherFilesToSave) return otherFilesToSave(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
     }
-    std::optional<std::string> chooseFolder(const std::string& title) override
+    std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) override
     {
-        folderTitles.push_back(title);
+        folderRequests.push_back({.title = title, .directory = directory});
         return next(folders, std::optional<std::string>(), "folder " + title);
     }
     bool showModal(const std::string& formName) override

@@ -52,6 +52,7 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     addPane(editor.macro, *m_macro,
             {MacroText_GotFocus, MacroText_KeyDown, MacroText_KeyUp, MacroText_Click, MacroText_MouseDown});
     bindPlaces();
+    m_bindings.follow(editor.platform.clipboard.changed, [this] { m_editor.operations.UpdateCCPButtons(); });
     m_bindings.timer(editor.Timer1, *this);
     m_bindings.timer(editor.TimerBlinkLine, *this);
     m_bindings.timer(editor.TimerJournal, *this);
@@ -96,7 +97,10 @@ void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
     });
     connect(&view, &PaneView::popUpWanted, this,
             [this, mouseDown = events.mouseDown](bool byKey) { mouseDown(m_editor, mouseButton::right, byKey); });
-    connect(&view, &PaneView::paneShown, this, [this] { showCaretColour(m_editor); });
+    connect(&view, &PaneView::paneShown, this, [this] {
+        showCaretColour(m_editor);
+        m_editor.operations.UpdateCCPButtons();
+    });
     connect(&view, &PaneView::filesDropped, this, &EditorView::filesDropped);
     connect(&view, &PaneView::overwriteModeChanged, this, [this](bool on) {
         m_joystick->setOverwriteMode(on);

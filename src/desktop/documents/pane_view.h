@@ -82,6 +82,7 @@ private:
     void formatShown();
     bool zoomByKey(const QKeyEvent& event);
     void tellKeyPress(const QKeyEvent& event);
+    void tellEdit();
 
     struct Selection {
         std::int64_t start = 0;

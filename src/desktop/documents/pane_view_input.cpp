@@ -61,6 +61,10 @@ bool PaneView::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.matches(QKeySequence::DeleteCompleteLine)) { // Ctrl+U is the menu's
+            event->ignore();
+            return true;
+        }
         if (pressKey && key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) event->accept(); // not the menu's
     }
     if (!isInput(*event)) return QPlainTextEdit::event(event);
@@ -94,6 +98,7 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         emit overwriteModeChanged(overwriteMode());
         return;
     }
+    if (event->key() == Qt::Key_Delete) tellEdit();
     tellKeyPress(*event);
     QPlainTextEdit::keyPressEvent(event);
 }
@@ -135,6 +140,12 @@ void PaneView::tellKeyPress(const QKeyEvent& event)
     showPane(); // the caret may have been moved out of the way
 }
 
+void PaneView::tellEdit()
+{
+    if (m_pane.EditComing) m_pane.EditComing();
+    showPane();
+}
+
 bool PaneView::zoomByKey(const QKeyEvent& event)
 {
     constexpr int step = 10;
@@ -163,6 +174,7 @@ void PaneView::wheelEvent(QWheelEvent* event)
 
 void PaneView::inputMethodEvent(QInputMethodEvent* event)
 {
+    if (!event->commitString().isEmpty() || !event->preeditString().isEmpty()) tellEdit();
     QPlainTextEdit::inputMethodEvent(event);
     settle();
     m_mirror.formats().formatComposing(textCursor().block());
@@ -189,6 +201,7 @@ bool PaneView::canInsertFromMimeData(const QMimeData* source) const { return !m_
 void PaneView::insertFromMimeData(const QMimeData* source)
 {
     settle();
+    tellEdit();
     insertContent(m_pane, fromMime(*source));
     settle();
     ensureCursorVisible();

@@ -23,7 +23,7 @@ EnterGameNameView::EnterGameNameView(EnterGameName& form, QWidget* parent)
     auto* path = new LineBox(form.Text2, QStringLiteral("Text2"), m_bindings);
     auto* directory = new LineBox(form.Text3, QStringLiteral("Text3"), m_bindings);
     auto* joystickFile = new LineBox(form.Text4, QStringLiteral("Text4"), m_bindings);
-    name->setMinimumWidth(name->fontMetrics().averageCharWidth() * widthInCharacters);
+    path->setMinimumWidth(path->fontMetrics().averageCharWidth() * widthInCharacters);
 
     auto* rows = new QGridLayout;
     addRow(*rows, QStringLiteral("&Name:"), name, nullptr, nullptr);
@@ -70,7 +70,7 @@ void EnterGameNameView::addRow(QGridLayout& rows, const QString& caption, QWidge
     label->setBuddy(box);
     rows.addWidget(label, row, 0);
     rows.addWidget(box, row, 1, 1, find == nullptr ? 3 : 1);
-    if (find != nullptr) rows.addWidget(find, row, 2, 1, help == nullptr ? 2 : 1);
+    if (find != nullptr) rows.addWidget(find, row, 2);
     if (help != nullptr) rows.addWidget(help, row, 3);
     rows.setColumnStretch(1, 1);
 }

@@ -144,10 +144,10 @@ QStringList nameFilters(const std::string& filter)
 }
 
 /// The directory asked for, else the user's own.
-QString QtDialogues::startDirectory(const FileRequest& request) const
+QString QtDialogues::startDirectory(const std::string& wanted) const
 {
     try {
-        const QString directory = toQt(m_drives.toNative(request.directory));
+        const QString directory = toQt(m_drives.toNative(wanted));
         if (QDir(directory).exists()) return directory;
     } catch (const RuntimeError&) { // no such drive
     }
@@ -163,7 +163,7 @@ std::optional<std::string> QtDialogues::askForFile(const FileRequest& request, b
     dialogue.setOption(QFileDialog::HideNameFilterDetails);
     if (!request.title.empty()) dialogue.setWindowTitle(toQt(request.title));
     dialogue.setNameFilters(nameFilters(request.filter));
-    dialogue.setDirectory(startDirectory(request));
+    dialogue.setDirectory(startDirectory(request.directory));
     if (!request.suggestedName.empty()) dialogue.selectFile(toQt(request.suggestedName));
     dialogue.setDefaultSuffix(toQt(request.defaultExtension));
     if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
@@ -173,13 +173,13 @@ std::optional<std::string> QtDialogues::askForFile(const FileRequest& request, b
 std::optional<std::string> QtDialogues::openFile(const FileRequest& request) { return askForFile(request, false); }
 std::optional<std::string> QtDialogues::saveFile(const FileRequest& request) { return askForFile(request, true); }
 
-std::optional<std::string> QtDialogues::chooseFolder(const std::string& title)
+std::optional<std::string> QtDialogues::chooseFolder(const std::string& title, const std::string& directory)
 {
     QFileDialog dialogue(parentNow());
     dialogue.setFileMode(QFileDialog::Directory);
     dialogue.setOption(QFileDialog::ShowDirsOnly);
     dialogue.setWindowTitle(toQt(title));
-    dialogue.setDirectory(QDir::homePath());
+    dialogue.setDirectory(startDirectory(directory));
     if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
     return m_drives.toDos(fromQt(dialogue.selectedFiles().constFirst()));
 }

@@ -32,7 +32,7 @@ public:
     Answer show(const MessageBox& box) override;
     std::optional<std::string> openFile(const FileRequest& request) override;
     std::optional<std::string> saveFile(const FileRequest& request) override;
-    std::optional<std::string> chooseFolder(const std::string& title) override;
+    std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) override;
     bool showModal(const std::string& formName) override;
     void popUp(const MenuItem& root) override;
     void popUpAtCaret(const MenuItem& root) override;
@@ -40,7 +40,7 @@ public:
 private:
     std::optional<std::string> askForFile(const FileRequest& request, bool save);
     void popUpAt(const MenuItem& root, const QPoint& place);
-    QString startDirectory(const FileRequest& request) const;
+    QString startDirectory(const std::string& wanted) const;
     QWidget* parentNow() const;
 
     const DriveMap& m_drives;

@@ -30,8 +30,8 @@ bool QtProcesses::waitUntilReadable(int file, int timeout)
 void QtProcesses::watch(int file)
 {
     auto notifier = std::make_unique<QSocketNotifier>(file, QSocketNotifier::Read);
-    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { reap(); },
-                     Qt::QueuedConnection);
+    QObject::connect(
+        notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { reap(); }, Qt::QueuedConnection);
     m_watched[file] = std::move(notifier);
 }
 

@@ -105,6 +105,8 @@ void MumWindow::addShortcuts()
         auto* shortcut = new QShortcut(QKeySequence(toQt(key.keys)), this);
         connect(shortcut, &QShortcut::activated, this, [this, &key] { pressPaneKey(m_program.editor, key.keys); });
     }
+    auto* colourBoth = new QShortcut(QKeySequence(QStringLiteral("Ctrl+B")), this); // as good as Ctrl+T
+    connect(colourBoth, &QShortcut::activated, this, [this] { m_program.menus.mnuViewApplyColourBothFiles.Click(); });
     auto* otherTab = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
     connect(otherTab, &QShortcut::activated, this, [this] { selectOtherTab(m_program.editor); });
 }

@@ -87,7 +87,6 @@ void ToolbarView::addSlot(const ToolbarSlot& slot)
     if (slot.number == pictureSlot) {
         button->setObjectName(QStringLiteral("Picture1"));
         action->setText(QStringLiteral("Colour of text at cursor"));
-        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C"))); // the bar is the only way to it
         m_bindings.follow(m_program.mum.Picture1, [this, &slot] { showPicture(slot); });
     }
     followSlot(slot, *action);

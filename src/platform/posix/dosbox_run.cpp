@@ -52,7 +52,7 @@ DosboxRun::DosboxRun(const DriveMap& drives, ProgramKind kind, const std::string
     // Cut short, it could name another file.
     if (rest.size() > dosTailLimit) throw RuntimeError(ErrorCode::InvalidCall, "Invalid procedure call or argument");
 
-    std::string lines = mountLines(m_paths);
+    std::string lines = mountLines(m_paths).append("cls").append(lineEnd); // the screen is the program's
     if (kind == ProgramKind::DosBatch) {
         lines += batchLines(place, inside, rest);
     } else {

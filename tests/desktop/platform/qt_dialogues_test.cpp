@@ -123,13 +123,17 @@ TEST(QtDialogues, ChosenFolderComesBackAsADosPath)
     const DriveMap drives({{}, "/tmp", directory.path(), directory.path()});
     QtDialogues dialogues(drives);
     QString title;
+    QString start;
     QTimer::singleShot(0, [&] {
         auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         title = dialogue->windowTitle();
+        start = dialogue->directory().path();
         dialogue->selectFile(QString::fromStdString(directory.path()));
         QMetaObject::invokeMethod(dialogue, "accept");
     });
-    const auto folder = dialogues.chooseFolder("Select your game's working directory");
+    const auto folder =
+        dialogues.chooseFolder("Select your game's working directory", drives.toDos(directory.path()) + "\\");
+    EXPECT_EQ(start.toStdString(), directory.path());
     EXPECT_EQ(title, "Select your game's working directory");
     ASSERT_TRUE(folder);
     EXPECT_EQ(drives.toNative(*folder), directory.path());
@@ -141,7 +145,7 @@ TEST(QtDialogues, CancelledFolderDialogueGivesNothing)
     const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
     QtDialogues dialogues(drives);
     QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-    EXPECT_FALSE(dialogues.chooseFolder("Select"));
+    EXPECT_FALSE(dialogues.chooseFolder("Select", "eg. d:\\f22\\program"));
 }
 
 TEST(QtDialogues, CancelledFileDialogueGivesNothing)

@@ -28,8 +28,9 @@ TEST(IsPlainDosName, OfNamesThatDosAndDosBoxKnowAsTheyAre)
 {
     for (const char* name : {"A", "MIG.B50", "mig29.b50", "12345678.123", "a_b-$#@!.()", "noext"})
         EXPECT_TRUE(isPlainDosName(name)) << name;
-    for (const char* name : {"", ".", "..", ".b50", "123456789", "a.1234", "a.b.c", "a b.b50", "a;b", "a%", "a&b", "a'b",
-                             "a~1", "a\n", "\xC3\xA4", "a.", "con", "Aux.b50", "lpt1.m50", "a+b", "a,b", "a=b", "a[b"})
+    for (const char* name :
+         {"",    ".",   "..",       ".b50", "123456789", "a.1234",  "a.b.c",    "a b.b50", "a;b", "a%",  "a&b", "a'b",
+          "a~1", "a\n", "\xC3\xA4", "a.",   "con",       "Aux.b50", "lpt1.m50", "a+b",     "a,b", "a=b", "a[b"})
         EXPECT_FALSE(isPlainDosName(name)) << name;
 }
 

@@ -1,7 +1,7 @@
 // DOS programs in the real DOSBox, which shows itself to nobody.
 
-#include "platform/posix/runners.h"
 #include "dos_show.h"
+#include "platform/posix/runners.h"
 #include "process_world.h"
 
 #include <cstdlib>

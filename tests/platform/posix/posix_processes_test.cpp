@@ -64,8 +64,7 @@ TEST(StartProgram, AProgramWhosePathHoldsSignsOfAShellIsThatProgram)
     w.script(odd + "/-load.exe", show);
     w.disk.put("drive_c/" + odd + "/x;y.b50", "");
     EXPECT_EQ(w.run("c:\\" + odd + "\\-load.exe c:\\" + odd + "\\x;y.b50", "c:\\" + odd), 0);
-    EXPECT_EQ(w.contents(odd + "/seen"),
-              w.driveC + "/" + odd + "\n<" + w.driveC + "/" + odd + "/x;y.b50>");
+    EXPECT_EQ(w.contents(odd + "/seen"), w.driveC + "/" + odd + "\n<" + w.driveC + "/" + odd + "/x;y.b50>");
 }
 
 TEST(StartProgram, APathWithALineEndIsOnePath)
@@ -74,8 +73,7 @@ TEST(StartProgram, APathWithALineEndIsOnePath)
     w.script("two\nlines/load.exe", show);
     const std::string folder = w.drives.toDos(w.driveC + "/two\nlines");
     EXPECT_EQ(w.run(folder + "\\load.exe " + folder + "\\x", folder), 0);
-    EXPECT_EQ(w.contents("two\nlines/seen"),
-              w.driveC + "/two\nlines\n<" + w.driveC + "/two\nlines/x>");
+    EXPECT_EQ(w.contents("two\nlines/seen"), w.driveC + "/two\nlines\n<" + w.driveC + "/two\nlines/x>");
 }
 
 TEST(StartProgram, WithABlankInItsPathIsTheTextBeforeTheBlank)
@@ -103,7 +101,8 @@ TEST(StartProgram, NeverOneFromTheCurrentFolderOrFromThePath)
 {
     ProcessWorld w;
     for (const std::string name : {"ls", "load.exe"}) w.script(name, "touch wrong\n");
-    for (const std::string line : {"ls", "load.exe", "load", ".\\load.exe", "\\load.exe", "c:load.exe", "/bin/true", "c:"})
+    for (const std::string line :
+         {"ls", "load.exe", "load", ".\\load.exe", "\\load.exe", "c:load.exe", "/bin/true", "c:"})
         EXPECT_EQ(w.run(line), 53) << line;
     EXPECT_EQ(w.contents("wrong"), "(missing)");
 }
@@ -229,14 +228,15 @@ TEST(Runner, OfWindowsProgramsIsTheOneOfPlatformIni)
     program.replace(0x40, 2, "PE");
     w.disk.put("drive_c/winld.exe", program);
     EXPECT_EQ(w.run("c:\\winld.exe c:\\a;b.b50 \"/X y\" Q"), 0);
-    EXPECT_EQ(w.contents("seen"), "<" + w.driveC + "/winld.exe><z:" +
-                                      [&] {
-                                          std::string path = w.driveC + "/a;b.b50";
-                                          for (char& c : path)
-                                              if (c == '/') c = '\\';
-                                          return path;
-                                      }() +
-                                      "></X y><Q>")
+    EXPECT_EQ(
+        w.contents("seen"), "<" + w.driveC + "/winld.exe><z:" +
+                                [&] {
+                                    std::string path = w.driveC + "/a;b.b50";
+                                    for (char& c : path)
+                                        if (c == '/') c = '\\';
+                                    return path;
+                                }() +
+                                "></X y><Q>")
         << "without a Wine prefix its drives aren't ours";
 }
 

@@ -27,7 +27,9 @@ ProgramKind kindOf(const std::string& name, const std::string& bytes)
 
 TEST(KindOfProgram, IsToldByTheContentsAndNotByTheName)
 {
-    EXPECT_EQ(kindOf("winld.exe", "\x7F" "ELF\2"), ProgramKind::Native);
+    EXPECT_EQ(kindOf("winld.exe", "\x7F"
+                                  "ELF\2"),
+              ProgramKind::Native);
     EXPECT_EQ(kindOf("b50load.exe", "#!/bin/sh\n"), ProgramKind::Native);
     EXPECT_EQ(kindOf("a.com", dosProgram("PE")), ProgramKind::Windows);
     EXPECT_EQ(kindOf("a.bat", dosProgram("NE")), ProgramKind::Windows);

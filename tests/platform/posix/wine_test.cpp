@@ -26,8 +26,8 @@ TEST(Wine, AProgramSeesItsFolderAndItsCommandLine)
     PosixFiles files(drives, writer);
     ScriptedDialogues dialogues;
     PosixProcesses processes(drives, files, dialogues, drives.toDos(disk.path()));
-    const ProcessId process = processes.start(
-        "c:\\windows\\system32\\cmd.exe /c echo one $(two) `three`> seen.txt", windowStyle::normal, drives.toDos(folder));
+    const ProcessId process = processes.start("c:\\windows\\system32\\cmd.exe /c echo one $(two) `three`> seen.txt",
+                                              windowStyle::normal, drives.toDos(folder));
     EXPECT_EQ(processes.wait(process, -1), waitResult::ended);
     EXPECT_EQ(bytesOf(folder + "/seen.txt"), "one $(two) `three`\r\n");
 }
