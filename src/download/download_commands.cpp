@@ -20,7 +20,6 @@ void wireDownload(Editor& editor, Games& games)
 {
     Menus& menus = editor.menus;
     menus.mnuSendToJoystick.handler = on(editor, mnuSendToJoystick_Click);
-    menus.mnuRHMDownload.handler = on(editor, mnuSendToJoystick_Click);
     menus.mnuAppsQuiet.handler = on(editor, mnuAppsQuiet_Click);
     menus.mnuUseWakeWarning.handler = on(editor, mnuUseWakeWarning_Click);
     games.LaunchGame = [&editor](const Game& game) { launchGame(editor, game); };
