@@ -1,20 +1,11 @@
 #include "download/download_commands.h"
 
+#include "documents/editor_handler.h"
 #include "download/download_command.h"
 #include "download/game_launch.h"
 #include "download/outside_tools.h"
 
 namespace tarvex {
-
-namespace {
-
-/// A command of the editor as a handler.
-template <typename Work> std::function<void()> on(Editor& editor, Work work)
-{
-    return [&editor, work] { work(editor); };
-}
-
-} // namespace
 
 void wireDownload(Editor& editor, Games& games)
 {
