@@ -122,6 +122,57 @@ void paintWholeText(benchmark::State& state)
 }
 BENCHMARK(paintWholeText);
 
+/// So many matches, each in a line of 31 characters and coloured.
+void replaceAll(benchmark::State& state)
+{
+    const auto matches = static_cast<std::size_t>(state.range(0));
+    std::string text;
+    for (std::size_t i = 0; i < matches; ++i) text += "BTN S1 /I Chaff_Flare // help\r\n";
+    Pane pane;
+    pane.setText(text);
+    for (std::int64_t line = 0; line < pane.lineCount() - 1; ++line) {
+        pane.setSelStart(pane.lineStart(line));
+        pane.setSelLength(3);
+        pane.setSelColor(255);
+    }
+    bool there = false;
+    const auto always = [](std::int64_t) { return true; };
+    for (auto _ : state) {
+        const Pane::Replaced replaced =
+            pane.replaceEach(there ? "BUTTON" : "BTN", there ? "BTN" : "BUTTON", 0, 0, always);
+        if (replaced.count != state.range(0)) state.SkipWithError("not all were replaced");
+        there = !there;
+    }
+    state.counters["characters"] = static_cast<double>(text.size());
+}
+BENCHMARK(replaceAll)->Arg(10'000)->Arg(20'000)->Arg(40'000)->Unit(benchmark::kMillisecond);
+
+/// For a word at the end of so many characters.
+void findAcross(benchmark::State& state)
+{
+    Pane pane;
+    pane.setText(joystickText(static_cast<std::size_t>(state.range(0))) + "needle");
+    for (auto _ : state) {
+        if (pane.Find("Needle", 0, Pane::toEnd, find::wholeWord) < 0) state.SkipWithError("not found");
+    }
+    state.SetBytesProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(findAcross)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+
+/// The last line but one of so many characters, by its number.
+void gotoLine(benchmark::State& state)
+{
+    Pane pane;
+    pane.setText(joystickText(static_cast<std::size_t>(state.range(0))));
+    for (auto _ : state) {
+        const std::int64_t line = pane.GetLineFromChar(state.range(0)) - 1;
+        pane.setSelStart(pane.lineStart(line));
+        pane.setSelLength(pane.lineStart(line + 1) - pane.lineStart(line));
+        benchmark::DoNotOptimize(pane.SelLength());
+    }
+}
+BENCHMARK(gotoLine)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+
 void getLineFromChar(benchmark::State& state)
 {
     Pane pane;

@@ -136,6 +136,26 @@ void openToPaintedView(benchmark::State& state)
 }
 BENCHMARK(openToPaintedView)->UseManualTime()->Unit(benchmark::kMillisecond);
 
+/// Every one of so many lines has a match.
+void replaceAllToPaintedView(benchmark::State& state)
+{
+    std::string text;
+    for (std::int64_t i = 0; i < state.range(0); ++i) text += "BTN S1 /I Chaff_Flare // help\r\n";
+    Shown shown;
+    shown.pane.setText(text);
+    shown.paint();
+    bool there = false;
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        shown.pane.replaceEach(there ? "BUTTON" : "BTN", there ? "BTN" : "BUTTON", 0, 0,
+                               [](std::int64_t) { return true; });
+        shown.paint();
+        state.SetIterationTime(secondsSince(start));
+        there = !there;
+    }
+}
+BENCHMARK(replaceAllToPaintedView)->Arg(10'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
 } // namespace
 } // namespace tarvex::benchmarks
 

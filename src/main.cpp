@@ -3,6 +3,7 @@
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/shell/mum_window.h"
 #include "desktop/text.h"
@@ -104,13 +105,15 @@ int runProgram(tarvex::Application& application, const std::string& file)
                            .programDirectory = directory,
                            .workingDirectory = fromQt(QDir::currentPath())});
     SystemCalls calls;
-    SafeWriter writer(directory + "/Recovery", calls);
+    SafeWriter writer(directory + "/Recover", calls);
     PosixFiles files(drives, writer);
     QtDialogues dialogues(drives);
     QtDesktop desktop(directory);
     SdlSound sound(drives);
     QtClipboard clipboard;
-    Platform platform{files, dialogues, desktop, sound, clipboard, drives.toDos(directory), drives.fromArgument(file)};
+    QtProcesses processes(drives, files, dialogues, drives.toDos(directory));
+    Platform platform{
+        files, dialogues, desktop, sound, clipboard, processes, drives.toDos(directory), drives.fromArgument(file)};
 
     Program program(platform);
     application.setErrorRecord(&program.shared.errors);

@@ -1,10 +1,12 @@
 #include "desktop/bind.h"
 
-#include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTabWidget>
 #include <QTimer>
 
 namespace tarvex {
@@ -15,11 +17,19 @@ void Bindings::button(Button& state, QAbstractButton& widget)
     bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
     bind(state.Visible, [&widget](bool on) { widget.setVisible(on); });
     bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
+    focus(state, widget);
     QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&state] { state.Click(); });
+}
+
+void Bindings::focus(Focusable& state, QWidget& widget)
+{
+    follow(state.focusWanted, [&widget] { widget.setFocus(Qt::OtherFocusReason); });
 }
 
 void Bindings::comboBox(ComboBox& state, QComboBox& widget)
 {
+    focus(state, widget);
+    if (widget.isEditable()) return editableComboBox(state, widget);
     const auto showText = [&state, &widget] {
         const QSignalBlocker quiet(widget);
         const QString text = toQt(state.Text.get());
@@ -41,9 +51,31 @@ void Bindings::comboBox(ComboBox& state, QComboBox& widget)
     });
 }
 
-void Bindings::focus(Focusable& state, QWidget& widget)
+void Bindings::editableComboBox(ComboBox& state, QComboBox& widget)
 {
-    follow(state.focusWanted, [&widget] { widget.setFocus(Qt::OtherFocusReason); });
+    const auto showText = [&state, &widget] {
+        const QSignalBlocker quiet(widget);
+        const QString text = toQt(state.Text.get());
+        if (text != widget.currentText()) widget.setEditText(text);
+    };
+    bind(state.Items, [&widget, showText](const std::vector<std::string>& items) {
+        const QSignalBlocker quiet(widget);
+        const QString written = widget.currentText();
+        QStringList texts;
+        for (const std::string& item : items) texts.append(toQt(item));
+        widget.clear();
+        widget.addItems(texts);
+        widget.setCurrentIndex(static_cast<int>(texts.indexOf(written))); // where the arrow keys go on from
+        widget.setEditText(written);
+        showText();
+    });
+    follow(state.Text, showText);
+    follow(state.selectAllWanted, [&widget] { widget.lineEdit()->selectAll(); });
+    QObject::connect(&widget, &QComboBox::editTextChanged, &widget,
+                     [&state](const QString& text) { state.Text = fromQt(text); });
+    QObject::connect(&widget, &QComboBox::activated, &widget, [&state] {
+        if (state.Click) state.Click();
+    });
 }
 
 void Bindings::textBox(TextBox& state, QLineEdit& widget)
@@ -55,6 +87,40 @@ void Bindings::textBox(TextBox& state, QLineEdit& widget)
     follow(state.selectAllWanted, [&widget] { widget.selectAll(); });
     QObject::connect(&widget, &QLineEdit::textChanged, &widget,
                      [&state](const QString& text) { state.Text = fromQt(text); });
+}
+
+void Bindings::checkBox(CheckBox& state, QCheckBox& widget)
+{
+    bind(state.Caption, [&widget](const std::string& caption) { widget.setText(toQt(caption)); });
+    bind(state.Value, [&widget](bool on) { widget.setChecked(on); });
+    QObject::connect(&widget, &QCheckBox::clicked, &widget, [&state](bool on) {
+        state.Value = on;
+        if (state.Click) state.Click();
+    });
+}
+
+void Bindings::optionButton(OptionButton& state, QRadioButton& widget)
+{
+    bind(state.Caption, [&widget](const std::string& caption) { widget.setText(toQt(caption)); });
+    bind(state.Value, [&widget](bool on) {
+        if (on) widget.setChecked(true); // which clears the others
+    });
+    QObject::connect(&widget, &QRadioButton::clicked, &widget, [&state] {
+        if (state.Click) state.Click();
+    });
+}
+
+void Bindings::tabs(TabStrip& state, QTabWidget& widget)
+{
+    for (int tab = 1; tab <= state.Count(); ++tab) {
+        bind(state.Tabs(tab).Caption,
+             [&widget, tab](const std::string& caption) { widget.setTabText(tab - 1, toQt(caption)); });
+    }
+    bind(state.SelectedItem, [&widget](int tab) {
+        const QSignalBlocker quiet(widget);
+        widget.setCurrentIndex(tab - 1);
+    });
+    QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&state](int index) { state.Select(index + 1); });
 }
 
 void Bindings::progressBar(ProgressBar& state, QProgressBar& widget)

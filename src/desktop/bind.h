@@ -7,10 +7,13 @@
 #include <vector>
 
 class QAbstractButton;
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QObject;
 class QProgressBar;
+class QRadioButton;
+class QTabWidget;
 class QWidget;
 
 namespace tarvex {
@@ -39,16 +42,23 @@ public:
 
     /// Caption, enabling, visibility and tool tip; a click of the user runs Click.
     void button(Button& state, QAbstractButton& widget);
-    /// Items and text; a choice of the user sets Text and runs Click.
+    /// Items and text; a choice of the user sets Text and runs Click. In an editable one what the user writes is Text.
     void comboBox(ComboBox& state, QComboBox& widget);
     /// Text, both ways.
     void textBox(TextBox& state, QLineEdit& widget);
+    /// Caption and tick; a click of the user sets Value and runs Click.
+    void checkBox(CheckBox& state, QCheckBox& widget);
+    /// Caption and choice; a click of the user runs Click.
+    void optionButton(OptionButton& state, QRadioButton& widget);
+    /// Captions, and the tab in front both ways; the widget has its pages already.
+    void tabs(TabStrip& state, QTabWidget& widget);
     void progressBar(ProgressBar& state, QProgressBar& widget);
     /// Runs Tick at its interval while it is enabled. `owner` owns the clockwork and bounds its life.
     void timer(Timer& state, QObject& owner);
 
 private:
     void focus(Focusable& state, QWidget& widget);
+    void editableComboBox(ComboBox& state, QComboBox& widget);
 
     std::vector<Connection> m_connections;
 };

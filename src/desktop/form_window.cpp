@@ -17,7 +17,7 @@ FormWindow::FormWindow(Form& form, const QString& name, QWidget* parent) : QDial
     m_bindings.follow(form.Visible, [this] { refresh(); });
     m_bindings.follow(form.frontWanted, [this] { refresh(); });
     m_bindings.follow(form.State, [this] {
-        if (isVisible()) refresh();
+        if (isVisible()) showState();
     });
     if (form.TopMost) setWindowFlag(Qt::WindowStaysOnTopHint);
 }
@@ -59,6 +59,15 @@ void FormWindow::refresh()
     showNormal();
     raise();
     activateWindow();
+}
+
+/// The keyboard stays where it is: windows that come back with the frame don't take it.
+void FormWindow::showState()
+{
+    if (m_form.State == WindowState::Minimised) return showMinimized();
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    showNormal();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 /// On top means before the program's other windows and those of other programs.

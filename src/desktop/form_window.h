@@ -30,6 +30,7 @@ protected:
     Bindings m_bindings; ///< let go before the widgets
 
 private:
+    void showState();
     void keepOnTop(bool on);
     void place();
     void reportPlace();

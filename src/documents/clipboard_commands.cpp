@@ -1,5 +1,7 @@
 #include "documents/clipboard_commands.h"
 
+#include "documents/line_highlight.h"
+#include "documents/protected_pane.h"
 #include "documents/rtf.h"
 #include "documents/tabs.h"
 #include "platform/windows1252.h"
@@ -46,8 +48,9 @@ void mnuEditCopy_Click(Editor& editor)
 void mnuEditCut_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditCut_Click");
+    endBlinking(editor);
     Pane& pane = editor.selected().pane;
-    if (pane.Locked || pane.SelLength() == 0) return;
+    if (pane.SelLength() == 0 || refuseProtected(editor)) return;
     step([&] {
         editor.platform.clipboard.put(selectionContent(pane));
         pane.setSelText("");
@@ -58,6 +61,8 @@ void mnuEditCut_Click(Editor& editor)
 void mnuEditPaste_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditPaste_Click");
+    endBlinking(editor);
+    if (refuseProtected(editor)) return;
     step([&] { insertContent(editor.selected().pane, editor.platform.clipboard.get()); });
     UpdateCCPButtons(editor);
 }
@@ -65,8 +70,10 @@ void mnuEditPaste_Click(Editor& editor)
 void mnuEditDelete_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditDelete_Click");
+    endBlinking(editor);
     Pane& pane = editor.selected().pane;
-    if (!pane.Locked && pane.SelLength() > 0) step([&] { pane.setSelText(""); });
+    if (pane.SelLength() == 0 || refuseProtected(editor)) return;
+    step([&] { pane.setSelText(""); });
     UpdateCCPButtons(editor);
 }
 

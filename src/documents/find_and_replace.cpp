@@ -121,8 +121,11 @@ void open(FindAndReplace& window, int tab)
     window.form.Show(); // first, because only what is shown can take the keyboard
     const int document = window.editor.TabStrip1.SelectedItem;
     for (const FindPage& page : {findPage(window), replacePage(window)}) chooseFile(window, page, document);
-    if (window.SSTab1.SelectedItem != tab) return window.SSTab1.Select(tab);
-    focusTab(window);
+    if (window.SSTab1.SelectedItem != tab) {
+        window.SSTab1.Select(tab);
+    } else {
+        focusTab(window);
+    }
     window.ComboTextFind.SelectAll();
     window.ComboTextReplaceFind.SelectAll();
 }
@@ -146,15 +149,16 @@ FindAndReplace::FindAndReplace(Editor& theEditor) : editor(theEditor)
     LineToFind.GotFocus = quietly([this] { LineToFind.SelectAll(); });
 }
 
-void wireFindAndReplace(FindAndReplace& window, Operations& operations)
+void wireFindAndReplace(FindAndReplace& window)
 {
     Menus& menus = window.editor.menus;
     menus.mnuEditFind.handler = [&window] { mnuEditFind_Click(window); };
     menus.mnuEditReplace.handler = [&window] { mnuEditReplace_Click(window); };
     menus.mnuEditGoto.handler = [&window] { mnuEditGoto_Click(window); };
-    operations.UnloadForm += [&window](const std::string& name) {
-        if (name == formName) Form_Unload(window);
-    };
+    window.editor.mum.toolWindows.add({.name = formName,
+                                       .form = &window.form,
+                                       .openFlag = &window.editor.shared.FindWindowOpen,
+                                       .unload = [&window] { Form_Unload(window); }});
 }
 
 void Form_Load(FindAndReplace& window)

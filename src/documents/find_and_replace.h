@@ -64,7 +64,7 @@ private:
 };
 
 /// Gives the commands of the menu their handlers.
-void wireFindAndReplace(FindAndReplace& window, Operations& operations);
+void wireFindAndReplace(FindAndReplace& window);
 
 void Form_Load(FindAndReplace& window);
 void Form_Unload(FindAndReplace& window);

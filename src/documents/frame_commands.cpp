@@ -2,6 +2,7 @@
 
 #include "documents/clipboard_commands.h"
 #include "documents/colour_selector.h"
+#include "documents/toolbar.h"
 #include "shell/toolbar_tips.h"
 
 namespace tarvex {
@@ -30,6 +31,7 @@ void wireFrame(Editor& editor)
     ColourSelector& selector = editor.ColourSelector;
     for (std::size_t index = 0; index < ColourSelector::count; ++index)
         selector.Command1[index].handler = [&editor, index] { ColourSelector_Command1_Click(editor, index); };
+    editor.menus.mnuViewTextColour.handler = [&editor] { Picture1_Click(editor); };
     mum.toolWindows.add({.name = "ColourSelector", .form = &selector.form, .openFlag = nullptr, .unload = nullptr});
 }
 

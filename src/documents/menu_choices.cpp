@@ -2,15 +2,11 @@
 
 namespace tarvex {
 
-namespace {
-
 void toggle(MenuItem& item, std::int16_t& setting)
 {
     item.Checked = !item.Checked;
     setting = item.Checked ? 1 : 0;
 }
-
-} // namespace
 
 void mnuJoyPopUpSingleFile_Click(Editor& editor)
 {

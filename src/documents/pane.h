@@ -162,6 +162,8 @@ public:
 
     /// A character key (its code; 8 Backspace, 13 Return) was pressed and hasn't changed the text yet. Run by the view.
     std::function<void(int)> KeyPress;
+    /// The user is about to write or delete by something else: the Delete key, a paste, an input method. Run by the view.
+    std::function<void()> EditComing;
     std::function<void()> Change; ///< text or look was written
 
     /// What the views of the pane must bring up to date. The text of a view stays right when each `edited` is applied

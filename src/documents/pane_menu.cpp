@@ -25,8 +25,7 @@ void updateItems(Editor& editor, const Side& side)
     const bool selection = side.pane.SelLength() > 0;
     for (MenuItem* item : {&menus.mnuRHMCut, &menus.mnuRHMCopy, &menus.mnuRHMColoursSelection, &menus.mnuRHMDelete})
         item->Enabled = selection;
-    const ClipboardContent clipboard = editor.platform.clipboard.get();
-    menus.mnuRHMPaste.Enabled = !clipboard.text.empty() || !clipboard.rtf.empty();
+    menus.mnuRHMPaste.Enabled = editor.platform.clipboard.holdsText();
     menus.mnuRHMProtect.Checked = menus.mnuPreferencesProtectMacroFile.Checked.get();
     menus.mnuRHMProtect.Enabled = menus.mnuPreferencesProtectMacroFile.Enabled.get();
     const MenuItem& download = menus.mnuSendToJoystick;

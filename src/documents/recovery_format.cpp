@@ -121,6 +121,20 @@ std::optional<JournalStart> readStart(const Record& record)
     return start;
 }
 
+/// False: the record makes no sense, and nothing was done.
+bool follow(Journal& journal, const Record& record)
+{
+    Contents contents(record.contents);
+    if (record.kind == journalKind::edit) {
+        const TextEdit edit = contents.edit();
+        return contents.wereWhole() && apply(journal.text, edit);
+    }
+    if (record.kind != journalKind::partner) return false;
+    const std::string path = contents.text();
+    if (contents.wereWhole()) journal.start.partnerPath = path;
+    return contents.wereWhole();
+}
+
 } // namespace
 
 std::uint64_t checkSum(std::string_view bytes, std::uint64_t seed)
@@ -192,6 +206,13 @@ std::string journalEdit(const TextEdit& edit, std::uint64_t& chain)
     return journalRecord(journalKind::edit, contents, chain);
 }
 
+std::string journalPartner(std::string_view path, std::uint64_t& chain)
+{
+    std::string contents;
+    put(contents, path);
+    return journalRecord(journalKind::partner, contents, chain);
+}
+
 JournalState readJournal(std::string_view bytes, Journal& journal)
 {
     if (bytes.size() < mark.size() && mark.starts_with(bytes)) return JournalState::Unbegun;
@@ -200,16 +221,14 @@ JournalState readJournal(std::string_view bytes, Journal& journal)
 
     std::uint64_t chain = 0;
     const auto first = takeRecord(bytes, chain);
-    const auto start = first ? readStart(*first) : std::nullopt;
+    auto start = first ? readStart(*first) : std::nullopt;
     if (!start) return JournalState::Unbegun;
     std::string text = start->base;
     if (!apply(text, start->edit)) return JournalState::Unbegun;
+    journal = {std::move(*start), std::move(text)};
     while (const auto record = takeRecord(bytes, chain)) {
-        Contents contents(record->contents);
-        const TextEdit edit = contents.edit();
-        if (record->kind != journalKind::edit || !contents.wereWhole() || !apply(text, edit)) break;
+        if (!follow(journal, *record)) break;
     }
-    journal = {*start, std::move(text)};
     return JournalState::Readable;
 }
 

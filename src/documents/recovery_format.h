@@ -6,8 +6,9 @@
 #include <string_view>
 
 // The file that keeps what is typed until it is saved: a mark, a start record with the text as it was saved last and
-// what has become of it, and a record for each edit since. Each record carries its length and a check sum that also
-// covers all records before it, so that a half-written end, or one of another time, is told from the rest.
+// what has become of it, and a record for each edit since, and for each other file in the pane beside it. Each record
+// carries its length and a check sum that also covers all records before it, so that a half-written end, or one of
+// another time, is told from the rest.
 
 namespace tarvex {
 
@@ -49,6 +50,8 @@ struct JournalStart {
 // The bytes to append, in order. `chain` is the check sum so far: 0 at first, brought up to date by each call.
 std::string journalStart(const JournalStart& start, std::uint64_t& chain);
 std::string journalEdit(const TextEdit& edit, std::uint64_t& chain);
+/// The file in the other pane is another one now.
+std::string journalPartner(std::string_view path, std::uint64_t& chain);
 /// One record with contents that may be anything.
 std::string journalRecord(char kind, std::string_view contents, std::uint64_t& chain);
 std::string_view journalMark();
@@ -56,6 +59,7 @@ std::string_view journalMark();
 namespace journalKind {
 constexpr char start = 'S';
 constexpr char edit = 'E';
+constexpr char partner = 'P';
 } // namespace journalKind
 
 struct Journal {

@@ -26,16 +26,22 @@ std::uint64_t nextNumber(Editor& editor)
     return ++last;
 }
 
-JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
+/// The file beside a document, when there is one.
+std::string partnerPath(Editor& editor, const Side& side)
 {
     const Side& partner = editor.other(side);
+    return partner.Journal.File ? partner.FilePath : std::string();
+}
+
+JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
+{
     std::string base = side.Journal.Base.text();
     TextEdit edit = differenceOf(base, side.pane.Text());
     return {.tab = side.tab,
             .replaces = replaces,
             .path = side.FilePath,
             .name = side.FileName,
-            .partnerPath = partner.Journal.File ? partner.FilePath : std::string(),
+            .partnerPath = partnerPath(editor, side),
             .file = side.Journal.File,
             .base = std::move(base),
             .edit = std::move(edit)};
@@ -61,12 +67,11 @@ void wrote(Editor& editor, JournalRecord& journal, std::size_t size)
     editor.TimerJournal.Enabled = true;
 }
 
-void append(Editor& editor, JournalRecord& journal, const TextEdit& edit)
+void append(Editor& editor, JournalRecord& journal, const std::string& bytes)
 {
     const Steps step(editor.shared.errors, tag);
     bool written = false;
     step([&] {
-        const std::string bytes = journalEdit(edit, journal.Chain);
         journal.Out->append(bytes);
         wrote(editor, journal, bytes.size());
         written = true;
@@ -161,6 +166,10 @@ void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& f
     journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
     journal.Unwritten.reset();
     journal.Unsynced = journal.Failed = false;
+
+    Side& partner = editor.other(side);
+    if (partner.Journal.Out)
+        append(editor, partner.Journal, journalPartner(partnerPath(editor, partner), partner.Journal.Chain));
 }
 
 void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
@@ -199,7 +208,7 @@ void writeDownChanges(Editor& editor, Side& side)
     JournalRecord& journal = side.Journal;
     if (!journal.Unwritten || journal.Failed) return;
     if (!journal.Out) return beginJournal(editor, side, journal.Number);
-    append(editor, journal, takeUnwritten(side));
+    append(editor, journal, journalEdit(takeUnwritten(side), journal.Chain));
     if (journal.Out && hasOutgrown(side)) beginJournal(editor, side, journal.Number);
 }
 

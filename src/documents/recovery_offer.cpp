@@ -116,25 +116,26 @@ Offer sortedOut(std::vector<LeftJournal> journals)
     return offer;
 }
 
+/// What becomes of a text whose file somebody else has written.
+std::string newNameInBox(Editor& editor, const LeftJournal& found)
+{
+    if (found.fileIsSame) return {};
+    return "\n\n" + fileNameOf(found.journal.start.name) +
+           " isn't what it was then, so I'd leave the file alone and call yours " + fileNameOf(pathFor(editor, found)) +
+           ".";
+}
+
 std::string boxText(Editor& editor, const Offer& offer)
 {
     std::string text = "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been "
                        "taking notes all along, and here's what I've got:\n";
-    for (const LeftJournal& found : offer.wanted) {
-        const std::string& name = found.journal.start.name;
-        const std::string newName = fileNameOf(pathFor(editor, found));
-        text += "\n    " + name;
-        if (!found.fileIsSame)
-            text +=
-                "  (its file isn't what it was any more, so I'd call this " + newName + " and leave the file alone)";
-    }
-    const std::string directory = journalDirectory(editor);
-    text += "\n\nShall I bring it back? It will be just as you left it, not saved yet, and one Undo away from what was "
-            "saved. If you press No I'll put it into " +
-            directory + " as plain text and won't bother you with it again.";
+    for (const LeftJournal& found : offer.wanted) text += "\n    " + fileNameOf(found.journal.start.name);
+    for (const LeftJournal& found : offer.wanted) text += newNameInBox(editor, found);
+    text += "\n\nShall I bring it back? It will be just as you left it: not saved yet, and one Undo away from what was "
+            "saved. If you press No it goes as plain text into\n\n    " +
+            journalDirectory(editor) + "\n\nand I won't bother you with it again.";
     if (!offer.older.empty())
-        text +=
-            "\n\nThere are older notes as well; I'll put those there in any case, as there's no room for them here.";
+        text += " That's where I'll put some older notes in any case, as there's no room for them here.";
     return text;
 }
 
@@ -160,7 +161,11 @@ std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
         });
     }
     if (offer.wanted.size() == 1) step([&] { openPartner(editor, offer.wanted.front(), open); });
-    editor.TabStrip1.Select(sideOf(editor, offer.wanted.front()).tab);
+    step([&] { editor.TabStrip1.Select(sideOf(editor, offer.wanted.front()).tab); });
+    Operations& operations = editor.operations;
+    step([&] {
+        editor.shared.settings.CheckIdentifyOK == 1 ? operations.IdentifyMacrosUsed() : operations.ClearMacroTicks();
+    });
     return open;
 }
 

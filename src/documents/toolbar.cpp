@@ -16,9 +16,15 @@ constexpr std::string_view greeting = "Hi there buddy, I'm the status bar";
 
 constexpr ToolbarSlot slots[] = {
     {1, "Create a new joystick or macro file", &Menus::mnuFileNewJoystick, &Menus::mnuFileNewMacro},
-    {2, "Open a file", &Menus::mnuFileJoystickLoad, &Menus::MnuFileMacroLoad,
+    {2,
+     "Open a file",
+     &Menus::mnuFileJoystickLoad,
+     &Menus::MnuFileMacroLoad,
      {&Settings::OpenBothOnToolbar, &Menus::mnuFileOpen, "Open joystick file and its macro file"}},
-    {3, "Save currently selected file", &Menus::mnuFileSave, nullptr,
+    {3,
+     "Save currently selected file",
+     &Menus::mnuFileSave,
+     nullptr,
      {&Settings::SaveBothOnToolbar, &Menus::mnuFileSaveBoth, "Save both files"}},
     {5, "Print currently selected file", &Menus::mnuFilePrintJoystick, &Menus::mnuFilePrintMacro},
     {7, "Cut", &Menus::mnuEditCut},

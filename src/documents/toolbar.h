@@ -10,7 +10,7 @@ namespace tarvex {
 /// A button of Toolbar1, by its number from 1, and what it is for. Numbers without a row are separators.
 struct ToolbarSlot {
     int number;
-    std::string_view hoverText; ///< for status panel 1
+    std::string_view hoverText;          ///< for status panel 1
     MenuItem Menus::*joystick = nullptr; ///< the command while tab 1 is selected; none: no command of the menus
     MenuItem Menus::*macro = nullptr;    ///< while tab 2 is; none: the same
     /// What stands in for all of it while a setting is 1.

@@ -2,6 +2,7 @@
 
 #include "documents/line_highlight.h"
 #include "documents/loading.h"
+#include "documents/protected_pane.h"
 #include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 
@@ -19,6 +20,7 @@ void keyPress(Side& side, int key)
 {
     UndoHistory& history = side.Undo;
     side.Caret = static_cast<float>(side.pane.SelStart());
+    if (key != backspaceKey && key != returnKey && key != blankKey) history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
     // What is typed on an undone state mustn't overwrite the newest one.
     if (history.Position != 1) {
         side.TakeNewLevel = 1;
@@ -45,7 +47,7 @@ void showLevel(Editor& editor, std::size_t level)
 {
     Side& side = editor.selected();
     UndoHistory& history = side.Undo;
-    if (level < 1 || level > history.Text.size() || side.pane.Locked) return;
+    if (level < 1 || level > history.Text.size() || refuseProtected(editor)) return;
     const Loading loading(editor.shared);
     history.Position = level;
     side.pane.setTextRTF(history.Text[level - 1]);

@@ -145,7 +145,7 @@ struct OptionButton {
 
 struct ComboBox : Focusable {
     Property<std::vector<std::string>> Items;
-    Property<std::string> Text; ///< the text shown: one of Items, or where the view lets the user write, any
+    Property<std::string> Text;  ///< the text shown: one of Items, or where the view lets the user write, any
     std::function<void()> Click; ///< the user chose an item
     Signal<> selectAllWanted;
     void SelectAll() const { selectAllWanted(); }

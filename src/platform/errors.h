@@ -17,6 +17,7 @@ enum class ErrorCode : int {
     DiskFull = 61,
     InputPastEnd = 62,
     BadFileName = 64,
+    DeviceUnavailable = 68,
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,

@@ -3,6 +3,7 @@
 #include "platform/errors.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +45,12 @@ public:
 
     /// The whole file.
     virtual std::string read(const std::string& path) const = 0;
+    /// Hands the file's bytes to `take`, one piece after the other, until it returns false or the file ends: for files
+    /// of any size.
+    virtual void readPieces(const std::string& path, const std::function<bool(std::string_view)>& take) const
+    {
+        take(read(path));
+    }
     /// Replaces or creates the whole file: afterwards, whatever happens, the old or the new contents are there.
     virtual void write(const std::string& path, const std::string& bytes) = 0;
     /// One level; the parent must exist. An existing directory is an error.

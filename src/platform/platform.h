@@ -2,6 +2,7 @@
 
 #include "platform/dialogues.h"
 #include "platform/files.h"
+#include "platform/processes.h"
 
 #include <string>
 
@@ -47,6 +48,7 @@ public:
     virtual ClipboardContent get() const = 0;
     /// There is a text to get, plain or as RTF. Cheap enough for every key.
     virtual bool holdsText() const = 0;
+    Signal<> changed; ///< it may hold something else than before, by whoever
 };
 
 /// The world as the program sees it. All members outlive the program.
@@ -56,6 +58,7 @@ struct Platform {
     Desktop& desktop;
     Sound& sound;
     Clipboard& clipboard;
+    Processes& processes;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
     std::string commandLine; ///< one DOS path or nothing
 };

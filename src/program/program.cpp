@@ -15,6 +15,7 @@
 #include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
+#include "download/download_commands.h"
 #include "language/language_commands.h"
 #include "shell/mum_window.h"
 
@@ -96,6 +97,8 @@ void wirePanes(Editor& editor)
     editor.MacroText.Change = on(editor, MacroText_Change);
     editor.JoystickText.KeyPress = [&editor](int key) { JoystickText_KeyPress(editor, key); };
     editor.MacroText.KeyPress = [&editor](int key) { MacroText_KeyPress(editor, key); };
+    editor.JoystickText.EditComing = on(editor, endBlinking);
+    editor.MacroText.EditComing = on(editor, endBlinking);
     editor.TabStrip1.Click = on(editor, TabStrip1_Click);
     editor.Timer1.Tick = on(editor, Timer1_Timer);
     editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);
@@ -112,9 +115,10 @@ Program::Program(Platform& thePlatform)
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
     wirePaneMenu(editor);
-    wireFindAndReplace(findAndReplace, operations);
+    wireFindAndReplace(findAndReplace);
     wireFrame(editor);
     wireLanguage(editor);
+    wireDownload(editor, lists.games);
     followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };

@@ -61,7 +61,7 @@ MenuEntry editMenu(Menus& m)
                                command(m.mnuEditREMblock, "Ctrl+Shift+K"),
                                command(m.mnuEditREMunblock, "Ctrl+Shift+U"),
                                divider,
-                               command(m.mnuEditUpdateMacros),
+                               command(m.mnuEditUpdateMacros, "Ctrl+U"),
                                command(m.mnuEditTmCFG),
                            });
 }
@@ -79,6 +79,7 @@ MenuEntry viewMenu(Menus& m)
                                     {command(m.mnuRemoveColourJoystick), command(m.mnuRemoveColourMacro),
                                      command(m.mnuRemoveColourSelectedText)}),
                                command(m.mnuViewEditColours),
+                               command(m.mnuViewTextColour, "Ctrl+Shift+C"),
                                divider,
                                command(m.mnuViewReformat, "Ctrl+H"),
                                command(m.mnuViewrefreshIndent),
@@ -129,7 +130,7 @@ MenuEntry appsMenu(Menus& m)
                                command(m.mnuAppsImageViewer),
                                command(m.mnuSendToKeyTest, "Ctrl+K"),
                                command(m.mnuAppsTemplate, "Shift+F11"),
-                               command(m.mnuAppsJoyAnalyser),
+                               command(m.mnuAppsJoyAnalyser, "F11"),
                                divider,
                                command(m.mnuLauncher),
                                command(m.mnuAppsCandCC),

@@ -29,7 +29,7 @@ struct Menus {
     MenuItem mnuFileClose{"mnuFileClose", "&Close"};
     MenuItem mnuFileCloseBoth{"mnuFileCloseBoth", "C&lose both files"};
     MenuItem mnuFilePrintJoystick{"mnuFilePrintJoystick", "&Print joystick file"};
-    MenuItem mnuFilePrintMacro{"mnuFilePrintMacro", "Print mac&ro file"};
+    MenuItem mnuFilePrintMacro{"mnuFilePrintMacro", "Print macro &file"};
     MenuItem mnuFilePrinterSetup{"mnuFilePrinterSetup", "Prin&ter setup..."};
     MenuItem mnuFilePrevious{"mnuFilePrevious", "P&revious joystick files"};
     MenuArray mnuJFArray{"mnuJFArray", {"(no files yet)"}};
@@ -56,7 +56,7 @@ struct Menus {
     MenuItem mnuEditREMblock{"mnuEditREMblock", "Comment &out block"};
     MenuItem mnuEditREMunblock{"mnuEditREMunblock", "Restore &block"};
     MenuItem mnuEditUpdateMacros{"mnuEditUpdateMacros", "Update &macros"};
-    MenuItem mnuEditTmCFG{"mnuEditTmCFG", "Edit tm.c&fg"};
+    MenuItem mnuEditTmCFG{"mnuEditTmCFG", "Ed&it tm.cfg"};
 
     MenuItem mnuView{"mnuView", "&View"};
     MenuItem mnuViewTileVertically{"mnuViewTileVertically", "&Tile vertically"};
@@ -69,6 +69,7 @@ struct Menus {
     MenuItem mnuRemoveColourMacro{"mnuRemoveColourMacro", "From the &macro file"};
     MenuItem mnuRemoveColourSelectedText{"mnuRemoveColourSelectedText", "From the &selected text"};
     MenuItem mnuViewEditColours{"mnuViewEditColours", "&Edit colours..."};
+    MenuItem mnuViewTextColour{"mnuViewTextColour", "Te&xt colour..."};
     MenuItem mnuViewReformat{"mnuViewReformat", "&Reformat"};
     MenuItem mnuViewrefreshIndent{"mnuViewrefreshIndent", "Refresh &indent"};
     MenuItem mnuViewAlignSlashes{"mnuViewAlignSlashes", "&Align slashes"};

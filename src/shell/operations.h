@@ -21,8 +21,9 @@ struct Operations {
     Operation<> UpdateEditorTooltips;
     Operation<> DamnFontWasChanged; ///< the pane font was changed in the preferences
 
-    Operation<const std::string&> HelpKeyword; ///< shows the help on a word of the user's, UTF-8
     Operation<> UpdateCCPButtons; ///< Cut, Copy and Paste follow selection and clipboard
+
+    Operation<const std::string&> HelpKeyword; ///< shows the help on a word of the user's, UTF-8
 
     // language
     Operation<> ApplyColourHighlighting;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "shell/current_directory.h"
 #include "shell/errors.h"
 #include "shell/settings.h"
 #include "shell/settings_store.h"
@@ -12,13 +13,18 @@ namespace tarvex {
 
 /// Process-wide values: one struct, passed in, so that many programs can live in one process.
 struct Shared {
-    explicit Shared(Platform& platform) : store(platform.files, platform.programDirectory, settings, errors) {}
+    explicit Shared(Platform& platform)
+        : store(platform.files, platform.programDirectory, settings, errors),
+          currentDirectory(platform.files, platform.programDirectory)
+    {
+    }
     Shared(const Shared&) = delete;
     Shared& operator=(const Shared&) = delete;
 
     Settings settings;
     ErrorRecord errors;
     SettingsStore store; ///< moves `settings` to and from the INI files
+    CurrentDirectory currentDirectory;
 
     std::string IniFilePath;                ///< of Tarvex.ini
     std::string BackupDirectory;            ///< with "\" at the end

@@ -44,6 +44,7 @@ constexpr ToolTip toolTips[] = {
     {42, "Thrustmaster Control Centre"},
     {44, "Download joystick file to joystick (F12)"},
     {45, "Compile joystick file (Shift F12)"},
+    {46, "Edit Preferences (F9)"},
     {47, "Edit Preferences (F9)"},
     {48, "Help topics (F1)"}, // no such button
 };
@@ -62,8 +63,7 @@ void UpdateTooltips(Mum& mum, const Settings& settings)
 {
     const Steps step;
     if (!tipsAreOn(settings)) {
-        for (int number = 1; number <= lastTip; ++number)
-            step([&] { mum.Toolbar1.Buttons(number).ToolTipText = ""; });
+        for (int number = 1; number <= lastTip; ++number) step([&] { mum.Toolbar1.Buttons(number).ToolTipText = ""; });
         return;
     }
     for (const ToolTip& tip : toolTips) step([&] { mum.Toolbar1.Buttons(tip.number).ToolTipText = tip.text; });

@@ -41,6 +41,27 @@ TEST(ReadJournal, GivesBackWhatWasWritten)
     EXPECT_EQ(textOf(written.bytes), "yc\r\n\xE9");
 }
 
+TEST(ReadJournal, TheLastPartnerCounts)
+{
+    Written written;
+    written.bytes += journalPartner("c:\\tm\\other.b50", written.chain);
+    written.edit({0, 0, "1"});
+    Journal journal;
+    ASSERT_EQ(readJournal(written.bytes, journal), JournalState::Readable);
+    EXPECT_EQ(journal.start.partnerPath, "c:\\tm\\other.b50");
+    EXPECT_EQ(journal.text, "1axyc");
+}
+
+TEST(ReadJournal, ARecordOfUnknownKindOrContentsEndsTheText)
+{
+    for (const auto& [kind, contents] : {std::pair{'X', ""}, {'E', "short"}, {'P', "longer than it says"}, {'S', ""}}) {
+        Written written;
+        written.bytes += journalRecord(kind, contents, written.chain);
+        written.edit({0, 0, "behind it"});
+        EXPECT_EQ(textOf(written.bytes), "axyc") << kind;
+    }
+}
+
 TEST(ReadJournal, CutAnywhereGivesTheTextAfterTheLastWholeRecord)
 {
     Written written;

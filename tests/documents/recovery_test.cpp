@@ -314,6 +314,37 @@ TEST(Recovery, OpensTheFileThatStoodBesideIt)
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2) << "where there is something to save";
 }
 
+TEST(Recovery, OpensTheFileThatStoodBesideItASecondTimeToo)
+{
+    OpenPair t;
+    t.typeMacro("x");
+    t.killAndStart({Answer::Yes});
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
+    t.typeJoystick("y");
+    t.killAndStart({Answer::Yes});
+    t.editor().TabStrip1.Select(2);
+    t.menus().mnuFileSave.Click();
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "yBTN S1 fire\r\n");
+    EXPECT_EQ(t.editor().MacroText.Text(), "xfire = x\r\n");
+}
+
+TEST(Recovery, OpensTheFileThatCameToStandBesideItLater)
+{
+    OpenPair t;
+    t.typeMacro("x");
+    t.files.addFile("c:\\tm\\b50progs\\su27.b50", "BTN S2 b");
+    t.dialogues.filesToOpen = {"c:\\tm\\b50progs\\su27.b50"};
+    t.menus().mnuFileJoystickLoad.Click();
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S2 b");
+    t.menus().mnuFileNewJoystick.Click();
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "");
+    EXPECT_EQ(t.editor().MacroText.Text(), "xfire = x\r\n");
+}
+
 TEST(Recovery, AnUntitledDocumentComesBackUntitled)
 {
     TestProgram t;
@@ -497,6 +528,17 @@ TEST(Recovery, ListsTheMacrosOfTheFile)
     ASSERT_EQ(t.editor().FrameMacros.List1[0].Items.get().size(), 1U) << "as they are in the file";
 }
 
+TEST(Recovery, TicksTheMacrosInUseWhenOpeningBothFilesWould)
+{
+    OpenPair t;
+    t.setIni("Miscellaneous", "CheckIdentifyOK", "1");
+    t.typeJoystick("x");
+    t.killAndStart({Answer::Yes});
+    ASSERT_EQ(t.settings().CheckIdentifyOK, 1);
+    ASSERT_EQ(t.editor().FrameMacros.List1[0].Items.get().size(), 1U);
+    EXPECT_TRUE(t.editor().FrameMacros.List1[0].Items.get()[0].Selected);
+}
+
 // ---- and the file of the command line ----
 
 TEST(Recovery, TheFileOnTheCommandLineIsNotOpenedOverItsOwnText)
@@ -617,7 +659,6 @@ TEST(Recovery, OfTwoForOnePaneTheNewestComesBackAndTheOtherIsPutAside)
     OpenPair t;
     t.typeJoystick("new");
     std::uint64_t chain = 0;
-    t.files.addFile("c:\\tarvex\\Recover\\0.journal", "");
     t.files.addFile(std::string(directory) + "\\1.journal", journalStart({.tab = 1,
                                                                           .replaces = 0,
                                                                           .path = "c:\\a\\old.b50",

@@ -264,6 +264,44 @@ TEST_F(UndoTest, AKeyDuringTheFlashingDoesNotWriteOverTheLine)
     EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
 }
 
+TEST_F(UndoTest, ClipboardCommandsDuringTheFlashingLeaveTheLineAlone)
+{
+    t.clipboard.content.text = "x";
+    for (MenuItem* item : {&t.menus().mnuEditCut, &t.menus().mnuEditDelete, &t.menus().mnuEditPaste}) {
+        pane.setText("first\r\nsecond");
+        pane.setSelStart(9);
+        t.menus().mnuViewHighlightLine.Click();
+        EXPECT_EQ(pane.SelText(), "second");
+        item->Click();
+        EXPECT_EQ(pane.Text(), item == &t.menus().mnuEditPaste ? "first\r\nxsecond" : "first\r\nsecond") << item->Name;
+    }
+}
+
+TEST_F(UndoTest, ACharacterTypedAfterAnUndoEndsTheRunOfBlanks)
+{
+    press("ab ");
+    t.menus().mnuEditUndo.Click();
+    editor.TimerBlinkLine.Enabled = false;
+    pane.setSelStart(2);
+    press("x");
+    const std::size_t levels = editor.JoystickUndo.Text.size();
+    press(" ");
+    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+}
+
+TEST_F(UndoTest, AProtectedMacroFileSaysSoInsteadOfBeingUndone)
+{
+    editor.TabStrip1.Select(2);
+    t.typeMacro("a");
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    for (MenuItem* item : {&t.menus().mnuEditUndo, &t.menus().mnuEditPaste}) {
+        editor.status("");
+        item->Click();
+        EXPECT_EQ(t.status(), editor.pair.MacroFileName + " is protected and can't be edited.") << item->Name;
+        EXPECT_EQ(editor.MacroText.Text(), "a");
+    }
+}
+
 TEST_F(UndoTest, AnEmptyPaneHasNoLineToHighlight)
 {
     t.menus().mnuViewHighlightLine.Click();

@@ -109,4 +109,32 @@ TEST(WithWindowsLineEnds, LoneOnesBecomePairsAndPairsStay)
     EXPECT_EQ(withWindowsLineEnds(""), "");
 }
 
+TEST(Val, TakesTheNumberThatTheTextBeginsWith)
+{
+    EXPECT_EQ(Val("12"), 12);
+    EXPECT_EQ(Val("  3.7 lines"), 3.7);
+    EXPECT_EQ(Val("-4x"), -4);
+    EXPECT_EQ(Val("+5"), 5);
+    EXPECT_EQ(Val(".5"), 0.5);
+    EXPECT_EQ(Val("1 2\t3"), 123) << "blanks don't count";
+    EXPECT_EQ(Val("2e3"), 2000);
+    EXPECT_EQ(Val("2d3"), 2000);
+    EXPECT_EQ(Val("2elf"), 2);
+    EXPECT_EQ(Val("1.2.3"), 1.2);
+}
+
+TEST(Val, IsZeroWithoutANumber)
+{
+    for (const char* text : {"", "line", "x1", "-", ".", "--1", "inf", "nan", "\xE4"}) EXPECT_EQ(Val(text), 0) << text;
+}
+
+TEST(Val, BeyondAllNumbersIsInfiniteOrZero)
+{
+    EXPECT_GT(Val("1e999"), 1e300);
+    EXPECT_LT(Val("-1e999"), -1e300);
+    EXPECT_GT(Val(std::string(500, '9')), 1e300);
+    EXPECT_EQ(Val("1e-999"), 0);
+    EXPECT_EQ(Val("0." + std::string(500, '0') + "1"), 0);
+}
+
 } // namespace tarvex

@@ -2,57 +2,21 @@
 
 #include "documents/auto_save.h"
 #include "documents/file_open.h"
-#include "platform/posix/drive_map.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/safe_writer.h"
-#include "platform/posix/system_calls.h"
+#include "support/disk_program.h"
 #include "support/small_disk.h"
 #include "support/temporary_directory.h"
-#include "support/test_program.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <memory>
 #include <sys/wait.h>
 
 namespace tarvex {
 namespace {
 
-constexpr const char* settings = "[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nProgramFilesPath=c:\\tm\\\r\n"
-                                 "[Miscellaneous]\r\nOpenSingleFileOnly=0\r\n";
-
-/// The program in a folder of the real disk, where c: is its drive_c.
-struct DiskProgram {
-    explicit DiskProgram(const std::string& folder, const std::string& commandLine = {})
-        : drives({.winePrefix = {}, .home = {}, .programDirectory = folder, .workingDirectory = folder}),
-          writer(folder + "/Recovery", calls), files(drives, writer),
-          platform{files, dialogues, desktop, sound, clipboard, drives.toDos(folder), drives.fromArgument(commandLine)}
-    {
-        std::filesystem::create_directories(folder + "/drive_c");
-    }
-    bool start()
-    {
-        program = std::make_unique<Program>(platform);
-        return program->start();
-    }
-    void type(Side& side, const std::string& text) { side.pane.userEdit(0, 0, text); }
-
-    SystemCalls calls;
-    DriveMap drives;
-    SafeWriter writer;
-    PosixFiles files;
-    ScriptedDialogues dialogues;
-    FakeDesktop desktop;
-    FakeSound sound;
-    FakeClipboard clipboard;
-    Platform platform;
-    std::unique_ptr<Program> program;
-};
-
 TEST(ProgramOnDisk, OpensANativePathEditsAndSavesItWithBackupAndShadow)
 {
     const TemporaryDirectory disk;
-    disk.put("Tarvex.ini", settings);
+    disk.put("Tarvex.ini", DiskProgram::settings);
     const std::string joystick = disk.put("drive_c/TM/Mig.B50", "MDEF Mig\r\n");
     const std::string macro = disk.put("drive_c/TM/MIG.m50", "Fire = f\r\n");
     DiskProgram t(disk.path(), joystick);
@@ -73,7 +37,7 @@ TEST(ProgramOnDisk, OpensANativePathEditsAndSavesItWithBackupAndShadow)
 TEST(ProgramOnDisk, ADosPathOnTheCommandLineIsTakenInAnyCase)
 {
     const TemporaryDirectory disk;
-    disk.put("Tarvex.ini", settings);
+    disk.put("Tarvex.ini", DiskProgram::settings);
     disk.put("drive_c/tm/mig.b50", "BTN S1 x");
     disk.put("drive_c/tm/mig.m50", "");
     DiskProgram t(disk.path(), "C:\\TM\\MIG.B50");
@@ -84,7 +48,7 @@ TEST(ProgramOnDisk, ADosPathOnTheCommandLineIsTakenInAnyCase)
 TEST(ProgramOnDisk, OfTwoNamesThatDifferOnlyByCaseTheOneThatWasMeantIsSaved)
 {
     const TemporaryDirectory disk;
-    disk.put("Tarvex.ini", settings);
+    disk.put("Tarvex.ini", DiskProgram::settings);
     const std::string lower = disk.put("drive_c/tm/mig.b50", "lower");
     const std::string upper = disk.put("drive_c/tm/MIG.b50", "upper");
     disk.put("drive_c/tm/mig.m50", "");
@@ -130,7 +94,7 @@ TEST(ProgramOnDisk, SettingsTravelToWindowsAndBackUnharmed)
 TEST(ProgramOnDisk, AReadOnlyFileIsNeverWrittenOver)
 {
     const TemporaryDirectory disk;
-    disk.put("Tarvex.ini", settings);
+    disk.put("Tarvex.ini", DiskProgram::settings);
     const std::string joystick = disk.put("drive_c/tm/mig.b50", "precious");
     disk.put("drive_c/tm/mig.m50", "");
     std::filesystem::permissions(joystick, std::filesystem::perms::owner_read);
@@ -149,7 +113,7 @@ TEST(ProgramOnDisk, AReadOnlyFileIsNeverWrittenOver)
 TEST(ProgramOnDisk, ADirectoryInPlaceOfAFileIsToldAndOpensNothing)
 {
     const TemporaryDirectory disk;
-    disk.put("Tarvex.ini", settings);
+    disk.put("Tarvex.ini", DiskProgram::settings);
     disk.makeDirectory("drive_c/tm/mig.b50");
     DiskProgram t(disk.path());
     ASSERT_TRUE(t.start());
@@ -193,7 +157,7 @@ int fullDiskStory(const std::string& programFolder, const std::string& smallDisk
 TEST(ProgramOnDisk, ADiskOf64KbFilledToTheBrimKeepsTheOldJoystickAndMacroFile)
 {
     const TemporaryDirectory disk;
-    disk.put("Tarvex.ini", settings);
+    disk.put("Tarvex.ini", DiskProgram::settings);
     const std::string small = disk.makeDirectory("small");
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);

@@ -20,8 +20,14 @@ public:
     std::deque<std::optional<std::string>> filesToSave;
     std::deque<std::optional<std::string>> folders;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
+    std::function<void()> whileSaving;
     bool modalFormsExist = true;
     std::function<void()> whileModal; ///< runs while a modal window is up
+
+    // Where these are set, they answer what nobody has scripted.
+    std::function<Answer(const MessageBox&)> otherAnswers;
+    std::function<std::optional<std::string>(const FileRequest&)> otherFilesToOpen;
+    std::function<std::optional<std::string>(const FileRequest&)> otherFilesToSave;
 
     std::vector<MessageBox> boxes;
     std::vector<FileRequest> openRequests;
@@ -36,17 +42,21 @@ public:
     {
         boxes.push_back(box);
         if (box.buttons == BoxButtons::Ok) return Answer::Ok;
+        if (answers.empty() && otherAnswers) return otherAnswers(box);
         return next(answers, Answer::Cancel, box.title + ": " + box.text);
     }
     std::optional<std::string> openFile(const FileRequest& request) override
     {
         openRequests.push_back(request);
         if (whileOpening) whileOpening();
+        if (filesToOpen.empty() && otherFilesToOpen) return otherFilesToOpen(request);
         return next(filesToOpen, std::optional<std::string>(), "open " + request.title);
     }
     std::optional<std::string> saveFile(const FileRequest& request) override
     {
         saveRequests.push_back(request);
+        if (whileSaving) whileSaving();
+        if (filesToSave.empty() && otherFilesToSave) return otherFilesToSave(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
     }
     std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) override

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,35 @@ struct FakeDesktop final : Desktop {
     float screenHeight() const override { return 1024.0F * twipsPerPixel; }
     void showHourglass(bool on) override { hourglass = on; }
     void quit() override { ++quits; }
+};
+
+/// Programs that run in the test's hands.
+struct FakeProcesses final : Processes {
+    struct Start {
+        std::string commandLine;
+        int style;
+        std::string directory;
+        bool waitedFor = false;
+    };
+    std::vector<Start> starts;
+    std::optional<RuntimeError> failure; ///< of every start from now on
+    std::function<void()> whileRunning;  ///< what a program does before the wait for it ends
+    std::int32_t result = waitResult::ended;
+
+    ProcessId start(const std::string& commandLine, int style, const std::string& directory) override
+    {
+        if (failure) throw RuntimeError(*failure);
+        starts.push_back({commandLine, style, directory});
+        return static_cast<ProcessId>(starts.size());
+    }
+    std::int32_t wait(ProcessId process, std::int32_t timeout) override
+    {
+        EXPECT_EQ(timeout, -1);
+        starts.at(static_cast<std::size_t>(process) - 1).waitedFor = true;
+        if (whileRunning) whileRunning();
+        return result;
+    }
+    std::string windowsDirectory() const override { return "c:\\windows"; }
 };
 
 struct FakeSound final : Sound {
@@ -56,7 +86,8 @@ struct TestMachine {
     FakeDesktop desktop;
     FakeSound sound;
     FakeClipboard clipboard;
-    Platform platform{files, dialogues, desktop, sound, clipboard, programDirectory, {}};
+    FakeProcesses processes;
+    Platform platform{files, dialogues, desktop, sound, clipboard, processes, programDirectory, {}};
 
     /// Sets a key of Tarvex.ini, as a user with a text editor would.
     void setIni(const std::string& section, const std::string& key, const std::string& value);

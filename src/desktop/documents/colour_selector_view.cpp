@@ -60,6 +60,7 @@ ColourSelectorView::ColourSelectorView(Editor& editor, QWidget* parent)
     for (std::size_t index = 0; index < ColourSelector::count; ++index) {
         auto* button = new QPushButton(frame);
         button->setObjectName(QStringLiteral("Command1_%1").arg(index));
+        button->setDefault(index == 0); // it has the keyboard first
         m_bindings.button(editor.ColourSelector.Command1[index], *button);
         auto* swatch = new Swatch(editor.ColourSelector.Label1[index], *button);
         swatch->setObjectName(QStringLiteral("Label1_%1").arg(index));

@@ -1,10 +1,12 @@
 #include "desktop/documents/editor_view.h"
 
 #include "desktop/icon_theme.h"
+#include "desktop/input.h"
 #include "documents/editor_layout.h"
-#include "documents/pane_keys.h"
+#include "documents/pane_events.h"
 #include "documents/tabs.h"
 #include "documents/toolbar.h"
+#include "platform/input.h"
 
 #include <QEvent>
 #include <QSignalBlocker>
@@ -25,6 +27,15 @@ QIcon tabIcon(int image)
 
 } // namespace
 
+/// The procedures of one pane.
+struct EditorView::PaneEvents {
+    void (*gotFocus)(Editor&);
+    bool (*keyDown)(Editor&, std::string_view);
+    void (*keyUp)(Editor&);
+    void (*click)(Editor&);
+    void (*mouseDown)(Editor&, int, bool);
+};
+
 EditorView::EditorView(Editor& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_tabs(new QTabBar(this)), m_joystick(new PaneView(editor.JoystickText, this)),
       m_macro(new PaneView(editor.MacroText, this)), m_frame(new MacroFrameView(editor, this))
@@ -35,9 +46,13 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     m_joystick->setAccessibleName(QStringLiteral("Joystick file"));
     m_macro->setObjectName(QStringLiteral("MacroText"));
     m_macro->setAccessibleName(QStringLiteral("Macro file"));
-    addPane(editor.joystick, *m_joystick, JoystickText_GotFocus);
-    addPane(editor.macro, *m_macro, MacroText_GotFocus);
+    addPane(
+        editor.joystick, *m_joystick,
+        {JoystickText_GotFocus, JoystickText_KeyDown, JoystickText_KeyUp, JoystickText_Click, JoystickText_MouseDown});
+    addPane(editor.macro, *m_macro,
+            {MacroText_GotFocus, MacroText_KeyDown, MacroText_KeyUp, MacroText_Click, MacroText_MouseDown});
     bindPlaces();
+    m_bindings.follow(editor.platform.clipboard.changed, [this] { m_editor.operations.UpdateCCPButtons(); });
     m_bindings.timer(editor.Timer1, *this);
     m_bindings.timer(editor.TimerBlinkLine, *this);
     m_bindings.timer(editor.TimerJournal, *this);
@@ -68,26 +83,30 @@ void EditorView::addTabs()
     });
 }
 
-void EditorView::addPane(Side& side, PaneView& view, void (*gotFocus)(Editor&))
+void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
 {
-    view.pressKey = [this](std::string_view keys) {
-        if (keys == "Ctrl+Tab") {
-            selectOtherTab(m_editor);
-            return true;
-        }
-        return pressPaneKey(m_editor, keys);
-    };
-    connect(&view, &PaneView::gotFocus, this, [this, gotFocus] { gotFocus(m_editor); });
-    connect(&view, &PaneView::caretMoved, this, [this, &side] { noteCaret(m_editor, side); });
-    connect(&view, &PaneView::paneShown, this, [this] { showCaretColour(m_editor); });
+    view.pressKey = [this, keyDown = events.keyDown](std::string_view keys) { return keyDown(m_editor, keys); };
+    connect(&view, &PaneView::gotFocus, this, [this, gotFocus = events.gotFocus] { gotFocus(m_editor); });
+    connect(&view, &PaneView::caretMoved, this, [this, &side] {
+        if (m_editor.mum.MousePointer != MousePointer::ArrowQuestion) noteCaret(m_editor, side);
+    });
+    connect(&view, &PaneView::keyReleased, this, [this, keyUp = events.keyUp] { keyUp(m_editor); });
+    connect(&view, &PaneView::clicked, this, [this, click = events.click] { click(m_editor); });
+    connect(&view, &PaneView::mousePressed, this, [this, mouseDown = events.mouseDown](Qt::MouseButton button) {
+        mouseDown(m_editor, toLogic(button), false);
+    });
+    connect(&view, &PaneView::popUpWanted, this,
+            [this, mouseDown = events.mouseDown](bool byKey) { mouseDown(m_editor, mouseButton::right, byKey); });
+    connect(&view, &PaneView::paneShown, this, [this] {
+        showCaretColour(m_editor);
+        m_editor.operations.UpdateCCPButtons();
+    });
     connect(&view, &PaneView::filesDropped, this, &EditorView::filesDropped);
     connect(&view, &PaneView::overwriteModeChanged, this, [this](bool on) {
         m_joystick->setOverwriteMode(on);
         m_macro->setOverwriteMode(on);
         emit overwriteModeChanged(on);
     });
-    connect(&view, &PaneView::popUpWanted, this,
-            [this] { m_editor.platform.dialogues.popUp(m_editor.menus.mnuRHMouse); });
 }
 
 // ---- places ---------------------------------------------------------------------------------------------------------

@@ -29,7 +29,8 @@ protected:
 
 private:
     void addTabs();
-    void addPane(Side& side, PaneView& view, void (*gotFocus)(Editor&));
+    struct PaneEvents;
+    void addPane(Side& side, PaneView& view, const PaneEvents& events);
     void bindPlaces();
     void reportSize();
     int headerShift() const;

@@ -194,7 +194,7 @@ void PaneView::showColours()
     QPalette shown = QApplication::palette(this);
     shown.setColor(QPalette::Base, toQt(m_pane.BackColor.get()));
     shown.setColor(QPalette::Text, Qt::black);
-    shown.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xC4, 0xCE, 0xDA));
+    shown.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x9B, 0xC1, 0xEE)); // found from another window
     shown.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
     if (shown != palette()) setPalette(shown);
 }

@@ -17,7 +17,8 @@ public:
     /// The pane outlives the view.
     explicit PaneView(Pane& pane, QWidget* parent = nullptr);
 
-    /// Takes a key with Ctrl, as "Ctrl+S", before the text sees it. False: it is the text's own. None set: all are.
+    /// Takes a key before the text sees it: one with Ctrl as "Ctrl+S", "Esc" and "F1"; any other comes without a name.
+    /// False: it is the text's own. None set: all are.
     std::function<bool(std::string_view keys)> pressKey;
 
     /// Does what is waiting: hands over the user's edits and shows the pane as it is.
@@ -40,12 +41,20 @@ signals:
     void paneShown();
     void overwriteModeChanged(bool on);
     void filesDropped(const QStringList& paths);
-    void popUpWanted();
+    /// A key was released, the left button was released, a button went down; the pane has what they did.
+    void keyReleased();
+    void clicked();
+    void mousePressed(Qt::MouseButton button);
+    /// By the right button, or by a key.
+    void popUpWanted(bool byKey);
 
 protected:
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -73,6 +82,7 @@ private:
     void formatShown();
     bool zoomByKey(const QKeyEvent& event);
     void tellKeyPress(const QKeyEvent& event);
+    void tellEdit();
 
     struct Selection {
         std::int64_t start = 0;

@@ -35,6 +35,16 @@ bool isInput(const QEvent& event)
     }
 }
 
+/// Keys that can be a command of the pane; empty for all others.
+std::string commandKeys(const QKeyEvent& event)
+{
+    const bool plain =
+        event.modifiers() == Qt::NoModifier && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F1);
+    const bool ctrl = event.modifiers() == Qt::ControlModifier && event.key() != Qt::Key_Control;
+    if (!plain && !ctrl) return {};
+    return fromQt(QKeySequence(event.keyCombination()).toString(QKeySequence::PortableText));
+}
+
 QStringList localFiles(const QMimeData& data)
 {
     QStringList files;
@@ -49,6 +59,14 @@ QStringList localFiles(const QMimeData& data)
 /// The user acts on what is in the pane, and the pane learns of it before anything else happens.
 bool PaneView::event(QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.matches(QKeySequence::DeleteCompleteLine)) { // Ctrl+U is the menu's
+            event->ignore();
+            return true;
+        }
+        if (pressKey && key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) event->accept(); // not the menu's
+    }
     if (!isInput(*event)) return QPlainTextEdit::event(event);
     settle();
     const bool done = QPlainTextEdit::event(event);
@@ -68,9 +86,10 @@ bool PaneView::viewportEvent(QEvent* event)
 void PaneView::keyPressEvent(QKeyEvent* event)
 {
     if (zoomByKey(*event)) return;
-    if (event->modifiers() == Qt::ControlModifier && event->key() != Qt::Key_Control && pressKey) {
-        const QString keys = QKeySequence(event->keyCombination()).toString(QKeySequence::PortableText);
-        if (pressKey(fromQt(keys))) return;
+    if (pressKey && pressKey(commandKeys(*event))) return;
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) { // the desktop tells of the Menu key
+        emit popUpWanted(true);
+        return;
     }
     // Ctrl+K and Ctrl+U are not for deleting here, whatever other programs of the desktop do with them.
     if (event->matches(QKeySequence::DeleteEndOfLine) || event->matches(QKeySequence::DeleteCompleteLine)) return;
@@ -79,8 +98,31 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         emit overwriteModeChanged(overwriteMode());
         return;
     }
+    if (event->key() == Qt::Key_Delete) tellEdit();
     tellKeyPress(*event);
     QPlainTextEdit::keyPressEvent(event);
+}
+
+void PaneView::keyReleaseEvent(QKeyEvent* event)
+{
+    QPlainTextEdit::keyReleaseEvent(event);
+    if (event->isAutoRepeat()) return;
+    settle();
+    emit keyReleased();
+}
+
+void PaneView::mousePressEvent(QMouseEvent* event)
+{
+    QPlainTextEdit::mousePressEvent(event);
+    settle();
+    if (event->button() != Qt::RightButton) emit mousePressed(event->button()); // that one's business is the pop-up
+}
+
+void PaneView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QPlainTextEdit::mouseReleaseEvent(event);
+    settle();
+    if (event->button() == Qt::LeftButton) emit clicked();
 }
 
 /// A key that is about to write a character, by the character's code.
@@ -96,6 +138,12 @@ void PaneView::tellKeyPress(const QKeyEvent& event)
     else if (!command && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\t'))
         m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
     showPane(); // the caret may have been moved out of the way
+}
+
+void PaneView::tellEdit()
+{
+    if (m_pane.EditComing) m_pane.EditComing();
+    showPane();
 }
 
 bool PaneView::zoomByKey(const QKeyEvent& event)
@@ -126,6 +174,7 @@ void PaneView::wheelEvent(QWheelEvent* event)
 
 void PaneView::inputMethodEvent(QInputMethodEvent* event)
 {
+    if (!event->commitString().isEmpty() || !event->preeditString().isEmpty()) tellEdit();
     QPlainTextEdit::inputMethodEvent(event);
     settle();
     m_mirror.formats().formatComposing(textCursor().block());
@@ -140,7 +189,7 @@ void PaneView::focusInEvent(QFocusEvent* event)
 void PaneView::contextMenuEvent(QContextMenuEvent* event)
 {
     event->accept();
-    emit popUpWanted();
+    emit popUpWanted(event->reason() == QContextMenuEvent::Keyboard);
 }
 
 // ---- clipboard and drag ---------------------------------------------------------------------------------------------
@@ -152,6 +201,7 @@ bool PaneView::canInsertFromMimeData(const QMimeData* source) const { return !m_
 void PaneView::insertFromMimeData(const QMimeData* source)
 {
     settle();
+    tellEdit();
     insertContent(m_pane, fromMime(*source));
     settle();
     ensureCursorVisible();

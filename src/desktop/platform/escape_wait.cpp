@@ -1,11 +1,8 @@
 #include "desktop/platform/escape_wait.h"
 
-#include "desktop/bind.h"
+#include "desktop/platform/input_hold.h"
 
 #include <QApplication>
-#include <QKeyEvent>
-#include <QWidget>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -19,91 +16,20 @@ bool isWindowShown()
     return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
 }
 
-/// The window that an event is for: the system's window gets it first, then the widget that fills it.
-QWidget* widgetOf(QObject* receiver)
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.begin(), windows.end(), [=](const QWidget* window) {
-        return window == receiver || window->windowHandle() == receiver;
-    });
-    return found != windows.end() ? *found : nullptr;
-}
-
-bool isInput(QEvent::Type type)
-{
-    switch (type) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride:
-    case QEvent::Shortcut:
-    case QEvent::InputMethod:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::HoverMove:
-    case QEvent::Wheel:
-    case QEvent::ContextMenu:
-    case QEvent::ToolTip:
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop:
-    case QEvent::TabletPress:
-    case QEvent::TabletMove:
-    case QEvent::TabletRelease:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::NativeGesture:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
-void EscapeWait::wait()
+void waitForEscapeKey()
 {
     if (!isWindowShown()) return;
-    qApp->installEventFilter(this);
-    m_loop.exec();
-    qApp->removeEventFilter(this);
-    if (m_lostFocus != nullptr) QCoreApplication::postEvent(m_lostFocus, new QFocusEvent(QEvent::FocusOut));
-    if (m_gotFocus != nullptr) QCoreApplication::postEvent(m_gotFocus, new QFocusEvent(QEvent::FocusIn));
-    if (m_closing != nullptr) QMetaObject::invokeMethod(m_closing, &QWidget::close, Qt::QueuedConnection);
-}
-
-/// Who has the keyboard now is told when the work is done, and only if it isn't who had it before.
-void EscapeWait::keepFocus(QWidget* widget, bool in)
-{
-    QPointer<QWidget>& opposite = in ? m_lostFocus : m_gotFocus;
-    if (opposite == widget) {
-        opposite = nullptr;
-    } else {
-        (in ? m_gotFocus : m_lostFocus) = widget;
-    }
-}
-
-bool EscapeWait::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Timer) return watched->objectName() == QLatin1String(tickName);
-    if (event->type() == QEvent::Close) {
-        event->ignore();
-        m_closing = widgetOf(watched);
-        m_loop.quit();
-        return true;
-    }
-    const bool in = event->type() == QEvent::FocusIn;
-    if (watched->isWidgetType() && (in || event->type() == QEvent::FocusOut)) {
-        keepFocus(static_cast<QWidget*>(watched), in);
-        return true;
-    }
-    if (!isInput(event->type())) return false;
-    // Taking a key here keeps it from the shortcuts too.
-    event->setAccepted(event->type() == QEvent::ShortcutOverride);
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) m_loop.quit();
-    return true;
+    InputHold hold;
+    QPointer<QWidget> closing;
+    QObject::connect(&hold, &InputHold::escapePressed, &hold, &InputHold::release);
+    QObject::connect(&hold, &InputHold::closeWanted, &hold, [&](QWidget* window) {
+        closing = window;
+        hold.release();
+    });
+    hold.hold();
+    if (closing != nullptr) QMetaObject::invokeMethod(closing, &QWidget::close, Qt::QueuedConnection);
 }
 
 } // namespace tarvex

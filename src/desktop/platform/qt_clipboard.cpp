@@ -10,7 +10,10 @@ namespace tarvex {
 
 QtClipboard::QtClipboard()
 {
-    const auto forget = [this] { m_holdsText.reset(); };
+    const auto forget = [this] {
+        m_holdsText.reset();
+        changed();
+    };
     QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &m_listener, forget);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &m_listener, forget);
 }

@@ -37,11 +37,7 @@ void QtDesktop::doEvents()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); // what those events want painted
 }
 
-void QtDesktop::waitForEscape()
-{
-    EscapeWait held;
-    held.wait();
-}
+void QtDesktop::waitForEscape() { waitForEscapeKey(); }
 
 float QtDesktop::screenWidth() const { return toTwips(screenSize().width()); }
 float QtDesktop::screenHeight() const { return toTwips(screenSize().height()); }

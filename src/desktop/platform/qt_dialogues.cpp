@@ -9,8 +9,12 @@
 #include <QCursor>
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
+
+#include <algorithm>
 
 namespace tarvex {
 
@@ -69,6 +73,28 @@ QString inAnyCase(const QString& mask)
     return pattern;
 }
 
+/// The middle of a text too long for a screen is left out, and words too long for a line can be broken.
+QString fittingText(QString text)
+{
+    constexpr qsizetype longest = 2'500;
+    constexpr qsizetype shown = 1'000; // at either end
+    constexpr qsizetype longestWord = 60;
+    if (text.size() > longest) text = text.left(shown) + QStringLiteral(" [...] ") + text.right(shown);
+    static const QRegularExpression longWord(QStringLiteral("(\\S{%1})(?=\\S)").arg(longestWord));
+    return text.replace(longWord, QStringLiteral("\\1\u200B"));
+}
+
+/// Boxes are laid out for their text; the title is to be read too.
+void widenForTitle(QMessageBox& view)
+{
+    constexpr int frame = 130; // the window's icon and buttons
+    constexpr int widest = 600;
+    auto* grid = qobject_cast<QGridLayout*>(view.layout());
+    if (grid == nullptr) return;
+    const int width = std::min(widest, view.fontMetrics().horizontalAdvance(view.windowTitle()) + frame);
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 } // namespace
 
 void fillBox(QMessageBox& view, const MessageBox& box)
@@ -76,7 +102,7 @@ void fillBox(QMessageBox& view, const MessageBox& box)
     view.setIcon(toQt(box.icon));
     view.setWindowTitle(toQt(box.title));
     view.setTextFormat(Qt::PlainText);
-    view.setText(toQt(box.text));
+    view.setText(fittingText(toQt(box.text)));
     view.setTextInteractionFlags(Qt::TextSelectableByMouse);
     view.setStandardButtons(toQt(box.buttons));
     const bool twoButtons = box.buttons != BoxButtons::Ok;
@@ -98,6 +124,7 @@ Answer QtDialogues::show(const MessageBox& box)
 {
     QMessageBox view(parentNow());
     fillBox(view, box);
+    widenForTitle(view);
     return toAnswer(view.exec());
 }
 

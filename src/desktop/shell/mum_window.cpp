@@ -1,6 +1,7 @@
 #include "desktop/shell/mum_window.h"
 
 #include "desktop/documents/colour_selector_view.h"
+#include "desktop/documents/find_and_replace_view.h"
 #include "desktop/icon_theme.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/menu_view.h"
@@ -61,6 +62,8 @@ MumWindow::MumWindow(Program& program)
     addMenuBars();
     addShortcuts();
     bindTitle();
+    makeWhenShown(program.findAndReplace.form, m_bindings,
+                  [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive) m_wasElsewhere = true;
@@ -102,6 +105,8 @@ void MumWindow::addShortcuts()
         auto* shortcut = new QShortcut(QKeySequence(toQt(key.keys)), this);
         connect(shortcut, &QShortcut::activated, this, [this, &key] { pressPaneKey(m_program.editor, key.keys); });
     }
+    auto* colourBoth = new QShortcut(QKeySequence(QStringLiteral("Ctrl+B")), this); // as good as Ctrl+T
+    connect(colourBoth, &QShortcut::activated, this, [this] { m_program.menus.mnuViewApplyColourBothFiles.Click(); });
     auto* otherTab = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
     connect(otherTab, &QShortcut::activated, this, [this] { selectOtherTab(m_program.editor); });
 }

@@ -89,7 +89,12 @@ void StatusBarView::addPanels(Mum& mum)
     m_numLock = addKeyPanel(mum.StatusBar.Panels(panel::numLock), QStringLiteral("NUM"));
     m_time = addKeyPanel(mum.StatusBar.Panels(panel::time), QStringLiteral("00:00"));
     m_time->setEnabled(true);
-    addPanel(mum.StatusBar.Panels(panel::macroFile), QStringLiteral("No macro file analysed"));
+    auto* macroFile = new ElidedLabel(this); // a file's name can be of any length
+    macroFile->setContentsMargins(4, 0, 4, 0);
+    macroFile->setSamples(QStringLiteral("No macro file analysed"),
+                          QStringLiteral("a name as long as most, and then some"));
+    bindPanel(mum.StatusBar.Panels(panel::macroFile), *macroFile);
+    addPermanentWidget(macroFile);
 }
 
 void StatusBarView::bindPanel(StatusBar::Panel& panel, QLabel& view)

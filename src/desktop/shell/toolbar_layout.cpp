@@ -107,10 +107,7 @@ int ToolbarLayout::heightForWidth(int width) const
     return bottom + margins.top() + margins.bottom();
 }
 
-QSize ToolbarLayout::sizeHint() const
-{
-    return QSize(rowWidth(), rowHeight()).grownBy(contentsMargins());
-}
+QSize ToolbarLayout::sizeHint() const { return QSize(rowWidth(), rowHeight()).grownBy(contentsMargins()); }
 
 /// One button and the extension button.
 QSize ToolbarLayout::minimumSize() const

@@ -2,14 +2,14 @@
 
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
+#include "desktop/shell/toolbar_icons.h"
+#include "desktop/shell/toolbar_separator.h"
 #include "documents/toolbar.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyleOption>
 #include <QStyleOptionToolBar>
 #include <QStylePainter>
 #include <QToolButton>
@@ -22,46 +22,6 @@ namespace {
 
 constexpr int pictureSlot = 29;
 constexpr int smallestIcon = 22; // pixels
-
-const char* iconOf(int number)
-{
-    static const std::map<int, const char*> icons{
-        {1, "file-new"},        {2, "file-open"},      {3, "file-save"},        {5, "print"},
-        {7, "cut"},             {8, "copy"},           {9, "paste"},            {11, "undo"},
-        {12, "redo"},           {14, "find"},          {15, "replace"},         {16, "goto-line"},
-        {18, "favourite-add"},  {20, "macros-update"}, {21, "macros-view"},     {23, "composer"},
-        {24, "template-insert"}, {25, "keyboard"},     {26, "title-insert"},    {27, "heading-insert"},
-        {28, "rem-insert"},     {30, "tile-vertically"}, {32, "colour-apply"},  {33, "highlight-line"},
-        {34, "identify"},       {36, "launcher"},      {37, "calibrate"},       {38, "ctfj"},
-        {39, "image-viewer"},   {40, "key-test"},      {41, "template-editor"}, {42, "control-centre"},
-        {44, "download"},       {46, "preferences"},   {47, "help"},
-    };
-    const auto found = icons.find(number);
-    return found != icons.end() ? found->second : "";
-}
-
-/// The gap between two groups of buttons.
-class Separator : public QWidget {
-public:
-    using QWidget::QWidget;
-    QSize sizeHint() const override
-    {
-        QStyleOption option;
-        option.initFrom(this);
-        const int width = style()->pixelMetric(QStyle::PM_ToolBarSeparatorExtent, &option, this);
-        return {width, width};
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QStylePainter painter(this);
-        QStyleOption option;
-        option.initFrom(this);
-        option.state |= QStyle::State_Horizontal;
-        painter.drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, option);
-    }
-};
 
 QString plainCaption(const MenuItem& item)
 {
@@ -89,7 +49,7 @@ ToolbarView::ToolbarView(Program& program, QWidget* parent)
     m_extension->setAccessibleName(QStringLiteral("More buttons"));
     m_extension->setAutoRaise(true);
     m_extension->setFocusPolicy(Qt::NoFocus);
-    m_extension->setIcon(style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton));
+    m_extension->setIcon(themeIcon(QStringLiteral("more")));
     connect(m_extension, &QToolButton::clicked, this, [this] { popUpExtension(); });
     scaleIcons();
     m_bindings.follow(bar.refreshWanted, [this] { showAll(); });
@@ -104,7 +64,7 @@ ToolbarView::ToolbarView(Program& program, QWidget* parent)
 
 void ToolbarView::addSeparator(int number)
 {
-    auto* separator = new Separator(this);
+    auto* separator = new ToolbarSeparator(this);
     separator->setObjectName(QStringLiteral("Toolbar1_%1").arg(number));
     separator->setMouseTracking(true);
     m_layout->addSeparator(separator);
@@ -127,7 +87,6 @@ void ToolbarView::addSlot(const ToolbarSlot& slot)
     if (slot.number == pictureSlot) {
         button->setObjectName(QStringLiteral("Picture1"));
         action->setText(QStringLiteral("Colour of text at cursor"));
-        action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C"))); // the bar is the only way to it
         m_bindings.follow(m_program.mum.Picture1, [this, &slot] { showPicture(slot); });
     }
     followSlot(slot, *action);
@@ -173,7 +132,7 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
     if (slot.number == pictureSlot) return showPicture(slot);
     const MenuItem* command = toolbarCommand(m_program.editor, slot.number);
     const bool both = toolbarMeansBoth(m_program.editor, slot);
-    const QString icon = QString::fromLatin1(iconOf(slot.number)) + (both ? QStringLiteral("-both") : QString());
+    const QString icon = toolbarIcon(slot.number) + (both ? QStringLiteral("-both") : QString());
     if (icon != shown.icon) action.setIcon(themeIcon(icon));
     shown.icon = icon;
     action.setText(plainCaption(*command));
@@ -181,21 +140,10 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
     action.setChecked(command->Checked);
 }
 
-/// A swatch as large as an icon.
 void ToolbarView::showPicture(const ToolbarSlot& slot)
 {
-    const qreal scale = devicePixelRatioF();
-    const int size = m_extension->iconSize().height();
-    QPixmap swatch(QSize(size, size) * scale);
-    swatch.setDevicePixelRatio(scale);
-    swatch.fill(Qt::transparent);
-    QPainter painter(&swatch);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Disabled, QPalette::WindowText), 1));
-    painter.setBrush(toQt(m_program.mum.Picture1.get()));
-    painter.drawRoundedRect(QRectF(2.5, 2.5, size - 5, size - 5), 2, 2);
-    painter.end();
-    m_slots[slot.number].action->setIcon(swatch);
+    const auto* button = static_cast<QToolButton*>(m_slots[slot.number].widget);
+    m_slots[slot.number].action->setIcon(swatch(toQt(m_program.mum.Picture1.get()), *button));
 }
 
 void ToolbarView::showAll()
@@ -208,7 +156,8 @@ void ToolbarView::scaleIcons()
 {
     const int size = std::max(smallestIcon, fontMetrics().height() + 4);
     for (QToolButton* button : findChildren<QToolButton*>()) button->setIconSize({size, size});
-    m_extension->setFixedWidth(m_extension->style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent) + 4);
+    m_extension->setIconSize({size / 2, size / 2});
+    m_extension->setFixedWidth(size);
     showAll();
     m_layout->invalidate();
 }
@@ -242,19 +191,25 @@ void ToolbarView::reportPlaces()
     }
 }
 
-/// Also over the buttons, which leave a mouse that only moves to the bar.
-void ToolbarView::mouseMoveEvent(QMouseEvent* event)
+void ToolbarView::mouseMoveEvent(QMouseEvent* event) { hover(*event, event->position()); }
+
+/// `at` is a point of the bar.
+void ToolbarView::hover(const QMouseEvent& event, QPointF at)
 {
-    if (childAt(event->position().toPoint()) == m_slots[pictureSlot].widget)
-        return Picture1_MouseMove(m_program.editor);
+    if (childAt(at.toPoint()) == m_slots[pictureSlot].widget) return Picture1_MouseMove(m_program.editor);
     reportPlaces();
-    Toolbar1_MouseMove(m_program.editor, toLogic(event->buttons()), toLogic(event->modifiers()),
-                       static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+    Toolbar1_MouseMove(m_program.editor, toLogic(event.buttons()), toLogic(event.modifiers()),
+                       static_cast<float>(at.x()), static_cast<float>(at.y()));
 }
 
-/// Qt shows the command's name where there is no tip; the user may have turned the tips off.
+/// A disabled button keeps the mouse to itself. And Qt shows the command's name where there is no tip, though the user
+/// may have turned the tips off.
 bool ToolbarView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::MouseMove) {
+        const auto& move = *static_cast<QMouseEvent*>(event);
+        hover(move, static_cast<QWidget*>(watched)->mapToParent(move.position()));
+    }
     if (event->type() == QEvent::ToolTip) {
         const bool off = m_program.shared.settings.OKtoShowToolTips != 1;
         for (const auto& [number, shown] : m_slots) {

@@ -41,6 +41,7 @@ private:
     void showAll();
     void scaleIcons();
     void press(const ToolbarSlot& slot);
+    void hover(const QMouseEvent& event, QPointF at);
     void reportPicture();
     void reportPlaces();
     void popUpExtension();

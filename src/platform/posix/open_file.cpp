@@ -47,12 +47,16 @@ std::string OpenFile::readAll()
     for (;;) {
         const std::size_t size = bytes.size();
         bytes.resize(size + step);
-        const auto count =
-            static_cast<std::size_t>(uninterrupted([&] { return m_calls.read(m_file, bytes.data() + size, step); }));
+        const std::size_t count = readSome(bytes.data() + size, step);
         bytes.resize(size + count);
         if (count == 0) return bytes;
         step = largest;
     }
+}
+
+std::size_t OpenFile::readSome(char* bytes, std::size_t size)
+{
+    return static_cast<std::size_t>(uninterrupted([&] { return m_calls.read(m_file, bytes, size); }));
 }
 
 void OpenFile::writeAll(std::string_view bytes)

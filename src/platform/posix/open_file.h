@@ -18,6 +18,8 @@ public:
     int descriptor() const { return m_file; }
     struct stat status();
     std::string readAll();
+    /// Up to `size` bytes from where the last one ended; 0 at the end of the file.
+    std::size_t readSome(char* bytes, std::size_t size);
     void writeAll(std::string_view bytes);
     void truncate(std::size_t size);
     void sync();

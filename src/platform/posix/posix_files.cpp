@@ -4,6 +4,8 @@
 #include "platform/posix/posix_append_file.h"
 #include "platform/posix/system_error.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <optional>
@@ -35,6 +37,12 @@ bool isReadOnlyFile(const std::string& native, const struct stat& status)
 {
     const bool nobodyMayWrite = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
     return nobodyMayWrite || ::faccessat(AT_FDCWD, native.c_str(), W_OK, AT_EACCESS) < 0;
+}
+
+void requireRegular(const struct stat& status)
+{
+    if (S_ISDIR(status.st_mode)) throw systemError(EISDIR);
+    if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorCode::PathFileAccess, "Not a regular file", EINVAL);
 }
 
 /// Runs a call on a native path; "not found" tells whether the file or its directory is missing.
@@ -86,10 +94,26 @@ std::string PosixFiles::read(const std::string& path) const
     return withErrorsOf(native, [&] {
         SystemCalls calls;
         OpenFile file(calls, native, O_RDONLY | O_NONBLOCK); // a pipe without a writer opens at once
-        const mode_t mode = file.status().st_mode;
-        if (S_ISDIR(mode)) throw systemError(EISDIR);
-        if (!S_ISREG(mode)) throw RuntimeError(ErrorCode::PathFileAccess, "Not a regular file", EINVAL);
+        requireRegular(file.status());
         return file.readAll();
+    });
+}
+
+void PosixFiles::readPieces(const std::string& path, const std::function<bool(std::string_view)>& take) const
+{
+    const std::string native = m_drives.toNative(path);
+    withErrorsOf(native, [&] {
+        SystemCalls calls;
+        OpenFile file(calls, native, O_RDONLY | O_NONBLOCK);
+        const struct stat status = file.status();
+        requireRegular(status);
+        std::array<char, 1 << 16> piece;
+        auto left = static_cast<std::size_t>(status.st_size); // a file that still grows is read up to here
+        while (left > 0) {
+            const std::size_t count = file.readSome(piece.data(), std::min(left, piece.size()));
+            if (count == 0 || !take({piece.data(), count})) return;
+            left -= count;
+        }
     });
 }
 

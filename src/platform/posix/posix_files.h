@@ -19,6 +19,7 @@ public:
 
     /// Only regular files; a pipe or device is refused at once and never waited for.
     std::string read(const std::string& path) const override;
+    void readPieces(const std::string& path, const std::function<bool(std::string_view)>& take) const override;
     void write(const std::string& path, const std::string& bytes) override;
     void createDirectory(const std::string& path) override;
     std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;

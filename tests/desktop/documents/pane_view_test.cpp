@@ -403,7 +403,7 @@ TEST(PaneView, CharacterKeysAreToldBeforeTheyChangeTheText)
     EXPECT_EQ(told.size(), 3U);
 }
 
-TEST(PaneView, KeysWithCtrlAreOfferedFirstAndLeftToTheTextWhenRefused)
+TEST(PaneView, KeysOfCommandsAreOfferedByNameFirstAndLeftToTheTextWhenRefused)
 {
     Shown shown("abc");
     std::vector<std::string> offered;
@@ -417,7 +417,11 @@ TEST(PaneView, KeysWithCtrlAreOfferedFirstAndLeftToTheTextWhenRefused)
     takes = false;
     shown.press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(shown.pane.SelLength(), 3);
-    EXPECT_EQ(offered, (std::vector<std::string>{"Ctrl+A", "Ctrl+A"}));
+    shown.press(Qt::Key_Escape);
+    shown.press(Qt::Key_F1);
+    shown.press(Qt::Key_X);
+    std::erase(offered, ""); // Ctrl and x
+    EXPECT_EQ(offered, (std::vector<std::string>{"Ctrl+A", "Ctrl+A", "Esc", "F1"}));
 }
 
 TEST(PaneView, RefusedKeyOfACommandDeletesNothing)

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -22,6 +23,18 @@ namespace tarvex {
 namespace {
 
 MessageBox question(BoxButtons buttons) { return {"Ooops!", "a <b> & c\n\nd", BoxIcon::Question, buttons, false}; }
+
+TEST(FillBox, ATextTooLongForTheScreenIsShownByItsEnds)
+{
+    QMessageBox view;
+    fillBox(view, {.title = "", .text = '"' + std::string(10'000, 'x') + "\" not found in a.b50"});
+    EXPECT_LT(view.text().size(), 3'000);
+    EXPECT_TRUE(view.text().startsWith("\"xxx"));
+    EXPECT_TRUE(view.text().endsWith("xxx\" not found in a.b50"));
+    view.show();
+    EXPECT_LT(view.width(), 1'200);
+    EXPECT_LT(view.height(), 900);
+}
 
 TEST(FillBox, TitleTextIconAndButtonsAreThoseAskedFor)
 {
@@ -157,6 +170,53 @@ TEST(QtDialogues, UnknownFormAndMenuWithoutEntriesDoNothing)
     dialogues.addForm("Preferences", [&] { ++shown; });
     dialogues.showModal("Preferences");
     EXPECT_EQ(shown, 1);
+}
+
+TEST(QtDialogues, AMenuAtTheCaretComesUpBelowIt)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    Menus menus;
+    dialogues.setMenus(&menus);
+    QPlainTextEdit text;
+    text.setPlainText("one\ntwo\nthree");
+    text.move(50, 60);
+    text.show();
+    text.setFocus();
+    text.moveCursor(QTextCursor::End);
+    QApplication::processEvents();
+    QPoint place;
+    QTimer::singleShot(0, [&] {
+        QWidget* menu = QApplication::activePopupWidget();
+        ASSERT_NE(menu, nullptr);
+        place = menu->pos();
+        menu->close();
+    });
+    dialogues.popUpAtCaret(menus.mnuInsert);
+    const QPoint off = place - text.viewport()->mapToGlobal(text.cursorRect().bottomLeft());
+    EXPECT_LE(off.manhattanLength(), 4) << "but for the frame around the text";
+}
+
+TEST(QtDialogues, ABoxBelongsToTheWindowThatTheUserWorksIn)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    QWidget frame;
+    dialogues.setParent(&frame);
+    frame.show();
+    QDialog tool(&frame);
+    for (QWidget* active : {&frame, static_cast<QWidget*>(&tool)}) {
+        active->show();
+        active->activateWindow();
+        QApplication::processEvents();
+        const QWidget* parent = nullptr;
+        QTimer::singleShot(0, [&] {
+            parent = QApplication::activeModalWidget()->parentWidget();
+            QApplication::activeModalWidget()->close();
+        });
+        dialogues.show({.title = "", .text = "x"});
+        EXPECT_EQ(parent, active);
+    }
 }
 
 TEST(QtDesktop, SecondCopyInTheSameDirectoryIsNoticedUntilTheFirstEnds)

@@ -8,12 +8,15 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QProgressBar>
+#include <QStatusBar>
 #include <QTest>
-#include <QToolBar>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -172,6 +175,67 @@ TEST(MumWindow, StatusPanelsShowTheirTexts)
     EXPECT_EQ(progress->value(), 40);
 }
 
+TEST(MumWindow, ALongNameOnAPanelIsCutAndItsTipHasTheWhole)
+{
+    Shown shown;
+    const std::string name = std::string(300, 'x') + ".m50";
+    shown.program().mum.StatusBar.Panels(panel::macroFile).Text = name;
+    shown.editor().status(std::string(500, 'y'));
+    Shown::events();
+    EXPECT_EQ(shown.window.width(), 1000);
+    const auto labels = shown.window.statusBar()->findChildren<QLabel*>();
+    for (const QLabel* label : labels) EXPECT_LE(label->geometry().right(), 1000) << label->text().toStdString();
+    const auto found = std::ranges::find_if(labels, [&](const QLabel* label) { return label->text() == toQt(name); });
+    ASSERT_NE(found, labels.end());
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), (*found)->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(*found, &help);
+    EXPECT_TRUE(QToolTip::text().contains(toQt(name)));
+    EXPECT_TRUE(QToolTip::text().contains("The macros in the macros list are from this file"));
+}
+
+TEST(MumWindow, TheMouseOverTheStatusBarIsGreetedInItsLeftPart)
+{
+    Shown shown;
+    QStatusBar* bar = shown.window.statusBar();
+    const auto moveTo = [&](int x) {
+        const QPoint at(x, bar->height() / 2);
+        QWidget* under = bar->childAt(at) != nullptr ? bar->childAt(at) : bar;
+        QMouseEvent move(QEvent::MouseMove, under->mapFrom(bar, at), bar->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(under, &move);
+        return shown.status();
+    };
+    EXPECT_EQ(moveTo(267), "Hi there buddy, I'm the status bar");
+    EXPECT_EQ(moveTo(268), "What say you and I give up on this programming lark and go and get a beer?");
+}
+
+TEST(MumWindow, MinimisingTheFrameTellsItsToolWindows)
+{
+    Shown shown;
+    Form form;
+    std::int16_t openFlag = 1;
+    shown.program().mum.toolWindows.add({.name = "Made up", .form = &form, .openFlag = &openFlag, .unload = nullptr});
+    shown.settings().MinimiseAll = 1;
+    shown.window.showMinimized();
+    Shown::events();
+    EXPECT_EQ(form.State, WindowState::Minimised);
+    shown.window.showNormal();
+    Shown::events();
+    EXPECT_EQ(form.State, WindowState::Normal);
+}
+
+TEST(MumWindow, TheGradientIsSeenBehindTheTabs)
+{
+    Shown shown;
+    const QPoint besideTheTabs(900, shown.window.editor().mapTo(&shown.window, QPoint(0, 6)).y());
+    const auto colour = [&] { return shown.window.grab().toImage().pixelColor(besideTheTabs); };
+    const QColor plain = colour();
+    shown.program().mum.Gradient = true;
+    EXPECT_NE(colour(), plain);
+    shown.program().mum.Gradient = false;
+    EXPECT_EQ(colour(), plain);
+}
+
 TEST(MumWindow, LockKeyPanelsAreLitWhileTheKeysAreOn)
 {
     TestProgram test;
@@ -198,27 +262,6 @@ TEST(MumWindow, InsertKeyTellsItsPanelAndBothPanes)
     EXPECT_TRUE(shown.macro().overwriteMode());
     QTest::keyClick(&shown.joystick(), Qt::Key_Insert);
     EXPECT_TRUE(shown.showsText("INS"));
-}
-
-TEST(MumWindow, ToolbarShowsTheSlotsWhoseCommandIsThere)
-{
-    Shown shown;
-    EXPECT_NE(shown.action("Toolbar1_3"), nullptr);
-    EXPECT_EQ(shown.action("Toolbar1_36"), nullptr) << "the Launcher isn't there";
-    QTabBar& tabs = shown.window.editor().tabs();
-    int joystick = 0;
-    int macro = 0;
-    shown.menus().mnuFileNewJoystick.handler = [&] { ++joystick; };
-    shown.menus().mnuFileNewMacro.handler = [&] { ++macro; };
-    shown.action("Toolbar1_1")->trigger();
-    tabs.setCurrentIndex(1);
-    shown.action("Toolbar1_1")->trigger();
-    EXPECT_EQ(joystick, 1);
-    EXPECT_EQ(macro, 1);
-    shown.menus().mnuEditPaste.Enabled = false;
-    EXPECT_FALSE(shown.action("Toolbar1_9")->isEnabled());
-    shown.program().mum.Toolbar1.Buttons(3).Visible = false;
-    EXPECT_FALSE(shown.action("Toolbar1_3")->isVisible());
 }
 
 TEST(MumWindow, PanesFillWhatTheTabsLeave)

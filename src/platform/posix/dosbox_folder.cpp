@@ -1,0 +1,105 @@
+#include "platform/posix/dosbox_folder.h"
+
+#include "platform/errors.h"
+#include "platform/posix/system_error.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace tarvex {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view prefix = "tarvex-dos-";
+constexpr const char* lockName = "/lock";
+
+/// Nothing in it means anything to DOSBox, and what is made below stays short enough.
+bool isFit(const std::string& path)
+{
+    const auto isPlain = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '/' || c == '_' ||
+               c == '-';
+    };
+    return path.starts_with('/') && path.size() < 80 && std::all_of(path.begin(), path.end(), isPlain) &&
+           ::access(path.c_str(), W_OK | X_OK) == 0;
+}
+
+std::string parentFolder()
+{
+    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
+    return runtime != nullptr && isFit(runtime) ? runtime : "/tmp";
+}
+
+int openLock(const std::string& folder, int flags)
+{
+    return ::open((folder + lockName).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | flags, 0600);
+}
+
+/// Removes a folder whose lock nobody holds any more.
+void sweep(const std::string& folder)
+{
+    const int lock = openLock(folder, 0);
+    if (lock < 0) return;
+    std::error_code ignored;
+    if (::flock(lock, LOCK_EX | LOCK_NB) == 0) fs::remove_all(folder, ignored);
+    ::close(lock);
+}
+
+void sweepAll(const std::string& parent)
+{
+    std::error_code error;
+    fs::directory_iterator entry(parent, error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        if (entry->path().filename().string().starts_with(prefix)) sweep(entry->path().string());
+    }
+}
+
+} // namespace
+
+DosboxFolder::DosboxFolder()
+{
+    const std::string parent = parentFolder();
+    sweepAll(parent);
+    std::string name = parent + "/" + std::string(prefix) + "XXXXXX";
+    if (::mkdtemp(name.data()) == nullptr) throwSystemError();
+    m_path = name;
+    m_lock = openLock(m_path, O_CREAT | O_EXCL);
+    if (m_lock >= 0) ::flock(m_lock, LOCK_EX | LOCK_NB);
+}
+
+DosboxFolder::~DosboxFolder()
+{
+    std::error_code ignored;
+    if (!m_path.empty()) fs::remove_all(m_path, ignored);
+    if (m_lock >= 0) ::close(m_lock);
+}
+
+void DosboxFolder::put(const std::string& name, const std::string& bytes) const
+{
+    std::ofstream file(m_path + "/" + name, std::ios::binary);
+    file << bytes;
+    if (!file.flush()) throw RuntimeError(ErrorCode::DeviceInputOutput, "Device I/O error");
+}
+
+void DosboxFolder::link(const std::string& name, const std::string& target) const
+{
+    if (::symlink(target.c_str(), (m_path + "/" + name).c_str()) < 0) throwSystemError();
+}
+
+void DosboxFolder::makeDirectory(const std::string& name) const
+{
+    std::error_code error;
+    fs::create_directory(m_path + "/" + name, error);
+    if (error) throw systemError(error.value());
+}
+
+} // namespace tarvex

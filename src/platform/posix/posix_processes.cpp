@@ -1,0 +1,187 @@
+#include "platform/posix/posix_processes.h"
+
+#include "platform/dos_path.h"
+#include "platform/errors.h"
+#include "platform/posix/command_line.h"
+#include "platform/posix/runners.h"
+#include "platform/posix/spawn.h"
+#include "platform/windows1252.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tarvex {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// True once the process has ended and was taken leave of.
+bool hasEnded(pid_t process, int options)
+{
+    pid_t result = 0;
+    do result = ::waitpid(process, nullptr, options);
+    while (result < 0 && errno == EINTR);
+    return result != 0; // an error means that there is nobody left to wait for
+}
+
+bool isArgumentPath(const std::string& argument) { return isDosPath(argument) && argument.size() > 2; }
+
+} // namespace
+
+PosixProcesses::PosixProcesses(const DriveMap& drives, FileSystem& files, Dialogues& dialogues,
+                               std::string programDirectory)
+    : m_drives(drives), m_files(files), m_dialogues(dialogues), m_programDirectory(std::move(programDirectory))
+{
+}
+
+PosixProcesses::~PosixProcesses()
+{
+    reap();
+    for (Child& child : m_children) {
+        if (child.dos) child.dos->folder().leave();
+        if (child.file >= 0) ::close(child.file);
+    }
+}
+
+// ---- start ----------------------------------------------------------------------------------------------------------
+
+ProcessId PosixProcesses::start(const std::string& commandLine, int /*style*/, const std::string& directory)
+{
+    reap();
+    if (commandLine.find('\0') != std::string::npos) throw RuntimeError(ErrorCode::BadFileName, "Bad file name");
+    const CommandLine line = splitCommandLine(commandLine);
+    const std::string native = findProgram(m_drives, inSystemFolder(line.program));
+    const std::string place = m_drives.toNative(directory);
+    if (!fs::is_directory(place)) throw RuntimeError(ErrorCode::PathNotFound, "Path not found");
+
+    const ProgramKind kind = kindOfProgram(native);
+    switch (kind) {
+    case ProgramKind::Native:
+        return adopt(startNative(native, line.tail, place), nullptr);
+    case ProgramKind::Windows:
+    case ProgramKind::ControlPanel:
+        return adopt(startWindows(native, line.tail, place, kind == ProgramKind::ControlPanel), nullptr);
+    default:
+        break;
+    }
+    const std::string dosbox = findRunner(m_files, m_dialogues, m_programDirectory, Runner::DosBox, line.program);
+    auto run = std::make_unique<DosboxRun>(m_drives, kind, m_drives.toDos(native), line.tail, directory);
+    const pid_t process = spawn(run->arguments(dosbox), run->folder().path(), run->folder().lock());
+    return adopt(process, std::move(run));
+}
+
+/// Newer Windows keeps in system32 what the Windows folder itself once held.
+std::string PosixProcesses::inSystemFolder(const std::string& program) const
+{
+    const bool inWindows = lowerUtf8(directoryOf(program)) == windowsDirectory() + "\\";
+    return inWindows && !m_files.fileExists(program) ? windowsDirectory() + "\\system32\\" + fileNameOf(program)
+                                                     : program;
+}
+
+pid_t PosixProcesses::startNative(const std::string& program, const std::string& tail,
+                                  const std::string& directory) const
+{
+    std::vector<std::string> arguments{program};
+    for (const std::string& argument : windowsArguments(tail)) arguments.push_back(nativeArgument(argument));
+    return spawn(arguments, directory);
+}
+
+pid_t PosixProcesses::startWindows(const std::string& program, const std::string& tail, const std::string& directory,
+                                   bool controlPanel) const
+{
+    std::vector<std::string> arguments{
+        findRunner(m_files, m_dialogues, m_programDirectory, Runner::Wine, m_drives.toDos(program))};
+    if (controlPanel) arguments.push_back(windowsDirectory() + "\\system32\\control.exe");
+    arguments.push_back(controlPanel ? wineArgument(m_drives.toDos(program)) : program);
+    for (const std::string& argument : windowsArguments(tail)) arguments.push_back(wineArgument(argument));
+    return spawn(arguments, directory);
+}
+
+/// A DOS path that can't be mapped may be something else altogether.
+std::string PosixProcesses::nativeArgument(const std::string& argument) const
+{
+    if (!isArgumentPath(argument)) return argument;
+    try {
+        return m_drives.toNative(argument);
+    } catch (const RuntimeError&) {
+        return argument;
+    }
+}
+
+/// As long as there is no Wine prefix, its drives, which it will make at its start, aren't ours: it knows "/" as z:.
+std::string PosixProcesses::wineArgument(const std::string& argument) const
+{
+    const bool sameDrives = std::none_of(m_drives.drives().begin(), m_drives.drives().end(),
+                                         [](const DriveMap::Drive& drive) { return drive.makeRoot; });
+    if (sameDrives || !isArgumentPath(argument)) return argument;
+    std::string native = nativeArgument(argument);
+    if (native == argument) return argument;
+    std::replace(native.begin(), native.end(), '/', '\\');
+    return "z:" + native;
+}
+
+// ---- children -------------------------------------------------------------------------------------------------------
+
+ProcessId PosixProcesses::adopt(pid_t process, std::unique_ptr<DosboxRun> dos)
+{
+    const int file = openProcess(process);
+    m_children.push_back({process, file, std::move(dos)});
+    if (file >= 0) watch(file);
+    return process;
+}
+
+std::vector<PosixProcesses::Child>::iterator PosixProcesses::find(ProcessId process)
+{
+    return std::find_if(m_children.begin(), m_children.end(),
+                        [=](const Child& child) { return child.process == process; });
+}
+
+void PosixProcesses::forget(std::vector<Child>::iterator child)
+{
+    if (child->file >= 0) {
+        unwatch(child->file);
+        ::close(child->file);
+    }
+    m_children.erase(child);
+}
+
+void PosixProcesses::reap()
+{
+    for (auto child = m_children.begin(); child != m_children.end();) {
+        if (hasEnded(child->process, WNOHANG)) {
+            const auto index = child - m_children.begin();
+            forget(child);
+            child = m_children.begin() + index;
+        } else {
+            ++child;
+        }
+    }
+}
+
+std::int32_t PosixProcesses::wait(ProcessId process, std::int32_t timeout)
+{
+    const auto child = find(process);
+    if (child == m_children.end()) return waitResult::failed;
+    if (child->file >= 0 && !waitUntilReadable(child->file, timeout)) return waitResult::timeout;
+    const auto still = find(process); // others may have ended meanwhile
+    if (still == m_children.end()) return waitResult::ended;
+    hasEnded(process, 0);
+    forget(still);
+    return waitResult::ended;
+}
+
+bool PosixProcesses::waitUntilReadable(int file, int timeout)
+{
+    pollfd polled{file, POLLIN, 0};
+    int result = 0;
+    do result = ::poll(&polled, 1, timeout);
+    while (result < 0 && errno == EINTR);
+    return result != 0;
+}
+
+} // namespace tarvex

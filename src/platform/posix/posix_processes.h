@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/dialogues.h"
+#include "platform/files.h"
+#include "platform/posix/dosbox_run.h"
+#include "platform/posix/drive_map.h"
+#include "platform/processes.h"
+
+#include <memory>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace tarvex {
+
+/// Programs of three worlds, told apart by looking into their files: those of this system run as they are, with DOS
+/// paths among their arguments made native; those of Windows run in Wine; those of DOS in DOSBox. Which Wine and which
+/// DOSBox is set in Platform.ini; else they are looked for where PATH says, but never in the current folder.
+class PosixProcesses : public Processes {
+public:
+    /// All outlive this. `programDirectory` is the DOS path of the folder with Platform.ini. The user is told in a box
+    /// when Wine or DOSBox is missing.
+    PosixProcesses(const DriveMap& drives, FileSystem& files, Dialogues& dialogues, std::string programDirectory);
+    /// Programs that still run go on.
+    ~PosixProcesses() override;
+    PosixProcesses(const PosixProcesses&) = delete;
+    PosixProcesses& operator=(const PosixProcesses&) = delete;
+
+    ProcessId start(const std::string& commandLine, int style, const std::string& directory) override;
+    std::int32_t wait(ProcessId process, std::int32_t timeout) override;
+    std::string windowsDirectory() const override { return "c:\\windows"; }
+
+    /// Takes leave of the programs that have ended.
+    void reap();
+
+protected:
+    /// Waits until the file can be read, `timeout` milliseconds at most, -1 for ever. False: the time is over.
+    virtual bool waitUntilReadable(int file, int timeout);
+    /// A program was started; the file can be read once it has ended.
+    virtual void watch(int file) { static_cast<void>(file); }
+    /// The file is about to be closed.
+    virtual void unwatch(int file) { static_cast<void>(file); }
+
+private:
+    struct Child {
+        pid_t process;
+        int file;                       ///< can be read once it has ended; -1: there is no such thing
+        std::unique_ptr<DosboxRun> dos; ///< of a DOS program
+    };
+    ProcessId adopt(pid_t process, std::unique_ptr<DosboxRun> dos);
+    std::vector<Child>::iterator find(ProcessId process);
+    void forget(std::vector<Child>::iterator child);
+    pid_t startNative(const std::string& program, const std::string& tail, const std::string& directory) const;
+    pid_t startWindows(const std::string& program, const std::string& tail, const std::string& directory,
+                       bool controlPanel) const;
+    std::string inSystemFolder(const std::string& program) const;
+    std::string nativeArgument(const std::string& argument) const;
+    std::string wineArgument(const std::string& argument) const;
+
+    const DriveMap& m_drives;
+    FileSystem& m_files;
+    Dialogues& m_dialogues;
+    std::string m_programDirectory;
+    std::vector<Child> m_children;
+};
+
+} // namespace tarvex

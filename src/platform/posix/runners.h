@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/dialogues.h"
+#include "platform/files.h"
+
+#include <string>
+
+namespace tarvex {
+
+/// What runs the programs of other systems.
+enum class Runner { Wine, DosBox };
+
+/// The absolute native path of a runner: what Platform.ini in the program directory says, else where PATH has it.
+/// Throws RuntimeError (FileNotFound) when it isn't there, and tells the user what to do about it, with the program
+/// that wants it.
+std::string findRunner(FileSystem& files, Dialogues& dialogues, const std::string& programDirectory, Runner which,
+                       const std::string& program);
+
+/// Where a command is found in the folders of PATH; relative folders in it don't count. Empty: nowhere.
+std::string findCommand(const std::string& path, const std::string& command);
+
+} // namespace tarvex

@@ -1,0 +1,166 @@
+// The whole road with real loaders: the stand-in, and such as nobody would like to have.
+
+#include "support/disk_program.h"
+#include "support/temporary_directory.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The program with a pair open; its loader lies in c:\tm.
+struct Road {
+    explicit Road(const std::string& loaderPath = "c:\\tm\\winld.exe", const std::string& name = "tm/progs/mig.b50")
+    {
+        disk.put("Tarvex.ini", DiskProgram::settings);
+        joystick = disk.put("drive_c/" + name, "BTN S1 a\r\nBTN S2 b\r\nBTN S3 c\r\n");
+        disk.put("drive_c/" + name.substr(0, name.size() - 3) + "m50", "");
+        disk.makeDirectory("drive_c/tm");
+        t = std::make_unique<DiskProgram>(disk.path(), joystick);
+        EXPECT_TRUE(t->start());
+        t->program->shared.settings.B50LoadPath = loaderPath;
+        t->program->editor.status("old text");
+        t->dialogues.boxes.clear(); // what the opening told
+    }
+    void standIn(const std::string& name) const
+    {
+        fs::copy_file(TARVEX_STANDIN_LOADER, disk / ("drive_c/tm/" + name), fs::copy_options::overwrite_existing);
+    }
+    void script(const std::string& lines, const std::string& name = "tm/winld.exe") const
+    {
+        fs::permissions(disk.put("drive_c/" + name, "#!/bin/sh\n" + lines), fs::perms::owner_all);
+    }
+    std::string download()
+    {
+        t->program->menus.mnuSendToJoystick.Click();
+        return t->status();
+    }
+    Editor& editor() { return t->program->editor; }
+    bool exists(const std::string& name) const { return fs::exists(disk / ("drive_c/" + name)); }
+
+    TemporaryDirectory disk;
+    std::string joystick;
+    std::unique_ptr<DiskProgram> t;
+};
+
+TEST(DownloadOnDisk, FromAnErrorToItsLineToTheCureToSuccess)
+{
+    Road r;
+    r.standIn("winld.exe");
+    r.editor().JoystickText.userEdit(10, 0, "Rem @error Unknown key\r\n");
+    EXPECT_EQ(r.download(), "Compiler reported an error at line 2: Unknown key");
+    EXPECT_EQ(r.editor().JoystickText.SelText(), "Rem @error Unknown key");
+    EXPECT_NE(bytesOf(r.joystick).find("@error"), std::string::npos) << "it was saved on the way";
+
+    r.editor().JoystickText.userEdit(10, 24, "");
+    EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 30 bytes)");
+    EXPECT_TRUE(r.t->dialogues.boxes.empty());
+}
+
+TEST(DownloadOnDisk, TheStandInIsGivenTheOptionStringOfWinLoad)
+{
+    Road r;
+    r.standIn("winld.exe");
+    r.t->program->shared.settings.WinLoadUse = 1;
+    r.t->program->shared.settings.WinLoadString = " /TQS /B6 ";
+    r.download();
+    EXPECT_EQ(bytesOf(r.disk / "drive_c/tm/winld.dat"), "Stand-in loader /TQS /B6\r\nOK\r\n30\r\n");
+}
+
+TEST(DownloadOnDisk, TheOtherLoadersReportNothing)
+{
+    Road r("c:\\tm\\b50load.exe");
+    r.standIn("b50load.exe");
+    r.t->program->menus.mnuAppsQuiet.Enabled = true;
+    r.t->program->menus.mnuAppsQuiet.Checked = true;
+    EXPECT_EQ(r.download(), "old text");
+    EXPECT_FALSE(r.exists("tm/b50load.dat"));
+}
+
+TEST(DownloadOnDisk, APathWithSignsOfAShellReachesTheLoader)
+{
+    Road r("c:\\tm\\winld.exe", "a;$(b)'%c&`-d/x;y&z.b50");
+    r.standIn("winld.exe");
+    EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 30 bytes)");
+}
+
+TEST(DownloadOnDisk, LoaderPathsThatAreNoneShowNothing)
+{
+    for (const std::string path : {"", "c:\\tm\\gone\\winld.exe", "c:\\tm", "winld.exe", "q:\\winld.exe"}) {
+        Road r(path);
+        r.script("touch wrong\n");
+        EXPECT_EQ(r.download(), "old text") << path;
+        EXPECT_TRUE(r.t->dialogues.boxes.empty()) << path;
+        EXPECT_FALSE(r.exists("tm/wrong") || r.exists("wrong")) << path;
+        EXPECT_NE(r.t->program->mum.form.State, WindowState::Minimised) << path;
+    }
+}
+
+TEST(DownloadOnDisk, ALoaderThatMayNotRunShowsNothing)
+{
+    Road r;
+    r.disk.put("drive_c/tm/winld.exe", "#!/bin/sh\ntouch wrong\n");
+    EXPECT_EQ(r.download(), "old text");
+    EXPECT_FALSE(r.exists("tm/wrong"));
+}
+
+TEST(DownloadOnDisk, ALoaderPathWithABlankStartsTheTextBeforeTheBlank)
+{
+    Road r("c:\\my tm\\winld.exe");
+    r.script("touch /dev/null; : >seen\n", "my");
+    r.script("touch wrong\n", "my tm/winld.exe");
+    EXPECT_EQ(r.download(), "old text");
+    EXPECT_TRUE(r.exists("my tm/seen")) << "in the loader's folder";
+    EXPECT_FALSE(r.exists("my tm/wrong"));
+}
+
+TEST(DownloadOnDisk, ALoaderThatCrashesOrWritesNoResultLeavesTheStatus)
+{
+    for (const std::string lines : {"kill -SEGV $$\n", "exit 3\n", ""}) {
+        Road r;
+        r.script(lines);
+        r.disk.put("drive_c/tm/winld.dat", "a\r\nb\r\n1\r\n");
+        EXPECT_EQ(r.download(), "old text") << lines;
+        EXPECT_NE(r.t->program->mum.form.State, WindowState::Minimised);
+    }
+}
+
+TEST(DownloadOnDisk, HalfAResultIsTakenAsFarAsItGoes)
+{
+    Road r;
+    r.script("printf 'WinLoad\\r\\nERROR\\r\\n2' >winld.dat\n");
+    EXPECT_EQ(r.download(), "Compiler reported an error at line 2: ");
+    EXPECT_EQ(r.editor().JoystickText.SelText(), "BTN S2 b");
+}
+
+TEST(DownloadOnDisk, AResultWithOtherLineEndsIsRead)
+{
+    Road r;
+    r.script("printf 'WinLoad\\nfine\\n77\\n' >winld.dat\n");
+    EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 77 bytes)");
+    r.script("printf 'WinLoad\\rERROR\\r3\\rOops' >winld.dat\n");
+    EXPECT_EQ(r.download(), "Compiler reported an error at line 3: Oops");
+}
+
+TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadToItsEnd)
+{
+    Road r;
+    r.script("printf 'WinLoad\\r\\nfine\\r\\n2\\r\\nlong\\r\\n' >winld.dat\n"
+             "truncate -s 100000000 winld.dat\n"
+             "printf 'ERROR' >>winld.dat\n");
+    EXPECT_EQ(r.download(), "Compiler reported an error at line 2: long");
+}
+
+TEST(DownloadOnDisk, AResultThatIsNoFileIsNone)
+{
+    for (const std::string lines : {"mkdir winld.dat\n", "mkfifo winld.dat\n", "ln -s /dev/zero winld.dat\n"}) {
+        Road r;
+        r.script(lines);
+        EXPECT_EQ(r.download(), "old text") << lines;
+    }
+}
+
+} // namespace
+} // namespace tarvex

@@ -1,0 +1,142 @@
+#include "platform/posix/posix_append_file.h"
+
+#include "faulty_calls.h"
+#include "platform/posix/posix_files.h"
+#include "support/temporary_directory.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace tarvex {
+namespace {
+
+std::filesystem::perms modeOf(const std::string& path) { return std::filesystem::status(path).permissions(); }
+
+TEST(PosixAppendFile, IsThereAtOnceForItsOwnerAlone)
+{
+    const TemporaryDirectory disk;
+    SystemCalls calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    file.append("one ");
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "one ");
+    file.append("two");
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "one two");
+    EXPECT_EQ(modeOf(disk / "Recover/1.journal"), std::filesystem::perms(0600));
+    EXPECT_EQ(modeOf(disk / "Recover"), std::filesystem::perms(0700));
+}
+
+TEST(PosixAppendFile, IsNeverAnotherFile)
+{
+    const TemporaryDirectory disk;
+    const std::string path = disk.put("Recover/1.journal", "mine");
+    std::filesystem::create_symlink(path, disk / "Recover/2.journal");
+    const DriveMap drives({"", "", disk.path(), disk.path()});
+    SystemCalls calls;
+    SafeWriter writer(disk / "copies", calls);
+    PosixFiles files(drives, writer);
+    for (const char* name : {"/Recover/1.journal", "/Recover/2.journal"}) {
+        try {
+            files.createAppendFile(drives.toDos(disk.path() + name));
+            FAIL() << name;
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.code(), ErrorCode::FileExists);
+        }
+    }
+    EXPECT_EQ(bytesOf(path), "mine");
+}
+
+TEST(PosixAppendFile, GrowsThroughTheFileSystemAndIsRemovedWhileOpen)
+{
+    const TemporaryDirectory disk;
+    const DriveMap drives({"", "", disk.path(), disk.path()});
+    SystemCalls calls;
+    SafeWriter writer(disk / "copies", calls);
+    PosixFiles files(drives, writer);
+    const std::string path = drives.toDos(disk.path()) + "\\Recover\\1.journal";
+    const auto file = files.createAppendFile(path);
+    file->append("a");
+    EXPECT_EQ(files.read(path), "a");
+    files.removeFile(path);
+    file->append("b");
+    EXPECT_FALSE(files.fileExists(path));
+}
+
+TEST(PosixAppendFile, SyncsAgainAndAgain)
+{
+    const TemporaryDirectory disk;
+    SystemCalls calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    for (int i = 0; i < 20; ++i) {
+        file.append("x");
+        file.sync(); // false while the disk is busy
+    }
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal").size(), 20U);
+}
+
+TEST(PosixAppendFile, ADiskThatIsFullIsToldAndKeepsWhatFits)
+{
+    const TemporaryDirectory disk;
+    FaultyCalls calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    file.append("whole");
+    calls.room = 3;
+    try {
+        file.append("not whole");
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.code(), ErrorCode::DiskFull);
+    }
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "wholenot");
+}
+
+TEST(PosixAppendFile, EachCallThatFailsIsToldAndLeavesNoFileOpen)
+{
+    for (const char* failing : {"mkdir", "open"}) {
+        const TemporaryDirectory disk;
+        FaultyCalls calls;
+        calls.fault = FaultyCalls::Fault{failing == std::string("mkdir") ? 0U : 1U, EACCES};
+        EXPECT_THROW(PosixAppendFile(calls, disk / "Recover/1.journal"), RuntimeError) << failing;
+        EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "(missing)");
+    }
+}
+
+TEST(PosixAppendFile, AFolderThatCannotBeOpenedForSyncingDoesNoHarm)
+{
+    const TemporaryDirectory disk;
+    FaultyCalls calls;
+    calls.fault = FaultyCalls::Fault{2, EACCES};
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    ASSERT_EQ(calls.made.at(2), "open");
+    file.append("x");
+    EXPECT_TRUE(file.sync());
+}
+
+TEST(BackgroundSync, TellsTheNextTimeWhatWentWrong)
+{
+    int ends[2] = {};
+    ASSERT_EQ(::pipe(ends), 0); // no disk takes its bytes
+    SystemCalls calls;
+    BackgroundSync sync(calls, ends[1]);
+    EXPECT_TRUE(sync.start());
+    bool told = false;
+    while (!told) {
+        try {
+            sync.start();
+        } catch (const RuntimeError&) {
+            told = true;
+        }
+    }
+    EXPECT_TRUE(told);
+    ::close(ends[0]);
+    ::close(ends[1]);
+}
+
+TEST(BackgroundSync, OfAFileThatIsClosedFails)
+{
+    SystemCalls calls;
+    BackgroundSync sync(calls, -1);
+    EXPECT_THROW(sync.start(), RuntimeError);
+}
+
+} // namespace
+} // namespace tarvex
