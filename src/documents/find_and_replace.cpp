@@ -8,8 +8,6 @@ namespace tarvex {
 
 namespace {
 
-constexpr char formName[] = "FindAndReplace";
-
 /// What a control runs, in resume-next mode: the small handlers report nothing.
 template <typename Work> std::function<void()> quietly(Work work)
 {
@@ -149,15 +147,17 @@ FindAndReplace::FindAndReplace(Editor& theEditor) : editor(theEditor)
     LineToFind.GotFocus = quietly([this] { LineToFind.SelectAll(); });
 }
 
-void wireFindAndReplace(FindAndReplace& window, Operations& operations)
+void wireFindAndReplace(FindAndReplace& window)
 {
-    Menus& menus = window.editor.menus;
+    Editor& editor = window.editor;
+    Menus& menus = editor.menus;
     menus.mnuEditFind.handler = [&window] { mnuEditFind_Click(window); };
     menus.mnuEditReplace.handler = [&window] { mnuEditReplace_Click(window); };
     menus.mnuEditGoto.handler = [&window] { mnuEditGoto_Click(window); };
-    operations.UnloadForm += [&window](const std::string& name) {
-        if (name == formName) Form_Unload(window);
-    };
+    editor.mum.toolWindows.add({.name = "FindAndReplace",
+                                .form = &window.form,
+                                .openFlag = &editor.shared.FindWindowOpen,
+                                .unload = [&window] { Form_Unload(window); }});
 }
 
 void Form_Load(FindAndReplace& window)

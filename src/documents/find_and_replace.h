@@ -63,8 +63,8 @@ private:
     std::vector<Connection> m_connections;
 };
 
-/// Gives the commands of the menu their handlers.
-void wireFindAndReplace(FindAndReplace& window, Operations& operations);
+/// Gives the commands of the menu their handlers, and lets the frame take the window along.
+void wireFindAndReplace(FindAndReplace& window);
 
 void Form_Load(FindAndReplace& window);
 void Form_Unload(FindAndReplace& window);

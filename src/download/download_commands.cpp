@@ -19,7 +19,6 @@ void wireDownload(Editor& editor)
 {
     Menus& menus = editor.menus;
     menus.mnuSendToJoystick.handler = on(editor, mnuSendToJoystick_Click);
-    menus.mnuRHMDownload.handler = on(editor, mnuSendToJoystick_Click);
     menus.mnuAppsQuiet.handler = on(editor, mnuAppsQuiet_Click);
     menus.mnuUseWakeWarning.handler = on(editor, mnuUseWakeWarning_Click);
     menus.mnuGamesDownloadFirst.handler = on(editor, mnuGamesDownloadFirst_Click);

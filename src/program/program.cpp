@@ -121,7 +121,7 @@ Program::Program(Platform& thePlatform)
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
     wirePaneMenu(editor);
-    wireFindAndReplace(findAndReplace, operations);
+    wireFindAndReplace(findAndReplace);
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor);
