@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -69,11 +70,18 @@ DosboxFolder::DosboxFolder()
 {
     const std::string parent = parentFolder();
     sweepAll(parent);
-    std::string name = parent + "/" + std::string(prefix) + "XXXXXX";
-    if (::mkdtemp(name.data()) == nullptr) throwSystemError();
-    m_path = name;
-    m_lock = openLock(m_path, O_CREAT | O_EXCL);
+    std::string unlocked = parent + "/tarvex-new-XXXXXX"; // a name that nobody sweeps
+    if (::mkdtemp(unlocked.data()) == nullptr) throwSystemError();
+    m_lock = openLock(unlocked, O_CREAT | O_EXCL);
     if (m_lock >= 0) ::flock(m_lock, LOCK_EX | LOCK_NB);
+    constexpr std::size_t randomPart = 6;
+    m_path = parent + "/" + std::string(prefix) + unlocked.substr(unlocked.size() - randomPart);
+    if (m_lock >= 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0) return;
+    const int error = errno;
+    std::error_code ignored;
+    fs::remove_all(unlocked, ignored);
+    if (m_lock >= 0) ::close(m_lock);
+    throw systemError(error);
 }
 
 DosboxFolder::~DosboxFolder()

@@ -3,6 +3,7 @@
 #include "platform/errors.h"
 #include "process_world.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <set>
@@ -130,6 +131,8 @@ TEST(DosboxTail, OfAPathWithBlanksTheLongestThatExistsCounts)
 
 TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
 {
+    const TemporaryDirectory runtime; // where no other test sweeps
+    ::setenv("XDG_RUNTIME_DIR", runtime.path().c_str(), 1);
     std::string path;
     {
         DosboxFolder folder;
@@ -148,6 +151,7 @@ TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
     const DosboxFolder next;
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_TRUE(std::filesystem::exists("/etc/passwd")) << "links aren't followed";
+    ::unsetenv("XDG_RUNTIME_DIR");
 }
 
 } // namespace
