@@ -87,8 +87,8 @@ public:
         : m_files(editor.platform.files), m_path(withLastThree(editor.shared.settings.B50LoadPath, "dat"))
     {
         step([&] { m_files.removeFile(m_path); });
-        m_left = m_files.stamp(m_path); // of one that can't be removed
         editor.platform.desktop.doEvents();
+        m_left = m_files.stamp(m_path); // of one that can't be removed
     }
     bool isNew() const { return m_files.fileExists(m_path) && m_files.stamp(m_path) != m_left; }
     const std::string& path() const { return m_path; }

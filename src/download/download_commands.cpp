@@ -5,15 +5,46 @@
 #include "download/game_launch.h"
 #include "download/outside_tools.h"
 
+#include <memory>
+
 namespace tarvex {
+
+namespace {
+
+/// Lets one of several commands run at a time. Keys that wait, of one that is held down say, and menus of the desktop's
+/// reach the program while a loader runs; what they would begin inside of it comes to nothing.
+class OneAtATime {
+public:
+    template <typename Work> auto operator()(Work work) const
+    {
+        return [runs = m_runs, work](const auto&... arguments) {
+            if (*runs) return;
+            const Mark mark{*runs};
+            work(arguments...);
+        };
+    }
+
+private:
+    struct Mark {
+        explicit Mark(bool& value) : runs(value) { runs = true; }
+        ~Mark() { runs = false; }
+        Mark(const Mark&) = delete;
+        Mark& operator=(const Mark&) = delete;
+        bool& runs;
+    };
+    std::shared_ptr<bool> m_runs = std::make_shared<bool>(false);
+};
+
+} // namespace
 
 void wireDownload(Editor& editor, Games& games)
 {
     Menus& menus = editor.menus;
-    menus.mnuSendToJoystick.handler = on(editor, mnuSendToJoystick_Click);
+    const OneAtATime oneAtATime;
+    menus.mnuSendToJoystick.handler = oneAtATime(on(editor, mnuSendToJoystick_Click));
     menus.mnuAppsQuiet.handler = on(editor, mnuAppsQuiet_Click);
     menus.mnuUseWakeWarning.handler = on(editor, mnuUseWakeWarning_Click);
-    games.LaunchGame = [&editor](const Game& game) { launchGame(editor, game); };
+    games.LaunchGame = oneAtATime([&editor](const Game& game) { launchGame(editor, game); });
 
     wireControlCentreTools(editor);
     menus.mnuAppsTMScope.handler = on(editor, mnuAppsTMScope_Click);

@@ -2,6 +2,7 @@
 
 #include "download/download_command.h"
 #include "platform/dos_path.h"
+#include "platform/runner_missing.h"
 #include "platform/text.h"
 
 #include <exception>
@@ -29,6 +30,15 @@ void enter(CurrentDirectory& current, const std::string& path, const std::string
     current.ChDir(directory);
 }
 
+/// By the words that the user knows, or by the number where the system has words of its own.
+bool isAboutMissing(const RuntimeError& error)
+{
+    return error.code() == ErrorCode::FileNotFound || error.code() == ErrorCode::PathNotFound ||
+           std::string_view(error.what()).find("found") != std::string_view::npos;
+}
+
+void tell(Editor& editor, const char* text) { editor.platform.dialogues.show({.title = title, .text = text}); }
+
 /// Whether it went well isn't known: no result file is read, whichever loader it is. False: the user doesn't want to go
 /// on.
 bool downloadFirst(Editor& editor, const Game& game)
@@ -51,9 +61,11 @@ void launchGame(Editor& editor, const Game& game)
         enter(editor.shared.currentDirectory, game.workingDirectory, game.workingDirectory);
         editor.platform.processes.start(game.command, windowStyle::normal, editor.shared.currentDirectory.path());
         editor.menus.mnuFileExit.Click();
-    } catch (const std::exception& error) {
-        const bool isMissing = std::string_view(error.what()).find("found") != std::string_view::npos;
-        editor.platform.dialogues.show({.title = title, .text = isMissing ? notFound : notRun});
+    } catch (const RunnerMissing&) { // one box is enough
+    } catch (const RuntimeError& error) {
+        tell(editor, isAboutMissing(error) ? notFound : notRun);
+    } catch (const std::exception&) {
+        tell(editor, notRun);
     }
 }
 

@@ -255,6 +255,41 @@ TEST(SendToJoystick, TheFrameIsMinimisedWhileTheLoaderRunsAndComesBackAsItWas)
     }
 }
 
+TEST(SendToJoystick, KeysThatWaitDoNotStartItInsideItself)
+{
+    WithWinLoad t;
+    int pressed = 0;
+    t.desktop.whileHandlingEvents = [&] {
+        if (++pressed < 50) t.download(); // a key that is held down
+    };
+    t.reports("a\r\nb\r\n77\r\n");
+    t.download();
+    EXPECT_EQ(t.processes.starts.size(), 1U);
+    EXPECT_GT(pressed, 1);
+    EXPECT_EQ(t.status(), "Compiled and downloaded successfully! (File size: 77 bytes)");
+    t.desktop.whileHandlingEvents = {};
+    t.download();
+    EXPECT_EQ(t.processes.starts.size(), 2U) << "the next one is a new one";
+}
+
+TEST(SendToJoystick, AMenuOfTheDesktopsDoesNotStartItWhileTheLoaderRuns)
+{
+    Loaded t;
+    t.processes.whileRunning = [&] { t.download(); };
+    t.download();
+    EXPECT_EQ(t.processes.starts.size(), 1U);
+}
+
+TEST(SendToJoystick, AResultThatAppearsBeforeTheLoaderStartsIsNotItsOwn)
+{
+    WithWinLoad t;
+    t.desktop.whileHandlingEvents = [&] {
+        if (t.processes.starts.empty()) t.files.write(WithWinLoad::resultPath, "a\r\nb\r\n1\r\n");
+    };
+    t.download();
+    EXPECT_EQ(t.status(), "old text");
+}
+
 TEST(SendToJoystick, GivesTheKeyboardBackToThePane)
 {
     Loaded t;

@@ -106,6 +106,29 @@ TEST(DownloadOnDisk, ALoaderThatMayNotRunShowsNothing)
     EXPECT_FALSE(r.exists("tm/wrong"));
 }
 
+TEST(DownloadOnDisk, AMissingDosBoxIsToldOnceAndTheFrameComesBack)
+{
+    Road r("c:\\tm\\b50load.com");
+    r.disk.put("drive_c/tm/b50load.com", "x");
+    r.disk.put("Platform.ini", "[Programs]\r\nDOSBox=/gone/dosbox\r\n");
+    EXPECT_EQ(r.download(), "old text");
+    ASSERT_EQ(r.t->dialogues.boxes.size(), 1U);
+    EXPECT_EQ(r.t->dialogues.boxes[0].title, "Where is DOSBox?");
+    EXPECT_NE(r.t->program->mum.form.State, WindowState::Minimised);
+}
+
+TEST(LaunchGameOnDisk, AMissingDosBoxIsToldOnceAndTarvexStaysOpen)
+{
+    Road r;
+    r.disk.put("drive_c/f22/f22.com", "x");
+    r.disk.put("Platform.ini", "[Programs]\r\nDOSBox=/gone/dosbox\r\n");
+    r.t->program->lists.games.LaunchGame(
+        {.name = "F22", .command = "c:\\f22\\f22.com", .workingDirectory = "c:\\f22", .joystickFile = ""});
+    ASSERT_EQ(r.t->dialogues.boxes.size(), 1U);
+    EXPECT_EQ(r.t->dialogues.boxes[0].title, "Where is DOSBox?");
+    EXPECT_TRUE(r.t->program->mum.form.Visible);
+}
+
 TEST(DownloadOnDisk, ALoaderPathWithABlankStartsTheTextBeforeTheBlank)
 {
     Road r("c:\\my tm\\winld.exe");

@@ -139,6 +139,33 @@ TEST(LaunchGame, ALoaderThatDoesNotStartDoesNotKeepTheGame)
     EXPECT_EQ(t.desktop.quits, 1);
 }
 
+TEST(LaunchGame, TheSystemsOwnWordsForAMissingFileGetTheFirstMessageToo)
+{
+    WithGame t;
+    t.processes.failure = RuntimeError(ErrorCode::FileNotFound, "No such file or directory", 2);
+    t.launch();
+    EXPECT_EQ(t.lastBox().text, notFound);
+}
+
+TEST(LaunchGame, AGameWhosePathHoldsTheWordGetsTheSecondMessageWhenItMayNotRun)
+{
+    WithGame t("d:\\found");
+    t.files.addDirectory("d:\\found");
+    t.processes.failure = RuntimeError(ErrorCode::PermissionDenied, "Permission denied");
+    t.launch();
+    EXPECT_EQ(t.lastBox().text, notRun);
+}
+
+TEST(LaunchGame, AnotherOneThatIsChosenMeanwhileIsNotStarted)
+{
+    WithGame t;
+    t.menus().mnuGamesDownloadFirst.Checked = true;
+    t.processes.whileRunning = [&] { t.launch(); };
+    t.launch();
+    EXPECT_EQ(t.processes.starts.size(), 2U) << "one loader, one game";
+    EXPECT_EQ(t.desktop.quits, 1);
+}
+
 TEST(LaunchGame, ALoaderWhoseFolderIsGoneEndsTheLaunch)
 {
     WithGame t("d:\\f22", "c:\\gone\\b50load.exe");

@@ -17,11 +17,16 @@ struct FakeDesktop final : Desktop {
     bool otherInstance = false;
     int eventsHandled = 0;
     int quits = 0;
+    std::function<void()> whileHandlingEvents; ///< what the user does that waits to be handled
     bool hourglass = false;
     std::function<void()> whileWaitingForEscape; ///< what the user sees of held work; then Esc is pressed
 
     bool anotherInstanceRuns() override { return otherInstance; }
-    void doEvents() override { ++eventsHandled; }
+    void doEvents() override
+    {
+        ++eventsHandled;
+        if (whileHandlingEvents) whileHandlingEvents();
+    }
     void waitForEscape() override
     {
         if (whileWaitingForEscape) whileWaitingForEscape();

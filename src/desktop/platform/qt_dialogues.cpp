@@ -111,13 +111,14 @@ void fillBox(QMessageBox& view, const MessageBox& box)
     if (box.buttons == BoxButtons::YesNo) view.setEscapeButton(QMessageBox::No);
 }
 
-/// The window that the user works in: a box that belongs to another could come up behind one that is kept on top.
+/// The window that the user works in: a box that belongs to another could come up behind one that is kept on top. A box
+/// of a minimised window would be hidden with it.
 QWidget* QtDialogues::parentNow() const
 {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     QWidget* active = QApplication::activeWindow();
-    if (active != nullptr && active->windowType() == Qt::Dialog) return active;
-    return m_parent != nullptr && m_parent->isVisible() ? m_parent : nullptr;
+    if (active != nullptr && active->windowType() == Qt::Dialog && !active->isMinimized()) return active;
+    return m_parent != nullptr && m_parent->isVisible() && !m_parent->isMinimized() ? m_parent : nullptr;
 }
 
 Answer QtDialogues::show(const MessageBox& box)

@@ -57,7 +57,8 @@ ProcessId PosixProcesses::start(const std::string& commandLine, int /*style*/, c
     const CommandLine line = splitCommandLine(commandLine);
     const std::string native = findProgram(m_drives, inSystemFolder(line.program));
     const std::string place = m_drives.toNative(directory);
-    if (!fs::is_directory(place)) throw RuntimeError(ErrorCode::PathNotFound, "Path not found");
+    std::error_code error;
+    if (!fs::is_directory(place, error)) throw RuntimeError(ErrorCode::PathNotFound, "Path not found");
 
     const ProgramKind kind = kindOfProgram(native);
     switch (kind) {
@@ -130,7 +131,7 @@ std::string PosixProcesses::wineArgument(const std::string& argument) const
 ProcessId PosixProcesses::adopt(pid_t process, std::unique_ptr<DosboxRun> dos)
 {
     const int file = openProcess(process);
-    m_children.push_back({process, file, std::move(dos)});
+    m_children.push_back({process, file, std::move(dos), 0});
     if (file >= 0) watch(file);
     return process;
 }
@@ -153,7 +154,7 @@ void PosixProcesses::forget(std::vector<Child>::iterator child)
 void PosixProcesses::reap()
 {
     for (auto child = m_children.begin(); child != m_children.end();) {
-        if (hasEnded(child->process, WNOHANG)) {
+        if (child->waits == 0 && hasEnded(child->process, WNOHANG)) {
             const auto index = child - m_children.begin();
             forget(child);
             child = m_children.begin() + index;
@@ -167,11 +168,13 @@ std::int32_t PosixProcesses::wait(ProcessId process, std::int32_t timeout)
 {
     const auto child = find(process);
     if (child == m_children.end()) return waitResult::failed;
-    if (child->file >= 0 && !waitUntilReadable(child->file, timeout)) return waitResult::timeout;
-    const auto still = find(process); // others may have ended meanwhile
-    if (still == m_children.end()) return waitResult::ended;
+    ++child->waits;
+    const bool ended = child->file < 0 || waitUntilReadable(child->file, timeout);
+    const auto still = find(process); // others may have been started, or have ended, meanwhile
+    const bool isLast = --still->waits == 0;
+    if (!ended) return waitResult::timeout;
     hasEnded(process, 0);
-    forget(still);
+    if (isLast) forget(still);
     return waitResult::ended;
 }
 

@@ -30,7 +30,7 @@ public:
     std::int32_t wait(ProcessId process, std::int32_t timeout) override;
     std::string windowsDirectory() const override { return "c:\\windows"; }
 
-    /// Takes leave of the programs that have ended.
+    /// Takes leave of the programs that have ended and that nobody waits for.
     void reap();
 
 protected:
@@ -46,6 +46,7 @@ private:
         pid_t process;
         int file;                       ///< can be read once it has ended; -1: there is no such thing
         std::unique_ptr<DosboxRun> dos; ///< of a DOS program
+        int waits = 0;                  ///< that go on: its file is theirs, and so is taking leave of it
     };
     ProcessId adopt(pid_t process, std::unique_ptr<DosboxRun> dos);
     std::vector<Child>::iterator find(ProcessId process);

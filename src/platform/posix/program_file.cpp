@@ -62,7 +62,8 @@ std::string findProgram(const DriveMap& drives, const std::string& dosPath)
         throw known ? RuntimeError(ErrorCode::FileNotFound, "File not found")
                     : RuntimeError(ErrorCode::PathNotFound, "Path not found");
     }
-    if (!fs::is_regular_file(native)) throw RuntimeError(ErrorCode::PathFileAccess, "Path/File access error");
+    std::error_code error;
+    if (!fs::is_regular_file(native, error)) throw RuntimeError(ErrorCode::PathFileAccess, "Path/File access error");
     return native;
 }
 

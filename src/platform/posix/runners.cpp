@@ -1,7 +1,7 @@
 #include "platform/posix/runners.h"
 
-#include "platform/errors.h"
 #include "platform/profile_file.h"
+#include "platform/runner_missing.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -63,7 +63,7 @@ std::string findRunner(FileSystem& files, Dialogues& dialogues, const std::strin
                             row.package + "), or write its full path after " + row.key +
                             "= in the section [Programs] of " + iniPath + ".",
                     .icon = BoxIcon::Exclamation});
-    throw RuntimeError(ErrorCode::FileNotFound, "File not found");
+    throw RunnerMissing();
 }
 
 } // namespace tarvex

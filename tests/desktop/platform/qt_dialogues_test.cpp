@@ -79,6 +79,29 @@ TEST(QtDialogues, ReturnIsTheDefaultButton)
     EXPECT_EQ(answerTo(BoxButtons::Ok, Qt::Key_Return), Answer::Ok);
 }
 
+TEST(QtDialogues, ABoxThatComesWhileTheWindowIsMinimisedIsNotHiddenWithIt)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    QWidget window;
+    dialogues.setParent(&window);
+    const auto parentOfBox = [&] {
+        const QWidget* parent = nullptr;
+        QTimer::singleShot(0, [&parent] {
+            parent = QApplication::activeModalWidget()->parentWidget();
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        });
+        dialogues.show(question(BoxButtons::Ok));
+        return parent;
+    };
+    window.show();
+    EXPECT_EQ(parentOfBox(), &window);
+    window.showMinimized();
+    EXPECT_EQ(parentOfBox(), nullptr);
+    window.showNormal();
+    EXPECT_EQ(parentOfBox(), &window);
+}
+
 TEST(NameFilters, PairsOfDescriptionAndMasksFitNamesInAnyCase)
 {
     const QStringList filters = nameFilters("Joystick file (*.b50)|*.b50|All types|*.f22;*.b50|All files (*.*)|*.*");

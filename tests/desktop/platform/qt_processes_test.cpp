@@ -120,6 +120,33 @@ TEST(WaitForLoader, ATimeoutEndsTheWaitAndNotTheLoader)
     EXPECT_TRUE(t.waitWhileTheUserActs());
 }
 
+/// Waits, without taking leave of it, until a child has ended.
+void awaitEnd(ProcessId process)
+{
+    siginfo_t info{};
+    EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(process), &info, WEXITED | WNOWAIT), 0);
+}
+
+TEST(WaitForLoader, EndsWhenAnotherProgramEndsInTheSameMoment)
+{
+    Waiting t;
+    const ProcessId other = t.processes.start("c:\\load.exe", windowStyle::normal, "c:\\");
+    t.window.acts.emplace_back([&] {
+        for (const ProcessId process : {other, t.process}) {
+            ::kill(-process, SIGTERM);
+            awaitEnd(process);
+        }
+        t.processes.reap(); // as the end of the other one asks for it
+        EXPECT_EQ(::waitpid(other, nullptr, WNOHANG), -1) << "the other one is gone";
+        siginfo_t info{};
+        EXPECT_EQ(::waitid(P_PID, static_cast<id_t>(t.process), &info, WEXITED | WNOWAIT | WNOHANG), 0)
+            << "the one that is waited for isn't taken from the wait";
+    });
+    EXPECT_TRUE(t.waitWhileTheUserActs());
+    EXPECT_EQ(t.result, waitResult::ended);
+    EXPECT_EQ(t.processes.wait(t.process, 0), waitResult::failed) << "and is gone afterwards";
+}
+
 TEST(StartedProgram, ThatNobodyWaitsForIsTakenLeaveOfWhenItEnds)
 {
     Waiting t;
