@@ -22,13 +22,16 @@ std::optional<FileSum> sumOfFile(const Editor& editor, const std::string& path)
     return sum;
 }
 
-/// Everything typed is in the file already, or was taken back.
+/// Everything typed is in the file already, or was taken back. A base that stands in no file, as that of a text which
+/// came back under a new name, isn't to be found anywhere else.
 bool isNeedless(Editor& editor, LeftJournal& left)
 {
-    const Journal& journal = left.journal;
-    const auto now = sumOfFile(editor, journal.start.path);
-    left.fileIsSame = now == journal.start.file;
-    return (now && *now == sumOf(journal.text)) || (left.fileIsSame && journal.text == journal.start.base);
+    const JournalStart& start = left.journal.start;
+    const std::string& text = left.journal.text;
+    const auto now = sumOfFile(editor, start.path);
+    left.fileIsSame = now == start.file;
+    if (now && *now == sumOf(text)) return true;
+    return left.fileIsSame && text == start.base && (start.file || start.base.empty());
 }
 
 /// Nothing for a file that holds no text; it is removed when it is ours.

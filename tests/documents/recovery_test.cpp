@@ -474,6 +474,31 @@ TEST(Recovery, IsNotOfferedForEditsThatWereTakenBack)
     EXPECT_EQ(t.journals(), 0U);
 }
 
+TEST(Recovery, EditsTakenBackInATextThatStandsInNoFileAreNoReasonToDropIt)
+{
+    OpenPair t;
+    t.typeJoystick("mine ");
+    t.files.addFile(joystickPath, "BTN S1 theirs\r\n");
+    t.killAndStart({Answer::Yes});
+    t.menus().mnuEditUndo.Click();
+    ASSERT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
+    t.killAndStart({Answer::Yes});
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
+    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled-mig.b50");
+    EXPECT_EQ(t.joystick().Changed, changed::modified);
+}
+
+TEST(Recovery, IsNotOfferedForANewDocumentThatIsEmptyAgain)
+{
+    TestProgram t;
+    t.pressKeys(t.editor().JoystickText, "x\b");
+    ASSERT_FALSE(t.files.list(directory).empty());
+    t.start();
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    EXPECT_TRUE(t.files.list(directory).empty());
+}
+
 TEST(Recovery, UndoneTextComesBackUndone)
 {
     OpenPair t;
