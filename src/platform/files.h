@@ -29,6 +29,9 @@ public:
     /// Has everything appended so far put onto the disk, without waiting for that. False: the disk is still busy with
     /// an earlier call, ask again. Throws RuntimeError when the disk didn't take what an earlier call gave it.
     virtual bool sync() = 0;
+    /// The disk has all that the calls of sync gave it. False: it is still busy. Throws as sync does; each failure is
+    /// told once.
+    virtual bool isSynced() = 0;
 };
 
 /// The files of the world, by DOS path: drive letter, ":", "\", names in any case (the exact spelling wins). Paths are

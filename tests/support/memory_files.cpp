@@ -125,7 +125,10 @@ void MemoryFiles::createDirectory(const std::string& path)
 /// As on a real disk, a file that was removed may still be written to; nobody sees it.
 class MemoryFiles::GrowingFile final : public AppendFile {
 public:
-    GrowingFile(MemoryFiles& files, std::string path) : m_files(files), m_path(std::move(path)) {}
+    GrowingFile(MemoryFiles& files, std::string path) : m_files(files), m_path(std::move(path)) { ++m_files.m_growing; }
+    ~GrowingFile() override { --m_files.m_growing; }
+    GrowingFile(const GrowingFile&) = delete;
+    GrowingFile& operator=(const GrowingFile&) = delete;
 
     void append(std::string_view bytes) override
     {
@@ -139,13 +142,24 @@ public:
     bool sync() override
     {
         if (m_files.m_appendError && m_files.m_appendRoom == 0) throw RuntimeError(*m_files.m_appendError);
+        if (!isSynced()) return false;
         ++m_files.m_syncs;
+        m_syncing = true;
+        return true;
+    }
+    bool isSynced() override
+    {
+        if (!m_syncing) return true;
+        if (m_files.m_syncsHeld) return false;
+        m_syncing = false;
+        if (m_files.m_syncError) throw RuntimeError(*m_files.m_syncError);
         return true;
     }
 
 private:
     MemoryFiles& m_files;
     std::string m_path;
+    bool m_syncing = false;
 };
 
 std::unique_ptr<AppendFile> MemoryFiles::createAppendFile(const std::string& path)

@@ -37,6 +37,12 @@ public:
     void clearWrites() { m_writes.clear(); }
     /// How often a growing file was synced.
     int syncs() const { return m_syncs; }
+    /// Each sync of a growing file stays under way from now on, or no longer.
+    void holdSyncs(bool held) { m_syncsHeld = held; }
+    /// Each sync of a growing file fails in the end from now on, or no longer.
+    void failSyncs(std::optional<RuntimeError> error) { m_syncError = std::move(error); }
+    /// Growing files that are open.
+    int growing() const { return m_growing; }
     /// The bytes of a file; nothing when there is none.
     std::optional<std::string> contents(const std::string& path) const;
     /// The path in the case in which its file or directory was made, or the path itself.
@@ -74,6 +80,9 @@ private:
     std::optional<RuntimeError> m_appendError;
     std::size_t m_appendRoom = 0; ///< bytes until the error
     int m_syncs = 0;
+    bool m_syncsHeld = false;
+    std::optional<RuntimeError> m_syncError;
+    int m_growing = 0;
 };
 
 } // namespace tarvex

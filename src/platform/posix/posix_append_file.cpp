@@ -36,23 +36,24 @@ BackgroundSync::~BackgroundSync()
 
 bool BackgroundSync::start()
 {
-    if (m_started && ::aio_error(m_request.get()) == EINPROGRESS) return false;
-    checkLast();
+    if (!hasEnded()) return false;
     *m_request = {};
     m_request->aio_fildes = m_file;
     m_request->aio_sigevent.sigev_notify = SIGEV_NONE;
-    m_started = ::aio_fsync(O_DSYNC, m_request.get()) == 0;
+    m_started = m_calls.startSync(*m_request) == 0;
     if (!m_started && m_calls.fsync(m_file) < 0) throwSystemError(); // a system without it makes the user wait
     return true;
 }
 
-void BackgroundSync::checkLast()
+bool BackgroundSync::hasEnded()
 {
-    if (!m_started) return;
-    m_started = false;
+    if (!m_started) return true;
     const int error = ::aio_error(m_request.get());
+    if (error == EINPROGRESS) return false;
+    m_started = false;
     ::aio_return(m_request.get());
     if (error != 0) throw systemError(error);
+    return true;
 }
 
 // ---- PosixAppendFile ------------------------------------------------------------------------------------------------
@@ -71,11 +72,31 @@ PosixAppendFile::PosixAppendFile(SystemCalls& calls, const std::string& path)
 
 bool PosixAppendFile::sync()
 {
-    if (m_directorySync && !m_nameAsked) {
-        m_nameAsked = true; // not every file system syncs a folder; the contents are what counts
-        m_directorySync->start();
-    }
+    if (m_directorySync && !m_nameAsked) syncName();
     return m_sync.start();
+}
+
+bool PosixAppendFile::isSynced() { return isNameSynced() && m_sync.hasEnded(); }
+
+void PosixAppendFile::syncName()
+{
+    m_nameAsked = true;
+    try {
+        m_directorySync->start();
+    } catch (const RuntimeError&) { // not every file system syncs a folder; the contents are what counts
+        m_directorySync.reset();
+    }
+}
+
+bool PosixAppendFile::isNameSynced()
+{
+    try {
+        return !m_directorySync || m_directorySync->hasEnded();
+    } catch (const RuntimeError& error) {
+        m_directorySync.reset();
+        if (error.code() == ErrorCode::DeviceInputOutput || error.code() == ErrorCode::DiskFull) throw;
+        return true; // refused, as by a file system that doesn't sync folders
+    }
 }
 
 } // namespace tarvex

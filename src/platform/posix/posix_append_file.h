@@ -22,10 +22,10 @@ public:
 
     /// Also throws what went wrong with the one that ended last. False: one is still under way.
     bool start();
+    /// None is under way. Throws once what went wrong with the last one.
+    bool hasEnded();
 
 private:
-    void checkLast();
-
     SystemCalls& m_calls;
     int m_file;
     std::unique_ptr<aiocb> m_request;
@@ -40,8 +40,12 @@ public:
 
     void append(std::string_view bytes) override { m_file.writeAll(bytes); }
     bool sync() override;
+    bool isSynced() override;
 
 private:
+    void syncName();
+    bool isNameSynced();
+
     OpenFile m_file;
     BackgroundSync m_sync;
     std::optional<OpenFile> m_directory; ///< the name of the file has to be safe in it as well

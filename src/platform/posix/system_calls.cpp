@@ -1,5 +1,6 @@
 #include "platform/posix/system_calls.h"
 
+#include <aio.h>
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
@@ -14,6 +15,7 @@ int SystemCalls::fstat(int file, struct stat& status) { return ::fstat(file, &st
 int SystemCalls::fchown(int file, uid_t user, gid_t group) { return ::fchown(file, user, group); }
 int SystemCalls::fchmod(int file, mode_t mode) { return ::fchmod(file, mode); }
 int SystemCalls::fsync(int file) { return ::fsync(file); }
+int SystemCalls::startSync(aiocb& request) { return ::aio_fsync(O_DSYNC, &request); }
 int SystemCalls::close(int file) { return ::close(file); }
 
 int SystemCalls::lstat(const std::string& path, struct stat& status) { return ::lstat(path.c_str(), &status); }

@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
+struct aiocb;
+
 namespace tarvex {
 
 /// The calls of the operating system that saving a file takes. They do what their namesakes do: -1 and errno when they
@@ -21,6 +23,8 @@ public:
     virtual int fchown(int file, uid_t user, gid_t group);
     virtual int fchmod(int file, mode_t mode);
     virtual int fsync(int file);
+    /// Has the system sync the file of the request in the background.
+    virtual int startSync(aiocb& request);
     virtual int close(int file);
 
     virtual int lstat(const std::string& path, struct stat& status);

@@ -23,6 +23,7 @@ public:
     std::string lockedFolder; ///< with "/" at its end: takes no new file
     std::size_t mostPerWrite = static_cast<std::size_t>(-1);
     std::size_t room = static_cast<std::size_t>(-1); ///< bytes until the disk is full
+    bool backgroundSyncs = true; ///< the system has them
 
     std::vector<std::string> made; ///< names of the calls so far
 
@@ -54,6 +55,10 @@ public:
         return fails("fchown") ? -1 : SystemCalls::fchown(file, user, group);
     }
     int fchmod(int file, mode_t mode) override { return fails("fchmod") ? -1 : SystemCalls::fchmod(file, mode); }
+    int startSync(aiocb& request) override
+    {
+        return backgroundSyncs ? SystemCalls::startSync(request) : refuse(ENOSYS);
+    }
     int fsync(int file) override { return fails("fsync") ? -1 : SystemCalls::fsync(file); }
     int close(int file) override
     {

@@ -5,6 +5,7 @@
 #include "support/temporary_directory.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tarvex {
@@ -109,6 +110,60 @@ TEST(PosixAppendFile, AFolderThatCannotBeOpenedForSyncingDoesNoHarm)
     ASSERT_EQ(calls.made.at(2), "open");
     file.append("x");
     EXPECT_TRUE(file.sync());
+}
+
+TEST(PosixAppendFile, AFolderThatCannotBeSyncedDoesNoHarm)
+{
+    const TemporaryDirectory disk;
+    FaultyCalls calls;
+    calls.backgroundSyncs = false;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    file.append("x");
+    const std::size_t folders = calls.made.size();
+    calls.fault = FaultyCalls::Fault{folders, EIO};
+    EXPECT_TRUE(file.sync());
+    ASSERT_EQ(calls.made.size(), folders + 2);
+    EXPECT_EQ(calls.made[folders], "fsync");
+    EXPECT_EQ(calls.made[folders + 1], "fsync") << "the file itself";
+    EXPECT_TRUE(file.isSynced());
+}
+
+TEST(PosixAppendFile, AFileThatCannotBeSyncedIsTold)
+{
+    const TemporaryDirectory disk;
+    FaultyCalls calls;
+    calls.backgroundSyncs = false;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    EXPECT_TRUE(file.sync());
+    calls.fault = FaultyCalls::Fault{calls.made.size(), EIO};
+    EXPECT_THROW(file.sync(), RuntimeError);
+}
+
+TEST(PosixAppendFile, TellsWhenTheDiskHasIt)
+{
+    const TemporaryDirectory disk;
+    SystemCalls calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    EXPECT_TRUE(file.isSynced()) << "nothing was given to the disk yet";
+    file.append("x");
+    EXPECT_TRUE(file.sync());
+    while (!file.isSynced()) std::this_thread::yield();
+    EXPECT_TRUE(file.sync()) << "not busy any more";
+}
+
+TEST(BackgroundSync, EndsOnceAndTellsItsFailureOnce)
+{
+    int ends[2] = {};
+    ASSERT_EQ(::pipe(ends), 0); // no disk takes its bytes
+    SystemCalls calls;
+    BackgroundSync sync(calls, ends[1]);
+    EXPECT_TRUE(sync.hasEnded()) << "none was started";
+    sync.start();
+    EXPECT_THROW(
+        while (!sync.hasEnded()) std::this_thread::yield(), RuntimeError);
+    EXPECT_TRUE(sync.hasEnded());
+    ::close(ends[0]);
+    ::close(ends[1]);
 }
 
 TEST(BackgroundSync, TellsTheNextTimeWhatWentWrong)
