@@ -1,5 +1,7 @@
 #include "documents/recovery_journal.h"
 
+#include "documents/recovery_sync.h"
+
 #include <algorithm>
 #include <charconv>
 #include <utility>
@@ -50,9 +52,8 @@ JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
 /// What is on the disk stays there, as far as it is whole.
 void giveUpForNow(Editor& editor, JournalRecord& journal)
 {
-    journal.Out.reset();
+    closeFile(journal);
     journal.Failed = true;
-    journal.Unsynced = false;
     editor.TimerJournal.Enabled = true;
     if (editor.ToldJournalFailure) return;
     editor.ToldJournalFailure = true;
@@ -114,12 +115,23 @@ bool hasOutgrown(const Side& side)
 void sync(Editor& editor, JournalRecord& journal)
 {
     const Steps step(editor.shared.errors, tag);
-    bool taken = false;
+    bool wentWell = false;
+    bool isSafe = false;
     step([&] {
-        journal.Unsynced = !journal.Out->sync();
-        taken = true;
+        isSafe = syncFurther(journal);
+        wentWell = true;
     });
-    if (!taken) giveUpForNow(editor, journal);
+    if (!wentWell) return giveUpForNow(editor, journal);
+    if (!isSafe) return;
+    editor.ToldJournalFailure = false;
+    removeJournal(editor, std::exchange(journal.Replaced, 0));
+}
+
+/// The journal in whose place the next one is begun. One that the disk has never had for certain isn't worth keeping
+/// beside the one before it.
+std::uint64_t keptUntilSafe(const JournalRecord& journal, std::uint64_t replaces)
+{
+    return journal.Replaced != 0 ? journal.Replaced : replaces;
 }
 
 } // namespace
@@ -159,13 +171,14 @@ void followEdits(Editor& editor)
 void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& file)
 {
     JournalRecord& journal = side.Journal;
-    journal.Out.reset();
+    closeFile(journal);
+    removeJournal(editor, std::exchange(journal.Replaced, 0)); // first: alone it would be taken for the latest
     removeJournal(editor, std::exchange(journal.Number, 0));
     journal.Base = side.pane.TextRTF();
     journal.File = file;
     journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
     journal.Unwritten.reset();
-    journal.Unsynced = journal.Failed = false;
+    journal.Failed = false;
 
     Side& partner = editor.other(side);
     if (partner.Journal.Out)
@@ -180,14 +193,16 @@ void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
     journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
     journal.Number = replaces;
 
+    const std::uint64_t kept = keptUntilSafe(journal, replaces);
     const std::uint64_t number = nextNumber(editor);
     std::unique_ptr<AppendFile> out;
     bool begun = false;
     step([&] {
         journal.Chain = 0;
-        const std::string bytes = journalStart(startOf(editor, side, replaces), journal.Chain);
+        const std::string bytes = journalStart(startOf(editor, side, kept), journal.Chain);
         out = editor.platform.files.createAppendFile(journalPath(editor, number));
         out->append(bytes);
+        closeFile(journal);
         journal.Size = 0;
         wrote(editor, journal, bytes.size());
         begun = true;
@@ -198,15 +213,15 @@ void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
     }
     journal.Out = std::move(out);
     journal.Number = number;
+    journal.Replaced = kept;
     journal.Failed = false;
-    editor.ToldJournalFailure = false;
-    removeJournal(editor, replaces);
+    if (kept != replaces) removeJournal(editor, replaces);
 }
 
 void writeDownChanges(Editor& editor, Side& side)
 {
     JournalRecord& journal = side.Journal;
-    if (!journal.Unwritten || journal.Failed) return;
+    if (!journal.Unwritten || journal.Failed || journal.Held) return;
     if (!journal.Out) return beginJournal(editor, side, journal.Number);
     append(editor, journal, journalEdit(takeUnwritten(side), journal.Chain));
     if (journal.Out && hasOutgrown(side)) beginJournal(editor, side, journal.Number);
@@ -217,9 +232,13 @@ void TimerJournal_Timer(Editor& editor)
     bool goesOn = false;
     for (Side* side : {&editor.joystick, &editor.macro}) {
         JournalRecord& journal = side->Journal;
-        if (journal.Failed) beginJournal(editor, *side, journal.Number);
-        if (journal.Unsynced && journal.Out) sync(editor, journal);
-        goesOn = goesOn || journal.Unsynced || journal.Failed;
+        sync(editor, journal);
+        if (journal.Failed) {
+            beginJournal(editor, *side, journal.Number);
+            sync(editor, journal);
+        }
+        const bool closed = closeEnded(journal);
+        goesOn = goesOn || journal.Unsynced || journal.Syncing || journal.Failed || !closed;
     }
     editor.TimerJournal.Enabled = goesOn;
 }

@@ -19,7 +19,7 @@ void followEdits(Editor& editor);
 void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& file);
 /// Writes down what has changed while IsLoading was 1, for a change that counts as the user's after all.
 void writeDownChanges(Editor& editor, Side& side);
-/// Begins a journal with the document as it is; the one of that number (0: none) goes once the new one is there.
+/// Begins a journal with the document as it is; the one of that number (0: none) goes once the disk has the new one.
 void beginJournal(Editor& editor, Side& side, std::uint64_t replaces);
 
 /// 15 seconds have gone by: what was written goes to the disk, and a journal that couldn't be written gets another try.

@@ -31,6 +31,13 @@ struct OpenPair : TestProgram {
         dialogues.answers = std::move(answers);
         start();
     }
+    void fifteenSecondsLater() { editor().TimerJournal.Tick(); }
+    /// What was written goes to the disk, and the disk says that it has it.
+    void diskIsDone()
+    {
+        fifteenSecondsLater();
+        fifteenSecondsLater();
+    }
     std::size_t journals() { return files.directoryExists(directory) ? files.list(directory).size() : 0; }
     std::string onlyJournal()
     {
@@ -164,9 +171,121 @@ TEST(Journal, GoesToTheDiskWithinFifteenSecondsAndTheTimerRestsThen)
     EXPECT_EQ(t.files.syncs(), 0) << "a key doesn't wait for the disk";
     t.editor().TimerJournal.Tick();
     EXPECT_EQ(t.files.syncs(), 1);
+    EXPECT_TRUE(t.editor().TimerJournal.Enabled) << "to see how that ends";
+    t.fifteenSecondsLater();
+    EXPECT_EQ(t.files.syncs(), 1);
     EXPECT_FALSE(t.editor().TimerJournal.Enabled) << "idle, the program uses no processor time";
     t.typeJoystick("b");
     EXPECT_TRUE(t.editor().TimerJournal.Enabled);
+}
+
+TEST(Journal, IsLookedAfterUntilTheDiskHasIt)
+{
+    OpenPair t;
+    t.files.holdSyncs(true);
+    t.typeJoystick("a");
+    for (int i = 0; i < 3; ++i) t.fifteenSecondsLater();
+    EXPECT_TRUE(t.editor().TimerJournal.Enabled);
+    EXPECT_EQ(t.files.syncs(), 1) << "one at a time";
+    t.typeJoystick("b");
+    t.files.holdSyncs(false);
+    t.fifteenSecondsLater();
+    EXPECT_EQ(t.files.syncs(), 2) << "what was written meanwhile";
+    EXPECT_TRUE(t.editor().TimerJournal.Enabled);
+    t.fifteenSecondsLater();
+    EXPECT_FALSE(t.editor().TimerJournal.Enabled);
+}
+
+TEST(Journal, ThatTheDiskDidNotTakeIsToldOnceAndWrittenAnew)
+{
+    OpenPair t;
+    t.files.failSyncs(RuntimeError(ErrorCode::DeviceInputOutput, "Input/output error"));
+    t.typeJoystick("a");
+    const std::string first = t.onlyJournal();
+    t.fifteenSecondsLater();
+    EXPECT_EQ(t.status().find("Input/output error"), std::string::npos);
+    t.fifteenSecondsLater();
+    EXPECT_EQ(t.status(), "I can't take notes of what you type, so you'd better save it now and then: Input/output error");
+    t.editor().status("something else");
+    t.typeJoystick("b");
+    for (int i = 0; i < 5; ++i) t.fifteenSecondsLater();
+    EXPECT_EQ(t.status(), "something else");
+    EXPECT_TRUE(t.editor().TimerJournal.Enabled);
+    EXPECT_EQ(t.journals(), 2U) << "the first and the last";
+    EXPECT_TRUE(t.files.fileExists(first));
+    t.files.failSyncs(std::nullopt);
+    t.diskIsDone();
+    EXPECT_FALSE(t.editor().TimerJournal.Enabled);
+    EXPECT_FALSE(t.files.fileExists(first));
+    EXPECT_EQ(t.journals(), 1U);
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "abBTN S1 fire\r\n");
+    EXPECT_EQ(t.lastBox().text.find("older notes"), std::string::npos);
+}
+
+// ---- one in another's place ----
+
+TEST(Journal, WhosePlaceIsTakenStaysUntilTheDiskHasTheNewOne)
+{
+    OpenPair t;
+    t.typeJoystick("a");
+    t.diskIsDone();
+    const std::string older = t.onlyJournal();
+    t.files.holdSyncs(true);
+    beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
+    t.diskIsDone();
+    EXPECT_TRUE(t.files.fileExists(older)) << "the disk is busy yet";
+    EXPECT_EQ(t.journals(), 2U);
+    t.files.holdSyncs(false);
+    t.fifteenSecondsLater();
+    EXPECT_FALSE(t.files.fileExists(older));
+    EXPECT_EQ(t.journals(), 1U);
+}
+
+TEST(Journal, WhosePlaceIsTakenTwiceBeforeTheDiskHasOneStaysBesideTheLastOnly)
+{
+    OpenPair t;
+    t.typeJoystick("a");
+    t.diskIsDone();
+    const std::string older = t.onlyJournal();
+    beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
+    beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
+    EXPECT_TRUE(t.files.fileExists(older));
+    EXPECT_EQ(t.journals(), 2U);
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.editor().JoystickText.Text(), "aBTN S1 fire\r\n");
+    EXPECT_EQ(t.lastBox().text.find("older notes"), std::string::npos) << "the last tells whose place it has";
+}
+
+TEST(Journal, IsRemovedAtSaveWithTheOneWhosePlaceItTook)
+{
+    OpenPair t;
+    t.typeJoystick("a");
+    beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
+    ASSERT_EQ(t.journals(), 2U);
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(t.journals(), 0U);
+    t.diskIsDone();
+    EXPECT_EQ(t.journals(), 0U);
+}
+
+TEST(Journal, IsClosedOnceTheDiskIsDoneWithItSoThatNoKeyWaitsForThat)
+{
+    OpenPair t;
+    t.typeJoystick("a");
+    t.files.holdSyncs(true);
+    t.fifteenSecondsLater();
+    beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
+    EXPECT_EQ(t.files.growing(), 2);
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(t.files.growing(), 1) << "the disk hasn't been asked to take the second";
+    t.fifteenSecondsLater();
+    EXPECT_EQ(t.files.growing(), 1);
+    EXPECT_TRUE(t.editor().TimerJournal.Enabled);
+    t.files.holdSyncs(false);
+    t.fifteenSecondsLater();
+    EXPECT_EQ(t.files.growing(), 0);
+    EXPECT_FALSE(t.editor().TimerJournal.Enabled);
 }
 
 TEST(Journal, IsWrittenAnewWhenItHasOutgrownTheText)
@@ -177,6 +296,7 @@ TEST(Journal, IsWrittenAnewWhenItHasOutgrownTheText)
     const std::string line(2000, 'x');
     for (int i = 0; i < 1000; ++i) {
         t.editor().JoystickText.userEdit(0, i == 0 ? 0 : 2000, line.substr(0, 1999) + static_cast<char>('a' + i % 26));
+        t.diskIsDone();
         ASSERT_EQ(t.journals(), 1U);
         if (names.find(t.onlyJournal()) == std::string::npos) names += t.onlyJournal();
         largest = std::max(largest, t.fileText(t.onlyJournal()).size());
@@ -235,7 +355,7 @@ TEST(Journal, WhoseLastRecordIsHalfThereGivesWayToAWholeOne)
     t.typeJoystick("b");
     EXPECT_EQ(t.journals(), 1U) << "what is there of it is worth keeping";
     t.files.failAppends(std::nullopt);
-    t.editor().TimerJournal.Tick();
+    t.diskIsDone();
     EXPECT_EQ(t.journals(), 1U);
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "abBTN S1 fire\r\n");
@@ -292,13 +412,17 @@ TEST(Recovery, TextThatWasBroughtBackIsKeptAsWellAsNew)
 {
     OpenPair t;
     t.typeJoystick("1");
+    const std::string first = t.onlyJournal();
     t.killAndStart({Answer::Yes});
-    EXPECT_EQ(t.journals(), 1U);
+    EXPECT_TRUE(t.files.fileExists(first)) << "until the disk has the new one";
+    EXPECT_EQ(t.journals(), 2U);
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "1BTN S1 fire\r\n");
     t.typeJoystick("2");
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "12BTN S1 fire\r\n");
+    EXPECT_EQ(t.lastBox().text.find("older notes"), std::string::npos);
+    t.diskIsDone();
     EXPECT_EQ(t.journals(), 1U);
 }
 
@@ -673,10 +797,25 @@ TEST(Recovery, AJournalThatTookTheOthersPlaceCountsAlone)
     const std::string bytes = t.fileText(older);
     beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
     t.typeJoystick("2");
-    t.files.addFile(older, bytes); // killed before it was removed
+    ASSERT_EQ(t.fileText(older), bytes);
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "12BTN S1 fire\r\n");
+    t.diskIsDone();
     EXPECT_EQ(t.journals(), 1U);
+}
+
+TEST(Recovery, AnEmptyJournalThatWasToTakeAnothersPlaceLeavesTheOther)
+{
+    OpenPair t;
+    t.typeJoystick("1");
+    const std::string older = t.onlyJournal();
+    beginJournal(t.editor(), t.joystick(), t.joystick().Journal.Number);
+    const std::string newer = journalPath(t.editor(), t.joystick().Journal.Number);
+    ASSERT_TRUE(t.files.fileExists(older));
+    t.files.addFile(newer, ""); // the power failed, and the disk had no more of it than its name
+    t.killAndStart({Answer::Yes});
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.editor().JoystickText.Text(), "1BTN S1 fire\r\n");
 }
 
 TEST(Recovery, OfTwoForOnePaneTheNewestComesBackAndTheOtherIsPutAside)
