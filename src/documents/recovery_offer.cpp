@@ -70,7 +70,19 @@ void showBase(Editor& editor, Side& side, const std::string& path, const std::st
     showDocument(editor, side, path, fileNameOf(path), base); // no macros to list
 }
 
-/// The path that the text has now; the journal goes once the one of the document that it has become is there.
+/// The journal stays, for another time.
+void tellOfWrongText(Editor& editor, const LeftJournal& found)
+{
+    editor.platform.dialogues.show(
+        {.title = "That's not quite it ...",
+         .text = "I couldn't bring " + fileNameOf(found.journal.start.name) +
+                 " back as you left it, so don't trust what you see there. My notes are still where they were: I'll "
+                 "ask you again next time, and if you press No then, you'll find them as plain text in\n\n    " +
+                 journalDirectory(editor),
+         .icon = BoxIcon::Exclamation});
+}
+
+/// The path that the text has now; the journal goes once the one of the document that it has become is safe.
 std::string bringBack(Editor& editor, const LeftJournal& found)
 {
     const Steps step(editor.shared.errors, tag);
@@ -79,9 +91,15 @@ std::string bringBack(Editor& editor, const LeftJournal& found)
     const std::string path = pathFor(editor, found);
     showBase(editor, side, path, start.base);
     noteTextSettled(editor, side, found.fileIsSame ? start.file : std::nullopt);
-    side.Journal.Number = found.number;
+    side.Journal.Held = true; // nothing takes the journal's place before all of it is there
     step([&] { putUnsavedText(editor, side, found.journal.text); });
-    if (!side.Journal.Out && !side.Journal.Failed) beginJournal(editor, side, found.number);
+    side.Journal.Held = false;
+    if (side.pane.Text() == found.journal.text) {
+        beginJournal(editor, side, found.number);
+    } else {
+        writeDownChanges(editor, side);
+        tellOfWrongText(editor, found);
+    }
     return path;
 }
 

@@ -818,6 +818,37 @@ TEST(Recovery, AnEmptyJournalThatWasToTakeAnothersPlaceLeavesTheOther)
     EXPECT_EQ(t.editor().JoystickText.Text(), "1BTN S1 fire\r\n");
 }
 
+TEST(Recovery, ATextThatThePaneCannotTakeAsItIsStaysInItsJournal)
+{
+    TestProgram t(false);
+    std::uint64_t chain = 0;
+    const std::string bytes = journalStart({.tab = 1,
+                                            .replaces = 0,
+                                            .path = "c:\\tm\\b50progs\\odd.b50",
+                                            .name = "odd.b50",
+                                            .partnerPath = {},
+                                            .file = {},
+                                            .base = "",
+                                            .edit = {0, 0, "a line end of another system\nb"}},
+                                           chain);
+    t.files.addFile("c:\\tarvex\\Recover\\1.journal", bytes);
+    t.dialogues.answers = {Answer::Yes};
+    t.start();
+    ASSERT_GE(t.dialogues.boxes.size(), 2U);
+    EXPECT_EQ(t.dialogues.boxes[1].title, "That's not quite it ...");
+    EXPECT_EQ(t.dialogues.boxes[1].icon, BoxIcon::Exclamation);
+    EXPECT_NE(t.dialogues.boxes[1].text.find("odd.b50"), std::string::npos);
+    for (int i = 0; i < 3; ++i) t.editor().TimerJournal.Tick();
+    t.editor().joystick.pane.userEdit(0, 0, "x");
+    t.dialogues.answers = {Answer::No};
+    t.menus().mnuFileNewJoystick.Click();
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Recover\\1.journal"), bytes) << "not the one of the document that is there";
+    t.dialogues.boxes.clear();
+    t.dialogues.answers = {Answer::No};
+    t.start();
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Recover\\odd.b50"), "a line end of another system\nb");
+}
+
 TEST(Recovery, OfTwoForOnePaneTheNewestComesBackAndTheOtherIsPutAside)
 {
     OpenPair t;
