@@ -205,7 +205,8 @@ TEST(Journal, ThatTheDiskDidNotTakeIsToldOnceAndWrittenAnew)
     t.fifteenSecondsLater();
     EXPECT_EQ(t.status().find("Input/output error"), std::string::npos);
     t.fifteenSecondsLater();
-    EXPECT_EQ(t.status(), "I can't take notes of what you type, so you'd better save it now and then: Input/output error");
+    EXPECT_EQ(t.status(),
+              "I can't take notes of what you type, so you'd better save it now and then: Input/output error");
     t.editor().status("something else");
     t.typeJoystick("b");
     for (int i = 0; i < 5; ++i) t.fifteenSecondsLater();

@@ -23,7 +23,7 @@ public:
     std::string lockedFolder; ///< with "/" at its end: takes no new file
     std::size_t mostPerWrite = static_cast<std::size_t>(-1);
     std::size_t room = static_cast<std::size_t>(-1); ///< bytes until the disk is full
-    bool backgroundSyncs = true; ///< the system has them
+    bool backgroundSyncs = true;                     ///< the system has them
 
     std::vector<std::string> made; ///< names of the calls so far
 

@@ -159,8 +159,7 @@ TEST(BackgroundSync, EndsOnceAndTellsItsFailureOnce)
     BackgroundSync sync(calls, ends[1]);
     EXPECT_TRUE(sync.hasEnded()) << "none was started";
     sync.start();
-    EXPECT_THROW(
-        while (!sync.hasEnded()) std::this_thread::yield(), RuntimeError);
+    EXPECT_THROW(while (!sync.hasEnded()) std::this_thread::yield(), RuntimeError);
     EXPECT_TRUE(sync.hasEnded());
     ::close(ends[0]);
     ::close(ends[1]);
