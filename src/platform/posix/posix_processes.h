@@ -34,17 +34,26 @@ public:
     void reap();
 
 protected:
-    /// Waits until the file can be read, `timeout` milliseconds at most, -1 for ever. False: the time is over.
-    virtual bool waitUntilReadable(int file, int timeout);
-    /// A program was started; the file can be read once it has ended.
-    virtual void watch(int file) { static_cast<void>(file); }
-    /// The file is about to be closed.
-    virtual void unwatch(int file) { static_cast<void>(file); }
+    /// A program that was started. Its file can be read once it has ended; -1: the system has no such thing, and it is
+    /// looked after from time to time.
+    struct Running {
+        pid_t process;
+        int file;
+    };
+    static constexpr int lookAfter = 20; ///< milliseconds
+    static bool hasEnded(const Running& program);
+
+    virtual int openProcess(pid_t process);
+    /// Waits until the program has ended, `timeout` milliseconds at most, -1 for ever. False: the time is over.
+    virtual bool waitForEnd(const Running& program, int timeout);
+    /// A program was started, or isn't waited for any more.
+    virtual void watch(const Running& program) { static_cast<void>(program); }
+    /// Somebody waits for it, or it is about to be forgotten.
+    virtual void unwatch(const Running& program) { static_cast<void>(program); }
 
 private:
     struct Child {
-        pid_t process;
-        int file;                       ///< can be read once it has ended; -1: there is no such thing
+        Running program;
         std::unique_ptr<DosboxRun> dos; ///< of a DOS program
         int waits = 0;                  ///< that go on: its file is theirs, and so is taking leave of it
     };
