@@ -1,12 +1,11 @@
 #include "lists/games.h"
 
+#include "documents/preferences_page.h"
 #include "documents/tabs.h"
 
 namespace tarvex {
 
 namespace {
-
-constexpr std::int16_t preferencesPage = 4;
 
 /// The marks go whatever became of the saving, since the program is about to end without asking.
 void saveDocuments(Editor& editor)
@@ -107,8 +106,7 @@ void mnuGamesAdd_Click(Games& games)
 
 void mnuGamesEdit_Click(Games& games)
 {
-    games.editor.shared.PreferencesPage = preferencesPage;
-    games.editor.menus.mnuPreferencesEdit.Click();
+    showPreferencesPage(games.editor, preferencesPage::games);
 }
 
 void mnuGamesDownloadFirst_Click(Games& games)
