@@ -1,5 +1,6 @@
 #include "lists/games.h"
 
+#include "documents/file_save.h"
 #include "documents/preferences_page.h"
 #include "documents/tabs.h"
 
@@ -10,13 +11,9 @@ namespace {
 /// The marks go whatever became of the saving, since the program is about to end without asking.
 void saveDocuments(Editor& editor)
 {
-    const int before = editor.TabStrip1.SelectedItem;
-    for (Side* side : {&editor.joystick, &editor.macro}) {
-        if (side->Changed != changed::modified) continue;
-        if (editor.TabStrip1.SelectedItem != side->tab) editor.TabStrip1.Select(side->tab); // Save saves what is shown
-        editor.menus.mnuFileSave.Click();
+    for (const Side* side : {&editor.joystick, &editor.macro}) {
+        if (side->Changed == changed::modified) saveSide(editor, *side);
     }
-    if (editor.TabStrip1.SelectedItem != before) editor.TabStrip1.Select(before);
     for (Side* side : {&editor.joystick, &editor.macro}) side->Changed = changed::saved;
     UpdateSavedIcon(editor);
 }
