@@ -1,5 +1,6 @@
 #include "download/outside_tools.h"
 
+#include "documents/preferences_page.h"
 #include "platform/dos_path.h"
 
 #include <string>
@@ -10,8 +11,6 @@ namespace tarvex {
 namespace {
 
 constexpr std::string_view pathNeeded = "You need to enter the path in preferences for the Thrustmaster Control Centre";
-
-constexpr std::int16_t preferencesPage = 2;
 
 /// A tool that lies in the Control Centre's folder.
 struct Tool {
@@ -172,8 +171,7 @@ void mnuCustomApp_Click(Editor& editor, int index)
 
 void mnuAppsEdit_Click(Editor& editor)
 {
-    editor.shared.PreferencesPage = preferencesPage;
-    editor.menus.mnuPreferencesEdit.Click();
+    showPreferencesPage(editor, preferencesPage::apps);
 }
 
 } // namespace tarvex

@@ -1,8 +1,11 @@
 // The whole road with real loaders: the stand-in, and such as nobody would like to have.
 
+#include "dos_loader.h"
+#include "platform/posix/runners.h"
 #include "support/disk_program.h"
 #include "support/temporary_directory.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace tarvex {
@@ -104,6 +107,24 @@ TEST(DownloadOnDisk, ALoaderThatMayNotRunShowsNothing)
     r.disk.put("drive_c/tm/winld.exe", "#!/bin/sh\ntouch wrong\n");
     EXPECT_EQ(r.download(), "old text");
     EXPECT_FALSE(r.exists("tm/wrong"));
+}
+
+TEST(DownloadOnDisk, ADosLoaderReportsThroughDosBox)
+{
+    if (findCommand(std::getenv("PATH"), "dosbox").empty()) GTEST_SKIP() << "dosbox isn't installed";
+    Road r("c:\\tm\\winld.com");
+    for (const char* driver : {"SDL_VIDEODRIVER", "SDL_AUDIODRIVER"}) ::setenv(driver, "dummy", 1);
+    ::setenv("HOME", r.disk.path().c_str(), 1); // where DOSBox keeps its settings
+    r.disk.put("drive_c/tm/winld.dat", "a\r\nb\r\n1\r\n");
+    r.disk.put("drive_c/tm/winld.com", dosLoader("WinLoad\r\nERROR\r\n2\r\nUnknown key b\r\n"));
+    EXPECT_EQ(r.download(), "Compiler reported an error at line 2: Unknown key b");
+    EXPECT_EQ(r.editor().JoystickText.SelText(), "BTN S2 b");
+    EXPECT_FALSE(r.exists("tm/winld.dat")) << "the old one went before";
+    EXPECT_TRUE(r.exists("tm/WINLD.DAT")) << "and DOS writes in capitals";
+
+    r.disk.put("drive_c/tm/winld.com", dosLoader("WinLoad\r\nOK\r\n30\r\n"));
+    EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 30 bytes)");
+    EXPECT_TRUE(r.t->dialogues.boxes.empty());
 }
 
 TEST(DownloadOnDisk, AMissingDosBoxIsToldOnceAndTheFrameComesBack)

@@ -3,6 +3,7 @@
 #include "desktop/documents/colour_selector_view.h"
 #include "desktop/documents/find_and_replace_view.h"
 #include "desktop/icon_theme.h"
+#include "desktop/minimise.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
@@ -147,7 +148,7 @@ void MumWindow::showForm(bool on)
         showMaximized();
         break;
     case WindowState::Minimised:
-        showMinimized();
+        minimise(*this);
         break;
     case WindowState::Normal:
         showNormal();

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <poll.h>
 #include <sys/wait.h>
@@ -20,13 +21,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// True once the process has ended and was taken leave of.
-bool hasEnded(pid_t process, int options)
+void takeLeave(pid_t process)
 {
-    pid_t result = 0;
-    do result = ::waitpid(process, nullptr, options);
-    while (result < 0 && errno == EINTR);
-    return result != 0; // an error means that there is nobody left to wait for
+    while (::waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
+    }
+}
+
+/// Waits until a file can be read, or, without one, for the time alone.
+void waitAWhile(int file, int timeout)
+{
+    pollfd polled{file, POLLIN, 0};
+    ::poll(&polled, file < 0 ? 0 : 1, timeout);
 }
 
 bool isArgumentPath(const std::string& argument) { return isDosPath(argument) && argument.size() > 2; }
@@ -44,7 +49,7 @@ PosixProcesses::~PosixProcesses()
     reap();
     for (Child& child : m_children) {
         if (child.dos) child.dos->folder().leave();
-        if (child.file >= 0) ::close(child.file);
+        if (child.program.file >= 0) ::close(child.program.file);
     }
 }
 
@@ -130,31 +135,30 @@ std::string PosixProcesses::wineArgument(const std::string& argument) const
 
 ProcessId PosixProcesses::adopt(pid_t process, std::unique_ptr<DosboxRun> dos)
 {
-    const int file = openProcess(process);
-    m_children.push_back({process, file, std::move(dos), 0});
-    if (file >= 0) watch(file);
+    const Running program{process, openProcess(process)};
+    m_children.push_back({program, std::move(dos), 0});
+    watch(program);
     return process;
 }
 
 std::vector<PosixProcesses::Child>::iterator PosixProcesses::find(ProcessId process)
 {
     return std::find_if(m_children.begin(), m_children.end(),
-                        [=](const Child& child) { return child.process == process; });
+                        [=](const Child& child) { return child.program.process == process; });
 }
 
 void PosixProcesses::forget(std::vector<Child>::iterator child)
 {
-    if (child->file >= 0) {
-        unwatch(child->file);
-        ::close(child->file);
-    }
+    unwatch(child->program);
+    takeLeave(child->program.process);
+    if (child->program.file >= 0) ::close(child->program.file);
     m_children.erase(child);
 }
 
 void PosixProcesses::reap()
 {
     for (auto child = m_children.begin(); child != m_children.end();) {
-        if (child->waits == 0 && hasEnded(child->process, WNOHANG)) {
+        if (child->waits == 0 && hasEnded(child->program)) {
             const auto index = child - m_children.begin();
             forget(child);
             child = m_children.begin() + index;
@@ -168,23 +172,44 @@ std::int32_t PosixProcesses::wait(ProcessId process, std::int32_t timeout)
 {
     const auto child = find(process);
     if (child == m_children.end()) return waitResult::failed;
-    ++child->waits;
-    const bool ended = child->file < 0 || waitUntilReadable(child->file, timeout);
+    if (child->waits++ == 0) unwatch(child->program);
+    const bool ended = waitForEnd(Running(child->program), timeout);
     const auto still = find(process); // others may have been started, or have ended, meanwhile
     const bool isLast = --still->waits == 0;
-    if (!ended) return waitResult::timeout;
-    hasEnded(process, 0);
-    if (isLast) forget(still);
-    return waitResult::ended;
+    if (isLast) {
+        if (ended) {
+            forget(still);
+        } else {
+            watch(still->program);
+        }
+    }
+    return ended ? waitResult::ended : waitResult::timeout;
 }
 
-bool PosixProcesses::waitUntilReadable(int file, int timeout)
+int PosixProcesses::openProcess(pid_t process) { return tarvex::openProcess(process); }
+
+/// Doesn't take leave of it.
+bool PosixProcesses::hasEnded(const Running& program)
 {
-    pollfd polled{file, POLLIN, 0};
+    siginfo_t end{};
     int result = 0;
-    do result = ::poll(&polled, 1, timeout);
+    do result = ::waitid(P_PID, static_cast<id_t>(program.process), &end, WEXITED | WNOHANG | WNOWAIT);
     while (result < 0 && errno == EINTR);
-    return result != 0;
+    return result < 0 || end.si_pid != 0; // an error means that there is nobody left to wait for
+}
+
+bool PosixProcesses::waitForEnd(const Running& program, int timeout)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    while (!hasEnded(program)) {
+        const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
+        if (timeout >= 0 && passed >= timeout) return false;
+        const int rest = timeout < 0 ? -1 : static_cast<int>(timeout - passed);
+        const bool asks = program.file < 0 && (rest < 0 || rest > lookAfter);
+        waitAWhile(program.file, asks ? lookAfter : rest);
+    }
+    return true;
 }
 
 } // namespace tarvex

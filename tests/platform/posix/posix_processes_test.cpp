@@ -198,6 +198,30 @@ TEST(WaitForProgram, LeavesNoDeadProcessBehind)
     EXPECT_EQ(::waitpid(second, nullptr, WNOHANG), -1);
 }
 
+/// On a system that has no files that tell the end of a program.
+struct WithoutProcessFiles : PosixProcesses {
+    using PosixProcesses::PosixProcesses;
+
+protected:
+    int openProcess(pid_t) override { return -1; }
+};
+
+struct Plain : ProcessWorld {
+    WithoutProcessFiles plain{drives, files, dialogues, drives.toDos(disk.path())};
+};
+
+TEST(WaitForProgram, WithoutProcessFilesKeepsToTheTimeout)
+{
+    Plain w;
+    w.script("load.exe", "exec sleep 1000\n");
+    const ProcessId process = w.plain.start("c:\\load.exe", 1, "c:\\");
+    EXPECT_EQ(w.plain.wait(process, 0), waitResult::timeout);
+    EXPECT_EQ(w.plain.wait(process, 30), waitResult::timeout);
+    EXPECT_EQ(::kill(process, SIGKILL), 0);
+    EXPECT_EQ(w.plain.wait(process, -1), waitResult::ended);
+    EXPECT_EQ(::waitpid(process, nullptr, WNOHANG), -1);
+}
+
 // ---- what runs it ----
 
 TEST(FindCommand, LooksOnlyIntoFullPaths)
