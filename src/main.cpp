@@ -106,7 +106,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
                            .programDirectory = directory,
                            .workingDirectory = fromQt(QDir::currentPath())});
     SystemCalls calls;
-    SafeWriter writer(directory + "/Recovery", calls);
+    SafeWriter writer(directory + "/Recover", calls);
     PosixFiles files(drives, writer);
     QtDialogues dialogues(drives);
     QtDesktop desktop(directory);

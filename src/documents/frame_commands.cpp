@@ -26,7 +26,7 @@ void wireFrame(Editor& editor)
     operations.UpdateCCPButtons = [&editor] { UpdateCCPButtons(editor); };
     operations.PaintGradient = [&mum] { mum.Gradient = true; };
     operations.ReleaseGradient = [&mum] { mum.Gradient = false; };
-    operations.UnloadForm += [&mum](const std::string& name) { mum.toolWindows.unload(name); };
+    operations.UnloadForm = [&mum](const std::string& name) { mum.toolWindows.unload(name); };
 
     ColourSelector& selector = editor.ColourSelector;
     for (std::size_t index = 0; index < ColourSelector::count; ++index)

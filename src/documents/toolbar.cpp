@@ -152,6 +152,7 @@ void Picture1_MouseMove(Editor& editor)
 
 void Picture1_Click(Editor& editor)
 {
+    editor.mum.Picture1PlaceWanted();
     const Placement& picture = editor.mum.Picture1Place;
     Form& form = editor.ColourSelector.form;
     form.Left = static_cast<float>(picture.Left * twipsPerPixel);

@@ -1,5 +1,6 @@
 #include "download/download_commands.h"
 
+#include "documents/editor_handler.h"
 #include "download/download_command.h"
 #include "download/game_launch.h"
 #include "download/outside_tools.h"
@@ -9,12 +10,6 @@
 namespace tarvex {
 
 namespace {
-
-/// A command of the editor as a handler.
-template <typename Work> std::function<void()> on(Editor& editor, Work work)
-{
-    return [&editor, work] { work(editor); };
-}
 
 /// Lets one of several commands run at a time. Keys that wait, of one that is held down say, and menus of the desktop's
 /// reach the program while a loader runs; what they would begin inside of it comes to nothing.
@@ -47,7 +42,6 @@ void wireDownload(Editor& editor, Games& games)
     Menus& menus = editor.menus;
     const OneAtATime oneAtATime;
     menus.mnuSendToJoystick.handler = oneAtATime(on(editor, mnuSendToJoystick_Click));
-    menus.mnuRHMDownload.handler = menus.mnuSendToJoystick.handler;
     menus.mnuAppsQuiet.handler = on(editor, mnuAppsQuiet_Click);
     menus.mnuUseWakeWarning.handler = on(editor, mnuUseWakeWarning_Click);
     games.LaunchGame = oneAtATime([&editor](const Game& game) { launchGame(editor, game); });

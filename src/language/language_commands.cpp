@@ -1,5 +1,6 @@
 #include "language/language_commands.h"
 
+#include "documents/editor_handler.h"
 #include "language/align_slashes.h"
 #include "language/colour_highlighting.h"
 #include "language/find_macro.h"
@@ -16,12 +17,6 @@
 namespace tarvex {
 
 namespace {
-
-/// A command of the editor as a handler.
-template <typename Work> std::function<void()> on(Editor& editor, Work work)
-{
-    return [&editor, work] { work(editor); };
-}
 
 void wireColours(Editor& editor)
 {

@@ -63,6 +63,7 @@ public:
     const std::string Name; ///< e.g. "mnuJFArray"; the item at 3 has the name "mnuJFArray(3)"
     Signal<> changed;       ///< an item was loaded or unloaded
     bool plain = false;     ///< captions are the user's own texts: "&" stands for itself
+    bool hidesBlanks = false; ///< an item without a caption, as a damaged list has it, is not to be seen
 
     /// What a click of an item runs, with the item's index.
     void setHandler(std::function<void(int)> handler)

@@ -2,6 +2,7 @@
 
 #include "documents/auto_save.h"
 #include "documents/clipboard_commands.h"
+#include "documents/editor_handler.h"
 #include "documents/editor_layout.h"
 #include "documents/editor_window.h"
 #include "documents/file_new.h"
@@ -48,12 +49,6 @@ constexpr const char* toolWindows[] = {
     "Title",
     "ViewImage",
 };
-
-/// A command of the editor as the handler of its menu item.
-template <typename Work> std::function<void()> on(Editor& editor, Work work)
-{
-    return [&editor, work] { work(editor); };
-}
 
 void wireFileMenu(Menus& menus, Editor& editor)
 {

@@ -9,7 +9,10 @@ Menus::Menus()
     mnuViewMacros.Checked = false;
     mnuInsertQuickTip.Enabled = false; // it only tells
     for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray, &mnuCustomApp}) list->plain = true;
-    for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray}) (*list)[0].Enabled = false;
+    for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray}) {
+        list->hidesBlanks = true;
+        (*list)[0].Enabled = false;
+    }
 }
 
 } // namespace tarvex

@@ -14,15 +14,6 @@ public:
         m_work = std::move(work);
         return *this;
     }
-    /// Work that is done behind what others do for the same call.
-    template <typename Work> Operation& operator+=(Work work)
-    {
-        m_work = [before = std::move(m_work), work = std::move(work)](Args... args) {
-            if (before) before(args...);
-            work(args...);
-        };
-        return *this;
-    }
     void operator()(Args... args) const
     {
         if (m_work) m_work(args...);

@@ -262,6 +262,17 @@ TEST_F(Find_, ClosingByEveryRoadUnloadsIt)
     EXPECT_TRUE(window.form.Visible);
 }
 
+TEST_F(Find_, GoesWithTheFrameWhileItIsOpen)
+{
+    t.program().mum.toolWindows.minimiseAll();
+    EXPECT_EQ(window.form.State.get(), WindowState::Minimised);
+    t.program().mum.toolWindows.restoreAll();
+    EXPECT_EQ(window.form.State.get(), WindowState::Normal);
+    window.form.Close();
+    t.program().mum.toolWindows.minimiseAll();
+    EXPECT_EQ(window.form.State.get(), WindowState::Normal);
+}
+
 TEST_F(Find_, ANewlyLoadedWindowHasTheOldTextsAndBeginsAtTheTop)
 {
     t.menus().mnuEditReplace.Click();

@@ -222,6 +222,24 @@ void findAndReplace(Walk& walk)
     if (below(walk.random, 3) == 0) window.Command2.Click();
 }
 
+void addFavourite(Walk& walk)
+{
+    constexpr const char* names[] = {"Mig", "Su & Co", "f22", "\xC3\xA4"};
+    EnterFavouritename& form = walk.program().lists.favourites.form;
+    walk.dialogues.whileModal = [&] {
+        form.Text1.Text = std::string(oneOf(walk.random, names));
+        (below(walk.random, 3) == 0 ? form.Command2 : form.Command1).Click();
+    };
+    walk.menus().mnuFavouritesAddCurrent.Click();
+    walk.dialogues.whileModal = nullptr;
+}
+
+template <MenuArray Menus::*array> void clickOneOf(Walk& walk)
+{
+    MenuArray& items = walk.menus().*array;
+    items[static_cast<int>(below(walk.random, static_cast<unsigned>(items.UBound() + 1)))].Click();
+}
+
 void otherSettings(Walk& walk)
 {
     Settings& settings = walk.settings();
@@ -369,6 +387,10 @@ constexpr Action actions[] = {
     {"save", 4, click<&Menus::mnuFileSave>},
     {"save as", 1, click<&Menus::mnuFileSaveAs>},
     {"save both", 2, click<&Menus::mnuFileSaveBoth>},
+    {"add a favourite", 1, addFavourite},
+    {"open a favourite", 1, clickOneOf<&Menus::mnuFavArray>},
+    {"open a previous joystick file", 1, clickOneOf<&Menus::mnuJFArray>},
+    {"open a previous macro file", 1, clickOneOf<&Menus::mnuMFArray>},
     {"save on a full disk", 1, saveOnAFullDisk},
     {"protect the macros", 1, protectMacros},
     {"other settings", 1, otherSettings},
@@ -468,6 +490,15 @@ void checkMacros(Walk& walk)
     }
 }
 
+void checkList(const RecentList& list)
+{
+    for (const std::vector<std::string>* column : list.columns)
+        EXPECT_EQ(column->size(), list.columns.front()->size()) << list.menu.Name;
+    EXPECT_GE(static_cast<int>(list.columns.front()->size()), list.count) << list.menu.Name;
+    EXPECT_LE(list.count, mostEntries) << list.menu.Name;
+    EXPECT_EQ(list.menu.UBound(), list.count) << list.menu.Name << ": an item for each entry, and the pattern";
+}
+
 /// A file holds what it held, or the text of its document as it was before the action or is now.
 void checkFiles(Walk& walk, const Texts& before)
 {
@@ -498,6 +529,9 @@ void check(Walk& walk, const Texts& before)
         checkJournal(walk, *side);
     }
     checkMacros(walk);
+    const Lists& lists = walk.program().lists;
+    for (const RecentList* list : {&lists.previous.joystick.list, &lists.previous.macro.list, &lists.favourites.list})
+        checkList(*list);
 }
 
 unsigned fromEnvironment(const char* name, unsigned otherwise)

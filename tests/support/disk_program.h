@@ -22,7 +22,7 @@ struct DiskProgram {
 
     explicit DiskProgram(const std::string& folder, const std::string& commandLine = {})
         : drives({.winePrefix = {}, .home = {}, .programDirectory = folder, .workingDirectory = folder}),
-          writer(folder + "/Recovery", calls), files(drives, writer),
+          writer(folder + "/Recover", calls), files(drives, writer),
           processes(drives, files, dialogues, drives.toDos(folder)),
           platform{.files = files,
                    .dialogues = dialogues,

@@ -69,18 +69,21 @@ file_lacks() { [ -f "$1" ] && ! grep -qF -- "$2" "$1"; }
 expect_in_file() { until_true 20 file_holds "$1" "$2" || fail "$(basename "$1") doesn't hold \"$2\" but: $(cat "$1")"; }
 expect_not_in_file() { until_true 20 file_lacks "$1" "$2" || fail "$(basename "$1") holds \"$2\""; }
 
-# setting SECTION KEY VALUE...: one more setting before the program starts.
-setting() { printf '[%s]\r\n%s=%s\r\n' "$1" "$2" "$3" >>"$place/Tarvex.ini"; }
+# settings [LINE...]: first use is over, and files are kept beside the program; LINEs are further places.
+settings() {
+    [ -f "$place/Tarvex.ini" ] && return
+    {
+        printf '[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nJoystickExtension=b50\r\nMacroExtension=m50\r\n'
+        printf 'JoyName=1\r\nProgramFilesPath=z:%s\\\r\n' "${place//\//\\}"
+        [ $# -eq 0 ] || printf '%s\r\n' "$@"
+        printf '[Miscellaneous]\r\nOpenSingleFileOnly=0\r\nMumWindowstate=0\r\n'
+    } >"$place/Tarvex.ini"
+}
 
-# start [FILE...]: a program folder of its own, first use over, and the window in front.
+# start [FILE...]: the program in a folder of its own, in front.
 start() {
     cp "$program" "$place/tarvex"
-    if [ ! -f "$place/Tarvex.ini" ]; then
-        printf '[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nJoystickExtension=b50\r\nMacroExtension=m50\r\n' \
-            >"$place/Tarvex.ini"
-        printf 'JoyName=1\r\nProgramFilesPath=z:%s\\\r\n' "${place//\//\\}" >>"$place/Tarvex.ini"
-        printf '[Miscellaneous]\r\nOpenSingleFileOnly=0\r\nMumWindowstate=0\r\n' >>"$place/Tarvex.ini"
-    fi
+    settings
     start_again "$@"
 }
 start_again() {

@@ -7,6 +7,19 @@
 
 namespace tarvex {
 
+namespace {
+
+/// Else the gaps of a damaged list would push the commands below it off the screen.
+void hideWhileBlank(MenuItem& item, QAction& action, Bindings& bindings)
+{
+    const auto show = [&item, &action] { action.setVisible(item.Visible && !item.Caption.get().empty()); };
+    show();
+    bindings.follow(item.Caption, show);
+    bindings.follow(item.Visible, show);
+}
+
+} // namespace
+
 MenuArrayView::MenuArrayView(MenuArray& array, QMenu& menu)
     : QObject(&menu), m_array(array), m_menu(menu), m_end(menu.addAction(QString()))
 {
@@ -25,6 +38,7 @@ void MenuArrayView::fill()
     for (int index = 0; index <= m_array.UBound(); ++index) {
         auto* action = new QAction(&m_menu);
         (m_array.plain ? bindPlainItem(m_array[index], *action, m_items) : bindItem(m_array[index], *action, m_items));
+        if (m_array.hidesBlanks) hideWhileBlank(m_array[index], *action, m_items);
         m_menu.insertAction(m_end, action);
         m_actions.append(action);
     }

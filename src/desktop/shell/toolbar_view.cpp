@@ -87,6 +87,7 @@ void ToolbarView::addSlot(const ToolbarSlot& slot)
     if (slot.number == pictureSlot) {
         button->setObjectName(QStringLiteral("Picture1"));
         action->setText(QStringLiteral("Colour of text at cursor"));
+        m_bindings.follow(m_program.mum.Picture1PlaceWanted, [this] { reportPicture(); });
         m_bindings.follow(m_program.mum.Picture1, [this, &slot] { showPicture(slot); });
     }
     followSlot(slot, *action);
@@ -167,7 +168,6 @@ void ToolbarView::scaleIcons()
 void ToolbarView::press(const ToolbarSlot& slot)
 {
     if (slot.number == pictureSlot) {
-        reportPicture();
         Picture1_Click(m_program.editor);
     } else {
         Toolbar1_ButtonClick(m_program.editor, slot.number);

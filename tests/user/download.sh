@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# A user downloads a file with an error, is led to its line, takes it out and downloads again, with a loader that only
+# behaves like one.
+. "$(dirname "$0")/user.sh"
+
+loader=${2:?the stand-in for the loader}
+write_pair
+printf 'Rem @error Unknown key\r\nBTN S3 first\r\n' >>"$place/walk.b50"
+mkdir "$place/loader"
+cp "$loader" "$place/loader/winld.exe"
+settings "B50LoadPath=z:${place//\//\\}\\loader\\winld.exe"
+start "$place/walk.b50"
+
+press F12
+expect_in_file "$place/loader/winld.dat" "Unknown key"
+expect_active "Tarvex - "
+sleep 1 # the line flashes
+press shift+End Delete
+expect_title "walk.b50*"
+press F12
+expect_in_file "$place/loader/winld.dat" "OK"
+expect_not_in_file "$place/loader/winld.dat" "ERROR"
+expect_not_in_file "$place/walk.b50" "Unknown key"
+expect_in_file "$place/walk.b50" "BTN S3 first"
+expect_active "Tarvex - "
+press alt+f x
+expect_gone
