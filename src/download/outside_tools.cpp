@@ -111,8 +111,10 @@ void mnuAppsProPanel_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuAppsProPanel_Click");
     const std::string windows = editor.platform.processes.windowsDirectory();
-    const std::string systemPanel = windows + "\\system\\joy.cpl";
-    const std::string panel = firstThatExists(editor, {windows + "\\system\\tm.cpl", systemPanel});
+    const std::string system = windows + "\\system";
+    const std::string systemPanel = system + "\\joy.cpl";
+    const std::string panel = firstThatExists( // newer systems have theirs in the other folder
+        editor, {system + "\\tm.cpl", system + "32\\tm.cpl", systemPanel, system + "32\\joy.cpl"});
     if (panel.empty()) {
         tell(
             editor, "Couldn't find ProPanel or Game Controllers",

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -90,35 +91,24 @@ void sweepAll(const std::string& parent)
     }
 }
 
-/// The lock of a new folder, open and held; -1 when that fails, with errno. Another run's sweep may be faster: it can
-/// take the lock between its making and its locking, and the folder with it.
-int lockNewFolder(const std::string& path)
-{
-    const OpenedFile folder(openDirectory(path));
-    const int lock = folder.number < 0 ? -1 : openLock(folder, O_CREAT | O_EXCL);
-    if (lock < 0) return -1;
-    struct stat state {};
-    if (::flock(lock, LOCK_EX | LOCK_NB) == 0 && ::fstat(lock, &state) == 0 && state.st_nlink > 0) return lock;
-    ::close(lock);
-    return -1;
-}
-
 } // namespace
 
 DosboxFolder::DosboxFolder()
 {
-    constexpr int attempts = 8;
     const std::string parent = parentFolder();
     sweepAll(parent);
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        m_path = parent + "/" + std::string(prefix) + "XXXXXX";
-        if (::mkdtemp(m_path.data()) == nullptr) throwSystemError();
-        m_lock = lockNewFolder(m_path);
-        if (m_lock >= 0) return;
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-    throw RuntimeError(ErrorCode::DeviceInputOutput, "Device I/O error");
+    std::string unlocked = parent + "/tarvex-new-XXXXXX"; // a name that nobody sweeps
+    if (::mkdtemp(unlocked.data()) == nullptr) throwSystemError();
+    m_lock = openLock(OpenedFile(openDirectory(unlocked)), O_CREAT | O_EXCL);
+    constexpr std::size_t randomPart = 6;
+    m_path = parent + "/" + std::string(prefix) + unlocked.substr(unlocked.size() - randomPart);
+    if (m_lock >= 0 && ::flock(m_lock, LOCK_EX | LOCK_NB) == 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0)
+        return;
+    const int error = errno;
+    std::error_code ignored;
+    fs::remove_all(unlocked, ignored);
+    if (m_lock >= 0) ::close(m_lock);
+    throw systemError(error);
 }
 
 DosboxFolder::~DosboxFolder()

@@ -119,16 +119,37 @@ std::string PosixProcesses::nativeArgument(const std::string& argument) const
     }
 }
 
-/// As long as there is no Wine prefix, its drives, which it will make at its start, aren't ours: it knows "/" as z:.
+/// How Wine is told a native path. As long as it has no prefix, its drives, which it will make at its start, aren't ours:
+/// it will know "/" as z:.
+std::string PosixProcesses::winePath(std::string native) const
+{
+    std::replace(native.begin(), native.end(), '/', '\\');
+    const std::vector<DriveMap::Drive>& drives = m_drives.drives();
+    if (std::any_of(drives.begin(), drives.end(), [](const auto& drive) { return drive.makeRoot; }))
+        return "z:" + native;
+    const auto root = std::find_if(drives.begin(), drives.end(),
+                                   [](const auto& drive) { return drive.roots.front().empty() && !drive.isOwn; });
+    return (root != drives.end() ? std::string{root->letter, ':'} : "\\\\?\\unix") + native;
+}
+
+/// The drive is one of Wine's, and the names are those of the files, none of which only this program knows.
+bool PosixProcesses::isKnownToWine(const std::string& path, const std::string& native) const
+{
+    std::string names = lowerUtf8(std::string_view(path).substr(2));
+    std::replace(names.begin(), names.end(), '\\', '/');
+    while (names.ends_with('/')) names.pop_back();
+    const char letter = static_cast<char>(path.front() | 0x20);
+    const std::vector<DriveMap::Drive>& drives = m_drives.drives();
+    return lowerUtf8(native).ends_with(names) &&
+           std::any_of(drives.begin(), drives.end(), [=](const auto& drive) {
+               return drive.letter == letter && !drive.isOwn && !drive.makeRoot;
+           });
+}
+
 std::string PosixProcesses::wineArgument(const std::string& argument) const
 {
-    const bool sameDrives = std::none_of(m_drives.drives().begin(), m_drives.drives().end(),
-                                         [](const DriveMap::Drive& drive) { return drive.makeRoot; });
-    if (sameDrives || !isArgumentPath(argument)) return argument;
-    std::string native = nativeArgument(argument);
-    if (native == argument) return argument;
-    std::replace(native.begin(), native.end(), '/', '\\');
-    return "z:" + native;
+    const std::string native = nativeArgument(argument);
+    return native == argument || isKnownToWine(argument, native) ? argument : winePath(native);
 }
 
 // ---- children -------------------------------------------------------------------------------------------------------

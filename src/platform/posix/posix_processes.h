@@ -69,6 +69,8 @@ private:
     std::string inSystemFolder(const std::string& program) const;
     std::string nativeArgument(const std::string& argument) const;
     std::string wineArgument(const std::string& argument) const;
+    std::string winePath(std::string native) const;
+    bool isKnownToWine(const std::string& path, const std::string& native) const;
 
     const DriveMap& m_drives;
     FileSystem& m_files;

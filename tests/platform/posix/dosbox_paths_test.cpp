@@ -168,8 +168,29 @@ TEST(DosboxTail, OfAPathWithBlanksTheLongestThatExistsCounts)
     EXPECT_EQ(w.paths.tail(" c:\\a other"), " c:\\a other");
 }
 
+/// A place for the folders where no other test sweeps.
+struct Runtime {
+    Runtime() { ::setenv("XDG_RUNTIME_DIR", disk.path().c_str(), 1); }
+    ~Runtime()
+    {
+        if (before) {
+            ::setenv("XDG_RUNTIME_DIR", before->c_str(), 1);
+        } else {
+            ::unsetenv("XDG_RUNTIME_DIR");
+        }
+    }
+    Runtime(const Runtime&) = delete;
+    Runtime& operator=(const Runtime&) = delete;
+
+    TemporaryDirectory disk;
+    std::optional<std::string> before =
+        std::getenv("XDG_RUNTIME_DIR") != nullptr ? std::optional<std::string>(std::getenv("XDG_RUNTIME_DIR"))
+                                                  : std::nullopt;
+};
+
 TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
 {
+    const Runtime runtime;
     std::string path;
     {
         DosboxFolder folder;
@@ -189,26 +210,6 @@ TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_TRUE(std::filesystem::exists("/etc/passwd")) << "links aren't followed";
 }
-
-/// Where folders are made instead of the user's own place.
-struct Runtime {
-    Runtime() { ::setenv("XDG_RUNTIME_DIR", disk.path().c_str(), 1); }
-    ~Runtime()
-    {
-        if (before) {
-            ::setenv("XDG_RUNTIME_DIR", before->c_str(), 1);
-        } else {
-            ::unsetenv("XDG_RUNTIME_DIR");
-        }
-    }
-    Runtime(const Runtime&) = delete;
-    Runtime& operator=(const Runtime&) = delete;
-
-    TemporaryDirectory disk;
-    std::optional<std::string> before =
-        std::getenv("XDG_RUNTIME_DIR") != nullptr ? std::optional<std::string>(std::getenv("XDG_RUNTIME_DIR"))
-                                                  : std::nullopt;
-};
 
 TEST(DosboxFolder, SweepsOnlyWhatItMadeItself)
 {
