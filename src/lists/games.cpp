@@ -2,6 +2,7 @@
 
 #include "documents/file_save.h"
 #include "documents/preferences_page.h"
+#include "documents/recovery_offer.h"
 #include "documents/tabs.h"
 
 namespace tarvex {
@@ -13,6 +14,7 @@ void saveDocuments(Editor& editor)
 {
     for (const Side* side : {&editor.joystick, &editor.macro}) {
         if (side->Changed == changed::modified) saveSide(editor, *side);
+        if (side->Changed == changed::modified) putAside(editor, *side); // nobody will ask about it any more
     }
     for (Side* side : {&editor.joystick, &editor.macro}) side->Changed = changed::saved;
     UpdateSavedIcon(editor);
