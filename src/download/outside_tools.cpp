@@ -171,9 +171,6 @@ void mnuCustomApp_Click(Editor& editor, int index)
     });
 }
 
-void mnuAppsEdit_Click(Editor& editor)
-{
-    showPreferencesPage(editor, preferencesPage::apps);
-}
+void mnuAppsEdit_Click(Editor& editor) { showPreferencesPage(editor, preferencesPage::apps); }
 
 } // namespace tarvex

@@ -126,10 +126,7 @@ void mnuFavouritesAddCurrent_Click(Favourites& favourites)
     });
 }
 
-void mnuFavsEdit_Click(Favourites& favourites)
-{
-    showPreferencesPage(favourites.editor, preferencesPage::favourites);
-}
+void mnuFavsEdit_Click(Favourites& favourites) { showPreferencesPage(favourites.editor, preferencesPage::favourites); }
 
 std::string proposedName(std::string_view joystickPath)
 {

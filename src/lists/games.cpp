@@ -103,10 +103,7 @@ void mnuGamesAdd_Click(Games& games)
     });
 }
 
-void mnuGamesEdit_Click(Games& games)
-{
-    showPreferencesPage(games.editor, preferencesPage::games);
-}
+void mnuGamesEdit_Click(Games& games) { showPreferencesPage(games.editor, preferencesPage::games); }
 
 void mnuGamesDownloadFirst_Click(Games& games)
 {

@@ -13,10 +13,8 @@ TEST(PreferencesPage, EachCommandAsksForItsPage)
     Menus& menus = t.menus();
     std::int16_t page = -1;
     menus.mnuPreferencesEdit.handler = [&] { page = t.program().shared.PreferencesPage; };
-    const std::pair<const MenuItem*, std::int16_t> commands[] = {{&menus.mnuViewEditColours, 1},
-                                                                 {&menus.mnuAppsEdit, 2},
-                                                                 {&menus.mnuFavsEdit, 3},
-                                                                 {&menus.mnuGamesEdit, 4}};
+    const std::pair<const MenuItem*, std::int16_t> commands[] = {
+        {&menus.mnuViewEditColours, 1}, {&menus.mnuAppsEdit, 2}, {&menus.mnuFavsEdit, 3}, {&menus.mnuGamesEdit, 4}};
     for (const auto& [item, wanted] : commands) {
         item->Click();
         EXPECT_EQ(page, wanted) << item->Name;

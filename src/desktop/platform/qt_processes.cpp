@@ -25,8 +25,7 @@ std::unique_ptr<QObject> QtProcesses::teller(const Running& program, const QObje
 bool QtProcesses::waitForEnd(const Running& program, int timeout)
 {
     if (hasEnded(program)) return true;
-    if (timeout == 0 || QCoreApplication::instance() == nullptr)
-        return PosixProcesses::waitForEnd(program, timeout);
+    if (timeout == 0 || QCoreApplication::instance() == nullptr) return PosixProcesses::waitForEnd(program, timeout);
     InputHold hold;
     const auto ended = teller(program, hold, [&] {
         if (hasEnded(program)) hold.release();

@@ -24,7 +24,7 @@ protected:
 private:
     static std::unique_ptr<QObject> teller(const Running& program, const QObject& context, std::function<void()> tell);
 
-    QObject m_context; ///< what ends later isn't told any more
+    QObject m_context;                                   ///< what ends later isn't told any more
     std::map<pid_t, std::unique_ptr<QObject>> m_watched; ///< by process
 };
 

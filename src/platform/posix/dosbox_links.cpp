@@ -83,8 +83,8 @@ std::string DosboxLinks::freeStem() const
 {
     for (int number = 1;; ++number) {
         const std::string stem = "FILE" + std::to_string(number);
-        const bool taken = std::any_of(m_names.begin(), m_names.end(),
-                                       [&](const auto& entry) { return stemOf(entry.first) == stem; });
+        const bool taken =
+            std::any_of(m_names.begin(), m_names.end(), [&](const auto& entry) { return stemOf(entry.first) == stem; });
         if (!taken) return stem;
     }
 }

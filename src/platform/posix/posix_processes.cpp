@@ -119,8 +119,8 @@ std::string PosixProcesses::nativeArgument(const std::string& argument) const
     }
 }
 
-/// How Wine is told a native path. As long as it has no prefix, its drives, which it will make at its start, aren't ours:
-/// it will know "/" as z:.
+/// How Wine is told a native path. As long as it has no prefix, its drives, which it will make at its start, aren't
+/// ours: it will know "/" as z:.
 std::string PosixProcesses::winePath(std::string native) const
 {
     std::replace(native.begin(), native.end(), '/', '\\');
@@ -140,8 +140,7 @@ bool PosixProcesses::isKnownToWine(const std::string& path, const std::string& n
     while (names.ends_with('/')) names.pop_back();
     const char letter = static_cast<char>(path.front() | 0x20);
     const std::vector<DriveMap::Drive>& drives = m_drives.drives();
-    return lowerUtf8(native).ends_with(names) &&
-           std::any_of(drives.begin(), drives.end(), [=](const auto& drive) {
+    return lowerUtf8(native).ends_with(names) && std::any_of(drives.begin(), drives.end(), [=](const auto& drive) {
                return drive.letter == letter && !drive.isOwn && !drive.makeRoot;
            });
 }

@@ -15,10 +15,10 @@ namespace tarvex {
 
 /// Programs of three worlds, told apart by looking into their files. Those of this system run as they are; what follows
 /// the program's name becomes the arguments that a program of Windows would see, DOS paths among them native. Those of
-/// Windows run in Wine, which puts the same arguments together again, with quotes of its own. Those of DOS run in DOSBox
-/// and get it as it stands, but for paths that are called otherwise there; one too long for DOS, or for a batch file one
-/// that its interpreter would make something of, is refused. Which Wine and which
-/// DOSBox is set in Platform.ini; else they are looked for where PATH says, but never in the current folder.
+/// Windows run in Wine, which puts the same arguments together again, with quotes of its own. Those of DOS run in
+/// DOSBox and get it as it stands, but for paths that are called otherwise there; one too long for DOS, or for a batch
+/// file one that its interpreter would make something of, is refused. Which Wine and which DOSBox is set in
+/// Platform.ini; else they are looked for where PATH says, but never in the current folder.
 class PosixProcesses : public Processes {
 public:
     /// All outlive this. `programDirectory` is the DOS path of the folder with Platform.ini. The user is told in a box

@@ -183,9 +183,9 @@ struct Runtime {
     Runtime& operator=(const Runtime&) = delete;
 
     TemporaryDirectory disk;
-    std::optional<std::string> before =
-        std::getenv("XDG_RUNTIME_DIR") != nullptr ? std::optional<std::string>(std::getenv("XDG_RUNTIME_DIR"))
-                                                  : std::nullopt;
+    std::optional<std::string> before = std::getenv("XDG_RUNTIME_DIR") != nullptr
+                                            ? std::optional<std::string>(std::getenv("XDG_RUNTIME_DIR"))
+                                            : std::nullopt;
 };
 
 TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)

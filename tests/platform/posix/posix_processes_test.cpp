@@ -327,12 +327,11 @@ TEST(Runner, WineIsToldNamesThatOnlyTarvexKnowsByThePathOfThisSystem)
         Prefix w(withRoot);
         w.disk.put("drive_c/MIG.b50", "upper");
         w.disk.put("drive_c/mig.b50", "lower");
-        const DriveMap wines({.winePrefix = w.disk / "prefix",
-                              .home = {},
-                              .programDirectory = w.disk.path(),
-                              .workingDirectory = "/"});
-        const std::string hidden = wines.toDos(w.driveC + "/mig.b50") == "c:\\mig.b50" ? wines.toDos(w.driveC + "/MIG.b50")
-                                                                                       : wines.toDos(w.driveC + "/mig.b50");
+        const DriveMap wines(
+            {.winePrefix = w.disk / "prefix", .home = {}, .programDirectory = w.disk.path(), .workingDirectory = "/"});
+        const std::string hidden = wines.toDos(w.driveC + "/mig.b50") == "c:\\mig.b50"
+                                       ? wines.toDos(w.driveC + "/MIG.b50")
+                                       : wines.toDos(w.driveC + "/mig.b50");
         ASSERT_NE(hidden.find('~'), std::string::npos) << hidden;
         const std::string seen = w.told(hidden);
         EXPECT_EQ(seen.substr(0, seen.find('%')), withRoot ? "<z:" : "<\\\\?\\unix");
