@@ -13,6 +13,7 @@
 #include "platform/posix/posix_files.h"
 #include "platform/posix/program_directory.h"
 #include "platform/posix/safe_writer.h"
+#include "platform/posix/spawn.h"
 #include "platform/posix/system_calls.h"
 #include "program/program.h"
 #include "shell/appearance.h"
@@ -138,6 +139,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
 
 int main(int argumentCount, char** argumentValues)
 {
+    tarvex::fillStandardFiles();
     const Arguments early = readArguments(plainArguments(argumentCount, argumentValues));
     if (early.exitStatus == EXIT_SUCCESS) return leave(early);
     tarvex::Application application(argumentCount, argumentValues);

@@ -1,5 +1,7 @@
 #include "desktop/form_window.h"
 
+#include "desktop/minimise.h"
+
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
@@ -54,7 +56,7 @@ void FormWindow::refresh()
         return;
     }
     if (m_modal) return; // exec shows it
-    if (m_form.State == WindowState::Minimised) return showMinimized();
+    if (m_form.State == WindowState::Minimised) return minimise(*this);
     if (!isVisible()) place();
     showNormal();
     raise();
@@ -64,7 +66,7 @@ void FormWindow::refresh()
 /// The keyboard stays where it is: windows that come back with the frame don't take it.
 void FormWindow::showState()
 {
-    if (m_form.State == WindowState::Minimised) return showMinimized();
+    if (m_form.State == WindowState::Minimised) return minimise(*this);
     setAttribute(Qt::WA_ShowWithoutActivating);
     showNormal();
     setAttribute(Qt::WA_ShowWithoutActivating, false);

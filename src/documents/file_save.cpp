@@ -178,6 +178,14 @@ void mnuFileSaveAs_Click(Editor& editor)
     step([&] { saveElsewhere(editor, editor.selected()); });
 }
 
+void saveSide(Editor& editor, const Side& side)
+{
+    const int before = editor.TabStrip1.SelectedItem;
+    if (before != side.tab) editor.TabStrip1.Select(side.tab);
+    editor.menus.mnuFileSave.Click();
+    if (editor.TabStrip1.SelectedItem != before) editor.TabStrip1.Select(before);
+}
+
 void mnuFileSaveBoth_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "mnuFileSaveBoth_Click");

@@ -6,6 +6,8 @@ namespace tarvex {
 
 /// Saves the document of the selected tab. An untitled one, and one whose file is read only, goes through Save As.
 void mnuFileSave_Click(Editor& editor);
+/// Saves one of the two by that command, whichever tab is selected, and goes back to that tab.
+void saveSide(Editor& editor, const Side& side);
 void mnuFileSaveAs_Click(Editor& editor);
 /// Each in turn, and back to the tab that was selected.
 void mnuFileSaveBoth_Click(Editor& editor);

@@ -204,6 +204,14 @@ std::vector<std::string> offerRecovery(Editor& editor)
     return {};
 }
 
+void putAside(Editor& editor, const Side& side)
+{
+    const Steps step(editor.shared.errors, tag);
+    step([&] {
+        editor.platform.files.write(freePath(editor, journalDirectory(editor) + "\\", side.FileName), side.pane.Text());
+    });
+}
+
 bool isAmong(const std::vector<std::string>& paths, const std::string& path)
 {
     return std::any_of(paths.begin(), paths.end(),

@@ -1,5 +1,6 @@
 #include "download/download_command.h"
 
+#include "documents/file_save.h"
 #include "documents/line_highlight.h"
 #include "documents/menu_choices.h"
 #include "download/loader_result.h"
@@ -59,11 +60,12 @@ MessageBox wakeUp()
             .buttons = BoxButtons::YesNo};
 }
 
-/// Saves the edits, or lets the user go on without. False: the command stops.
+/// Saves the edits, with the macro file's tab selected too, when Save alone would save that file and leave the question
+/// whether to send an old version. False: the user doesn't want to go on without.
 bool savedOrAccepted(Editor& editor)
 {
     if (editor.pair.JoystickChanged != changed::modified) return true;
-    editor.menus.mnuFileSave.Click();
+    saveSide(editor, editor.joystick);
     return editor.pair.JoystickChanged != changed::modified ||
            editor.platform.dialogues.show(notSaved()) == Answer::Yes;
 }
@@ -120,6 +122,7 @@ void download(Editor& editor, const Steps& step)
     }
     if (!joystickIsAwake(editor)) return;
     runLoader(editor, command);
+    // One that can't be read leaves the status as it is: a success without a size would be a lie.
     if (result && result->isNew()) step([&] { showResult(editor, result->path(), step); });
 }
 

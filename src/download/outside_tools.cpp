@@ -1,5 +1,6 @@
 #include "download/outside_tools.h"
 
+#include "documents/preferences_page.h"
 #include "platform/dos_path.h"
 
 #include <string>
@@ -10,8 +11,6 @@ namespace tarvex {
 namespace {
 
 constexpr std::string_view pathNeeded = "You need to enter the path in preferences for the Thrustmaster Control Centre";
-
-constexpr std::int16_t preferencesPage = 2;
 
 /// A tool that lies in the Control Centre's folder.
 struct Tool {
@@ -112,8 +111,10 @@ void mnuAppsProPanel_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuAppsProPanel_Click");
     const std::string windows = editor.platform.processes.windowsDirectory();
-    const std::string systemPanel = windows + "\\system\\joy.cpl";
-    const std::string panel = firstThatExists(editor, {windows + "\\system\\tm.cpl", systemPanel});
+    const std::string system = windows + "\\system";
+    const std::string systemPanel = system + "\\joy.cpl";
+    const std::string panel = firstThatExists( // newer systems have theirs in the other folder
+        editor, {system + "\\tm.cpl", system + "32\\tm.cpl", systemPanel, system + "32\\joy.cpl"});
     if (panel.empty()) {
         tell(
             editor, "Couldn't find ProPanel or Game Controllers",
@@ -170,10 +171,6 @@ void mnuCustomApp_Click(Editor& editor, int index)
     });
 }
 
-void mnuAppsEdit_Click(Editor& editor)
-{
-    editor.shared.PreferencesPage = preferencesPage;
-    editor.menus.mnuPreferencesEdit.Click();
-}
+void mnuAppsEdit_Click(Editor& editor) { showPreferencesPage(editor, preferencesPage::apps); }
 
 } // namespace tarvex

@@ -1,5 +1,6 @@
 #include "language/update_macros.h"
 
+#include "documents/loading.h"
 #include "language/macro_analysis.h"
 #include "language/macro_file_lines.h"
 
@@ -39,14 +40,13 @@ bool isSaved(Editor& editor)
 void analyse(Editor& editor, const Steps& step)
 {
     editor.macros.MacroListDirty = 1;
-    editor.shared.IsLoading = 1;
+    const Loading loading(editor.shared);
     if (!editor.menus.mnuViewMacros.Checked) step([&] { editor.menus.mnuViewMacros.Click(); });
     ClearAllForNewMacroFile(editor);
     editor.mum.StatusBar.Panels(panel::macroFile).Text = editor.pair.MacroFileName;
     editor.macros.NotAMacroLine = 0;
     GetEachLineFromMacroFile(editor);
     ExtractMacrosAndTitles(editor);
-    editor.shared.IsLoading = 0;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "lists/favourites.h"
 
+#include "documents/preferences_page.h"
 #include "platform/dos_path.h"
 #include "platform/text.h"
 #include "platform/windows1252.h"
@@ -7,8 +8,6 @@
 namespace tarvex {
 
 namespace {
-
-constexpr std::int16_t preferencesPage = 3;
 
 /// False: there is nothing to add yet, and the user was told why.
 bool areSaved(Editor& editor)
@@ -127,11 +126,7 @@ void mnuFavouritesAddCurrent_Click(Favourites& favourites)
     });
 }
 
-void mnuFavsEdit_Click(Favourites& favourites)
-{
-    favourites.editor.shared.PreferencesPage = preferencesPage;
-    favourites.editor.menus.mnuPreferencesEdit.Click();
-}
+void mnuFavsEdit_Click(Favourites& favourites) { showPreferencesPage(favourites.editor, preferencesPage::favourites); }
 
 std::string proposedName(std::string_view joystickPath)
 {

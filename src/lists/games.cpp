@@ -1,23 +1,21 @@
 #include "lists/games.h"
 
+#include "documents/file_save.h"
+#include "documents/preferences_page.h"
+#include "documents/recovery_offer.h"
 #include "documents/tabs.h"
 
 namespace tarvex {
 
 namespace {
 
-constexpr std::int16_t preferencesPage = 4;
-
 /// The marks go whatever became of the saving, since the program is about to end without asking.
 void saveDocuments(Editor& editor)
 {
-    const int before = editor.TabStrip1.SelectedItem;
-    for (Side* side : {&editor.joystick, &editor.macro}) {
-        if (side->Changed != changed::modified) continue;
-        if (editor.TabStrip1.SelectedItem != side->tab) editor.TabStrip1.Select(side->tab); // Save saves what is shown
-        editor.menus.mnuFileSave.Click();
+    for (const Side* side : {&editor.joystick, &editor.macro}) {
+        if (side->Changed == changed::modified) saveSide(editor, *side);
+        if (side->Changed == changed::modified) putAside(editor, *side); // nobody will ask about it any more
     }
-    if (editor.TabStrip1.SelectedItem != before) editor.TabStrip1.Select(before);
     for (Side* side : {&editor.joystick, &editor.macro}) side->Changed = changed::saved;
     UpdateSavedIcon(editor);
 }
@@ -105,11 +103,7 @@ void mnuGamesAdd_Click(Games& games)
     });
 }
 
-void mnuGamesEdit_Click(Games& games)
-{
-    games.editor.shared.PreferencesPage = preferencesPage;
-    games.editor.menus.mnuPreferencesEdit.Click();
-}
+void mnuGamesEdit_Click(Games& games) { showPreferencesPage(games.editor, preferencesPage::games); }
 
 void mnuGamesDownloadFirst_Click(Games& games)
 {

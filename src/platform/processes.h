@@ -27,8 +27,8 @@ public:
     virtual ~Processes() = default;
 
     /// Starts a program without a shell and doesn't wait for it. The text of the command line up to its first blank
-    /// names the program, by a full DOS path (in quotes when it holds blanks); what follows reaches the program as it
-    /// stands. `directory`, a DOS path, is the program's current directory. Throws RuntimeError: FileNotFound or
+    /// names the program, by a full DOS path (in quotes when it holds blanks); what follows is handed to it in the way
+    /// of its kind. `directory`, a DOS path, is the program's current directory. Throws RuntimeError: FileNotFound or
     /// PathNotFound ("... not found") when there is no such program or directory, others when it can't be started.
     virtual ProcessId start(const std::string& commandLine, int style, const std::string& directory) = 0;
     /// Waits until the process has ended, `timeout` milliseconds at most, -1 for ever; a waitResult. Meanwhile the

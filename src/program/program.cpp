@@ -9,14 +9,16 @@
 #include "documents/file_open.h"
 #include "documents/file_save.h"
 #include "documents/frame_commands.h"
-#include "documents/menu_choices.h"
 #include "documents/line_highlight.h"
+#include "documents/menu_choices.h"
 #include "documents/pane_change.h"
 #include "documents/pane_menu.h"
+#include "documents/preferences_page.h"
 #include "documents/recovery_journal.h"
 #include "documents/tabs.h"
 #include "documents/undo.h"
 #include "download/download_commands.h"
+#include "download/own_tools.h"
 #include "language/language_commands.h"
 #include "shell/mum_window.h"
 
@@ -114,6 +116,8 @@ Program::Program(Platform& thePlatform)
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor, lists.games);
+    wireOwnTools(editor);
+    wirePreferencesPages(editor);
     followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };

@@ -141,7 +141,7 @@ struct Menus {
     MenuItem mnuMacrosSaveOptions1{"mnuMacrosSaveOptions1", "&Update the macros list"};
     MenuItem mnuMacrosSaveOptions2{"mnuMacrosSaveOptions2", "&Identify the macros used"};
     MenuItem mnuAppearance{"mnuAppearance", "&Appearance"};
-    MenuItem mnuAppearanceSystem{"mnuAppearanceSystem", "As the &desktop"};
+    MenuItem mnuAppearanceSystem{"mnuAppearanceSystem", "As the des&ktop"};
     MenuItem mnuAppearanceLight{"mnuAppearanceLight", "&Light"};
     MenuItem mnuAppearanceDark{"mnuAppearanceDark", "&Dark"};
 

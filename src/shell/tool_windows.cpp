@@ -5,6 +5,17 @@
 
 namespace tarvex {
 
+bool ToolWindows::canShow(std::string_view name) const
+{
+    const auto window = std::ranges::find(m_windows, name, &ToolWindow::name);
+    return window != m_windows.end() && window->show;
+}
+
+void ToolWindows::show(std::string_view name) const
+{
+    if (canShow(name)) std::ranges::find(m_windows, name, &ToolWindow::name)->show();
+}
+
 void ToolWindows::unload(std::string_view name) const
 {
     const auto window = std::ranges::find(m_windows, name, &ToolWindow::name);

@@ -16,7 +16,8 @@ struct ToolWindow {
     Form* form;
     /// 1 while the window is loaded; none for a window that keeps no such flag, which then isn't minimised with others.
     const std::int16_t* openFlag = nullptr;
-    std::function<void()> unload; ///< takes the window down; none: it is hidden
+    std::function<void()> unload = {}; ///< takes the window down; none: it is hidden
+    std::function<void()> show = {};   ///< none: no command of another unit shows it
 };
 
 /// The windows that go with the frame. Each unit that has one adds a row for it; forms and flags outlive this.
@@ -24,6 +25,9 @@ class ToolWindows {
 public:
     void add(ToolWindow window) { m_windows.push_back(std::move(window)); }
 
+    bool canShow(std::string_view name) const;
+    /// Shows a window; nothing happens for a name that can't be shown.
+    void show(std::string_view name) const;
     /// Takes a window down; nothing happens for a name that isn't there.
     void unload(std::string_view name) const;
     /// Minimises the windows whose open flag is 1, and keeps in mind which.

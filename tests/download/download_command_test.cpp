@@ -91,15 +91,20 @@ TEST(SendToJoystick, YesGoesOnWithTheVersionOnDisk)
     EXPECT_EQ(t.fileText("c:\\tm\\mig.b50").substr(0, 3), "BTN");
 }
 
-TEST(SendToJoystick, WithTheMacroTabSelectedTheSaveIsThatOfTheMacroFileAndTheQuestionComes)
+TEST(SendToJoystick, WithTheMacroTabSelectedTheJoystickFileIsSavedAllTheSame)
 {
     Loaded t;
-    t.typeJoystick("x");
+    t.typeJoystick("Rem ");
+    t.typeMacro("Rem ");
     t.editor().TabStrip1.Select(2);
-    t.dialogues.answers = {Answer::No};
+    int during = 0;
+    t.processes.whileRunning = [&] { during = t.editor().TabStrip1.SelectedItem; };
     t.download();
-    EXPECT_EQ(t.lastBox().title, "Hang on a minute ...");
-    EXPECT_EQ(t.command(), "(nothing)");
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    EXPECT_EQ(t.fileText("c:\\tm\\mig.b50").substr(0, 7), "Rem BTN");
+    EXPECT_EQ(t.fileText("c:\\tm\\mig.m50"), "") << "the macro file isn't sent";
+    EXPECT_EQ(during, 2) << "and its tab comes back";
+    EXPECT_EQ(t.command(), "c:\\tm\\b50load.exe c:\\tm\\mig.b50");
 }
 
 TEST(SendToJoystick, ANameOfTwelveCharactersPasses)

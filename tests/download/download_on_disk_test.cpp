@@ -1,9 +1,14 @@
 // The whole road with real loaders: the stand-in, and such as nobody would like to have.
 
+#include "dos_loader.h"
+#include "platform/posix/runners.h"
 #include "support/disk_program.h"
 #include "support/temporary_directory.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 namespace tarvex {
 namespace {
@@ -106,6 +111,24 @@ TEST(DownloadOnDisk, ALoaderThatMayNotRunShowsNothing)
     EXPECT_FALSE(r.exists("tm/wrong"));
 }
 
+TEST(DownloadOnDisk, ADosLoaderReportsThroughDosBox)
+{
+    if (findCommand(std::getenv("PATH"), "dosbox").empty()) GTEST_SKIP() << "dosbox isn't installed";
+    Road r("c:\\tm\\winld.com");
+    for (const char* driver : {"SDL_VIDEODRIVER", "SDL_AUDIODRIVER"}) ::setenv(driver, "dummy", 1);
+    ::setenv("HOME", r.disk.path().c_str(), 1); // where DOSBox keeps its settings
+    r.disk.put("drive_c/tm/winld.dat", "a\r\nb\r\n1\r\n");
+    r.disk.put("drive_c/tm/winld.com", dosLoader("WinLoad\r\nERROR\r\n2\r\nUnknown key b\r\n"));
+    EXPECT_EQ(r.download(), "Compiler reported an error at line 2: Unknown key b");
+    EXPECT_EQ(r.editor().JoystickText.SelText(), "BTN S2 b");
+    EXPECT_FALSE(r.exists("tm/winld.dat")) << "the old one went before";
+    EXPECT_TRUE(r.exists("tm/WINLD.DAT")) << "and DOS writes in capitals";
+
+    r.disk.put("drive_c/tm/winld.com", dosLoader("WinLoad\r\nOK\r\n30\r\n"));
+    EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 30 bytes)");
+    EXPECT_TRUE(r.t->dialogues.boxes.empty());
+}
+
 TEST(DownloadOnDisk, AMissingDosBoxIsToldOnceAndTheFrameComesBack)
 {
     Road r("c:\\tm\\b50load.com");
@@ -115,6 +138,62 @@ TEST(DownloadOnDisk, AMissingDosBoxIsToldOnceAndTheFrameComesBack)
     ASSERT_EQ(r.t->dialogues.boxes.size(), 1U);
     EXPECT_EQ(r.t->dialogues.boxes[0].title, "Where is DOSBox?");
     EXPECT_NE(r.t->program->mum.form.State, WindowState::Minimised);
+}
+
+/// Notes its command line in drive c:, in place of Wine.
+void putWine(const Road& r)
+{
+    r.script("for a; do printf '<%s>' \"$a\" >>" + (r.disk / "drive_c/seen") + "; done\n", "wine");
+    r.disk.put("Platform.ini", "[Programs]\r\nWine=" + (r.disk / "drive_c/wine") + "\r\n");
+}
+
+std::string windowsProgram()
+{
+    std::string program(0x80, '\0');
+    program.replace(0, 2, "MZ");
+    program[0x3C] = 0x40;
+    program.replace(0x40, 2, "PE");
+    return program;
+}
+
+/// Waits until a program that nobody waits for has ended.
+void awaitPrograms(Road& r)
+{
+    siginfo_t info{};
+    EXPECT_EQ(::waitid(P_ALL, 0, &info, WEXITED | WNOWAIT), 0);
+    r.t->processes.reap();
+}
+
+TEST(ProPanelOnDisk, TheAppletIsStartedInTheControlPanelOfWine)
+{
+    Road r;
+    putWine(r);
+    r.disk.put("drive_c/windows/system32/control.exe", windowsProgram());
+    r.disk.put("drive_c/windows/system32/joy.cpl", windowsProgram());
+    r.t->program->menus.mnuAppsProPanel.Click();
+    EXPECT_TRUE(r.t->dialogues.boxes.empty());
+    awaitPrograms(r);
+    std::string applet = r.disk / "drive_c/windows/system32/joy.cpl";
+    std::replace(applet.begin(), applet.end(), '/', '\\');
+    EXPECT_EQ(bytesOf(r.disk / "drive_c/seen"),
+              "<" + (r.disk / "drive_c/windows/system32/control.exe") + "><z:" + applet + ">");
+}
+
+TEST(ToolsOnDisk, AToolOfTheControlCentreAndAProgramOfTheUsersRunInTheirFolders)
+{
+    Road r;
+    r.script("pwd >\"$0.seen\"\n", "tm/f22setup.exe");
+    r.t->program->shared.settings.CandCCPath = "c:\\tm\\tm.bat";
+    r.t->program->menus.mnuF22Setup.Click();
+    awaitPrograms(r);
+    EXPECT_EQ(bytesOf(r.disk / "drive_c/tm/f22setup.exe.seen"), (r.disk / "drive_c/tm") + "\n");
+
+    r.script("echo \"$PWD $*\" >\"$0.seen\"\n", "tools/own.exe");
+    r.t->program->shared.settings.CustomAppPath = {"c:\\tools\\own.exe -x y", "", "", ""};
+    r.t->program->menus.mnuCustomApp[0].Click();
+    awaitPrograms(r);
+    EXPECT_EQ(bytesOf(r.disk / "drive_c/tools/own.exe.seen"), (r.disk / "drive_c") + " -x y\n");
+    EXPECT_TRUE(r.t->dialogues.boxes.empty());
 }
 
 TEST(LaunchGameOnDisk, AMissingDosBoxIsToldOnceAndTarvexStaysOpen)

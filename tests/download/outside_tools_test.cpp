@@ -106,6 +106,17 @@ TEST(TMScope, ThatIsMissingIsToldWithTheFolderWhereItWasExpected)
         "directory. You've told me that this is: c:\\gone\\tm.bat");
 }
 
+TEST(TMScope, ThatDoesNotStartIsRecordedAndShowsNothing)
+{
+    Tools t;
+    t.files.addFile("c:\\tm\\tms.exe", "");
+    t.processes.failure = RuntimeError(ErrorCode::PermissionDenied, "Permission denied");
+    t.menus().mnuAppsTMScope.Click();
+    EXPECT_EQ(t.errors().ErrorProcedure, "ED_mnuAppsTMScope_Click");
+    EXPECT_EQ(t.errors().ErrorNumber, 70);
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
 TEST(ProPanel, TheMakersAppletComesBeforeThatOfTheSystem)
 {
     Tools t;
@@ -116,6 +127,20 @@ TEST(ProPanel, TheMakersAppletComesBeforeThatOfTheSystem)
     t.menus().mnuAppsProPanel.Click();
     EXPECT_EQ(t.started(), "c:\\windows\\control.exe c:\\windows\\system\\tm.cpl|1|c:\\");
     EXPECT_EQ(t.directory(), "c:\\");
+}
+
+TEST(ProPanel, OnANewerSystemItsAppletsAreInTheOtherFolder)
+{
+    Tools t;
+    t.files.addFile("c:\\windows\\system32\\joy.cpl", "");
+    t.menus().mnuAppsProPanel.Click();
+    EXPECT_EQ(t.started(), "c:\\windows\\control.exe c:\\windows\\system32\\joy.cpl|1|c:\\");
+    t.files.addFile("c:\\windows\\system32\\tm.cpl", "");
+    t.menus().mnuAppsProPanel.Click();
+    EXPECT_EQ(t.started(), "c:\\windows\\control.exe c:\\windows\\system32\\tm.cpl|1|c:\\");
+    t.files.addFile("c:\\windows\\system\\tm.cpl", "");
+    t.menus().mnuAppsProPanel.Click();
+    EXPECT_EQ(t.started(), "c:\\windows\\control.exe c:\\windows\\system\\tm.cpl|1|c:\\");
 }
 
 TEST(ProPanel, WithoutAnAppletTellsWhereItWasExpected)

@@ -320,6 +320,15 @@ TEST(GameClick, TheMarksAreClearedWhateverBecameOfTheSaving)
     EXPECT_THAT(t.launched, ElementsAre("g1"));
 }
 
+TEST(GameClick, ATextThatCouldNotBeSavedIsPutAside)
+{
+    Play t(1);
+    t.typeJoystick("Rem");
+    t.dialogues.filesToSave = {std::nullopt};
+    t.array()[1].Click();
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Recover\\" + t.editor().pair.JoystickFileName), "Rem");
+}
+
 TEST(GameClick, AnItemThatIsNoGameDoesNothing)
 {
     Play t(1);

@@ -3,38 +3,47 @@
 #include "desktop/platform/input_hold.h"
 
 #include <QCoreApplication>
+#include <QSocketNotifier>
 #include <QTimer>
 
 namespace tarvex {
 
-bool QtProcesses::waitUntilReadable(int file, int timeout)
+/// Tells the end of a program from the message loop, or that it is time to look.
+std::unique_ptr<QObject> QtProcesses::teller(const Running& program, const QObject& context, std::function<void()> tell)
 {
-    const bool hasEnded = PosixProcesses::waitUntilReadable(file, 0);
-    if (hasEnded || timeout == 0 || QCoreApplication::instance() == nullptr) return hasEnded;
+    if (program.file >= 0) {
+        auto notifier = std::make_unique<QSocketNotifier>(program.file, QSocketNotifier::Read);
+        QObject::connect(notifier.get(), &QSocketNotifier::activated, &context, tell, Qt::QueuedConnection);
+        return notifier;
+    }
+    auto timer = std::make_unique<QTimer>();
+    QObject::connect(timer.get(), &QTimer::timeout, &context, tell, Qt::QueuedConnection);
+    timer->start(lookAfter);
+    return timer;
+}
+
+bool QtProcesses::waitForEnd(const Running& program, int timeout)
+{
+    if (hasEnded(program)) return true;
+    if (timeout == 0 || QCoreApplication::instance() == nullptr) return PosixProcesses::waitForEnd(program, timeout);
     InputHold hold;
-    m_watched.erase(file); // from here on its end is ours
-    QSocketNotifier ended(file, QSocketNotifier::Read);
-    QObject::connect(&ended, &QSocketNotifier::activated, &hold, &InputHold::release);
+    const auto ended = teller(program, hold, [&] {
+        if (hasEnded(program)) hold.release();
+    });
     QTimer limit;
     limit.setSingleShot(true);
     QObject::connect(&limit, &QTimer::timeout, &hold, &InputHold::release);
     if (timeout > 0) limit.start(timeout);
     hold.hold();
-    ended.setEnabled(false);
-    const bool has = PosixProcesses::waitUntilReadable(file, 0);
-    if (!has) watch(file);
-    return has;
+    return hasEnded(program);
 }
 
-/// The notifier isn't destroyed while it tells, but once that is over.
-void QtProcesses::watch(int file)
+/// What tells isn't destroyed while it tells, but once that is over.
+void QtProcesses::watch(const Running& program)
 {
-    auto notifier = std::make_unique<QSocketNotifier>(file, QSocketNotifier::Read);
-    QObject::connect(
-        notifier.get(), &QSocketNotifier::activated, notifier.get(), [this] { reap(); }, Qt::QueuedConnection);
-    m_watched[file] = std::move(notifier);
+    m_watched[program.process] = teller(program, m_context, [this] { reap(); });
 }
 
-void QtProcesses::unwatch(int file) { m_watched.erase(file); }
+void QtProcesses::unwatch(const Running& program) { m_watched.erase(program.process); }
 
 } // namespace tarvex

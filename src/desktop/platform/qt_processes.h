@@ -2,8 +2,9 @@
 
 #include "platform/posix/posix_processes.h"
 
-#include <QSocketNotifier>
+#include <QObject>
 
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -11,17 +12,20 @@ namespace tarvex {
 
 /// Programs beside a message loop: while one is waited for, the windows are drawn and take nothing from the user; those
 /// that nobody waits for are taken leave of when they end.
-class QtProcesses final : public PosixProcesses {
+class QtProcesses : public PosixProcesses {
 public:
     using PosixProcesses::PosixProcesses;
 
 protected:
-    bool waitUntilReadable(int file, int timeout) override;
-    void watch(int file) override;
-    void unwatch(int file) override;
+    bool waitForEnd(const Running& program, int timeout) override;
+    void watch(const Running& program) override;
+    void unwatch(const Running& program) override;
 
 private:
-    std::map<int, std::unique_ptr<QSocketNotifier>> m_watched; ///< by file
+    static std::unique_ptr<QObject> teller(const Running& program, const QObject& context, std::function<void()> tell);
+
+    QObject m_context;                                   ///< what ends later isn't told any more
+    std::map<pid_t, std::unique_ptr<QObject>> m_watched; ///< by process
 };
 
 } // namespace tarvex

@@ -3,6 +3,7 @@
 #include "desktop/documents/colour_selector_view.h"
 #include "desktop/documents/find_and_replace_view.h"
 #include "desktop/icon_theme.h"
+#include "desktop/minimise.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
@@ -72,7 +73,9 @@ MumWindow::MumWindow(Program& program)
                   [this] { return new ColourSelectorView(m_program.editor, this); });
     m_bindings.bind(program.mum.form.Visible, [this](bool on) { showForm(on); });
     m_bindings.follow(program.mum.form.State, [this] {
-        if (isVisible()) showForm(true);
+        if (!isVisible()) return;
+        if (isMinimized()) m_restored.start();
+        showForm(true);
     });
     m_bindings.bind(program.mum.MousePointer, [this](MousePointer pointer) {
         if (pointer == MousePointer::Hourglass) {
@@ -147,7 +150,7 @@ void MumWindow::showForm(bool on)
         showMaximized();
         break;
     case WindowState::Minimised:
-        showMinimized();
+        minimise(*this);
         break;
     case WindowState::Normal:
         showNormal();
@@ -189,11 +192,23 @@ void MumWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) cameToTheFront();
     if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
+    if (isMinimized() && minimisedTooLate()) return showForm(true);
     Form& form = m_program.mum.form;
     const WindowState shown = isMaximized() ? WindowState::Maximised : WindowState::Normal;
     form.State = isMinimized() ? WindowState::Minimised : shown;
     MDIForm_Resize({m_program.platform, m_program.shared, m_program.mum, m_program.operations});
     reportPlace();
+}
+
+/// A loader may have ended before the window manager came to minimise the window: the window that was just brought back
+/// goes away after all.
+bool MumWindow::minimisedTooLate()
+{
+    constexpr int managersTime = 1000; // milliseconds
+    if (m_program.mum.form.State == WindowState::Minimised || !m_restored.isValid()) return false;
+    const bool late = m_restored.elapsed() < managersTime;
+    m_restored.invalidate();
+    return late;
 }
 
 /// From another window of the program the keyboard goes back to the pane; from another program to where it was.

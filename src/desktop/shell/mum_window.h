@@ -5,6 +5,7 @@
 #include "desktop/platform/lock_keys.h"
 #include "program/program.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 
 namespace tarvex {
@@ -33,12 +34,14 @@ private:
     void showForm(bool on);
     void cameToTheFront();
     void reportPlace();
+    bool minimisedTooLate();
 
     Program& m_program;
     EditorView* m_editor;
     StatusBarView* m_status;
     LockKeys m_lockKeys;
     bool m_wasElsewhere = false; ///< another program had the keyboard
+    QElapsedTimer m_restored; ///< since the program brought its minimised window back
     bool m_exiting = false;
     Bindings m_bindings;
 };

@@ -6,6 +6,19 @@ namespace tarvex {
 
 namespace {
 
+/// Old programs look for the first two words of their command line in their file control blocks.
+void addControlBlocks(DosCode& code)
+{
+    code.bytes({0xBE}), code.address("tail", 1);            // mov si, tail + 1
+    code.bytes({0xBF, 0x5C, 0x00});                         // mov di, 5Ch
+    code.bytes({0xB8, 0x01, 0x29, 0xCD, 0x21});             // int 21h/2901h: take the first
+    code.label("word");                                     // what is left of it, as of a path
+    code.bytes({0xAC, 0x3C, ' ', 0x77}), code.jump("word"); // lodsb; cmp al, ' '; ja word
+    code.bytes({0x4E});                                     // dec si
+    code.bytes({0xBF, 0x6C, 0x00});                         // mov di, 6Ch
+    code.bytes({0xB8, 0x01, 0x29, 0xCD, 0x21});             // int 21h/2901h: take the second
+}
+
 void addInstructions(DosCode& code, char drive)
 {
     code.bytes({0xBC}), code.address("stack");                   // mov sp, stack
@@ -16,6 +29,7 @@ void addInstructions(DosCode& code, char drive)
     code.bytes({0xBA}), code.address("directory");               // mov dx, directory
     code.bytes({0xB4, 0x3B, 0xCD, 0x21});                        // int 21h/3Bh: change to it
     code.bytes({0x72}), code.jump("end");                        // jc end: the program's place is gone
+    addControlBlocks(code);
     code.bytes({0x8C, 0xC8});                                    // mov ax, cs
     for (const unsigned segment : {4U, 8U, 12U}) {               // of the tail and of two file control blocks
         code.bytes({0xA3}), code.address("parameters", segment); // mov [parameters + segment], ax
@@ -33,7 +47,7 @@ void addData(DosCode& code, const DosStart& start)
     code.word(0);         // the environment: this program's own
     code.address("tail"); // offset; the segment is filled in above
     code.word(0);
-    code.word(0x5C); // the two file control blocks of this program's own prefix, empty
+    code.word(0x5C); // the two file control blocks of this program's own prefix
     code.word(0);
     code.word(0x6C);
     code.word(0);

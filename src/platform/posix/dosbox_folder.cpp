@@ -12,6 +12,7 @@
 #include <fstream>
 #include <string_view>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvex {
@@ -21,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view prefix = "tarvex-dos-";
-constexpr const char* lockName = "/lock";
+constexpr const char* lockName = "lock";
 
 /// Nothing in it means anything to DOSBox, and what is made below stays short enough.
 bool isFit(const std::string& path)
@@ -40,19 +41,45 @@ std::string parentFolder()
     return runtime != nullptr && isFit(runtime) ? runtime : "/tmp";
 }
 
-int openLock(const std::string& folder, int flags)
+/// An open file that is closed at the end.
+struct OpenedFile {
+    explicit OpenedFile(int file) : number(file) {}
+    ~OpenedFile()
+    {
+        if (number >= 0) ::close(number);
+    }
+    OpenedFile(const OpenedFile&) = delete;
+    OpenedFile& operator=(const OpenedFile&) = delete;
+    int number;
+};
+
+int openDirectory(const std::string& path)
 {
-    return ::open((folder + lockName).c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | flags, 0600);
+    return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+int openLock(const OpenedFile& folder, int flags)
+{
+    return ::openat(folder.number, lockName, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | flags, 0600);
+}
+
+/// Made by this user, for nobody else. In a folder that all share, a name says nothing.
+bool isOurs(const OpenedFile& folder)
+{
+    struct stat state {};
+    return folder.number >= 0 && ::fstat(folder.number, &state) == 0 && state.st_uid == ::geteuid() &&
+           (state.st_mode & 0777) == 0700;
 }
 
 /// Removes a folder whose lock nobody holds any more.
-void sweep(const std::string& folder)
+void sweep(const std::string& path)
 {
-    const int lock = openLock(folder, 0);
-    if (lock < 0) return;
+    const OpenedFile folder(openDirectory(path));
+    if (!isOurs(folder)) return;
+    const OpenedFile lock(openLock(folder, 0));
+    if (lock.number < 0 || ::flock(lock.number, LOCK_EX | LOCK_NB) < 0) return;
     std::error_code ignored;
-    if (::flock(lock, LOCK_EX | LOCK_NB) == 0) fs::remove_all(folder, ignored);
-    ::close(lock);
+    fs::remove_all(path, ignored);
 }
 
 void sweepAll(const std::string& parent)
@@ -72,11 +99,11 @@ DosboxFolder::DosboxFolder()
     sweepAll(parent);
     std::string unlocked = parent + "/tarvex-new-XXXXXX"; // a name that nobody sweeps
     if (::mkdtemp(unlocked.data()) == nullptr) throwSystemError();
-    m_lock = openLock(unlocked, O_CREAT | O_EXCL);
-    if (m_lock >= 0) ::flock(m_lock, LOCK_EX | LOCK_NB);
+    m_lock = openLock(OpenedFile(openDirectory(unlocked)), O_CREAT | O_EXCL);
     constexpr std::size_t randomPart = 6;
     m_path = parent + "/" + std::string(prefix) + unlocked.substr(unlocked.size() - randomPart);
-    if (m_lock >= 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0) return;
+    if (m_lock >= 0 && ::flock(m_lock, LOCK_EX | LOCK_NB) == 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0)
+        return;
     const int error = errno;
     std::error_code ignored;
     fs::remove_all(unlocked, ignored);

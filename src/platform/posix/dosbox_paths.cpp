@@ -4,7 +4,6 @@
 #include "platform/windows1252.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 
 namespace tarvex {
@@ -16,25 +15,6 @@ namespace fs = std::filesystem;
 constexpr std::size_t longestDirectory = 60; ///< DOS takes 63 characters behind the drive
 constexpr char dosboxDrive = 'z';            ///< where it keeps its own commands
 constexpr const char* ownFolder = "run";
-
-bool isPlainCharacter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           std::string_view("_-$#@!()").find(c) != std::string_view::npos;
-}
-
-bool isPlainPart(std::string_view part, std::size_t longest)
-{
-    return part.size() <= longest && std::all_of(part.begin(), part.end(), isPlainCharacter);
-}
-
-/// Names that DOS keeps for devices, in any folder and with any extension.
-bool isDevice(std::string_view stem)
-{
-    constexpr std::array<std::string_view, 13> devices{"con",  "nul",  "aux",  "prn",  "com1",     "com2",  "com3",
-                                                       "com4", "lpt1", "lpt2", "lpt3", "emmxxxx0", "clock$"};
-    return std::find(devices.begin(), devices.end(), lowerUtf8(stem)) != devices.end();
-}
 
 /// Another name in the folder differs by case only.
 bool hasTwin(const std::string& directory, const std::string& name)
@@ -82,15 +62,6 @@ bool isFullPath(std::string_view word) { return isDosPath(word) && word.size() >
 
 } // namespace
 
-bool isPlainDosName(std::string_view name)
-{
-    const std::size_t dot = std::min(name.find('.'), name.size());
-    const std::string_view stem = name.substr(0, dot);
-    const std::string_view extension = name.substr(std::min(dot + 1, name.size()));
-    return !stem.empty() && isPlainPart(stem, 8) && isPlainPart(extension, 3) && !isDevice(stem) &&
-           !name.ends_with('.');
-}
-
 DosboxPaths::DosboxPaths(const DriveMap& drives, const DosboxFolder& folder)
     : m_drives(drives), m_folder(folder), m_own('\0')
 {
@@ -134,19 +105,18 @@ std::string DosboxPaths::letterFor(const std::string& nativeDirectory)
     return m_letters[nativeDirectory] = rootOfLetter(letter);
 }
 
-/// FILE1.B50 and so on. Of the extension remains what DOS can have.
+/// What a DOS program opens may want its neighbours: a loader takes the macro file beside the joystick file.
 std::string DosboxPaths::aliasFor(const std::string& nativeFile)
 {
-    const auto known = m_aliases.find(nativeFile);
-    if (known != m_aliases.end()) return known->second;
-    std::string extension;
-    for (const char c : fs::path(nativeFile).extension().string()) {
-        if (isPlainCharacter(c) && extension.size() < 3) extension += c;
+    const std::string directory = parentOf(nativeFile);
+    auto links = m_links.find(directory);
+    if (links == m_links.end()) {
+        const char letter = freeLetter();
+        const std::string name(1, letter);
+        m_mounts.push_back({letter, m_folder.path() + "/" + name});
+        links = m_links.try_emplace(directory, m_folder, name, directory).first;
     }
-    std::string name = "FILE" + std::to_string(m_aliases.size() + 1);
-    if (!extension.empty()) name += "." + upperWindows1252(extension);
-    m_folder.link(std::string(ownFolder) + "/" + name, nativeFile);
-    return m_aliases[nativeFile] = rootOfLetter(m_own) + name;
+    return rootOfLetter(links->second.name().front()) + links->second.nameOf(nameOf(nativeFile));
 }
 
 /// DOSBox would find each of the names, and find the right one.

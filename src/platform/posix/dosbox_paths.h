@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/posix/dosbox_folder.h"
+#include "platform/posix/dosbox_links.h"
+#include "platform/posix/dosbox_names.h"
 #include "platform/posix/drive_map.h"
 
 #include <map>
@@ -10,11 +12,9 @@
 
 namespace tarvex {
 
-/// A name that DOS can have and that DOSBox shows as it is: letters, digits and a few signs, at most 8 and 3.
-bool isPlainDosName(std::string_view name);
-
 /// How the files are called inside DOSBox, whose drives it puts together: those of the drive map, and further letters
-/// for folders whose path DOS can't have. A file whose own name DOS can't have gets another one in a folder of links.
+/// for folders whose path DOS can't have. A file whose own name DOS can't have gets another one in a folder of links,
+/// where its neighbours are, too; what a program makes there is lost with it.
 class DosboxPaths {
 public:
     /// Both outlive this.
@@ -52,7 +52,7 @@ private:
     const DosboxFolder& m_folder;
     std::vector<Mount> m_mounts;
     std::map<std::string, std::string> m_letters; ///< by native directory
-    std::map<std::string, std::string> m_aliases; ///< by native file
+    std::map<std::string, DosboxLinks> m_links;   ///< by native directory
     char m_own;
 };
 

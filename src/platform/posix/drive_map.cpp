@@ -80,7 +80,7 @@ void addRootDrive(std::vector<DriveMap::Drive>& drives)
     }
     for (char letter = 'z'; letter >= 'd'; --letter) {
         if (has(drives, letter)) continue;
-        drives.push_back({letter, {std::string()}});
+        drives.push_back({letter, {std::string()}, false, true});
         return;
     }
 }

@@ -23,6 +23,7 @@ public:
         char letter;                    ///< 'a' to 'z'
         std::vector<std::string> roots; ///< spellings of its native root, the one to use first; no "/" at the end
         bool makeRoot = false;          ///< the root is made when it is first needed
+        bool isOwn = false;             ///< the letter is the program's own choice: Wine doesn't know it
     };
 
     explicit DriveMap(const DriveEnvironment& environment);

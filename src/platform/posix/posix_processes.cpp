@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <poll.h>
 #include <sys/wait.h>
@@ -20,13 +21,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// True once the process has ended and was taken leave of.
-bool hasEnded(pid_t process, int options)
+void takeLeave(pid_t process)
 {
-    pid_t result = 0;
-    do result = ::waitpid(process, nullptr, options);
-    while (result < 0 && errno == EINTR);
-    return result != 0; // an error means that there is nobody left to wait for
+    while (::waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
+    }
+}
+
+/// Waits until a file can be read, or, without one, for the time alone.
+void waitAWhile(int file, int timeout)
+{
+    pollfd polled{file, POLLIN, 0};
+    ::poll(&polled, file < 0 ? 0 : 1, timeout);
 }
 
 bool isArgumentPath(const std::string& argument) { return isDosPath(argument) && argument.size() > 2; }
@@ -44,7 +49,7 @@ PosixProcesses::~PosixProcesses()
     reap();
     for (Child& child : m_children) {
         if (child.dos) child.dos->folder().leave();
-        if (child.file >= 0) ::close(child.file);
+        if (child.program.file >= 0) ::close(child.program.file);
     }
 }
 
@@ -114,47 +119,66 @@ std::string PosixProcesses::nativeArgument(const std::string& argument) const
     }
 }
 
-/// As long as there is no Wine prefix, its drives, which it will make at its start, aren't ours: it knows "/" as z:.
+/// How Wine is told a native path. As long as it has no prefix, its drives, which it will make at its start, aren't
+/// ours: it will know "/" as z:.
+std::string PosixProcesses::winePath(std::string native) const
+{
+    std::replace(native.begin(), native.end(), '/', '\\');
+    const std::vector<DriveMap::Drive>& drives = m_drives.drives();
+    if (std::any_of(drives.begin(), drives.end(), [](const auto& drive) { return drive.makeRoot; }))
+        return "z:" + native;
+    const auto root = std::find_if(drives.begin(), drives.end(),
+                                   [](const auto& drive) { return drive.roots.front().empty() && !drive.isOwn; });
+    return (root != drives.end() ? std::string{root->letter, ':'} : "\\\\?\\unix") + native;
+}
+
+/// The drive is one of Wine's, and the names are those of the files, none of which only this program knows.
+bool PosixProcesses::isKnownToWine(const std::string& path, const std::string& native) const
+{
+    std::string names = lowerUtf8(std::string_view(path).substr(2));
+    std::replace(names.begin(), names.end(), '\\', '/');
+    while (names.ends_with('/')) names.pop_back();
+    const char letter = static_cast<char>(path.front() | 0x20);
+    const std::vector<DriveMap::Drive>& drives = m_drives.drives();
+    return lowerUtf8(native).ends_with(names) && std::any_of(drives.begin(), drives.end(), [=](const auto& drive) {
+               return drive.letter == letter && !drive.isOwn && !drive.makeRoot;
+           });
+}
+
 std::string PosixProcesses::wineArgument(const std::string& argument) const
 {
-    const bool sameDrives = std::none_of(m_drives.drives().begin(), m_drives.drives().end(),
-                                         [](const DriveMap::Drive& drive) { return drive.makeRoot; });
-    if (sameDrives || !isArgumentPath(argument)) return argument;
-    std::string native = nativeArgument(argument);
-    if (native == argument) return argument;
-    std::replace(native.begin(), native.end(), '/', '\\');
-    return "z:" + native;
+    const std::string native = nativeArgument(argument);
+    return native == argument || isKnownToWine(argument, native) ? argument : winePath(native);
 }
 
 // ---- children -------------------------------------------------------------------------------------------------------
 
 ProcessId PosixProcesses::adopt(pid_t process, std::unique_ptr<DosboxRun> dos)
 {
-    const int file = openProcess(process);
-    m_children.push_back({process, file, std::move(dos), 0});
-    if (file >= 0) watch(file);
+    const Running program{process, openProcess(process)};
+    m_children.push_back({program, std::move(dos), 0});
+    watch(program);
     return process;
 }
 
 std::vector<PosixProcesses::Child>::iterator PosixProcesses::find(ProcessId process)
 {
     return std::find_if(m_children.begin(), m_children.end(),
-                        [=](const Child& child) { return child.process == process; });
+                        [=](const Child& child) { return child.program.process == process; });
 }
 
 void PosixProcesses::forget(std::vector<Child>::iterator child)
 {
-    if (child->file >= 0) {
-        unwatch(child->file);
-        ::close(child->file);
-    }
+    unwatch(child->program);
+    takeLeave(child->program.process);
+    if (child->program.file >= 0) ::close(child->program.file);
     m_children.erase(child);
 }
 
 void PosixProcesses::reap()
 {
     for (auto child = m_children.begin(); child != m_children.end();) {
-        if (child->waits == 0 && hasEnded(child->process, WNOHANG)) {
+        if (child->waits == 0 && hasEnded(child->program)) {
             const auto index = child - m_children.begin();
             forget(child);
             child = m_children.begin() + index;
@@ -168,23 +192,44 @@ std::int32_t PosixProcesses::wait(ProcessId process, std::int32_t timeout)
 {
     const auto child = find(process);
     if (child == m_children.end()) return waitResult::failed;
-    ++child->waits;
-    const bool ended = child->file < 0 || waitUntilReadable(child->file, timeout);
+    if (child->waits++ == 0) unwatch(child->program);
+    const bool ended = waitForEnd(Running(child->program), timeout);
     const auto still = find(process); // others may have been started, or have ended, meanwhile
     const bool isLast = --still->waits == 0;
-    if (!ended) return waitResult::timeout;
-    hasEnded(process, 0);
-    if (isLast) forget(still);
-    return waitResult::ended;
+    if (isLast) {
+        if (ended) {
+            forget(still);
+        } else {
+            watch(still->program);
+        }
+    }
+    return ended ? waitResult::ended : waitResult::timeout;
 }
 
-bool PosixProcesses::waitUntilReadable(int file, int timeout)
+int PosixProcesses::openProcess(pid_t process) { return tarvex::openProcess(process); }
+
+/// Doesn't take leave of it.
+bool PosixProcesses::hasEnded(const Running& program)
 {
-    pollfd polled{file, POLLIN, 0};
+    siginfo_t end{};
     int result = 0;
-    do result = ::poll(&polled, 1, timeout);
+    do result = ::waitid(P_PID, static_cast<id_t>(program.process), &end, WEXITED | WNOHANG | WNOWAIT);
     while (result < 0 && errno == EINTR);
-    return result != 0;
+    return result < 0 || end.si_pid != 0; // an error means that there is nobody left to wait for
+}
+
+bool PosixProcesses::waitForEnd(const Running& program, int timeout)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    while (!hasEnded(program)) {
+        const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
+        if (timeout >= 0 && passed >= timeout) return false;
+        const int rest = timeout < 0 ? -1 : static_cast<int>(timeout - passed);
+        const bool asks = program.file < 0 && (rest < 0 || rest > lookAfter);
+        waitAWhile(program.file, asks ? lookAfter : rest);
+    }
+    return true;
 }
 
 } // namespace tarvex

@@ -95,6 +95,14 @@ pid_t spawn(const std::vector<std::string>& arguments, const std::string& direct
     return process;
 }
 
+void fillStandardFiles()
+{
+    int file = 0;
+    do file = ::open("/dev/null", O_RDWR); // the lowest number that is free
+    while (file >= 0 && file <= STDERR_FILENO);
+    if (file >= 0) ::close(file);
+}
+
 int openProcess(pid_t process) { return static_cast<int>(::syscall(SYS_pidfd_open, process, 0)); }
 
 } // namespace tarvex

@@ -11,6 +11,10 @@ namespace tarvex {
 /// program can't be started.
 pid_t spawn(const std::vector<std::string>& arguments, const std::string& directory, int kept = -1);
 
+/// Opens an empty file for each of the standard ones that is closed, so that no file of this program's own gets its
+/// number and is taken for it. To be called before any other file is opened.
+void fillStandardFiles();
+
 /// An open file that can be read as soon as the child has ended; -1 where the system has no such thing.
 int openProcess(pid_t process);
 

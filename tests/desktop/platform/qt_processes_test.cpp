@@ -18,8 +18,8 @@ namespace tarvex {
 namespace {
 
 /// A loader that works until it is told to end, and a window that waits for it.
-struct Waiting {
-    Waiting()
+template <typename Adapter> struct WaitingWith {
+    WaitingWith()
     {
         const std::string script = disk.put("drive_c/load.exe", "#!/bin/sh\ncat <" + (disk / "end") + " >/dev/null\n");
         std::filesystem::permissions(script, std::filesystem::perms::owner_all);
@@ -27,7 +27,7 @@ struct Waiting {
         m_end = ::open((disk / "end").c_str(), O_RDWR | O_CLOEXEC);
         process = processes.start("c:\\load.exe", windowStyle::normal, "c:\\");
     }
-    ~Waiting() { ::close(m_end); }
+    ~WaitingWith() { ::close(m_end); }
     /// The loader ends as soon as nobody holds the other end of its input.
     void endLoader()
     {
@@ -44,7 +44,7 @@ struct Waiting {
     SafeWriter writer{disk / "Recovery", calls};
     PosixFiles files{drives, writer};
     ScriptedDialogues dialogues;
-    QtProcesses processes{drives, files, dialogues, drives.toDos(disk.path())};
+    Adapter processes{drives, files, dialogues, drives.toDos(disk.path())};
     HeldWindow window;
     ProcessId process = 0;
     std::int32_t result = waitResult::failed;
@@ -52,6 +52,17 @@ struct Waiting {
 private:
     int m_end = -1;
 };
+
+using Waiting = WaitingWith<QtProcesses>;
+
+/// On a system that has no files that tell the end of a program.
+struct WithoutProcessFiles : QtProcesses {
+    using QtProcesses::QtProcesses;
+
+protected:
+    int openProcess(pid_t) override { return -1; }
+};
+using WaitingWithoutFiles = WaitingWith<WithoutProcessFiles>;
 
 TEST(WaitForLoader, TakesNothingFromTheUserNotEvenEsc)
 {
@@ -154,6 +165,44 @@ TEST(StartedProgram, ThatNobodyWaitsForIsTakenLeaveOfWhenItEnds)
     EXPECT_TRUE(QTest::qWaitFor([&] { return t.processes.wait(t.process, 0) == waitResult::failed; }, 60000));
     EXPECT_EQ(::waitpid(t.process, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
+}
+
+TEST(WaitForLoader, WithoutProcessFilesDrawsTheWindowAndEndsWithTheLoader)
+{
+    WaitingWithoutFiles t;
+    int before = 0;
+    int after = 0;
+    t.window.acts.emplace_back([&] {
+        before = t.window.paints;
+        t.window.update();
+    });
+    t.window.acts.emplace_back([] {});
+    t.window.acts.emplace_back([&] { after = t.window.paints; });
+    t.endLoader();
+    EXPECT_TRUE(t.waitWhileTheUserActs());
+    EXPECT_EQ(t.result, waitResult::ended);
+    EXPECT_GT(after, before);
+}
+
+TEST(WaitForLoader, WithoutProcessFilesKeepsToTheTimeout)
+{
+    WaitingWithoutFiles t;
+    EXPECT_EQ(t.processes.wait(t.process, 1), waitResult::timeout);
+    t.endLoader();
+    EXPECT_TRUE(t.waitWhileTheUserActs());
+}
+
+TEST(StartedProgram, WithoutProcessFilesIsTakenLeaveOfWhenItEndsToo)
+{
+    WaitingWithoutFiles t;
+    ::kill(-t.process, SIGTERM);
+    siginfo_t info{};
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return ::waitid(P_PID, static_cast<id_t>(t.process), &info, WEXITED | WNOWAIT | WNOHANG) < 0 &&
+                   errno == ECHILD;
+        },
+        60000));
 }
 
 } // namespace

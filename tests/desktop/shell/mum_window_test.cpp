@@ -224,6 +224,32 @@ TEST(MumWindow, MinimisingTheFrameTellsItsToolWindows)
     EXPECT_EQ(form.State, WindowState::Normal);
 }
 
+TEST(MumWindow, IsMinimisedWhileALoaderRunsAndComesBackWithTheKeyboardInThePane)
+{
+    for (const bool maximised : {false, true}) {
+        Shown shown;
+        if (maximised) shown.window.showMaximized();
+        Shown::events();
+        shown.files.addFile("c:\\tm\\mig.b50", "BTN S1 a\r\n");
+        shown.files.addFile("c:\\tm\\mig.m50", "");
+        shown.settings().B50LoadPath = "c:\\tm\\b50load.exe";
+        shown.openBoth("c:\\tm\\mig.b50");
+        bool minimised = false;
+        shown.processes.whileRunning = [&] {
+            Shown::events();
+            minimised = shown.window.isMinimized();
+        };
+        shown.menus().mnuSendToJoystick.Click();
+        Shown::events();
+        EXPECT_EQ(shown.processes.starts.size(), 1U);
+        EXPECT_TRUE(minimised);
+        EXPECT_FALSE(shown.window.isMinimized());
+        EXPECT_EQ(shown.window.isMaximized(), maximised);
+        EXPECT_TRUE(shown.joystick().isAncestorOf(QApplication::focusWidget()) ||
+                    QApplication::focusWidget() == &shown.joystick());
+    }
+}
+
 TEST(MumWindow, TheGradientIsSeenBehindTheTabs)
 {
     Shown shown;

@@ -68,4 +68,21 @@ inline std::string dosShow()
     return code.finished();
 }
 
+/// A DOS program that writes the drives and names of its two file control blocks into SEEN.TXT: 12 bytes each.
+inline std::string dosShowControlBlocks()
+{
+    DosCode code;
+    code.bytes({0xBA}), code.address("file name");    // mov dx, file name
+    code.bytes({0x31, 0xC9, 0xB4, 0x3C, 0xCD, 0x21}); // int 21h/3Ch: create
+    code.bytes({0x89, 0xC3});                         // mov bx, ax
+    for (const int block : {0x5C, 0x6C}) {
+        code.bytes({0xB9, 12, 0, 0xBA, block, 0}); // mov cx, 12; mov dx, block
+        code.bytes({0xB4, 0x40, 0xCD, 0x21});      // int 21h/40h: write
+    }
+    code.bytes({0xB8, 0x00, 0x4C, 0xCD, 0x21}); // int 21h/4C00h: end
+    code.label("file name");
+    code.text("SEEN.TXT"), code.bytes({0});
+    return code.finished();
+}
+
 } // namespace tarvex

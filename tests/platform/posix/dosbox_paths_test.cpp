@@ -3,10 +3,13 @@
 #include "platform/errors.h"
 #include "process_world.h"
 
+#include <atomic>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <set>
+#include <optional>
+#include <thread>
+#include <vector>
 
 namespace tarvex {
 namespace {
@@ -22,6 +25,11 @@ struct World : ProcessWorld {
             if (mount.letter == letter) return std::filesystem::canonical(mount.place).string();
         }
         return "(not mounted)";
+    }
+    /// What a program finds at a path inside, of a file in the root of a drive.
+    std::string bytes(const std::string& inside)
+    {
+        return bytesOf(placeOf(static_cast<char>(inside.at(0) | 0x20)) + "/" + inside.substr(3));
     }
 };
 
@@ -73,7 +81,38 @@ TEST(DosboxPaths, OfTwoNamesThatDifferByCaseEachIsFound)
     w.disk.put("drive_c/MIG.b50", "upper");
     const std::string inside = w.paths.file("c:\\mig.b50");
     EXPECT_EQ(inside.substr(1), ":\\FILE1.B50");
-    EXPECT_EQ(bytesOf(w.folder.path() + "/run/FILE1.B50"), "lower");
+    EXPECT_EQ(w.bytes(inside), "lower");
+}
+
+TEST(DosboxPaths, AFileWithAnotherNameHasItsNeighboursBesideIt)
+{
+    World w;
+    w.disk.put("drive_c/tm/my f16.b50", "joystick");
+    w.disk.put("drive_c/tm/my f16.m50", "macros");
+    w.disk.put("drive_c/tm/my f16.backup", "backup");
+    w.disk.put("drive_c/tm/other one.m50", "other");
+    w.disk.put("drive_c/tm/keys.txt", "keys");
+    w.disk.put("drive_c/tm/file1.m50", "not ours");
+    const std::string inside = w.paths.file("c:\\tm\\my f16.b50");
+    EXPECT_EQ(inside.substr(1), ":\\FILE2.B50") << "the first is taken";
+    const std::string root = inside.substr(0, 3);
+    EXPECT_EQ(w.bytes(inside), "joystick");
+    EXPECT_EQ(w.bytes(root + "FILE2.M50"), "macros");
+    EXPECT_EQ(w.bytes(root + "FILE2.BAC"), "backup");
+    EXPECT_EQ(w.bytes(root + "FILE1.M50"), "not ours");
+    EXPECT_EQ(w.bytes(root + "KEYS.TXT"), "keys");
+    EXPECT_EQ(w.paths.file("c:\\tm\\my f16.m50"), root + "FILE2.M50") << "once";
+    EXPECT_EQ(w.paths.file("c:\\tm\\other one.m50"), root + "FILE3.M50");
+    EXPECT_EQ(w.paths.file("c:\\tm\\keys.txt"), "C:\\TM\\KEYS.TXT");
+}
+
+TEST(DosboxPaths, OfNeighboursThatDosCouldNotTellApartEachIsFound)
+{
+    World w;
+    w.disk.put("drive_c/my f16.backup", "long");
+    w.disk.put("drive_c/my f16.bac", "short");
+    EXPECT_EQ(w.bytes(w.paths.file("c:\\my f16.backup")), "long");
+    EXPECT_EQ(w.bytes(w.paths.file("c:\\my f16.bac")), "short");
 }
 
 TEST(DosboxPaths, WhatLiesOutsideTheDrivesGetsLetters)
@@ -114,7 +153,7 @@ TEST(DosboxTail, NamesFilesByWhatTheyAreCalledInside)
     w.disk.put("drive_c/a dir/mig.b50", "");
     EXPECT_EQ(w.paths.tail(" c:\\tm\\a;b.b50 Q").substr(2), ":\\FILE1.B50 Q");
     EXPECT_EQ(w.paths.tail(" \"c:\\tm\\a;b.b50\" Q").substr(2), ":\\FILE1.B50 Q");
-    EXPECT_EQ(bytesOf(w.folder.path() + "/run/FILE1.B50"), "odd");
+    EXPECT_EQ(w.bytes(w.paths.file("c:\\tm\\a;b.b50")), "odd");
     EXPECT_EQ(w.paths.tail(" \"c:\\a dir\\mig.b50\"").substr(2), ":\\MIG.B50");
     EXPECT_EQ(w.paths.tail(" \"c:\\a dir\\new.b50\"").substr(2), ":\\NEW.B50") << "a file to be made";
 }
@@ -129,10 +168,29 @@ TEST(DosboxTail, OfAPathWithBlanksTheLongestThatExistsCounts)
     EXPECT_EQ(w.paths.tail(" c:\\a other"), " c:\\a other");
 }
 
+/// A place for the folders where no other test sweeps.
+struct Runtime {
+    Runtime() { ::setenv("XDG_RUNTIME_DIR", disk.path().c_str(), 1); }
+    ~Runtime()
+    {
+        if (before) {
+            ::setenv("XDG_RUNTIME_DIR", before->c_str(), 1);
+        } else {
+            ::unsetenv("XDG_RUNTIME_DIR");
+        }
+    }
+    Runtime(const Runtime&) = delete;
+    Runtime& operator=(const Runtime&) = delete;
+
+    TemporaryDirectory disk;
+    std::optional<std::string> before = std::getenv("XDG_RUNTIME_DIR") != nullptr
+                                            ? std::optional<std::string>(std::getenv("XDG_RUNTIME_DIR"))
+                                            : std::nullopt;
+};
+
 TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
 {
-    const TemporaryDirectory runtime; // where no other test sweeps
-    ::setenv("XDG_RUNTIME_DIR", runtime.path().c_str(), 1);
+    const Runtime runtime;
     std::string path;
     {
         DosboxFolder folder;
@@ -151,7 +209,45 @@ TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
     const DosboxFolder next;
     EXPECT_FALSE(std::filesystem::exists(path));
     EXPECT_TRUE(std::filesystem::exists("/etc/passwd")) << "links aren't followed";
-    ::unsetenv("XDG_RUNTIME_DIR");
+}
+
+TEST(DosboxFolder, SweepsOnlyWhatItMadeItself)
+{
+    namespace fs = std::filesystem;
+    const Runtime runtime;
+    const auto folder = [&](const std::string& name, fs::perms perms) {
+        runtime.disk.put(name + "/lock", "");
+        fs::permissions(runtime.disk / name, perms);
+        return runtime.disk / name;
+    };
+    const std::string ours = folder("tarvex-dos-ours", fs::perms::owner_all);
+    const std::string open = folder("tarvex-dos-open", fs::perms::owner_all | fs::perms::others_read);
+    const std::string target = folder("target", fs::perms::owner_all);
+    fs::create_directory_symlink(target, runtime.disk / "tarvex-dos-link");
+    const std::string noLock = runtime.disk.makeDirectory("tarvex-dos-none");
+    const DosboxFolder next;
+    EXPECT_FALSE(fs::exists(ours));
+    EXPECT_TRUE(fs::exists(open)) << "others may have put something there";
+    EXPECT_TRUE(fs::exists(target + "/lock"));
+    EXPECT_TRUE(fs::is_symlink(runtime.disk / "tarvex-dos-link"));
+    EXPECT_TRUE(fs::exists(noLock)) << "it may be one that is just being made";
+}
+
+TEST(DosboxFolder, OfManyThatAreMadeAtOnceNoneIsSweptByAnother)
+{
+    const Runtime runtime;
+    std::atomic<int> lost = 0;
+    std::vector<std::thread> runs;
+    for (int run = 0; run < 4; ++run) {
+        runs.emplace_back([&lost] {
+            for (int i = 0; i < 50; ++i) {
+                const DosboxFolder folder;
+                if (!std::filesystem::exists(folder.path() + "/lock")) ++lost;
+            }
+        });
+    }
+    for (std::thread& run : runs) run.join();
+    EXPECT_EQ(lost, 0);
 }
 
 } // namespace

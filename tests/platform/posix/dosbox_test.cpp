@@ -52,6 +52,18 @@ TEST_F(DosboxTest, PathsThatDosCannotHaveReachItByAnotherName)
     EXPECT_EQ(seen.substr(2), ":\\FILE2.B50 Q\r\n" + seen.substr(17, 1) + ":\\\r\nBTN S1 a") << "the folder itself";
 }
 
+TEST_F(DosboxTest, AnOldProgramFindsTheWordsOfItsCommandLineInItsControlBlocks)
+{
+    using namespace std::string_literals;
+    disk.put("drive_c/load.com", dosShowControlBlocks());
+    EXPECT_EQ(run("c:\\load.com mig.b50 C:*.m50 third"), 0);
+    EXPECT_EQ(contents("SEEN.TXT"), "\0MIG     B50\3????????M50"s);
+    EXPECT_EQ(run("c:\\load.com c:\\tm\\mig.b50 q"), 0);
+    EXPECT_EQ(contents("SEEN.TXT").substr(12), "\0Q          "s) << "a path is one word";
+    EXPECT_EQ(run("c:\\load.com"), 0);
+    EXPECT_EQ(contents("SEEN.TXT"), "\0           \0           "s);
+}
+
 TEST_F(DosboxTest, OnlyTheLastLetterOfTheAlphabetIsOutOfReach)
 {
     putShow("load.com");

@@ -4,6 +4,7 @@
 #include "platform/posix/spawn.h"
 #include "process_world.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -153,6 +154,23 @@ TEST(StartProgram, GivesItNoneOfOurFilesAndAnEmptyInput)
     EXPECT_EQ(w.contents("files"), "(missing)");
 }
 
+/// Runs in a process of its own.
+int openedWithoutStandardFiles(const char* path)
+{
+    for (int file = STDIN_FILENO; file <= STDERR_FILENO; ++file) ::close(file);
+    fillStandardFiles();
+    return ::open(path, O_RDONLY);
+}
+
+TEST(StartProgram, ClosedStandardFilesDoNotBecomeOthersOfOurs)
+{
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(openedWithoutStandardFiles("/dev/null") > STDERR_FILENO ? 0 : 1);
+    int status = -1;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+}
+
 TEST(StartProgram, GivesItASessionOfItsOwn)
 {
     ProcessWorld w;
@@ -198,6 +216,30 @@ TEST(WaitForProgram, LeavesNoDeadProcessBehind)
     EXPECT_EQ(::waitpid(second, nullptr, WNOHANG), -1);
 }
 
+/// On a system that has no files that tell the end of a program.
+struct WithoutProcessFiles : PosixProcesses {
+    using PosixProcesses::PosixProcesses;
+
+protected:
+    int openProcess(pid_t) override { return -1; }
+};
+
+struct Plain : ProcessWorld {
+    WithoutProcessFiles plain{drives, files, dialogues, drives.toDos(disk.path())};
+};
+
+TEST(WaitForProgram, WithoutProcessFilesKeepsToTheTimeout)
+{
+    Plain w;
+    w.script("load.exe", "exec sleep 1000\n");
+    const ProcessId process = w.plain.start("c:\\load.exe", 1, "c:\\");
+    EXPECT_EQ(w.plain.wait(process, 0), waitResult::timeout);
+    EXPECT_EQ(w.plain.wait(process, 30), waitResult::timeout);
+    EXPECT_EQ(::kill(process, SIGKILL), 0);
+    EXPECT_EQ(w.plain.wait(process, -1), waitResult::ended);
+    EXPECT_EQ(::waitpid(process, nullptr, WNOHANG), -1);
+}
+
 // ---- what runs it ----
 
 TEST(FindCommand, LooksOnlyIntoFullPaths)
@@ -238,6 +280,69 @@ TEST(Runner, OfWindowsProgramsIsTheOneOfPlatformIni)
                                 }() +
                                 "></X y><Q>")
         << "without a Wine prefix its drives aren't ours";
+}
+
+/// A Wine prefix whose c: is drive_c, and a runner that notes what Wine would be told.
+struct Prefix : Settable {
+    explicit Prefix(bool withRoot) : Settable("Wine")
+    {
+        disk.makeDirectory("prefix/dosdevices");
+        std::filesystem::create_directory_symlink(driveC, disk / "prefix/dosdevices/c:");
+        if (withRoot) std::filesystem::create_directory_symlink("/", disk / "prefix/dosdevices/z:");
+        std::string program(0x80, '\0');
+        program.replace(0, 2, "MZ");
+        program[0x3C] = 0x40;
+        program.replace(0x40, 2, "PE");
+        disk.put("drive_c/winld.exe", program);
+    }
+    /// What reaches the program of an argument, `%` in it standing for the folder of drive_c.
+    std::string told(const std::string& argument)
+    {
+        const DriveMap wines(
+            {.winePrefix = disk / "prefix", .home = {}, .programDirectory = disk.path(), .workingDirectory = "/"});
+        PosixFiles wineFiles(wines, writer);
+        PosixProcesses wine(wines, wineFiles, dialogues, wines.toDos(disk.path()));
+        std::filesystem::remove(driveC + "/seen");
+        EXPECT_EQ(wine.wait(wine.start("c:\\winld.exe " + argument, 1, "c:\\"), -1), waitResult::ended);
+        std::string seen = contents("seen");
+        std::string folder = driveC;
+        std::replace(folder.begin(), folder.end(), '/', '\\');
+        const std::size_t at = seen.find(folder);
+        if (at != std::string::npos) seen.replace(at, folder.size(), "%");
+        return seen.substr(seen.find("><") + 1);
+    }
+};
+
+TEST(Runner, WineIsToldPathsOnItsOwnDrivesAsTheyStand)
+{
+    Prefix w(true);
+    w.disk.put("drive_c/TM/Mig.b50", "");
+    for (const std::string path : {"c:\\tm\\mig.b50", "C:/TM/new.b50", "c:\\tm\\", "z:\\etc", "c:", "Q", "q:\\x"})
+        EXPECT_EQ(w.told(path), "<" + path + ">");
+}
+
+TEST(Runner, WineIsToldNamesThatOnlyTarvexKnowsByThePathOfThisSystem)
+{
+    for (const bool withRoot : {true, false}) {
+        Prefix w(withRoot);
+        w.disk.put("drive_c/MIG.b50", "upper");
+        w.disk.put("drive_c/mig.b50", "lower");
+        const DriveMap wines(
+            {.winePrefix = w.disk / "prefix", .home = {}, .programDirectory = w.disk.path(), .workingDirectory = "/"});
+        const std::string hidden = wines.toDos(w.driveC + "/mig.b50") == "c:\\mig.b50"
+                                       ? wines.toDos(w.driveC + "/MIG.b50")
+                                       : wines.toDos(w.driveC + "/mig.b50");
+        ASSERT_NE(hidden.find('~'), std::string::npos) << hidden;
+        const std::string seen = w.told(hidden);
+        EXPECT_EQ(seen.substr(0, seen.find('%')), withRoot ? "<z:" : "<\\\\?\\unix");
+        EXPECT_EQ(seen.find('~'), std::string::npos) << seen;
+    }
+}
+
+TEST(Runner, WineWithoutADriveForEverythingIsToldThePathOfThisSystem)
+{
+    Prefix w(false);
+    EXPECT_EQ(w.told("z:\\etc\\x"), "<\\\\?\\unix\\etc\\x>") << "that letter is Tarvex's own";
 }
 
 TEST(Runner, OfDosProgramsIsToldOnlyNamesOfOurOwn)
