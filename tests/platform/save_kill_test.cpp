@@ -1,9 +1,9 @@
 // A process that saves again and again is killed at random moments; the file is whole each time.
 
 #include "platform/posix/safe_writer.h"
+#include "support/kill_moments.h"
 #include "support/temporary_directory.h"
 
-#include <atomic>
 #include <csignal>
 #include <cstdint>
 #include <cstdlib>
@@ -45,18 +45,6 @@ Version versionOf(const std::string& contents)
         }
         if (::write(report, &version, sizeof version) != sizeof version) ::_exit(2);
     }
-}
-
-/// A few microseconds more or less, without the clock.
-void dawdle(unsigned rounds)
-{
-    for (std::atomic<unsigned> i = 0; i < rounds;) ++i;
-}
-
-unsigned chosenSeed()
-{
-    const char* told = std::getenv("TARVEX_SEED");
-    return told ? static_cast<unsigned>(std::strtoul(told, nullptr, 10)) : std::random_device()();
 }
 
 struct Round {

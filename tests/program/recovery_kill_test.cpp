@@ -2,12 +2,11 @@
 // at the next start, each time.
 
 #include "support/disk_program.h"
+#include "support/kill_moments.h"
 #include "support/temporary_directory.h"
 
-#include <atomic>
 #include <csignal>
 #include <cstdint>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <random>
@@ -113,18 +112,6 @@ struct Restarted : DiskProgram {
         if (step % 50 == 0) t.program->editor.TimerJournal.Tick();
         if (::write(report, &step, sizeof step) != sizeof step) ::_exit(1);
     }
-}
-
-/// A few microseconds more or less, without the clock.
-void dawdle(unsigned rounds)
-{
-    for (std::atomic<unsigned> i = 0; i < rounds;) ++i;
-}
-
-unsigned chosenSeed()
-{
-    const char* told = std::getenv("TARVEX_SEED");
-    return told ? static_cast<unsigned>(std::strtoul(told, nullptr, 10)) : std::random_device()();
 }
 
 struct Round {
