@@ -6,8 +6,8 @@
 
 namespace tarvex {
 
-/// The window of a form: caption, place, visibility and keep-on-top follow the form's state, and what the user does with
-/// its frame goes there. A tool window derives from it and fills in its widgets.
+/// The window of a form: caption, place, visibility and keep-on-top follow the form's state, and what the user does
+/// with its frame goes there. A tool window derives from it and fills in its widgets.
 class FormWindow : public QDialog {
     Q_OBJECT
 public:

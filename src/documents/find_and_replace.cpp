@@ -155,10 +155,10 @@ void wireFindAndReplace(FindAndReplace& window)
     menus.mnuEditFind.handler = [&window] { mnuEditFind_Click(window); };
     menus.mnuEditReplace.handler = [&window] { mnuEditReplace_Click(window); };
     menus.mnuEditGoto.handler = [&window] { mnuEditGoto_Click(window); };
-    window.editor.mum.toolWindows.add({.name = formName,
-                                       .form = &window.form,
-                                       .openFlag = &window.editor.shared.FindWindowOpen,
-                                       .unload = [&window] { Form_Unload(window); }});
+    window.editor.mum.toolWindows.add(
+        {.name = formName, .form = &window.form, .openFlag = &window.editor.shared.FindWindowOpen, .unload = [&window] {
+             Form_Unload(window);
+         }});
 }
 
 void Form_Load(FindAndReplace& window)

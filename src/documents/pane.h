@@ -162,7 +162,8 @@ public:
 
     /// A character key (its code; 8 Backspace, 13 Return) was pressed and hasn't changed the text yet. Run by the view.
     std::function<void(int)> KeyPress;
-    /// The user is about to write or delete by something else: the Delete key, a paste, an input method. Run by the view.
+    /// The user is about to write or delete by something else: the Delete key, a paste, an input method. Run by the
+    /// view.
     std::function<void()> EditComing;
     std::function<void()> Change; ///< text or look was written
 

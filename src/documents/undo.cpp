@@ -20,7 +20,8 @@ void keyPress(Side& side, int key)
 {
     UndoHistory& history = side.Undo;
     side.Caret = static_cast<float>(side.pane.SelStart());
-    if (key != backspaceKey && key != returnKey && key != blankKey) history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
+    if (key != backspaceKey && key != returnKey && key != blankKey)
+        history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
     // What is typed on an undone state mustn't overwrite the newest one.
     if (history.Position != 1) {
         side.TakeNewLevel = 1;

@@ -12,7 +12,8 @@ namespace tarvex {
 void JoystickText_KeyPress(Editor& editor, int key);
 void MacroText_KeyPress(Editor& editor, int key);
 
-/// Room for a new level 1 (UpdateUndoJoystickText, UpdateUndoMacroText): the oldest falls off once there are UndoMax + 1.
+/// Room for a new level 1 (UpdateUndoJoystickText, UpdateUndoMacroText): the oldest falls off once there are UndoMax
+/// + 1.
 void UpdateUndoText(const Editor& editor, Side& side);
 /// Level 1 takes the pane's text and caret; nothing else moves.
 void storeInNewestLevel(Side& side);

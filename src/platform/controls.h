@@ -34,7 +34,9 @@ struct Placement {
 };
 
 struct MenuItem {
-    explicit MenuItem(std::string name, std::string caption = {}) : Name(std::move(name)), Caption(std::move(caption)) {}
+    explicit MenuItem(std::string name, std::string caption = {}) : Name(std::move(name)), Caption(std::move(caption))
+    {
+    }
 
     const std::string Name; ///< the name in the program and in its tests, e.g. "mnuFileOpen"
     Property<std::string> Caption;
@@ -60,9 +62,9 @@ public:
         for (const char* caption : captions) Load(static_cast<int>(m_items.size()))->Caption = caption;
     }
 
-    const std::string Name; ///< e.g. "mnuJFArray"; the item at 3 has the name "mnuJFArray(3)"
-    Signal<> changed;       ///< an item was loaded or unloaded
-    bool plain = false;     ///< captions are the user's own texts: "&" stands for itself
+    const std::string Name;   ///< e.g. "mnuJFArray"; the item at 3 has the name "mnuJFArray(3)"
+    Signal<> changed;         ///< an item was loaded or unloaded
+    bool plain = false;       ///< captions are the user's own texts: "&" stands for itself
     bool hidesBlanks = false; ///< an item without a caption, as a damaged list has it, is not to be seen
 
     /// What a click of an item runs, with the item's index.

@@ -24,8 +24,8 @@ struct FileRequest {
     std::string title; ///< empty: the system's own title
     /// Alternating descriptions and patterns, joined by "|"; a pattern may hold several masks, joined by ";".
     std::string filter = {};
-    std::string directory = {}; ///< DOS path where the dialogue starts
-    std::string suggestedName = {}; ///< what the name field holds at first
+    std::string directory = {};        ///< DOS path where the dialogue starts
+    std::string suggestedName = {};    ///< what the name field holds at first
     std::string defaultExtension = {}; ///< added to a typed name that has none; no dot
 };
 

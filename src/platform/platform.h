@@ -60,7 +60,7 @@ struct Platform {
     Clipboard& clipboard;
     Processes& processes;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
-    std::string commandLine; ///< one DOS path or nothing
+    std::string commandLine;      ///< one DOS path or nothing
 };
 
 } // namespace tarvex

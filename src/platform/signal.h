@@ -23,8 +23,7 @@ private:
 /// Tells any number of listeners, in the order in which they were connected. Listeners may connect, disconnect and
 /// emit again while they are told; one that is connected meanwhile is told from the next time on. The signal itself
 /// must live until its emission returns. Costs one pointer while nobody listens.
-template <typename... Args>
-class Signal {
+template <typename... Args> class Signal {
 public:
     using Listener = std::function<void(Args...)>;
 
@@ -52,8 +51,7 @@ private:
 };
 
 /// A value that tells when it changes. Assigning an equal value tells nobody.
-template <typename T>
-class Property {
+template <typename T> class Property {
 public:
     Property() = default;
     Property(T value) : m_value(std::move(value)) {} // NOLINT: reads as the value it holds

@@ -21,8 +21,8 @@ public:
 
     /// Comes up, in the order that users see. False: another copy runs, and the process is to end at once.
     bool start();
-    /// The frame is to close: asks about unsaved files, then takes everything down and ends the message loop. False: the
-    /// user stays.
+    /// The frame is to close: asks about unsaved files, then takes everything down and ends the message loop. False:
+    /// the user stays.
     bool exit();
 
     Platform& platform;

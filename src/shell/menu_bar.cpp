@@ -14,32 +14,31 @@ MenuEntry menu(MenuItem& item, std::vector<MenuEntry> entries) { return {&item, 
 
 MenuEntry fileMenu(Menus& m)
 {
-    return menu(m.mnuFile,
-                {
-                    menu(m.mnuFileNew, {command(m.mnuFileNewJoystick, "Ctrl+N"), command(m.mnuFileNewMacro),
-                                        command(m.mnuFileNewBoth)}),
-                    command(m.mnuFileJoystickLoad, "Ctrl+O"),
-                    command(m.MnuFileMacroLoad),
-                    command(m.mnuFileOpen, "F8"),
-                    divider,
-                    command(m.mnuFileSave, "Ctrl+S"),
-                    command(m.mnuFileSaveAs),
-                    command(m.mnuFileSaveBoth, "Ctrl+F8"),
-                    divider,
-                    command(m.mnuFileClose),
-                    command(m.mnuFileCloseBoth),
-                    divider,
-                    command(m.mnuFilePrintJoystick, "Ctrl+P"),
-                    command(m.mnuFilePrintMacro),
-                    command(m.mnuFilePrinterSetup),
-                    divider,
-                    menu(m.mnuFilePrevious,
-                         {list(m.mnuJFArray), command(m.mnuPUDivider1), command(m.mnuPreviousClearAllJ)}),
-                    menu(m.mnuFilePrevMacro,
-                         {list(m.mnuMFArray), command(m.mnuPUDivider2), command(m.mnuPreviousClearAllM)}),
-                    divider,
-                    command(m.mnuFileExit),
-                });
+    return menu(
+        m.mnuFile,
+        {
+            menu(m.mnuFileNew,
+                 {command(m.mnuFileNewJoystick, "Ctrl+N"), command(m.mnuFileNewMacro), command(m.mnuFileNewBoth)}),
+            command(m.mnuFileJoystickLoad, "Ctrl+O"),
+            command(m.MnuFileMacroLoad),
+            command(m.mnuFileOpen, "F8"),
+            divider,
+            command(m.mnuFileSave, "Ctrl+S"),
+            command(m.mnuFileSaveAs),
+            command(m.mnuFileSaveBoth, "Ctrl+F8"),
+            divider,
+            command(m.mnuFileClose),
+            command(m.mnuFileCloseBoth),
+            divider,
+            command(m.mnuFilePrintJoystick, "Ctrl+P"),
+            command(m.mnuFilePrintMacro),
+            command(m.mnuFilePrinterSetup),
+            divider,
+            menu(m.mnuFilePrevious, {list(m.mnuJFArray), command(m.mnuPUDivider1), command(m.mnuPreviousClearAllJ)}),
+            menu(m.mnuFilePrevMacro, {list(m.mnuMFArray), command(m.mnuPUDivider2), command(m.mnuPreviousClearAllM)}),
+            divider,
+            command(m.mnuFileExit),
+        });
 }
 
 MenuEntry editMenu(Menus& m)
@@ -68,26 +67,26 @@ MenuEntry editMenu(Menus& m)
 
 MenuEntry viewMenu(Menus& m)
 {
-    return menu(m.mnuView, {
-                               command(m.mnuViewTileVertically),
-                               command(m.mnuViewMacros),
-                               divider,
-                               command(m.mnuViewColourJoystick),
-                               command(m.mnuViewColourMacro),
-                               command(m.mnuViewApplyColourBothFiles, "Ctrl+T"),
-                               menu(m.mnuRemoveColour,
-                                    {command(m.mnuRemoveColourJoystick), command(m.mnuRemoveColourMacro),
-                                     command(m.mnuRemoveColourSelectedText)}),
-                               command(m.mnuViewEditColours),
-                               command(m.mnuViewTextColour, "Ctrl+Shift+C"),
-                               divider,
-                               command(m.mnuViewReformat, "Ctrl+H"),
-                               command(m.mnuViewrefreshIndent),
-                               command(m.mnuViewAlignSlashes, "Ctrl+Shift+A"),
-                               command(m.mnuViewHighlightLine, "Ctrl+L"),
-                               divider,
-                               command(m.mnuViewIdentify, "F7"),
-                           });
+    return menu(m.mnuView,
+                {
+                    command(m.mnuViewTileVertically),
+                    command(m.mnuViewMacros),
+                    divider,
+                    command(m.mnuViewColourJoystick),
+                    command(m.mnuViewColourMacro),
+                    command(m.mnuViewApplyColourBothFiles, "Ctrl+T"),
+                    menu(m.mnuRemoveColour, {command(m.mnuRemoveColourJoystick), command(m.mnuRemoveColourMacro),
+                                             command(m.mnuRemoveColourSelectedText)}),
+                    command(m.mnuViewEditColours),
+                    command(m.mnuViewTextColour, "Ctrl+Shift+C"),
+                    divider,
+                    command(m.mnuViewReformat, "Ctrl+H"),
+                    command(m.mnuViewrefreshIndent),
+                    command(m.mnuViewAlignSlashes, "Ctrl+Shift+A"),
+                    command(m.mnuViewHighlightLine, "Ctrl+L"),
+                    divider,
+                    command(m.mnuViewIdentify, "F7"),
+                });
 }
 
 std::vector<MenuEntry> insertEntries(Menus& m)
@@ -223,14 +222,15 @@ std::vector<MenuEntry> paneEntries(Menus& m)
 
 std::vector<MenuEntry> menuBar(Menus& menus)
 {
-    return {fileMenu(menus),  editMenu(menus),  viewMenu(menus),       menu(menus.mnuInsert, insertEntries(menus)),
-            wizardsMenu(menus), appsMenu(menus), gamesMenu(menus), favouritesMenu(menus),
+    return {fileMenu(menus),        editMenu(menus), viewMenu(menus),  menu(menus.mnuInsert, insertEntries(menus)),
+            wizardsMenu(menus),     appsMenu(menus), gamesMenu(menus), favouritesMenu(menus),
             preferencesMenu(menus), helpMenu(menus)};
 }
 
 std::vector<MenuEntry> mumMenuBar(Menus& menus)
 {
-    return {menu(menus.mnuFile, {command(menus.mnuMumFileExit)}), menu(menus.mnuHelp, {command(menus.mnuHelpContents)})};
+    return {menu(menus.mnuFile, {command(menus.mnuMumFileExit)}),
+            menu(menus.mnuHelp, {command(menus.mnuHelpContents)})};
 }
 
 std::vector<MenuEntry> popUpMenu(Menus& menus, const MenuItem& root)

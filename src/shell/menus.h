@@ -84,12 +84,11 @@ struct Menus {
     MenuItem mnuInsertHeading{"mnuInsertHeading", "&Heading..."};
     MenuItem mnuInsertRemStatement{"mnuInsertRemStatement", "&Rem statement..."};
     MenuItem mnuSlashModifier{"mnuSlashModifier", "S&lash modifier"};
-    MenuArray mnuSlashModifierArray{"mnuSlashModifierArray",
-                                    {"/U  dogfight switch is up", "/M  dogfight switch middle position",
-                                     "/D  dogfight switch is down", "/I  S3 is held in", "/O S3 is out",
-                                     "/A  force analogue", "/P  press event", "/R  release event", "/H  hold down",
-                                     "/N  no repeat", "/T  toggle modifier",
-                                     "/Q  ignore initial repeat delay modifier"}};
+    MenuArray mnuSlashModifierArray{
+        "mnuSlashModifierArray",
+        {"/U  dogfight switch is up", "/M  dogfight switch middle position", "/D  dogfight switch is down",
+         "/I  S3 is held in", "/O S3 is out", "/A  force analogue", "/P  press event", "/R  release event",
+         "/H  hold down", "/N  no repeat", "/T  toggle modifier", "/Q  ignore initial repeat delay modifier"}};
     MenuItem mnuInsertWithColour{"mnuInsertWithColour", "Insert with colou&r"};
     MenuItem mnuInsertDivider8{"mnuInsertDivider8", "-"};
     MenuItem mnuInsertQuickTip{"mnuInsertQuickTip", "Tip: Esc in a file brings up this menu"};

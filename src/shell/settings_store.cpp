@@ -83,8 +83,7 @@ struct Key {
     }
 };
 
-template <typename Member>
-constexpr bool isTextFamily = std::is_same_v<Member, std::vector<std::string> Settings::*>;
+template <typename Member> constexpr bool isTextFamily = std::is_same_v<Member, std::vector<std::string> Settings::*>;
 template <typename Member>
 constexpr bool isNumberFamily = std::is_same_v<Member, std::vector<std::int16_t> Settings::*>;
 

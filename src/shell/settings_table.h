@@ -75,7 +75,7 @@ enum class SettingForm {
     IntegerText, ///< the same, but read as a text of at most 9 characters and converted whole
     Text,        ///< at most 99 characters survive a read
     ShortText,   ///< at most 49
-    ColourText, ///< decimal text of 0x00BBGGRR, at most 49 characters
+    ColourText,  ///< decimal text of 0x00BBGGRR, at most 49 characters
     Position,    ///< twips, converted to a single-precision number
     Dropped,     ///< read and thrown away, written empty
 };

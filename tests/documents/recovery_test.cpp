@@ -491,14 +491,14 @@ TEST(Recovery, OfTwoForOnePaneTheNewestComesBackAndTheOtherIsPutAside)
     t.typeJoystick("new");
     std::uint64_t chain = 0;
     t.files.addFile(std::string(recoverDirectory) + "\\1.journal", journalStart({.tab = 1,
-                                                                          .replaces = 0,
-                                                                          .path = "c:\\a\\old.b50",
-                                                                          .name = "..\\..\\old.b50",
-                                                                          .partnerPath = {},
-                                                                          .file = {},
-                                                                          .base = "",
-                                                                          .edit = {0, 0, "old text"}},
-                                                                         chain));
+                                                                                 .replaces = 0,
+                                                                                 .path = "c:\\a\\old.b50",
+                                                                                 .name = "..\\..\\old.b50",
+                                                                                 .partnerPath = {},
+                                                                                 .file = {},
+                                                                                 .base = "",
+                                                                                 .edit = {0, 0, "old text"}},
+                                                                                chain));
     t.editor().LastJournal = 5;
     beginJournal(t.editor(), t.joystick(), 0);
     t.killAndStart({Answer::Yes});

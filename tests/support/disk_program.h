@@ -23,15 +23,15 @@ struct DiskProgram {
     explicit DiskProgram(const std::string& folder, const std::string& commandLine = {})
         : drives({.winePrefix = {}, .home = {}, .programDirectory = folder, .workingDirectory = folder}),
           writer(folder + "/Recover", calls), files(drives, writer),
-          processes(drives, files, dialogues, drives.toDos(folder)),
-          platform{.files = files,
-                   .dialogues = dialogues,
-                   .desktop = desktop,
-                   .sound = sound,
-                   .clipboard = clipboard,
-                   .processes = processes,
-                   .programDirectory = drives.toDos(folder),
-                   .commandLine = drives.fromArgument(commandLine)}
+          processes(drives, files, dialogues, drives.toDos(folder)), platform{.files = files,
+                                                                              .dialogues = dialogues,
+                                                                              .desktop = desktop,
+                                                                              .sound = sound,
+                                                                              .clipboard = clipboard,
+                                                                              .processes = processes,
+                                                                              .programDirectory = drives.toDos(folder),
+                                                                              .commandLine =
+                                                                                  drives.fromArgument(commandLine)}
     {
         std::filesystem::create_directories(folder + "/drive_c");
     }

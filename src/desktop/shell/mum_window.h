@@ -41,7 +41,7 @@ private:
     StatusBarView* m_status;
     LockKeys m_lockKeys;
     bool m_wasElsewhere = false; ///< another program had the keyboard
-    QElapsedTimer m_restored; ///< since the program brought its minimised window back
+    QElapsedTimer m_restored;    ///< since the program brought its minimised window back
     bool m_exiting = false;
     Bindings m_bindings;
 };

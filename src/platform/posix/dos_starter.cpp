@@ -21,14 +21,14 @@ void addControlBlocks(DosCode& code)
 
 void addInstructions(DosCode& code, char drive)
 {
-    code.bytes({0xBC}), code.address("stack");                   // mov sp, stack
-    code.bytes({0xBB}), code.address("paragraphs");              // mov bx, paragraphs
-    code.bytes({0xB4, 0x4A, 0xCD, 0x21});                        // int 21h/4Ah: keep that much memory, free the rest
-    code.bytes({0xB2, (drive | 0x20) - 'a'});                    // mov dl, drive
-    code.bytes({0xB4, 0x0E, 0xCD, 0x21});                        // int 21h/0Eh: select it
-    code.bytes({0xBA}), code.address("directory");               // mov dx, directory
-    code.bytes({0xB4, 0x3B, 0xCD, 0x21});                        // int 21h/3Bh: change to it
-    code.bytes({0x72}), code.jump("end");                        // jc end: the program's place is gone
+    code.bytes({0xBC}), code.address("stack");      // mov sp, stack
+    code.bytes({0xBB}), code.address("paragraphs"); // mov bx, paragraphs
+    code.bytes({0xB4, 0x4A, 0xCD, 0x21});           // int 21h/4Ah: keep that much memory, free the rest
+    code.bytes({0xB2, (drive | 0x20) - 'a'});       // mov dl, drive
+    code.bytes({0xB4, 0x0E, 0xCD, 0x21});           // int 21h/0Eh: select it
+    code.bytes({0xBA}), code.address("directory");  // mov dx, directory
+    code.bytes({0xB4, 0x3B, 0xCD, 0x21});           // int 21h/3Bh: change to it
+    code.bytes({0x72}), code.jump("end");           // jc end: the program's place is gone
     addControlBlocks(code);
     code.bytes({0x8C, 0xC8});                                    // mov ax, cs
     for (const unsigned segment : {4U, 8U, 12U}) {               // of the tail and of two file control blocks
