@@ -1,6 +1,6 @@
 #include "coloured_text.h"
 
-#include "documents/recovery_format.h"
+#include "documents/recovery/recovery_format.h"
 #include "platform/posix/posix_append_file.h"
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 #include "coloured_text.h"
-#include "documents/rtf.h"
+#include "documents/text/rtf/rtf.h"
 
 #include <benchmark/benchmark.h>
 

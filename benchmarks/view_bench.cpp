@@ -1,4 +1,4 @@
-#include "desktop/documents/pane_view.h"
+#include "desktop/documents/text/pane_view.h"
 
 #include "coloured_text.h"
 

@@ -1,7 +1,7 @@
 // Any bytes as a journal: reading never fails, and never takes a text for more than its records say. The first byte of
 // the input chooses: the rest is a whole file, or the contents of records with check sums that fit.
 
-#include "documents/recovery_format.h"
+#include "documents/recovery/recovery_format.h"
 
 #include <cstdio>
 #include <cstdlib>

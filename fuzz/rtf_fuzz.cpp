@@ -1,4 +1,4 @@
-#include "documents/rtf.h"
+#include "documents/text/rtf/rtf.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/pane.h"
+#include "documents/text/pane.h"
 #include "shell/settings.h"
 
 #include <cstdint>

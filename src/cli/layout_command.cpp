@@ -1,7 +1,7 @@
 #include "cli/layout_command.h"
 
 #include "cli/input.h"
-#include "documents/pane.h"
+#include "documents/text/pane.h"
 #include "language/slash_columns.h"
 
 namespace tarvex::cli {

@@ -1,8 +1,8 @@
 #include "download/download_command.h"
 
-#include "documents/file_save.h"
-#include "documents/line_highlight.h"
-#include "documents/menu_choices.h"
+#include "documents/editing/line_highlight.h"
+#include "documents/files/file_save.h"
+#include "documents/window/menu_choices.h"
 #include "download/loader_result.h"
 #include "download/shell_and_wait.h"
 #include "platform/dos_path.h"

@@ -1,6 +1,6 @@
 #include "download/download_commands.h"
 
-#include "documents/editor_handler.h"
+#include "documents/pair/editor_handler.h"
 #include "download/download_command.h"
 #include "download/game_launch.h"
 #include "download/outside_tools.h"

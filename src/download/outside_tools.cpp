@@ -1,6 +1,6 @@
 #include "download/outside_tools.h"
 
-#include "documents/preferences_page.h"
+#include "documents/window/preferences_page.h"
 #include "platform/dos_path.h"
 
 #include <string>

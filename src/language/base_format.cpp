@@ -1,6 +1,6 @@
 #include "language/base_format.h"
 
-#include "documents/pane_change.h"
+#include "documents/editing/pane_change.h"
 
 namespace tarvex {
 

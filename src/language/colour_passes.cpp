@@ -1,6 +1,6 @@
 #include "language/colour_passes.h"
 
-#include "documents/pane.h"
+#include "documents/text/pane.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/pane.h"
+#include "documents/text/pane.h"
 #include "language/pass_runner.h"
 #include "shell/errors.h"
 #include "shell/mum.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/editor.h"
+#include "documents/pair/editor.h"
 
 #include <string>
 #include <string_view>

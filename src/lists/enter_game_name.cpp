@@ -1,6 +1,6 @@
 #include "lists/enter_game_name.h"
 
-#include "documents/file_dialogues.h"
+#include "documents/files/file_dialogues.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 

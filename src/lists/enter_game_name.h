@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/editor.h"
+#include "documents/pair/editor.h"
 #include "platform/controls.h"
 
 #include <array>

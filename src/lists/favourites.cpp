@@ -1,6 +1,6 @@
 #include "lists/favourites.h"
 
-#include "documents/preferences_page.h"
+#include "documents/window/preferences_page.h"
 #include "platform/dos_path.h"
 #include "platform/text.h"
 #include "platform/windows1252.h"

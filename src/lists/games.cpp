@@ -1,9 +1,9 @@
 #include "lists/games.h"
 
-#include "documents/file_save.h"
-#include "documents/preferences_page.h"
-#include "documents/recovery_offer.h"
-#include "documents/tabs.h"
+#include "documents/files/file_save.h"
+#include "documents/pair/tabs.h"
+#include "documents/recovery/offer/recovery_offer.h"
+#include "documents/window/preferences_page.h"
 
 namespace tarvex {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/editor.h"
+#include "documents/pair/editor.h"
 #include "lists/enter_game_name.h"
 #include "lists/recent_list.h"
 #include "shell/operation.h"

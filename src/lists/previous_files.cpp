@@ -1,6 +1,6 @@
 #include "lists/previous_files.h"
 
-#include "documents/file_open.h"
+#include "documents/files/file_open.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>

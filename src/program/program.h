@@ -1,7 +1,7 @@
 #pragma once
 
-#include "documents/editor.h"
-#include "documents/find_and_replace.h"
+#include "documents/find/find_and_replace.h"
+#include "documents/pair/editor.h"
 #include "lists/lists.h"
 #include "platform/platform.h"
 #include "shell/menus.h"

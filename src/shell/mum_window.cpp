@@ -1,6 +1,6 @@
 #include "shell/mum_window.h"
 
-#include "shell/hardware_profile.h"
+#include "shell/hardware/hardware_profile.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 #include "cli/tarvexctl.h"
-#include "documents/rtf.h"
+#include "documents/text/rtf/rtf.h"
 #include "support/test_program.h"
 
 namespace tarvex {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/posix/dos_code.h"
+#include "platform/posix/dosbox/dos_code.h"
 
 #include <string>
 

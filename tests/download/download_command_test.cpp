@@ -1,4 +1,4 @@
-#include "documents/tabs.h"
+#include "documents/pair/tabs.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

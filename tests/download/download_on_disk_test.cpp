@@ -1,7 +1,7 @@
 // The whole road with real loaders: the stand-in, and such as nobody would like to have.
 
 #include "dos_loader.h"
-#include "platform/posix/runners.h"
+#include "platform/posix/processes/runners.h"
 #include "support/disk_program.h"
 #include "support/temporary_directory.h"
 

@@ -1,7 +1,7 @@
 #include "language/identify_macros.h"
 
 #include "language/button_definition.h"
-#include "language/find_macro.h"
+#include "language/commands/find_macro.h"
 #include "language/macro_analysis.h"
 #include "support/test_program.h"
 

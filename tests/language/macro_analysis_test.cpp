@@ -1,7 +1,7 @@
 #include "language/macro_analysis.h"
 
+#include "language/commands/macro_keys.h"
 #include "language/macro_file_lines.h"
-#include "language/macro_keys.h"
 #include "platform/windows1252.h"
 #include "support/test_program.h"
 

@@ -1,6 +1,6 @@
 #include "lists/previous_files.h"
 
-#include "documents/auto_save.h"
+#include "documents/files/auto_save.h"
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>

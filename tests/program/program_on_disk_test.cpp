@@ -1,7 +1,7 @@
 // The whole program on real files: drives, names in any case, and disks that fail.
 
-#include "documents/auto_save.h"
-#include "documents/file_open.h"
+#include "documents/files/auto_save.h"
+#include "documents/files/file_open.h"
 #include "support/disk_program.h"
 #include "support/small_disk.h"
 #include "support/temporary_directory.h"

@@ -1,6 +1,6 @@
 #include "program/program.h"
 
-#include "documents/editor_window.h"
+#include "documents/window/editor_window.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

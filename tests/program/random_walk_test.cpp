@@ -1,15 +1,15 @@
 // A user who does anything at any moment, for 50,000 actions: after each of them the program is as it has to be.
 // TARVEX_SEED repeats a walk; TARVEX_STEPS makes it longer or shorter.
 
-#include "documents/auto_save.h"
-#include "documents/drag_move.h"
-#include "documents/line_highlight.h"
-#include "documents/pane_keys.h"
-#include "documents/recovery_format.h"
-#include "documents/recovery_journal.h"
-#include "documents/tabs.h"
-#include "language/macro_list_events.h"
-#include "language/text_transfer.h"
+#include "documents/editing/line_highlight.h"
+#include "documents/editing/pane_keys.h"
+#include "documents/files/auto_save.h"
+#include "documents/pair/tabs.h"
+#include "documents/recovery/recovery_format.h"
+#include "documents/recovery/recovery_journal.h"
+#include "documents/text/drag_move.h"
+#include "language/commands/macro_list_events.h"
+#include "language/commands/text_transfer.h"
 #include "platform/dos_path.h"
 #include "support/test_program.h"
 

@@ -2,7 +2,7 @@
 
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
-#include "platform/posix/posix_processes.h"
+#include "platform/posix/processes/posix_processes.h"
 #include "platform/posix/safe_writer.h"
 #include "platform/posix/system_calls.h"
 #include "support/test_program.h"

@@ -1,6 +1,6 @@
 #include "support/test_program.h"
 
-#include "documents/file_open.h"
+#include "documents/files/file_open.h"
 #include "platform/profile_file.h"
 
 namespace tarvex {

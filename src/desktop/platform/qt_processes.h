@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/posix/posix_processes.h"
+#include "platform/posix/processes/posix_processes.h"
 
 #include <QObject>
 

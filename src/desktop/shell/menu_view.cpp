@@ -1,7 +1,7 @@
 #include "desktop/shell/menu_view.h"
 
 #include "desktop/shell/menu_array_view.h"
-#include "documents/pane_keys.h"
+#include "documents/editing/pane_keys.h"
 
 #include <QAction>
 #include <QKeySequence>

@@ -1,4 +1,4 @@
-#include "desktop/shell/mum_window.h"
+#include "desktop/program/mum_window.h"
 #include "support/test_program.h"
 
 #include <QAction>

@@ -1,0 +1,208 @@
+#include "desktop/documents/text/pane_view.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+constexpr int smallestZoom = 40;
+constexpr int largestZoom = 500;
+constexpr int tabColumns = 8;
+constexpr int margin = 4; // pixels around the text
+
+} // namespace
+
+PaneView::PaneView(Pane& pane, QWidget* parent) : QPlainTextEdit(parent), m_pane(pane), m_mirror(pane, *document())
+{
+    setLineWrapMode(NoWrap);
+    document()->setDocumentMargin(margin);
+    connect(&m_mirror, &PaneMirror::waiting, this, &PaneView::settleLater);
+    const auto cursorMoved = [this] {
+        if (m_showing) return;
+        m_userMoved = true;
+        if (!m_mirror.typed() && !m_mirror.behind()) takeSelection();
+        settleLater();
+    };
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, cursorMoved);
+    connect(this, &QPlainTextEdit::selectionChanged, this, cursorMoved);
+    bindPane();
+    m_paneMoved = true;
+    settleLater();
+}
+
+void PaneView::bindPane()
+{
+    m_bindings.follow(m_pane.selectionChanged, [this] {
+        m_paneMoved = true;
+        settleLater();
+    });
+    m_bindings.bind(m_pane.Locked, [this](bool locked) {
+        settle();
+        setReadOnly(locked);
+        if (locked) setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    });
+    m_bindings.bind(m_pane.BackColor, [this](Colour) { showColours(); });
+    m_bindings.follow(m_pane.fontChanged, [this] { showFont(); });
+    m_bindings.follow(m_pane.focusWanted, [this] { setFocus(Qt::OtherFocusReason); });
+    m_bindings.follow(m_pane.refreshWanted, [this] { viewport()->update(); });
+    showFont();
+}
+
+// ---- bringing pane and document together ----------------------------------------------------------------------------
+
+void PaneView::settleLater()
+{
+    if (m_settlesLater) return;
+    m_settlesLater = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_settlesLater = false;
+            settle();
+        },
+        Qt::QueuedConnection);
+}
+
+void PaneView::settle()
+{
+    if (m_showing) return;
+    const bool byUser = m_mirror.typed() || (m_userMoved && !m_paneMoved);
+    m_mirror.deliver(textCursor().position());
+    if (m_userMoved && !m_paneMoved && !m_mirror.behind()) takeSelection();
+    m_userMoved = false;
+    showPane();
+    if (byUser) emit caretMoved();
+}
+
+/// Moves the pane's caret to where the user put it.
+void PaneView::takeSelection()
+{
+    const Selection wanted = shownSelection();
+    const QScopedValueRollback<bool> paneMoved(m_paneMoved); // it only follows
+    if (wanted != paneSelection()) {
+        m_pane.setSelStart(wanted.start);
+        m_pane.setSelLength(wanted.length);
+    }
+    m_shown = wanted;
+}
+
+PaneView::Selection PaneView::shownSelection() const
+{
+    const QTextCursor cursor = textCursor();
+    const std::int64_t start = m_mirror.panePosition(cursor.selectionStart());
+    return {start, m_mirror.panePosition(cursor.selectionEnd()) - start};
+}
+
+void PaneView::showPane()
+{
+    if (m_showing || m_mirror.typed() || (!m_paneMoved && !m_mirror.behind())) return;
+    const QScopedValueRollback<bool> showing(m_showing, true);
+    int top = verticalScrollBar()->value();
+    const int left = horizontalScrollBar()->value();
+    if (const auto rewritten = m_mirror.update(); rewritten && rewritten->last < top) top += rewritten->added;
+    const bool moved = showSelection();
+    m_paneMoved = false;
+    if (!moved) {
+        verticalScrollBar()->setValue(top);
+        horizontalScrollBar()->setValue(left);
+    }
+    formatShown();
+    viewport()->update();
+    emit paneShown();
+}
+
+/// Puts the caret where the pane has it. True: it is another place than before, which is to be seen.
+bool PaneView::showSelection()
+{
+    const Selection wanted = paneSelection();
+    const Selection before = std::exchange(m_shown, wanted);
+    if (wanted == shownSelection()) return false;
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(m_mirror.documentPosition(wanted.start));
+    cursor.setPosition(m_mirror.documentPosition(wanted.start + wanted.length), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    return wanted != before;
+}
+
+void PaneView::formatAll()
+{
+    settle();
+    m_mirror.formats().format(document()->firstBlock(), document()->lastBlock());
+}
+
+/// Formats the lines that can be in sight, and the caret's, whose place is asked for also when it is out of sight.
+void PaneView::formatShown()
+{
+    if (!m_mirror.equal()) return; // scrolled in the middle of an edit
+    const QTextBlock first = firstVisibleBlock();
+    const int lines = 2 * viewport()->height() / std::max(1, fontMetrics().lineSpacing()) + 2;
+    const int last = std::min(first.blockNumber() + lines, blockCount() - 1);
+    m_mirror.formats().format(first, document()->findBlockByNumber(last));
+    const QTextBlock caretLine = textCursor().block();
+    m_mirror.formats().format(caretLine, caretLine);
+}
+
+void PaneView::paintEvent(QPaintEvent* event)
+{
+    showPane();
+    formatShown();
+    QPlainTextEdit::paintEvent(event);
+}
+
+void PaneView::scrollContentsBy(int dx, int dy)
+{
+    QPlainTextEdit::scrollContentsBy(dx, dy);
+    if (dy != 0) formatShown();
+}
+
+void PaneView::resizeEvent(QResizeEvent* event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    formatShown();
+}
+
+// ---- look -----------------------------------------------------------------------------------------------------------
+
+void PaneView::setZoom(int percent)
+{
+    m_zoom = std::clamp(percent, smallestZoom, largestZoom);
+    showFont();
+}
+
+void PaneView::showFont()
+{
+    const PaneFont& wanted = m_pane.Font();
+    QFont shown(toQt(wanted.name));
+    shown.setPointSizeF(std::max(1.0, static_cast<double>(wanted.size) * m_zoom / 100));
+    shown.setBold(wanted.bold);
+    setFont(shown);
+    setTabStopDistance(tabColumns * QFontMetricsF(shown).averageCharWidth());
+    m_mirror.formats().setZoom(m_zoom / 100.0);
+    m_mirror.markAllStale();
+    viewport()->update();
+}
+
+/// The pane keeps its colour scheme whatever the program's appearance: text without a colour is black on BackColor.
+void PaneView::showColours()
+{
+    QPalette shown = QApplication::palette(this);
+    shown.setColor(QPalette::Base, toQt(m_pane.BackColor.get()));
+    shown.setColor(QPalette::Text, Qt::black);
+    shown.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x9B, 0xC1, 0xEE)); // found from another window
+    shown.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    if (shown != palette()) setPalette(shown);
+}
+
+void PaneView::changeEvent(QEvent* event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange) showColours();
+}
+
+} // namespace tarvex

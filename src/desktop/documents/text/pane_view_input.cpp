@@ -1,0 +1,257 @@
+#include "desktop/documents/text/pane_view.h"
+
+#include "desktop/documents/text/pane_text.h"
+#include "desktop/platform/mime.h"
+#include "documents/editing/clipboard_commands.h"
+#include "documents/text/drag_move.h"
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <QWheelEvent>
+
+namespace tarvex {
+
+namespace {
+
+bool isInput(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+    case QEvent::ContextMenu:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Keys that can be a command of the pane; empty for all others.
+std::string commandKeys(const QKeyEvent& event)
+{
+    const bool plain =
+        event.modifiers() == Qt::NoModifier && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F1);
+    const bool ctrl = event.modifiers() == Qt::ControlModifier && event.key() != Qt::Key_Control;
+    if (!plain && !ctrl) return {};
+    return fromQt(QKeySequence(event.keyCombination()).toString(QKeySequence::PortableText));
+}
+
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) files.append(url.toLocalFile());
+    }
+    return files;
+}
+
+} // namespace
+
+/// The user acts on what is in the pane, and the pane learns of it before anything else happens.
+bool PaneView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.matches(QKeySequence::DeleteCompleteLine)) { // Ctrl+U is the menu's
+            event->ignore();
+            return true;
+        }
+        if (pressKey && key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) event->accept(); // not the menu's
+    }
+    if (!isInput(*event)) return QPlainTextEdit::event(event);
+    settle();
+    const bool done = QPlainTextEdit::event(event);
+    settle();
+    return done;
+}
+
+bool PaneView::viewportEvent(QEvent* event)
+{
+    if (!isInput(*event)) return QPlainTextEdit::viewportEvent(event);
+    settle();
+    const bool done = QPlainTextEdit::viewportEvent(event);
+    settle();
+    return done;
+}
+
+void PaneView::keyPressEvent(QKeyEvent* event)
+{
+    if (zoomByKey(*event)) return;
+    if (pressKey && pressKey(commandKeys(*event))) return;
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) { // the desktop tells of the Menu key
+        emit popUpWanted(true);
+        return;
+    }
+    // Ctrl+K and Ctrl+U are not for deleting here, whatever other programs of the desktop do with them.
+    if (event->matches(QKeySequence::DeleteEndOfLine) || event->matches(QKeySequence::DeleteCompleteLine)) return;
+    if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
+        setOverwriteMode(!overwriteMode());
+        emit overwriteModeChanged(overwriteMode());
+        return;
+    }
+    if (event->key() == Qt::Key_Delete) tellEdit();
+    tellKeyPress(*event);
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+void PaneView::keyReleaseEvent(QKeyEvent* event)
+{
+    QPlainTextEdit::keyReleaseEvent(event);
+    if (event->isAutoRepeat()) return;
+    settle();
+    emit keyReleased();
+}
+
+void PaneView::mousePressEvent(QMouseEvent* event)
+{
+    QPlainTextEdit::mousePressEvent(event);
+    settle();
+    if (event->button() != Qt::RightButton) emit mousePressed(event->button()); // that one's business is the pop-up
+}
+
+void PaneView::mouseReleaseEvent(QMouseEvent* event)
+{
+    QPlainTextEdit::mouseReleaseEvent(event);
+    settle();
+    if (event->button() == Qt::LeftButton) emit clicked();
+}
+
+/// A key that is about to write a character, by the character's code.
+void PaneView::tellKeyPress(const QKeyEvent& event)
+{
+    if (m_pane.Locked || !m_pane.KeyPress) return;
+    const QString text = event.text();
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        m_pane.KeyPress('\r');
+    else if (event.key() == Qt::Key_Backspace)
+        m_pane.KeyPress('\b');
+    else if (!command && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\t'))
+        m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
+    showPane(); // the caret may have been moved out of the way
+}
+
+void PaneView::tellEdit()
+{
+    if (m_pane.EditComing) m_pane.EditComing();
+    showPane();
+}
+
+bool PaneView::zoomByKey(const QKeyEvent& event)
+{
+    constexpr int step = 10;
+    if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0) {
+        setZoom(100);
+    } else if (event.matches(QKeySequence::ZoomIn) ||
+               (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Equal)) {
+        setZoom(m_zoom + step);
+    } else if (event.matches(QKeySequence::ZoomOut)) {
+        setZoom(m_zoom - step);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void PaneView::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QPlainTextEdit::wheelEvent(event);
+        return;
+    }
+    setZoom(m_zoom + event->angleDelta().y() / 12); // ten per cent a notch
+    event->accept();
+}
+
+void PaneView::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (!event->commitString().isEmpty() || !event->preeditString().isEmpty()) tellEdit();
+    QPlainTextEdit::inputMethodEvent(event);
+    settle();
+    m_mirror.formats().formatComposing(textCursor().block());
+}
+
+void PaneView::focusInEvent(QFocusEvent* event)
+{
+    QPlainTextEdit::focusInEvent(event);
+    emit gotFocus();
+}
+
+void PaneView::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+    emit popUpWanted(event->reason() == QContextMenuEvent::Keyboard);
+}
+
+// ---- clipboard and drag ---------------------------------------------------------------------------------------------
+
+QMimeData* PaneView::createMimeDataFromSelection() const { return toMime(selectionContent(m_pane)).release(); }
+
+bool PaneView::canInsertFromMimeData(const QMimeData* source) const { return !m_pane.Locked && holdsContent(*source); }
+
+void PaneView::insertFromMimeData(const QMimeData* source)
+{
+    settle();
+    tellEdit();
+    insertContent(m_pane, fromMime(*source));
+    settle();
+    ensureCursorVisible();
+}
+
+void PaneView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (localFiles(*event->mimeData()).isEmpty()) {
+        QPlainTextEdit::dragEnterEvent(event);
+    } else {
+        event->acceptProposedAction();
+    }
+}
+
+void PaneView::dragMoveEvent(QDragMoveEvent* event)
+{
+    if (localFiles(*event->mimeData()).isEmpty()) {
+        QPlainTextEdit::dragMoveEvent(event);
+    } else {
+        event->acceptProposedAction();
+    }
+}
+
+void PaneView::dropEvent(QDropEvent* event)
+{
+    QDragLeaveEvent over;
+    dragLeaveEvent(&over); // the text's own mark of the place goes
+    if (const QStringList files = localFiles(*event->mimeData()); !files.isEmpty()) {
+        event->acceptProposedAction();
+        emit filesDropped(files);
+    } else if (canInsertFromMimeData(event->mimeData())) {
+        const bool moves = event->source() == viewport() && event->dropAction() == Qt::MoveAction;
+        takeDrop(*event->mimeData(), cursorForPosition(event->position().toPoint()).position(), moves);
+        event->acceptProposedAction();
+    } else {
+        event->ignore();
+    }
+}
+
+void PaneView::takeDrop(const QMimeData& content, int target, bool movesOwnSelection)
+{
+    settle();
+    const std::int64_t position = m_mirror.panePosition(target);
+    if (movesOwnSelection) {
+        moveSelection(m_pane, position);
+    } else {
+        m_pane.setSelStart(position);
+        insertContent(m_pane, fromMime(content));
+    }
+    settle();
+}
+
+} // namespace tarvex

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/bind.h"
+#include "desktop/documents/text/pane_view.h"
+#include "desktop/documents/window/macro_frame_view.h"
+#include "documents/pair/editor.h"
+
+#include <QTabBar>
+#include <QWidget>
+
+namespace tarvex {
+
+/// The document window: the tabs, the two panes and the frame with the macros, each where the editor's layout has it.
+class EditorView : public QWidget {
+    Q_OBJECT
+public:
+    explicit EditorView(Editor& editor, QWidget* parent = nullptr);
+
+    PaneView& pane(const Side& side) { return side.tab == 1 ? *m_joystick : *m_macro; }
+    QTabBar& tabs() { return *m_tabs; }
+
+signals:
+    void filesDropped(const QStringList& paths);
+    void overwriteModeChanged(bool on);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void addTabs();
+    struct PaneEvents;
+    void addPane(Side& side, PaneView& view, const PaneEvents& events);
+    void bindPlaces();
+    void reportSize();
+    int headerShift() const;
+    void placeStrip();
+    void placeFrame();
+
+    Editor& m_editor;
+    QTabBar* m_tabs;
+    PaneView* m_joystick;
+    PaneView* m_macro;
+    MacroFrameView* m_frame;
+    Bindings m_bindings;
+};
+
+} // namespace tarvex

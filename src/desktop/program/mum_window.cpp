@@ -1,0 +1,231 @@
+#include "desktop/program/mum_window.h"
+
+#include "desktop/documents/find/find_and_replace_view.h"
+#include "desktop/documents/window/colour_selector_view.h"
+#include "desktop/documents/window/toolbar_view.h"
+#include "desktop/icon_theme.h"
+#include "desktop/minimise.h"
+#include "desktop/shell/client_area.h"
+#include "desktop/shell/menu_view.h"
+#include "desktop/shell/status_bar_view.h"
+#include "documents/editing/pane_keys.h"
+#include "documents/window/editor_window.h"
+#include "documents/window/toolbar.h"
+#include "shell/mum_window.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QShortcut>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvex {
+
+namespace {
+
+constexpr QSize smallestSize(320, 240);
+constexpr QSize firstSize(1000, 700);
+constexpr int modifiedPicture = 3;
+
+/// The place of a window that was last seen elsewhere: on a screen that is there.
+QRect onScreen(QRect place)
+{
+    if (place.width() < smallestSize.width() || place.height() < smallestSize.height()) place.setSize(firstSize);
+    const QScreen* screen = QGuiApplication::screenAt(place.center());
+    if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    place.setSize(place.size().boundedTo(room.size()));
+    if (!room.contains(place)) {
+        place.moveLeft(std::clamp(place.left(), room.left(), room.right() - place.width() + 1));
+        place.moveTop(std::clamp(place.top(), room.top(), room.bottom() - place.height() + 1));
+    }
+    return place;
+}
+
+} // namespace
+
+MumWindow::MumWindow(Program& program)
+    : m_program(program), m_editor(new EditorView(program.editor, this)),
+      m_status(new StatusBarView(program.mum, this)),
+      m_lockKeys([this](LockKeyState state) { m_status->showLockKeys(state); })
+{
+    setObjectName(QStringLiteral("Mum"));
+    setMinimumSize(smallestSize);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setCentralWidget(new ClientArea(program.mum.Gradient, new ToolbarView(program, this), m_editor, this));
+    setStatusBar(m_status);
+    m_status->hovered = [&program](int x) { StatusBar_MouseMove(program.editor, toTwips(x)); };
+    addMenuBars();
+    addShortcuts();
+    bindTitle();
+    makeWhenShown(program.findAndReplace.form, m_bindings,
+                  [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
+    connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive) m_wasElsewhere = true;
+    });
+    makeWhenShown(program.editor.ColourSelector.form, m_bindings,
+                  [this] { return new ColourSelectorView(m_program.editor, this); });
+    m_bindings.bind(program.mum.form.Visible, [this](bool on) { showForm(on); });
+    m_bindings.follow(program.mum.form.State, [this] {
+        if (!isVisible()) return;
+        if (isMinimized()) m_restored.start();
+        showForm(true);
+    });
+    m_bindings.bind(program.mum.MousePointer, [this](MousePointer pointer) {
+        if (pointer == MousePointer::Hourglass) {
+            setCursor(Qt::WaitCursor);
+        } else if (pointer == MousePointer::ArrowQuestion) {
+            setCursor(Qt::WhatsThisCursor);
+        } else {
+            unsetCursor();
+        }
+    });
+}
+
+/// The document window's menus, and the frame's own while there is no document window.
+void MumWindow::addMenuBars()
+{
+    fillMenuBar(*menuBar(), tarvex::menuBar(m_program.menus), m_bindings);
+    const QList<QAction*> ofEditor = menuBar()->actions();
+    fillMenuBar(*menuBar(), mumMenuBar(m_program.menus), m_bindings);
+    const QList<QAction*> ofFrame = menuBar()->actions().mid(ofEditor.size());
+    m_bindings.bind(m_program.editor.Visible, [ofEditor, ofFrame](bool on) {
+        for (QAction* action : ofEditor) action->setVisible(on);
+        for (QAction* action : ofFrame) action->setVisible(!on);
+    });
+}
+
+/// The panes take these keys themselves while they have the keyboard; here they work from everywhere else.
+void MumWindow::addShortcuts()
+{
+    for (const PaneKey& key : paneKeys()) {
+        auto* shortcut = new QShortcut(QKeySequence(toQt(key.keys)), this);
+        connect(shortcut, &QShortcut::activated, this, [this, &key] { pressPaneKey(m_program.editor, key.keys); });
+    }
+    auto* colourBoth = new QShortcut(QKeySequence(QStringLiteral("Ctrl+B")), this); // as good as Ctrl+T
+    connect(colourBoth, &QShortcut::activated, this, [this] { m_program.menus.mnuViewApplyColourBothFiles.Click(); });
+    auto* otherTab = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
+    connect(otherTab, &QShortcut::activated, this, [this] { selectOtherTab(m_program.editor); });
+}
+
+void MumWindow::bindTitle()
+{
+    StatusBar::Panel& savedState = m_program.mum.StatusBar.Panels(panel::savedState);
+    const auto show = [this, &savedState] {
+        Editor& shown = m_program.editor;
+        const QString name = toQt(shown.tabCaption(shown.selected())).replace(u'[', QStringLiteral("[["));
+        setWindowTitle(name.isEmpty() ? QStringLiteral("Tarvex") : QStringLiteral("Tarvex - %1[*]").arg(name));
+        setWindowModified(!name.isEmpty() && savedState.Picture == modifiedPicture);
+    };
+    show();
+    TabStrip& tabs = m_program.editor.TabStrip1;
+    m_bindings.follow(tabs.SelectedItem, show);
+    for (int tab = 1; tab <= tabs.Count(); ++tab) m_bindings.follow(tabs.Tabs(tab).Caption, show);
+    m_bindings.follow(savedState.Picture, show);
+}
+
+// ---- place and state ------------------------------------------------------------------------------------------------
+
+void MumWindow::showForm(bool on)
+{
+    if (!on) {
+        hide();
+        return;
+    }
+    const Form& form = m_program.mum.form;
+    if (!isVisible()) {
+        const QRect place =
+            onScreen({toPixels(form.Left), toPixels(form.Top), toPixels(form.Width), toPixels(form.Height)});
+        move(place.topLeft());
+        resize(place.size());
+    }
+    switch (form.State.get()) {
+    case WindowState::Maximised:
+        showMaximized();
+        break;
+    case WindowState::Minimised:
+        minimise(*this);
+        break;
+    case WindowState::Normal:
+        showNormal();
+        break;
+    }
+    // Drawn in several sizes, so it waits until the window is there.
+    QTimer::singleShot(0, this, [this] { setWindowIcon(themeIcon(QStringLiteral("tarvex"))); });
+}
+
+/// The form's size is that of the window when it isn't maximised.
+void MumWindow::reportPlace()
+{
+    if (!isVisible()) return;
+    Form& form = m_program.mum.form;
+    const QRect normal = normalGeometry();
+    const bool whole = isMaximized() || isMinimized() || isFullScreen();
+    if (whole && !normal.isValid()) return;
+    const QPoint frame = pos() - geometry().topLeft(); // the title bar and borders
+    form.Left = toTwips(whole ? normal.left() + frame.x() : x());
+    form.Top = toTwips(whole ? normal.top() + frame.y() : y());
+    form.Width = toTwips(whole ? normal.width() : width());
+    form.Height = toTwips(whole ? normal.height() : height());
+}
+
+void MumWindow::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    reportPlace();
+}
+
+void MumWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    reportPlace();
+}
+
+void MumWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) cameToTheFront();
+    if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
+    if (isMinimized() && minimisedTooLate()) return showForm(true);
+    Form& form = m_program.mum.form;
+    const WindowState shown = isMaximized() ? WindowState::Maximised : WindowState::Normal;
+    form.State = isMinimized() ? WindowState::Minimised : shown;
+    MDIForm_Resize({m_program.platform, m_program.shared, m_program.mum, m_program.operations});
+    reportPlace();
+}
+
+/// A loader may have ended before the window manager came to minimise the window: the window that was just brought back
+/// goes away after all.
+bool MumWindow::minimisedTooLate()
+{
+    constexpr int managersTime = 1000; // milliseconds
+    if (m_program.mum.form.State == WindowState::Minimised || !m_restored.isValid()) return false;
+    const bool late = m_restored.elapsed() < managersTime;
+    m_restored.invalidate();
+    return late;
+}
+
+/// From another window of the program the keyboard goes back to the pane; from another program to where it was.
+void MumWindow::cameToTheFront()
+{
+    if (!std::exchange(m_wasElsewhere, false)) Form_Activate(m_program.editor);
+}
+
+/// The program asks about unsaved files, takes itself down and hides the window; or the user stays.
+void MumWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_exiting) {
+        event->ignore();
+        return;
+    }
+    const QScopedValueRollback<bool> exiting(m_exiting, true);
+    event->setAccepted(m_program.exit());
+}
+
+} // namespace tarvex

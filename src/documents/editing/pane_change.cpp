@@ -1,0 +1,55 @@
+#include "documents/editing/pane_change.h"
+
+#include "documents/editing/line_highlight.h"
+#include "documents/editing/undo.h"
+#include "documents/pair/tabs.h"
+#include "documents/recovery/recovery_journal.h"
+
+namespace tarvex {
+
+namespace {
+
+void textChanged(Editor& editor, Side& side)
+{
+    side.Changed = changed::modified;
+    UpdateSavedIcon(editor);
+    writeDownChanges(editor, side);
+    recordUndo(editor, side);
+}
+
+void paneChange(Editor& editor, Side& side)
+{
+    stopBlinking(editor, side);
+    // emptying a pane takes the indent with the text
+    if (side.pane.TextLength() == 0) side.pane.setSelIndent(paragraphIndent);
+    if (editor.shared.IsLoading == 1) return;
+    textChanged(editor, side);
+    side.TakeNewLevel = 1;
+}
+
+} // namespace
+
+void JoystickTextChanged(Editor& editor) { textChanged(editor, editor.joystick); }
+void MacroTextChanged(Editor& editor) { textChanged(editor, editor.macro); }
+void JoystickText_Change(Editor& editor) { paneChange(editor, editor.joystick); }
+void MacroText_Change(Editor& editor) { paneChange(editor, editor.macro); }
+
+void applyScheme(Editor& editor, Side& side)
+{
+    const Settings& settings = editor.shared.settings;
+    side.pane.BackColor = side.Background;
+    side.pane.setFont({settings.TextFontName, static_cast<float>(settings.TextFontSize), settings.TextFontBold == 1});
+    side.pane.Refresh();
+}
+
+void applyBaseFormat(Editor& editor, Pane& pane)
+{
+    const Settings& settings = editor.shared.settings;
+    pane.setSelFontName(settings.TextFontName);
+    pane.setSelFontSize(settings.TextFontSize);
+    pane.setSelBold(settings.TextFontBold == 1);
+    pane.setSelColor(0);
+    pane.setSelIndent(paragraphIndent);
+}
+
+} // namespace tarvex

@@ -1,0 +1,155 @@
+#include "documents/editing/undo.h"
+
+#include "documents/editing/line_highlight.h"
+#include "documents/pair/loading.h"
+#include "documents/pair/protected_pane.h"
+#include "documents/pair/tabs.h"
+#include "documents/recovery/recovery_journal.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr int backspaceKey = 8;
+constexpr int returnKey = 13;
+constexpr int blankKey = 32;
+constexpr int undoButton = 11;
+constexpr int redoButton = 12;
+
+void keyPress(Side& side, int key)
+{
+    UndoHistory& history = side.Undo;
+    side.Caret = static_cast<float>(side.pane.SelStart());
+    if (key != backspaceKey && key != returnKey && key != blankKey)
+        history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
+    // What is typed on an undone state mustn't overwrite the newest one.
+    if (history.Position != 1) {
+        side.TakeNewLevel = 1;
+        return;
+    }
+    if (key == blankKey && side.pane.TextLength() == 0) {
+        side.TakeNewLevel = 0;
+        return;
+    }
+    if (history.Text.size() == 1) {
+        side.TakeNewLevel = 1;
+        return;
+    }
+    const bool again =
+        (key == returnKey && history.LastKeyWasReturn == 1) || (key == blankKey && history.LastKeyWasSpace == 1);
+    const bool opens = key == backspaceKey || key == returnKey || key == blankKey;
+    side.TakeNewLevel = opens && !again ? 1 : 0;
+    if (key == backspaceKey) return;
+    history.LastKeyWasReturn = key == returnKey ? 1 : 0;
+    history.LastKeyWasSpace = key == blankKey ? 1 : 0;
+}
+
+void showLevel(Editor& editor, std::size_t level)
+{
+    Side& side = editor.selected();
+    UndoHistory& history = side.Undo;
+    if (level < 1 || level > history.Text.size() || refuseProtected(editor)) return;
+    const Loading loading(editor.shared);
+    history.Position = level;
+    side.pane.setTextRTF(history.Text[level - 1]);
+    side.pane.setSelStart(history.Caret[level - 1]);
+    side.Caret = static_cast<float>(history.Caret[level - 1]);
+    side.Changed = changed::modified; // it needn't be what was saved
+    UpdateSavedIcon(editor);
+    writeDownChanges(editor, side);
+    UpdateUndoRedoMenus(editor);
+    if (editor.shared.settings.HighlightLineOnUndo == 1) blinkLineAtIP(editor);
+}
+
+struct Offer {
+    MenuItem& item;
+    int button;
+    std::string name;
+    std::size_t levels; ///< that can be reached
+};
+
+void showOffer(Editor& editor, const Offer& offer)
+{
+    const std::string text = offer.levels > 0 ? offer.name + " (" + std::to_string(offer.levels) + ")" : offer.name;
+    offer.item.Caption = "&" + text;
+    offer.item.Enabled = offer.levels > 0;
+    Button& button = editor.mum.Toolbar1.Buttons(offer.button);
+    button.Enabled = offer.levels > 0;
+    if (offer.levels == 0 || editor.shared.settings.OKtoShowToolTips == 1) button.ToolTipText = text;
+}
+
+} // namespace
+
+void JoystickText_KeyPress(Editor& editor, int key)
+{
+    endBlinking(editor);
+    keyPress(editor.joystick, key);
+}
+
+void MacroText_KeyPress(Editor& editor, int key)
+{
+    endBlinking(editor);
+    keyPress(editor.macro, key);
+}
+
+void UpdateUndoText(const Editor& editor, Side& side)
+{
+    UndoHistory& history = side.Undo;
+    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
+    history.Text.push_front(history.Text.front());
+    history.Caret.push_front(history.Caret.front());
+    if (grows) return;
+    history.Text.pop_back();
+    history.Caret.pop_back();
+}
+
+void storeInNewestLevel(Side& side)
+{
+    side.Undo.Text.front() = side.pane.TextRTF();
+    side.Undo.Caret.front() = static_cast<std::int32_t>(side.pane.SelStart());
+}
+
+void recordUndo(Editor& editor, Side& side)
+{
+    if (side.TakeNewLevel != 1 && side.Undo.Position == 1) return storeInNewestLevel(side);
+    UpdateUndoText(editor, side);
+    storeInNewestLevel(side);
+    side.Undo.Position = 1;
+    UpdateUndoRedoMenus(editor);
+}
+
+void UpdateUndoRedoMenus(Editor& editor)
+{
+    const UndoHistory& history = editor.selected().Undo;
+    showOffer(editor, {editor.menus.mnuEditUndo, undoButton, "Undo", history.Text.size() - history.Position});
+    showOffer(editor, {editor.menus.mnuEditRedo, redoButton, "Redo", history.Position - 1});
+}
+
+void mnuEditUndo_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_mnuEditUndo_Click");
+    step([&] { showLevel(editor, editor.selected().Undo.Position + 1); });
+}
+
+void mnuEditRedo_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_mnuEditRedo_Click");
+    step([&] { showLevel(editor, editor.selected().Undo.Position - 1); });
+}
+
+void DeleteUndosOnSave(Editor& editor, Side& side)
+{
+    side.Undo = {};
+    storeInNewestLevel(side);
+    side.TakeNewLevel = 1;
+    UpdateUndoRedoMenus(editor);
+}
+
+void DeleteUndosFromMemory(Editor& editor)
+{
+    editor.joystick.Undo = {};
+    editor.macro.Undo = {};
+    UpdateUndoRedoMenus(editor);
+}
+
+} // namespace tarvex

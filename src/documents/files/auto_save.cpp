@@ -1,0 +1,49 @@
+#include "documents/files/auto_save.h"
+
+#include "documents/files/file_save.h"
+#include "documents/files/text_files.h"
+
+namespace tarvex {
+
+namespace {
+
+void autoSave(Editor& editor, Side& side)
+{
+    if (side.Changed != changed::modified) return;
+    const Steps step(editor.shared.errors, "ED_AutoSaveFile");
+    bool written = false;
+    step([&] {
+        writePlain(editor, side, side.FilePath);
+        written = true;
+    });
+    if (!written) {
+        editor.status(side.FileName + " couldn't be saved automatically: " + editor.shared.errors.ErrorDescription);
+        return;
+    }
+    bool backedUp = false;
+    step([&] {
+        writeBackup(editor, side);
+        backedUp = true;
+    });
+    const std::string whyNot = editor.shared.errors.ErrorDescription;
+    noteSaved(editor, side);
+    if (!backedUp) editor.status(side.FileName + " was saved, but its backup wasn't: " + whyNot);
+}
+
+} // namespace
+
+void Timer1_Timer(Editor& editor)
+{
+    ++editor.AutoSaveMinutes;
+    if (editor.AutoSaveMinutes < editor.shared.settings.AutoSaveTime) return;
+    editor.AutoSaveMinutes = 0;
+    AutoSaveFile(editor);
+}
+
+void AutoSaveFile(Editor& editor)
+{
+    autoSave(editor, editor.joystick);
+    autoSave(editor, editor.macro);
+}
+
+} // namespace tarvex

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "documents/pair/editor.h"
+
+#include <optional>
+#include <string>
+
+namespace tarvex {
+
+/// The bytes of a file that is to be opened; nothing when it can't be read, and the user was told.
+std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name);
+
+/// Puts a file into its pane: from its coloured shadow when that still has the same plain text, else plain, laid out
+/// anew and, where the settings ask for it, coloured. Name, path, tab and state of the document follow; its tab is
+/// selected. The caller keeps a Loading.
+void showDocument(Editor& editor, Side& side, const std::string& path, const std::string& name,
+                  const std::string& bytes);
+
+/// The pane's text, as bytes of the file.
+void writePlain(Editor& editor, const Side& side, const std::string& path);
+/// The pane's text with its colours into the shadow of the document's name. A failure is reported and told to nobody:
+/// a shadow can always be made anew.
+void SaveColouredTextJF(Editor& editor);
+void SaveColouredTextMF(Editor& editor);
+void saveColouredText(Editor& editor, const Side& side);
+
+} // namespace tarvex

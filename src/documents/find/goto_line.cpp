@@ -1,0 +1,50 @@
+#include "documents/find/goto_line.h"
+
+#include "documents/editing/line_highlight.h"
+#include "documents/pair/tabs.h"
+#include "platform/text.h"
+
+#include <cmath>
+
+namespace tarvex {
+
+namespace {
+
+void selectLine(Editor& editor, std::int64_t number, std::int64_t start)
+{
+    Side& side = editor.joystick;
+    const auto textEnd = static_cast<std::int64_t>(side.pane.TextLength());
+    const std::int64_t length = startOfLine(side.pane, number + 1).value_or(textEnd) - start;
+    side.SelectionLength = static_cast<std::int16_t>(length);
+    side.Caret = static_cast<float>(start);
+    side.pane.setSelStart(start);
+    side.pane.setSelLength(length);
+    showLineNumber(editor, side, start);
+}
+
+} // namespace
+
+void Command7_Click(FindAndReplace& window)
+{
+    Editor& editor = window.editor;
+    const Steps step(editor.shared.errors, "FIND Command7_Click");
+    step([&] {
+        endBlinking(editor);
+        Pane& pane = editor.JoystickText;
+        const double number = std::floor(Val(window.LineToFind.Text.get()));
+        const bool possible = number >= 1 && number <= static_cast<double>(pane.lineCount());
+        const auto line = possible ? static_cast<std::int64_t>(number) : 0;
+        const auto start = startOfLine(pane, line);
+        if (!start) {
+            editor.platform.dialogues.show({.title = "Check the value you entered!",
+                                            .text = "The line number is invalid",
+                                            .icon = BoxIcon::Exclamation});
+            window.LineToFind.SetFocus();
+            return;
+        }
+        if (editor.TabStrip1.SelectedItem != editor.joystick.tab) editor.TabStrip1.Select(editor.joystick.tab);
+        selectLine(editor, line, *start);
+    });
+}
+
+} // namespace tarvex

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "documents/pair/journal_record.h"
+#include "documents/pair/macro_record.h"
+#include "documents/pair/pair_record.h"
+#include "documents/pair/undo_history.h"
+#include "documents/text/pane.h"
+#include "documents/window/colour_selector.h"
+#include "platform/platform.h"
+#include "shell/menus.h"
+#include "shell/mum.h"
+#include "shell/operations.h"
+#include "shell/shared.h"
+
+#include <array>
+#include <deque>
+#include <string>
+#include <string_view>
+
+namespace tarvex {
+
+/// Image numbers of the tabs.
+namespace tabImage {
+constexpr int none = 0;
+constexpr int macroProtected = 6;
+constexpr int selected = 9;
+} // namespace tabImage
+
+/// The frame with the macro list, left of the panes.
+struct FrameMacros {
+    Property<bool> Visible = false;
+    Property<Placement> Place;
+    Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
+    ComboBox Combo1;                   ///< the headings
+    std::deque<CheckListBox> List1{1}; ///< 0: every macro; k: those under heading k
+    Signal<> List1Changed;             ///< a list was loaded or unloaded
+    std::array<Button, 13> Command1;   ///< slash modifiers and DLY
+};
+
+/// One of the two documents, for what is done to both alike. Names the members of the record; owns nothing.
+struct Side {
+    int tab;               ///< 1 joystick, 2 macro
+    std::string_view kind; ///< "joystick" or "macro", as the program's texts name it
+    Pane& pane;
+    std::string& FilePath;
+    std::string& FileName;
+    std::int16_t& Changed;
+    float& Caret;
+    std::int32_t& SelectionLength;
+    std::int16_t& TakeNewLevel;
+    std::string& Extension; ///< the one that new files of the kind get
+    Colour& Background;
+    UndoHistory& Undo;
+    JournalRecord& Journal;
+    Operation<>& ApplyColours;
+    Operation<const std::string&>& NoteLatestFile;
+    Operation<const std::string&>& UpdateRecentMenuList;
+};
+
+/// State of the document window: the pair of files, their panes, tabs and views. What is done with it stands in units
+/// of its own that are given the Editor they work on.
+struct Editor {
+    Editor(Platform& thePlatform, Shared& theShared, Mum& theMum, Menus& theMenus, Operations& theOperations);
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    Platform& platform;
+    Shared& shared;
+    Mum& mum;
+    Menus& menus;
+    Operations& operations;
+
+    PairRecord pair;
+    MacroRecord macros;
+    InsertionRecord insertion;
+    std::shared_ptr<FormatTable> formats;
+    Pane JoystickText;
+    Pane MacroText;
+    Pane TempRichTextBox; ///< hidden; texts on their way to and from files
+    Pane CompareRTF;      ///< hidden; the plain file beside its coloured shadow
+    UndoHistory JoystickUndo;
+    UndoHistory MacroUndo;
+    JournalRecord JoystickJournal;
+    JournalRecord MacroJournal;
+    Side joystick;
+    Side macro;
+
+    Property<bool> Visible = false;
+    Property<int> ScaleWidth = 0; ///< inside size, pixels; the view reports it and runs Form_Resize
+    Property<int> ScaleHeight = 0;
+    tarvex::TabStrip TabStrip1{2};
+    Property<Placement> TabStrip1Place;
+    tarvex::FrameMacros FrameMacros;
+    tarvex::ColourSelector ColourSelector;
+    Timer Timer1{60000};       ///< minutes of the automatic save
+    Timer TimerBlinkLine{100}; ///< line highlight
+    Timer TimerJournal{15000}; ///< runs while a journal isn't on the disk yet
+
+    int TabImage = tabImage::selected; ///< of the macro file's tab while it is selected
+    std::string OpeningPath;           ///< what OpenPreviouslySavedFiles hands to the open commands
+    std::string OpeningName;
+    std::int16_t OpeningWithoutAsking = 0;
+    std::int16_t ExitInProgress = 0;
+    int BlinkStep = 0;                ///< of the line highlight
+    int BlinkTab = 1;                 ///< of the pane whose line flashes
+    std::int64_t HighlightLength = 0; ///< characters of the line highlighted
+    int AutoSaveMinutes = 0;          ///< since the last automatic save
+    std::uint64_t LastJournal = 0;    ///< number of the newest journal; 0: not looked for yet
+    bool ToldJournalFailure = false;  ///< the user knows that journals can't be written
+
+    /// The document of the selected tab.
+    Side& selected() { return TabStrip1.SelectedItem == 1 ? joystick : macro; }
+    Side& other(const Side& side) { return side.tab == 1 ? macro : joystick; }
+    std::string tabCaption(const Side& side) { return TabStrip1.Tabs(side.tab).Caption.get(); }
+    void status(const std::string& text) { mum.StatusBar.Panels(panel::progress).Text = text; }
+};
+
+} // namespace tarvex

@@ -1,0 +1,221 @@
+#include "documents/recovery/offer/recovery_offer.h"
+
+#include "documents/files/file_open.h"
+#include "documents/files/text_files.h"
+#include "documents/pair/loading.h"
+#include "documents/pair/tabs.h"
+#include "documents/recovery/offer/recovery_find.h"
+#include "documents/recovery/recovery_journal.h"
+#include "platform/dos_path.h"
+#include "platform/windows1252.h"
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::string_view tag = "ED_offerRecovery";
+
+/// One that names no file yet: "mig.b50", "mig-2.b50", ...
+std::string freePath(const Editor& editor, const std::string& directory, const std::string& name)
+{
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    std::string path = directory + name;
+    for (int count = 2; editor.platform.files.fileExists(path) || editor.platform.files.directoryExists(path); ++count)
+        path = directory + name.substr(0, dot) + "-" + std::to_string(count) + name.substr(dot);
+    return path;
+}
+
+// ---- bringing back --------------------------------------------------------------------------------------------------
+
+Side& sideOf(Editor& editor, const LeftJournal& found)
+{
+    return found.journal.start.tab == editor.joystick.tab ? editor.joystick : editor.macro;
+}
+
+/// A document that had no file yet goes on as the empty one that is there.
+bool wasNew(const LeftJournal& found) { return found.fileIsSame && !found.journal.start.file; }
+
+/// Where a text goes. A new name begins with "untitled", so that Save asks for one.
+std::string pathFor(Editor& editor, const LeftJournal& found)
+{
+    const JournalStart& start = found.journal.start;
+    const bool untitled = start.name.starts_with("untitled");
+    if (found.fileIsSame && start.file) return start.path;
+    const std::string& present = sideOf(editor, found).FilePath;
+    if (wasNew(found) && lowerUtf8(start.path) == lowerUtf8(present)) return present;
+    return freePath(editor, directoryOf(present), (untitled ? "" : "untitled-") + fileNameOf(start.name));
+}
+
+/// The change from the saved text to the unsaved one, as if the user had made it.
+void putUnsavedText(Editor& editor, Side& side, const std::string& text)
+{
+    const TextEdit edit = differenceOf(side.pane.Text(), text);
+    side.pane.setSelStart(static_cast<std::int64_t>(edit.position));
+    side.pane.setSelLength(static_cast<std::int64_t>(edit.removed));
+    if (edit != TextEdit{edit.position, 0, {}}) side.pane.setSelText(edit.inserted);
+    side.Changed = changed::modified;
+    UpdateSavedIcon(editor);
+    const std::int64_t caret = side.pane.SelStart();
+    if (editor.shared.settings.ApplyColoursOnFileOpen == 1) side.ApplyColours();
+    side.pane.setSelStart(caret);
+    noteCaret(editor, side);
+}
+
+void showBase(Editor& editor, Side& side, const std::string& path, const std::string& base)
+{
+    if (!base.empty()) return showFile(editor, side, path, fileNameOf(path), base);
+    const Loading loading(editor.shared);
+    showDocument(editor, side, path, fileNameOf(path), base); // no macros to list
+}
+
+/// The journal stays, for another time.
+void tellOfWrongText(Editor& editor, const LeftJournal& found)
+{
+    editor.platform.dialogues.show(
+        {.title = "That's not quite it ...",
+         .text = "I couldn't bring " + fileNameOf(found.journal.start.name) +
+                 " back as you left it, so don't trust what you see there. My notes are still where they were: I'll "
+                 "ask you again next time, and if you press No then, you'll find them as plain text in\n\n    " +
+                 journalDirectory(editor),
+         .icon = BoxIcon::Exclamation});
+}
+
+/// The path that the text has now; the journal goes once the one of the document that it has become is safe.
+std::string bringBack(Editor& editor, const LeftJournal& found)
+{
+    const Steps step(editor.shared.errors, tag);
+    const JournalStart& start = found.journal.start;
+    Side& side = sideOf(editor, found);
+    const std::string path = pathFor(editor, found);
+    showBase(editor, side, path, start.base);
+    noteTextSettled(editor, side, found.fileIsSame ? start.file : std::nullopt);
+    side.Journal.Held = true; // nothing takes the journal's place before all of it is there
+    step([&] { putUnsavedText(editor, side, found.journal.text); });
+    side.Journal.Held = false;
+    if (side.pane.Text() == found.journal.text) {
+        beginJournal(editor, side, found.number);
+    } else {
+        writeDownChanges(editor, side);
+        tellOfWrongText(editor, found);
+    }
+    return path;
+}
+
+/// The document that was open beside one that is brought back, and had nothing unsaved.
+void openPartner(Editor& editor, const LeftJournal& found, std::vector<std::string>& open)
+{
+    const std::string& path = found.journal.start.partnerPath;
+    if (path.empty() || !editor.platform.files.fileExists(path)) return;
+    if (loadFile(editor, editor.other(sideOf(editor, found)), path, fileNameOf(path))) open.push_back(path);
+}
+
+// ---- asking ---------------------------------------------------------------------------------------------------------
+
+/// For each pane the newest; a pane holds no more than one.
+struct Offer {
+    std::vector<LeftJournal> wanted; ///< joystick first
+    std::vector<LeftJournal> older;
+};
+
+Offer sortedOut(std::vector<LeftJournal> journals)
+{
+    Offer offer;
+    for (LeftJournal& found : journals) {
+        const auto samePane = [&](const LeftJournal& other) {
+            return other.journal.start.tab == found.journal.start.tab;
+        };
+        const bool taken = std::any_of(offer.wanted.begin(), offer.wanted.end(), samePane);
+        (taken ? offer.older : offer.wanted).push_back(std::move(found));
+    }
+    std::sort(offer.wanted.begin(), offer.wanted.end(),
+              [](const LeftJournal& a, const LeftJournal& b) { return a.journal.start.tab < b.journal.start.tab; });
+    return offer;
+}
+
+/// What becomes of a text whose file somebody else has written.
+std::string newNameInBox(Editor& editor, const LeftJournal& found)
+{
+    if (found.fileIsSame) return {};
+    return "\n\n" + fileNameOf(found.journal.start.name) +
+           " isn't what it was then, so I'd leave the file alone and call yours " + fileNameOf(pathFor(editor, found)) +
+           ".";
+}
+
+std::string boxText(Editor& editor, const Offer& offer)
+{
+    std::string text = "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been "
+                       "taking notes all along, and here's what I've got:\n";
+    for (const LeftJournal& found : offer.wanted) text += "\n    " + fileNameOf(found.journal.start.name);
+    for (const LeftJournal& found : offer.wanted) text += newNameInBox(editor, found);
+    text += "\n\nShall I bring it back? It will be just as you left it: not saved yet, and one Undo away from what was "
+            "saved. If you press No it goes as plain text into\n\n    " +
+            journalDirectory(editor) + "\n\nand I won't bother you with it again.";
+    if (!offer.older.empty())
+        text += " That's where I'll put some older notes in any case, as there's no room for them here.";
+    return text;
+}
+
+/// The journal stays when its text can't be written.
+void putAside(Editor& editor, const LeftJournal& found)
+{
+    const Steps step(editor.shared.errors, tag);
+    const std::string path = freePath(editor, journalDirectory(editor) + "\\", fileNameOf(found.journal.start.name));
+    step([&] {
+        editor.platform.files.write(path, found.journal.text);
+        removeJournal(editor, found.number);
+    });
+}
+
+std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
+{
+    const Steps step(editor.shared.errors, tag);
+    std::vector<std::string> open;
+    for (const LeftJournal& found : offer.wanted) {
+        step([&] {
+            open.push_back(bringBack(editor, found));
+            open.push_back(found.journal.start.path);
+        });
+    }
+    if (offer.wanted.size() == 1) step([&] { openPartner(editor, offer.wanted.front(), open); });
+    step([&] { editor.TabStrip1.Select(sideOf(editor, offer.wanted.front()).tab); });
+    Operations& operations = editor.operations;
+    step([&] {
+        editor.shared.settings.CheckIdentifyOK == 1 ? operations.IdentifyMacrosUsed() : operations.ClearMacroTicks();
+    });
+    return open;
+}
+
+} // namespace
+
+std::vector<std::string> offerRecovery(Editor& editor)
+{
+    std::vector<LeftJournal> journals = findJournals(editor);
+    if (journals.empty()) return {};
+    const Offer offer = sortedOut(std::move(journals));
+    const Answer answer = editor.platform.dialogues.show({.title = "Phew ... nothing's lost!",
+                                                          .text = boxText(editor, offer),
+                                                          .icon = BoxIcon::Question,
+                                                          .buttons = BoxButtons::YesNo});
+    for (const LeftJournal& found : offer.older) putAside(editor, found);
+    if (answer == Answer::Yes) return bringAllBack(editor, offer);
+    for (const LeftJournal& found : offer.wanted) putAside(editor, found);
+    return {};
+}
+
+void putAside(Editor& editor, const Side& side)
+{
+    const Steps step(editor.shared.errors, tag);
+    step([&] {
+        editor.platform.files.write(freePath(editor, journalDirectory(editor) + "\\", side.FileName), side.pane.Text());
+    });
+}
+
+bool isAmong(const std::vector<std::string>& paths, const std::string& path)
+{
+    return std::any_of(paths.begin(), paths.end(),
+                       [&](const std::string& one) { return lowerUtf8(one) == lowerUtf8(path); });
+}
+
+} // namespace tarvex

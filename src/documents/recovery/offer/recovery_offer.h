@@ -1,0 +1,25 @@
+#pragma once
+
+#include "documents/pair/editor.h"
+
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+// At the start: text that the last run of the program left behind unsaved. Each document comes back modified, with its
+// saved text one undo away; under its own name when its file still is what it was, else under a new name that Save asks
+// about, so that nothing is written over.
+
+/// Finds the journals left behind and asks whether their texts are wanted. Those that aren't go into the journals'
+/// directory as plain text, and aren't asked about again. Gives the paths of what is open now for that reason, under
+/// their old and new names; none when nothing was brought back.
+std::vector<std::string> offerRecovery(Editor& editor);
+
+/// Keeps the text of a document that goes without having been saved, like one that isn't wanted back.
+void putAside(Editor& editor, const Side& side);
+
+/// Whether the path is one of them, in any case.
+bool isAmong(const std::vector<std::string>& paths, const std::string& path);
+
+} // namespace tarvex

@@ -1,0 +1,255 @@
+#include "documents/recovery/recovery_journal.h"
+
+#include "documents/recovery/recovery_sync.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::string_view tag = "ED_RecoveryJournal";
+constexpr std::string_view nameEnd = ".journal";
+constexpr std::uint64_t ample = 1 << 20;
+
+/// Numbers grow, so that they tell which of two journals is the later one.
+std::uint64_t nextNumber(Editor& editor)
+{
+    std::uint64_t& last = editor.LastJournal;
+    const Steps step;
+    if (last == 0 && editor.platform.files.directoryExists(journalDirectory(editor))) {
+        step([&] {
+            for (const std::string& name : editor.platform.files.list(journalDirectory(editor)))
+                last = std::max(last, journalNumber(name));
+        });
+    }
+    return ++last;
+}
+
+/// The file beside a document, when there is one.
+std::string partnerPath(Editor& editor, const Side& side)
+{
+    const Side& partner = editor.other(side);
+    return partner.Journal.File ? partner.FilePath : std::string();
+}
+
+JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
+{
+    std::string base = side.Journal.Base.text();
+    TextEdit edit = differenceOf(base, side.pane.Text());
+    return {.tab = side.tab,
+            .replaces = replaces,
+            .path = side.FilePath,
+            .name = side.FileName,
+            .partnerPath = partnerPath(editor, side),
+            .file = side.Journal.File,
+            .base = std::move(base),
+            .edit = std::move(edit)};
+}
+
+/// What is on the disk stays there, as far as it is whole.
+void giveUpForNow(Editor& editor, JournalRecord& journal)
+{
+    closeFile(journal);
+    journal.Failed = true;
+    editor.TimerJournal.Enabled = true;
+    if (editor.ToldJournalFailure) return;
+    editor.ToldJournalFailure = true;
+    editor.status("I can't take notes of what you type, so you'd better save it now and then: " +
+                  editor.shared.errors.ErrorDescription);
+}
+
+void wrote(Editor& editor, JournalRecord& journal, std::size_t size)
+{
+    journal.Size += size;
+    journal.Unsynced = true;
+    editor.TimerJournal.Enabled = true;
+}
+
+void append(Editor& editor, JournalRecord& journal, const std::string& bytes)
+{
+    const Steps step(editor.shared.errors, tag);
+    bool written = false;
+    step([&] {
+        journal.Out->append(bytes);
+        wrote(editor, journal, bytes.size());
+        written = true;
+    });
+    if (!written) giveUpForNow(editor, journal);
+}
+
+void onEdited(Editor& editor, Side& side, const Pane::Edit& edit)
+{
+    JournalRecord& journal = side.Journal;
+    const auto length = static_cast<std::int64_t>(side.pane.TextLength());
+    const JournalRecord::Unchanged now{edit.position, length - edit.position - edit.inserted};
+    if (!journal.Unwritten) journal.Unwritten = now;
+    journal.Unwritten->before = std::min(journal.Unwritten->before, now.before);
+    journal.Unwritten->after = std::min(journal.Unwritten->after, now.after);
+    if (editor.shared.IsLoading != 1) writeDownChanges(editor, side);
+}
+
+/// The edits since the journal was written last, as one.
+TextEdit takeUnwritten(Side& side)
+{
+    JournalRecord& journal = side.Journal;
+    const std::string& text = side.pane.Text();
+    const auto length = static_cast<std::int64_t>(text.size());
+    const std::int64_t most = std::min(length, journal.Length);
+    const std::int64_t before = std::min(journal.Unwritten->before, most);
+    const std::int64_t after = std::min(journal.Unwritten->after, most - before);
+    TextEdit edit{static_cast<std::uint64_t>(before), static_cast<std::uint64_t>(journal.Length - before - after),
+                  text.substr(static_cast<std::size_t>(before), static_cast<std::size_t>(length - before - after))};
+    journal.Length = length;
+    journal.Unwritten.reset();
+    return edit;
+}
+
+bool hasOutgrown(const Side& side)
+{
+    return side.Journal.Size > ample + 4 * (side.Journal.Base.size() + side.pane.TextLength());
+}
+
+void sync(Editor& editor, JournalRecord& journal)
+{
+    const Steps step(editor.shared.errors, tag);
+    bool wentWell = false;
+    bool isSafe = false;
+    step([&] {
+        isSafe = syncFurther(journal);
+        wentWell = true;
+    });
+    if (!wentWell) return giveUpForNow(editor, journal);
+    if (!isSafe) return;
+    editor.ToldJournalFailure = false;
+    removeJournal(editor, std::exchange(journal.Replaced, 0));
+}
+
+/// The journal in whose place the next one is begun. One that the disk has never had for certain isn't worth keeping
+/// beside the one before it.
+std::uint64_t keptUntilSafe(const JournalRecord& journal, std::uint64_t replaces)
+{
+    return journal.Replaced != 0 ? journal.Replaced : replaces;
+}
+
+} // namespace
+
+void removeJournal(Editor& editor, std::uint64_t number)
+{
+    const Steps step;
+    if (number != 0) step([&] { editor.platform.files.removeFile(journalPath(editor, number)); });
+}
+
+std::string journalDirectory(const Editor& editor) { return editor.platform.programDirectory + "\\Recover"; }
+
+std::string journalPath(const Editor& editor, std::uint64_t number)
+{
+    return journalDirectory(editor) + "\\" + std::to_string(number) + std::string(nameEnd);
+}
+
+std::uint64_t journalNumber(const std::string& name)
+{
+    if (!name.ends_with(nameEnd)) return 0;
+    const char* const end = name.data() + name.size() - nameEnd.size();
+    std::uint64_t number = 0;
+    const auto result = std::from_chars(name.data(), end, number);
+    constexpr auto most = std::uint64_t{1} << 62; // there is always a next one
+    return result.ec == std::errc() && result.ptr == end && number < most ? number : 0;
+}
+
+void followEdits(Editor& editor)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        side->Journal.following =
+            side->pane.edited.connect([&editor, side](const Pane::Edit& edit) { onEdited(editor, *side, edit); });
+    }
+    editor.TimerJournal.Tick = [&editor] { TimerJournal_Timer(editor); };
+}
+
+void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& file)
+{
+    JournalRecord& journal = side.Journal;
+    closeFile(journal);
+    removeJournal(editor, std::exchange(journal.Replaced, 0)); // first: alone it would be taken for the latest
+    removeJournal(editor, std::exchange(journal.Number, 0));
+    journal.Base = side.pane.TextRTF();
+    journal.File = file;
+    journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
+    journal.Unwritten.reset();
+    journal.Failed = false;
+
+    Side& partner = editor.other(side);
+    if (partner.Journal.Out)
+        append(editor, partner.Journal, journalPartner(partnerPath(editor, partner), partner.Journal.Chain));
+}
+
+void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
+{
+    const Steps step(editor.shared.errors, tag);
+    JournalRecord& journal = side.Journal;
+    journal.Unwritten.reset();
+    journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
+    journal.Number = replaces;
+
+    const std::uint64_t kept = keptUntilSafe(journal, replaces);
+    const std::uint64_t number = nextNumber(editor);
+    std::unique_ptr<AppendFile> out;
+    bool begun = false;
+    step([&] {
+        journal.Chain = 0;
+        const std::string bytes = journalStart(startOf(editor, side, kept), journal.Chain);
+        out = editor.platform.files.createAppendFile(journalPath(editor, number));
+        out->append(bytes);
+        closeFile(journal);
+        journal.Size = 0;
+        wrote(editor, journal, bytes.size());
+        begun = true;
+    });
+    if (!begun) {
+        if (out) removeJournal(editor, number);
+        return giveUpForNow(editor, journal);
+    }
+    journal.Out = std::move(out);
+    journal.Number = number;
+    journal.Replaced = kept;
+    journal.Failed = false;
+    if (kept != replaces) removeJournal(editor, replaces);
+}
+
+void writeDownChanges(Editor& editor, Side& side)
+{
+    JournalRecord& journal = side.Journal;
+    if (!journal.Unwritten || journal.Failed || journal.Held) return;
+    if (!journal.Out) return beginJournal(editor, side, journal.Number);
+    append(editor, journal, journalEdit(takeUnwritten(side), journal.Chain));
+    if (journal.Out && hasOutgrown(side)) beginJournal(editor, side, journal.Number);
+}
+
+void TimerJournal_Timer(Editor& editor)
+{
+    bool goesOn = false;
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        JournalRecord& journal = side->Journal;
+        sync(editor, journal);
+        if (journal.Failed) {
+            beginJournal(editor, *side, journal.Number);
+            sync(editor, journal);
+        }
+        const bool closed = closeEnded(journal);
+        goesOn = goesOn || journal.Unsynced || journal.Syncing || journal.Failed || !closed;
+    }
+    editor.TimerJournal.Enabled = goesOn;
+}
+
+void endJournals(Editor& editor)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        side->Journal.following.disconnect();
+        noteTextSettled(editor, *side, std::nullopt);
+    }
+    editor.TimerJournal.Enabled = false;
+}
+
+} // namespace tarvex

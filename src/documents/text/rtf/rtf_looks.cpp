@@ -1,0 +1,91 @@
+#include "documents/text/rtf/rtf_looks.h"
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+namespace tarvex {
+namespace {
+
+// Bounds of the memory that a damaged file can take.
+constexpr std::size_t mostColours = 65536;
+constexpr std::size_t mostKnownLooks = 65536;
+
+} // namespace
+
+void RtfFonts::add(char c)
+{
+    if (m_name.size() < FormatTable::maximumFontName) m_name += c;
+    m_begun = true;
+}
+
+void RtfFonts::end()
+{
+    m_index.insert_or_assign(m_number, static_cast<int>(m_names.size()));
+    m_names.push_back(std::exchange(m_name, {}));
+    m_begun = false;
+}
+
+void RtfFonts::endIfBegun()
+{
+    if (m_begun) end();
+}
+
+int RtfFonts::indexOf(int number) const
+{
+    const auto entry = m_index.find(number);
+    return entry == m_index.end() ? defaultFont : entry->second;
+}
+
+const std::string* RtfFonts::name(int index) const
+{
+    if (index == defaultFont) index = indexOf(defaultNumber);
+    return index == defaultFont ? nullptr : &m_names[static_cast<std::size_t>(index)];
+}
+
+void RtfColours::component(int which, int value)
+{
+    const int shift = 8 * which;
+    m_colour = (m_colour & ~(255 << shift)) | std::clamp(value, 0, 255) << shift;
+}
+
+void RtfColours::end(std::size_t count)
+{
+    for (; count > 0 && m_colours.size() < mostColours; --count) m_colours.push_back(std::exchange(m_colour, 0));
+}
+
+Colour RtfColours::at(int index) const
+{
+    const auto entry = static_cast<std::size_t>(index);
+    return index >= 0 && entry < m_colours.size() ? m_colours[entry] : 0;
+}
+
+std::size_t RtfLooks::Hash::operator()(const RtfLook& look) const
+{
+    const auto bits = [](auto value) { return std::bit_cast<std::uint32_t>(value); };
+    const unsigned flags = (look.bold ? 1U : 0U) + (look.italic ? 2U : 0U) + (look.underline ? 4U : 0U);
+    std::uint64_t hash = bits(look.font);
+    for (const std::uint32_t part : {bits(look.colour), bits(look.indent), bits(look.size + 0.0F), flags}) {
+        hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
+        hash ^= hash >> 32U;
+    }
+    return static_cast<std::size_t>(hash);
+}
+
+FormatId RtfLooks::numberOf(const RtfLook& look)
+{
+    if (const auto known = m_known.find(look); known != m_known.end()) return known->second;
+    CharacterFormat format;
+    if (const std::string* name = fonts.name(look.font)) format.fontName = *name;
+    format.colour = look.colour;
+    format.fontSize = look.size;
+    format.bold = look.bold;
+    format.italic = look.italic;
+    format.underline = look.underline;
+    format.indent = look.indent;
+    const FormatId id = m_formats->idOf(format);
+    if (m_known.size() < mostKnownLooks) m_known.emplace(look, id);
+    return id;
+}
+
+} // namespace tarvex

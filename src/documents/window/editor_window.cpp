@@ -1,0 +1,231 @@
+#include "documents/window/editor_window.h"
+
+#include "documents/editing/pane_change.h"
+#include "documents/editing/undo.h"
+#include "documents/files/file_new.h"
+#include "documents/files/file_open.h"
+#include "documents/files/file_questions.h"
+#include "documents/pair/tabs.h"
+#include "documents/recovery/offer/recovery_offer.h"
+#include "documents/recovery/recovery_journal.h"
+#include "documents/window/hardware_changes.h"
+#include "platform/windows1252.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr int calibrateButton = 37;
+
+constexpr std::string_view firstUseText =
+    "Hi there buddy! Tarvex - all modular system checks passed OK.\n\n"
+    "Welcome to Tarvex, the most complete programming interface available for Thrustmaster users. Now I'm going to "
+    "need some information from you regarding what Thrustmaster equipment you have, and where your Thrustmaster files "
+    "are on your hard disk. Remember, you must still have installed the Thrustmaster software to use parts of Tarvex. "
+    "So let's go to the Preferences Window, and fill out all the sections on the first tab, the File Locations tab. If "
+    "you get lost, press the Help button there.\n\n"
+    "Please remember to ensure that your Windows Display Properties are set to use small fonts - if they're not the "
+    "macro list and the Composer images are going to look pretty odd.\n\n"
+    "Cheers, and enjoy Tarvex.";
+
+void applyColourScheme(Editor& editor)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        applyScheme(editor, *side);
+        applyBaseFormat(editor, side->pane);
+    }
+}
+
+void nameEmptyDocuments(Editor& editor)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        nameUntitled(editor, *side);
+        side->Changed = changed::noText;
+    }
+    editor.pair.MacroFilePath = lowerUtf8(editor.pair.MacroFilePath);
+    editor.mum.StatusBar.Panels(panel::macroFile).Text = "No macro file analysed";
+}
+
+/// Choices that live in menu ticks take them from their settings.
+void tickMenus(Editor& editor)
+{
+    const Settings& settings = editor.shared.settings;
+    Menus& menus = editor.menus;
+    menus.mnuJoyPopUpSingleFile.Checked = settings.OpenSingleFileOnly == 1;
+    menus.mnuUseWakeWarning.Checked = settings.WakeUpWarning == 1;
+    menus.mnuMacrosSaveOptions1.Checked = settings.MacroSaveUpdateMacros == 1;
+    menus.mnuMacrosSaveOptions2.Checked = settings.MacroSaveIdentifyJF == 1;
+}
+
+void readLists(Editor& editor, const Steps& step)
+{
+    Operations& operations = editor.operations;
+    SettingsStore& store = editor.shared.store;
+    step([&] { operations.GetPreviousFiles(); });
+    step([&] { operations.GetFavourites(); });
+    step([&] { operations.GetGames(); });
+    step([&] { operations.GetCustomApps(); });
+    store.GetColours();
+    editor.Visible = true;
+    store.GetOpenSingleOnly();
+    store.GetIndentStuff();
+    tickMenus(editor);
+}
+
+/// The last favourite of the wanted name counts.
+void openFavourite(Editor& editor)
+{
+    MenuArray& favourites = editor.menus.mnuFavArray;
+    for (int i = favourites.UBound(); i > 0; --i) {
+        if (favourites[i].Caption == editor.shared.settings.FavNameToLoad) return favourites[i].Click();
+    }
+}
+
+/// The command line's file wins over a favourite. Text that was brought back is shown in their stead; a file that is no
+/// part of it is opened after the usual question.
+void openFirstFile(Editor& editor)
+{
+    Shared& shared = editor.shared;
+    const auto broughtBack = offerRecovery(editor);
+    if (!shared.CommandLineFile.empty()) TestCommandLine(editor);
+    if (!shared.CommandLineFile.empty()) {
+        if (isAmong(broughtBack, shared.CommandLineFile)) return;
+        editor.OpeningPath = shared.CommandLineFile;
+        OpenPreviouslySavedFiles(editor);
+    } else if (broughtBack.empty() && !shared.settings.FavNameToLoad.empty() && shared.settings.FavLoadOnStart == 1) {
+        openFavourite(editor);
+    }
+}
+
+void playStartupSound(Editor& editor)
+{
+    const Platform& platform = editor.platform;
+    std::string sound;
+    for (const char* name : {"\\tarvexbig.wav", "\\tarvexsmall.wav"}) {
+        if (sound.empty() && platform.files.fileExists(platform.programDirectory + name))
+            sound = platform.programDirectory + name;
+    }
+    if (sound.empty()) return;
+    editor.shared.StartupSoundAvailable = 1;
+    if (editor.shared.settings.PlayWavOnStartup != 1) return;
+    platform.desktop.showHourglass(true);
+    platform.sound.play(sound);
+    platform.desktop.doEvents();
+    platform.desktop.showHourglass(false);
+}
+
+void firstUse(Editor& editor)
+{
+    editor.platform.dialogues.show(
+        {.title = "Tarvex initialising ...", .text = std::string(firstUseText), .icon = BoxIcon::Information});
+    editor.shared.store.SaveOptions();
+    if (!editor.platform.dialogues.showModal("Preferences")) {
+        editor.shared.settings.FirstTimeUsed = 0; // else it is the preferences that note it
+        editor.shared.store.SaveOptions();
+    }
+    if (editor.shared.FontChanged == 1) editor.operations.DamnFontWasChanged();
+}
+
+void forgetToolWindowPlaces(Shared& shared)
+{
+    shared.ToolWindowTop = shared.ToolWindowLeft = -1;
+    shared.SecondToolWindowTop = shared.SecondToolWindowLeft = -1;
+}
+
+} // namespace
+
+void Form_Load(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_Form_Load");
+    Shared& shared = editor.shared;
+    Settings& settings = shared.settings;
+    Menus& menus = editor.menus;
+
+    editor.mum.Toolbar1.Visible = true;
+    editor.status("Loading up the main Tarvex Editor .... hang on ....");
+    shared.IsLoading = 1;
+    forgetToolWindowPlaces(shared);
+    menus.mnuRHMouse.Visible = false;
+    menus.mnuRHList.Visible = false;
+    shared.store.GetColours();
+    step([&] { applyColourScheme(editor); });
+    menus.mnuInsertWithColour.Checked = settings.InsertWithColour == 1;
+    menus.mnuGames.Caption = settings.GamesCaption;
+    nameEmptyDocuments(editor);
+    step([&] { DeleteUndosFromMemory(editor); });
+    readLists(editor, step);
+    const bool calibrate = settings.DisableCalibrateMenu != 1;
+    menus.mnuAppsProPanel.Visible = calibrate;
+    step([&] { editor.mum.Toolbar1.Buttons(calibrateButton).Visible = calibrate; });
+    editor.JoystickText.setSelStart(0);
+    editor.MacroText.setSelStart(0);
+    editor.TabStrip1.Select(editor.joystick.tab);
+
+    step([&] { openFirstFile(editor); });
+
+    shared.store.read(Access::GetLayoutFonts, "ED_Form_Load");
+    shared.IsLoading = 0;
+    UpdateSavedIcon(editor);
+    step([&] { editor.operations.UpdateEditorTooltips(); });
+    menus.mnuAppsQuiet.Checked = settings.UseQonDownload == 1;
+    showLineNumber(editor, editor.joystick, editor.JoystickText.SelStart());
+    UpdateSavedIcon(editor);
+    F22MenusUpdate(editor);
+    editor.status("Ready! Welcome to Tarvex!");
+    editor.platform.desktop.doEvents();
+    editor.platform.desktop.doEvents();
+
+    step([&] { playStartupSound(editor); });
+    editor.AutoSaveMinutes = 0;
+    if (settings.AutoSaveEnabled == 1) editor.Timer1.Enabled = true;
+    if (settings.FirstTimeUsed == 1) step([&] { firstUse(editor); });
+}
+
+void Form_Activate(Editor& editor)
+{
+    const Steps step;
+    editor.mum.Toolbar1.Visible = true;
+    editor.selected().pane.SetFocus();
+    step([&] { editor.operations.UpdateToolBarOpenSaveTooltips(); });
+    if (editor.shared.FontChanged == 1) step([&] { editor.operations.DamnFontWasChanged(); });
+}
+
+bool Form_QueryUnload(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_Form_QueryUnload");
+    bool leave = false; // whatever fails in here, unsaved text keeps the program open
+    step([&] {
+        editor.ExitInProgress = 1; // saving the macro file mustn't stop to analyse it
+        leave = mayLeave(editor, editor.macro, questionBeforeExit());
+    });
+    editor.ExitInProgress = 0;
+    if (!leave) return false;
+    leave = false;
+    step([&] { leave = mayLeave(editor, editor.joystick, questionBeforeExit()); });
+    return leave;
+}
+
+void Form_Unload(Editor& editor)
+{
+    const Steps step;
+    SettingsStore& store = editor.shared.store;
+    step([&] { store.SaveOpenSingleOnly(); });
+    step([&] { store.SaveIndentStuff(); });
+    endJournals(editor);
+    editor.Timer1.Enabled = false;
+    editor.TimerBlinkLine.Enabled = false;
+    for (const char* form : {"FindAndReplace", "InsertOptions", "Heading", "KeyTestForm", "InfoWindow", "RAWform"})
+        step([&] { editor.operations.UnloadForm(form); });
+    editor.mum.Toolbar1.Visible = false;
+    for (const char* form : {"MacroWizard", "JoystickWiz", "SlashWizard", "JoyPlot", "TCAform", "Speedy"})
+        step([&] { editor.operations.UnloadForm(form); });
+    editor.Visible = false;
+}
+
+void TestCommandLine(Editor& editor)
+{
+    std::string& file = editor.shared.CommandLineFile;
+    if (!editor.platform.files.fileExists(file)) file.clear();
+}
+
+} // namespace tarvex

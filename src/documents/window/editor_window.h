@@ -1,0 +1,19 @@
+#pragma once
+
+#include "documents/pair/editor.h"
+
+namespace tarvex {
+
+/// The document window comes up: documents, lists, colours, the file of the command line or a favourite, the sound, and
+/// at first use the preferences.
+void Form_Load(Editor& editor);
+/// The window came to the front.
+void Form_Activate(Editor& editor);
+/// Asks about the macro file, then the joystick file, when they are modified. False: the exit is cancelled.
+bool Form_QueryUnload(Editor& editor);
+void Form_Unload(Editor& editor);
+
+/// Clears CommandLineFile when no such file exists.
+void TestCommandLine(Editor& editor);
+
+} // namespace tarvex

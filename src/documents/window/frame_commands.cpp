@@ -1,0 +1,38 @@
+#include "documents/window/frame_commands.h"
+
+#include "documents/editing/clipboard_commands.h"
+#include "documents/window/colour_selector.h"
+#include "documents/window/toolbar.h"
+#include "shell/toolbar_tips.h"
+
+namespace tarvex {
+
+void UpdateEditorTooltips(Editor& editor)
+{
+    const bool on = editor.shared.settings.OKtoShowToolTips == 1;
+    for (CheckListBox& list : editor.FrameMacros.List1)
+        list.ToolTipText = on ? "Double click macro to insert into Joystick file, or use drag and drop" : "";
+}
+
+void wireFrame(Editor& editor)
+{
+    Operations& operations = editor.operations;
+    Mum& mum = editor.mum;
+    const Settings& settings = editor.shared.settings;
+    operations.UpdateTooltips = [&mum, &settings] { UpdateTooltips(mum, settings); };
+    operations.ShowExtraButtons = [&mum, &settings] { ShowExtraButtons(mum, settings); };
+    operations.UpdateToolBarOpenSaveTooltips = [&mum, &settings] { UpdateToolBarOpenSaveTooltips(mum, settings); };
+    operations.UpdateEditorTooltips = [&editor] { UpdateEditorTooltips(editor); };
+    operations.UpdateCCPButtons = [&editor] { UpdateCCPButtons(editor); };
+    operations.PaintGradient = [&mum] { mum.Gradient = true; };
+    operations.ReleaseGradient = [&mum] { mum.Gradient = false; };
+    operations.UnloadForm = [&mum](const std::string& name) { mum.toolWindows.unload(name); };
+
+    ColourSelector& selector = editor.ColourSelector;
+    for (std::size_t index = 0; index < ColourSelector::count; ++index)
+        selector.Command1[index].handler = [&editor, index] { ColourSelector_Command1_Click(editor, index); };
+    editor.menus.mnuViewTextColour.handler = [&editor] { Picture1_Click(editor); };
+    mum.toolWindows.add({.name = "ColourSelector", .form = &selector.form, .openFlag = nullptr, .unload = nullptr});
+}
+
+} // namespace tarvex

@@ -1,0 +1,49 @@
+#include "documents/window/hardware_changes.h"
+
+#include "documents/files/file_new.h"
+#include "platform/dos_path.h"
+#include "shell/hardware/hardware_profile.h"
+
+namespace tarvex {
+
+namespace {
+
+bool loaderIsWinLoad(const Settings& settings)
+{
+    return fileNameOf(settings.B50LoadPath).find("winld") != std::string::npos;
+}
+
+} // namespace
+
+void HardwareHasChanged(Editor& editor)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        if (editor.tabCaption(*side).starts_with("untitled")) nameUntitled(editor, *side);
+    }
+    F22MenusUpdate(editor);
+    editor.shared.HardwareChangedMark = 0;
+}
+
+void F22MenusUpdate(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "F22MenusUpdate");
+    Menus& menus = editor.menus;
+    Settings& settings = editor.shared.settings;
+    const bool isF22 = settings.JoyName == joystick::f22Pro;
+
+    for (MenuItem* item :
+         {&menus.mnuF22Setup, &menus.mnuF22Clear, &menus.mnuF22Reset, &menus.mnuF22Delay, &menus.mnuAppDivider1})
+        item->Visible = isF22;
+    editor.FrameMacros.Command1[analogueButton].Caption = isF22 ? "/F" : "/A";
+    menus.mnuSlashModifierArray[analogueButton].Caption = isF22 ? "/F  format as repeating" : "/A  force analogue";
+    if (!isF22) {
+        menus.mnuAppsQuiet.Enabled = loaderIsWinLoad(settings);
+        return;
+    }
+    settings.UseQonDownload = 0;
+    menus.mnuAppsQuiet.Checked = false;
+    menus.mnuAppsQuiet.Enabled = false;
+    step([&] { editor.shared.store.write(Access::mnuAppsQuiet_Click, "F22MenusUpdate"); });
+}
+
+} // namespace tarvex

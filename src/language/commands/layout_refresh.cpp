@@ -1,0 +1,55 @@
+#include "language/commands/layout_refresh.h"
+
+#include "documents/editing/pane_change.h"
+#include "documents/pair/tabs.h"
+#include "language/base_format.h"
+#include "language/commands/coloured_insertion.h"
+
+namespace tarvex {
+
+namespace {
+
+/// Lays the text out in the hidden pane, so that the user's is written once. Its document isn't changed by that.
+template <typename LayOut> void refreshLayout(Editor& editor, std::string_view tag, LayOut layOut)
+{
+    const Steps step(editor.shared.errors, tag);
+    Pane& scratch = editor.TempRichTextBox;
+    Side& side = editor.selected();
+    editor.shared.IsLoading = 1;
+    editor.status("Reformatting layout. Please wait ...");
+    const std::int16_t state = side.Changed;
+    step([&] {
+        scratch.Visible = true;
+        scratch.setTextRTF(side.pane.TextRTF());
+        layOut(scratch);
+        side.pane.setTextRTF(scratch.TextRTF());
+    });
+    step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
+    side.Changed = state;
+    step([&] { scratch.setText(""); });
+    scratch.Visible = false;
+    UpdateSavedIcon(editor);
+    editor.status("Layout refreshed ... (I wish I was!)");
+    BeginColInsert(editor);
+    editor.shared.IsLoading = 0;
+}
+
+} // namespace
+
+void mnuViewReformat_Click(Editor& editor)
+{
+    refreshLayout(editor, "ED_mnuViewReformat_Click",
+                  [&](Pane& text) { writeBaseFormat(text, editor.shared.settings, 0); });
+}
+
+void mnuViewrefreshIndent_Click(Editor& editor)
+{
+    refreshLayout(editor, "ED_mnuViewrefreshIndent_Click", [](Pane& text) {
+        text.setSelStart(0);
+        text.setSelLength(static_cast<std::int64_t>(text.TextLength()));
+        text.setSelIndent(paragraphIndent);
+        text.setSelStart(0);
+    });
+}
+
+} // namespace tarvex

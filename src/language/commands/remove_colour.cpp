@@ -1,0 +1,59 @@
+#include "language/commands/remove_colour.h"
+
+#include "language/commands/side_caret.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr Colour black = 0;
+
+void removeColour(Editor& editor, Side& side, std::string_view tag)
+{
+    const Steps step(editor.shared.errors, tag);
+    Pane& pane = side.pane;
+    editor.status("Removing colour highlighting from " + editor.tabCaption(side) + ". Please wait ...");
+    editor.shared.IsLoading = 1;
+    const auto caret = static_cast<std::int64_t>(side.Caret);
+    step([&] {
+        pane.setSelStart(0);
+        pane.setSelLength(static_cast<std::int64_t>(pane.TextLength()));
+        pane.setSelColor(black);
+        pane.setSelStart(0);
+        pane.setSelLength(0);
+        pane.Refresh();
+    });
+    step([&] { putCaret(side, caret); });
+    editor.status("Done");
+    editor.shared.IsLoading = 0;
+}
+
+} // namespace
+
+void mnuRemoveColourJoystick_Click(Editor& editor) { removeColour(editor, editor.joystick, "mnuRemoveColourJoystick"); }
+void mnuRemoveColourMacro_Click(Editor& editor) { removeColour(editor, editor.macro, "mnuRemoveColourMacro"); }
+
+void mnuRemoveColourSelectedText_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "mnuRemoveColourSelectedText");
+    Side& side = editor.selected();
+    const std::int16_t before = side.Changed;
+    editor.shared.IsLoading = 1;
+    step([&] {
+        side.pane.setSelColor(black);
+        side.pane.Refresh();
+    });
+    side.Changed = before;
+    editor.status("Done");
+    editor.shared.IsLoading = 0;
+}
+
+void mnuRHMColoursRemove_Click(Editor& editor)
+{
+    const Side& side = editor.selected();
+    MenuItem& command =
+        side.tab == editor.joystick.tab ? editor.menus.mnuRemoveColourJoystick : editor.menus.mnuRemoveColourMacro;
+    command.Click();
+}
+
+} // namespace tarvex

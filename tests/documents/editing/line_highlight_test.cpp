@@ -1,0 +1,190 @@
+#include "documents/editing/line_highlight.h"
+
+#include "documents/pair/tabs.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+struct LineHighlight : testing::Test {
+    TestProgram t;
+    Editor& editor = t.editor();
+    Pane& joystick = editor.JoystickText;
+    Pane& macro = editor.MacroText;
+
+    LineHighlight()
+    {
+        joystick.setText("one\r\ntwo two\r\n\r\nfour");
+        macro.setText("A = a\r\nB = b");
+    }
+    void tick()
+    {
+        ASSERT_TRUE(editor.TimerBlinkLine.Enabled);
+        editor.TimerBlinkLine.Tick();
+    }
+    static void expectSelected(const Pane& pane, std::int64_t start, std::int64_t length)
+    {
+        EXPECT_EQ(pane.SelStart(), start);
+        EXPECT_EQ(pane.SelLength(), length);
+    }
+};
+
+TEST_F(LineHighlight, SelectsTheLineOfTheCaret)
+{
+    joystick.setSelStart(9);
+    HighlightLineAtIP(editor);
+    expectSelected(joystick, 5, 7);
+    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.HighlightLength, 7);
+    EXPECT_EQ(t.status(3), "Line no: 2");
+    joystick.setSelStart(20);
+    HighlightLineAtIP(editor);
+    expectSelected(joystick, 16, 4);
+    joystick.setSelStart(14);
+    HighlightLineAtIP(editor);
+    expectSelected(joystick, 14, 0);
+}
+
+TEST_F(LineHighlight, AnEmptyPaneDoesNothing)
+{
+    joystick.setText("");
+    HighlightLineAtIP(editor);
+    t.menus().mnuViewHighlightLine.Click();
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+}
+
+TEST_F(LineHighlight, FlashesOffOnOffAndEndsWithACaretAtTheLinesBeginning)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    EXPECT_EQ(editor.TimerBlinkLine.Interval, 100);
+    expectSelected(joystick, 5, 7);
+    tick();
+    expectSelected(joystick, 5, 0);
+    EXPECT_EQ(editor.HighlightLength, 0);
+    tick();
+    expectSelected(joystick, 5, 7);
+    tick();
+    expectSelected(joystick, 5, 0);
+    tick();
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    expectSelected(joystick, 5, 0);
+}
+
+TEST_F(LineHighlight, ACaretThatTheUserMovesMeanwhileGoesBack)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    tick();
+    tick();
+    joystick.setSelStart(1); // the record of the caret follows later
+    tick();
+    expectSelected(joystick, 5, 0);
+}
+
+TEST_F(LineHighlight, AnEditMeanwhileEndsIt)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    tick();
+    joystick.userEdit(5, 0, "x");
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    expectSelected(joystick, 6, 0);
+}
+
+TEST_F(LineHighlight, AnEditOfTheOtherPaneLeavesItFlashing)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    macro.setText("x");
+    EXPECT_TRUE(editor.TimerBlinkLine.Enabled);
+    tick();
+    expectSelected(joystick, 5, 0);
+}
+
+TEST_F(LineHighlight, AUserWhoGoesToTheOtherTabFindsHisCaretThereAndNoLineSelectedBehindHim)
+{
+    joystick.setSelStart(9);
+    macro.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    editor.TabStrip1.Select(2);
+    tick();
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    expectSelected(joystick, 5, 0);
+    expectSelected(macro, 9, 0);
+}
+
+TEST_F(LineHighlight, ALineOfTheOtherPaneTakesItsTurn)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    editor.TabStrip1.Select(2);
+    macro.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    expectSelected(joystick, 5, 0);
+    expectSelected(macro, 7, 5);
+    tick();
+    expectSelected(macro, 7, 0);
+}
+
+TEST_F(LineHighlight, TheTimerOverAModalBoxLeavesItsTextAlone)
+{
+    t.typeJoystick("x");
+    t.menus().mnuViewHighlightLine.Click();
+    const std::string text = joystick.Text();
+    t.dialogues.filesToSave = {std::nullopt};
+    t.dialogues.whileSaving = [&] {
+        while (editor.TimerBlinkLine.Enabled) editor.TimerBlinkLine.Tick();
+    };
+    t.menus().mnuFileSaveAs.Click();
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    EXPECT_EQ(joystick.Text(), text);
+    expectSelected(joystick, 0, 0);
+}
+
+TEST_F(LineHighlight, ATickAfterTheTextWentAwayFindsNothingToSelect)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    tick();
+    joystick.setText("");
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    editor.TimerBlinkLine.Tick(); // one that was on its way
+    expectSelected(joystick, 0, 0);
+}
+
+// ---- a line by its number ----
+
+TEST_F(LineHighlight, AnErrorLineIsShownAndFlashes)
+{
+    editor.TabStrip1.Select(2);
+    HighlightErrorLine(editor, 2);
+    EXPECT_EQ(editor.TabStrip1.SelectedItem, 1);
+    expectSelected(joystick, 5, 7);
+    EXPECT_TRUE(editor.TimerBlinkLine.Enabled);
+    EXPECT_EQ(t.status(3), "Line no: 2");
+    HighlightErrorLine(editor, 4);
+    expectSelected(joystick, 16, 4);
+}
+
+TEST_F(LineHighlight, Line0OrANumberBeyondTheEndIsInvalid)
+{
+    for (const std::int64_t line : {0, -3, 5}) {
+        t.dialogues.boxes.clear();
+        HighlightErrorLine(editor, line);
+        ASSERT_EQ(t.dialogues.boxes.size(), 1U) << line;
+        EXPECT_EQ(t.lastBox().title, "Hmmm....bizarre...");
+        EXPECT_EQ(t.lastBox().text, "The line number is invalid");
+        EXPECT_EQ(t.lastBox().icon, BoxIcon::Exclamation);
+        EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    }
+    t.dialogues.boxes.clear();
+    HighlightErrorLine(editor, 1);
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    expectSelected(joystick, 0, 3);
+}
+
+} // namespace
+} // namespace tarvex

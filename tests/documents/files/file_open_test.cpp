@@ -1,0 +1,532 @@
+#include "documents/files/file_open.h"
+
+#include "documents/files/file_save.h"
+#include "documents/text/rtf/rtf.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+constexpr const char* mig = "c:\\tm\\b50progs\\mig.b50";
+constexpr const char* migMacros = "c:\\tm\\b50progs\\mig.m50";
+
+struct OpenTest : testing::Test {
+    TestProgram t;
+
+    void addPair()
+    {
+        t.files.addFile(mig, "Rem mine\r\nBTN S1 Fire\r\n");
+        t.files.addFile(migMacros, "Fire = f\r\n");
+    }
+    /// A shadow of a text with one blue character.
+    void addShadow(const std::string& name, const std::string& text)
+    {
+        Pane pane;
+        pane.setText(text);
+        pane.setSelLength(1);
+        pane.setSelColor(0xFF0000);
+        t.files.addFile("c:\\tarvex\\Rtf\\" + name, writeRtf(pane.TextRTF()));
+    }
+    std::string joystickText() { return t.editor().JoystickText.Text(); }
+    std::string macroText() { return t.editor().MacroText.Text(); }
+};
+
+TEST_F(OpenTest, OpenJoystickAsksInTheProgramsFolderWithItsFilter)
+{
+    t.dialogues.filesToOpen = {std::nullopt};
+    t.menus().mnuFileJoystickLoad.Click();
+    ASSERT_EQ(t.dialogues.openRequests.size(), 1U);
+    const FileRequest& request = t.dialogues.openRequests[0];
+    EXPECT_EQ(request.title, "Opening joystick file");
+    EXPECT_EQ(request.directory, "c:\\tm\\b50progs\\");
+    EXPECT_EQ(request.filter, "Joystick file (*.b50)|*.b50|F-22 PRO files |*.f22|F-16 FLCS files |*.b50|FCS files "
+                              "|*.adv|All Joystick file types (*.f22,*.b50,*.adv) |*.f22;*.b50;*.adv");
+}
+
+TEST_F(OpenTest, ACancelledDialogueChangesNothing)
+{
+    t.typeJoystick("mine");
+    t.editor().pair.JoystickChanged = changed::saved;
+    t.dialogues.filesToOpen = {std::nullopt};
+    t.menus().mnuFileJoystickLoad.Click();
+    EXPECT_EQ(joystickText(), "mine");
+    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+}
+
+TEST_F(OpenTest, OpenJoystickLowerCasesPathAndNameAndIsSaved)
+{
+    addPair();
+    t.dialogues.filesToOpen = {"C:\\TM\\B50PROGS\\MIG.B50"};
+    t.menus().mnuFileJoystickLoad.Click();
+    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
+    EXPECT_EQ(t.editor().pair.JoystickFileName, "mig.b50");
+    EXPECT_EQ(t.editor().TabStrip1.Tabs(1).Caption.get(), "mig.b50");
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().JoystickText.SelStart(), 0);
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+    EXPECT_EQ(macroText(), "") << "only one file was asked for";
+}
+
+TEST_F(OpenTest, OpenMacroShowsTheMacroFrameAndItsTab)
+{
+    addPair();
+    t.dialogues.filesToOpen = {migMacros};
+    t.menus().MnuFileMacroLoad.Click();
+    EXPECT_EQ(t.dialogues.openRequests[0].title, "Opening file");
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+    EXPECT_TRUE(t.menus().mnuViewMacros.Checked);
+    EXPECT_TRUE(t.editor().FrameMacros.Visible);
+    EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2);
+    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    EXPECT_EQ(t.status(8), "mig.m50");
+}
+
+TEST_F(OpenTest, OpenBothFromTheJoystickFileFindsTheMacroFileOfTheSameName)
+{
+    addPair();
+    t.dialogues.filesToOpen = {mig};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(t.dialogues.openRequests[0].title, "Select the joystick file or the macro file - I'll open both of them");
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+    EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
+    EXPECT_EQ(t.editor().JoystickText.SelStart(), 0);
+    EXPECT_EQ(t.status(), "Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
+TEST_F(OpenTest, OpenBothListsTheMacrosAndTicksTheOnesUsed)
+{
+    addPair();
+    t.openBoth(mig);
+    const auto& items = t.editor().FrameMacros.List1.front().Items.get();
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0], (CheckListBox::Item{"Fire", true}));
+}
+
+TEST_F(OpenTest, OpenBothWithoutCheckIdentifyOKLeavesTheTicksOutAndSaysDone)
+{
+    addPair();
+    t.settings().CheckIdentifyOK = 0;
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(), "Done");
+    EXPECT_EQ(t.editor().FrameMacros.List1.front().Items.get(), (std::vector<CheckListBox::Item>{{"Fire", false}}));
+}
+
+TEST_F(OpenTest, OpenBothFromTheMacroFileFindsTheJoystickFile)
+{
+    addPair();
+    t.dialogues.filesToOpen = {migMacros};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+    EXPECT_EQ(t.status(), "Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
+}
+
+TEST_F(OpenTest, OpenBothFiltersBothKinds)
+{
+    t.dialogues.filesToOpen = {std::nullopt};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(t.dialogues.openRequests[0].filter,
+              "Thrustmaster files for your hardware |*.b50;*.m50|Joystick file for your hardware (*.b50)|*.b50|Macro "
+              "file for your hardware (*.m50)|*.m50|All Thrustmaster files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf|F-22 "
+              "PRO files |*.f22;*.m22|F-16 FLCS files |*.b50;*.m50|FCS files |*.adv;*.mdf");
+}
+
+TEST_F(OpenTest, TheFamilyOfTheFileDecidesThePartnerNotTheHardware)
+{
+    t.files.addFile("c:\\tm\\a.f22", "x");
+    t.files.addFile("c:\\tm\\a.m22", "Y = y");
+    t.openBoth("c:\\tm\\a.f22");
+    EXPECT_EQ(macroText(), "Y = y");
+    t.files.addFile("c:\\tm\\b.adv", "adv");
+    t.files.addFile("c:\\tm\\b.mdf", "Z = z");
+    t.openBoth("c:\\tm\\b.mdf");
+    EXPECT_EQ(joystickText(), "adv");
+}
+
+TEST_F(OpenTest, ATextWithSeveralMdefLinesUsesTheFileOfTheLastOne)
+{
+    t.files.addFile(mig, "MDEF one\r\nMDEF two\r\n");
+    t.files.addFile("c:\\tm\\b50progs\\one.m50", "One = 1");
+    t.files.addFile("c:\\tm\\b50progs\\two.m50", "Two = 2");
+    t.openBoth(mig);
+    EXPECT_EQ(macroText(), "Two = 2");
+    EXPECT_EQ(t.editor().pair.MacroFileName, "two.m50");
+}
+
+TEST_F(OpenTest, AnMdefLineNamingAMissingFileFallsBackToTheOwnName)
+{
+    addPair();
+    t.files.addFile(mig, "MDEF gone\r\n");
+    t.openBoth(mig);
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+}
+
+TEST_F(OpenTest, AnMdefNamesAMacroFileOfTheJoystickFilesFamilyWhateverTheHardware)
+{
+    t.files.addFile("c:\\a\\x.f22", "MDEF foo\r\n");
+    t.files.addFile("c:\\a\\foo.m22", "Right = r");
+    t.files.addFile("c:\\a\\foo.m50", "Wrong = w");
+    t.openBoth("c:\\a\\x.f22");
+    EXPECT_EQ(macroText(), "Right = r");
+}
+
+TEST_F(OpenTest, AnMdefNameEndsAtABlankAndIsLowerCased)
+{
+    t.files.addFile(mig, "mdef LONGBOW rem my macros\r\n");
+    t.files.addFile("c:\\tm\\b50progs\\longbow.m50", "Hover = h");
+    t.openBoth(mig);
+    EXPECT_EQ(t.editor().pair.MacroFilePath, "c:\\tm\\b50progs\\longbow.m50");
+}
+
+TEST_F(OpenTest, AnMdefAtTheVeryEndOfTheTextFallsBack)
+{
+    addPair();
+    t.files.addFile(mig, "MDEF");
+    t.openBoth(mig);
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+}
+
+TEST_F(OpenTest, WithoutAMacroFileTheJoystickFileStaysOpenAndTheBoxSaysSo)
+{
+    t.files.addFile(mig, "BTN S1 x");
+    t.openBoth(mig);
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.lastBox().title, "Couldn't find associated macro file");
+    EXPECT_EQ(t.lastBox().icon, BoxIcon::Information);
+    EXPECT_EQ(t.lastBox().text,
+              "I couldn't find a macro file associated with this joystick file. Either this is because it has a "
+              "different name, is located in a different directory, or it does not exist. If you know that this "
+              "joystick file doesn't use a macro file, next time, open up the single file on its own. And whilst I've "
+              "got your attention, how 'bout spending some of that beer money on me for once. I want some RAM .... and "
+              "a beer ... ");
+    EXPECT_EQ(joystickText(), "BTN S1 x");
+    EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+}
+
+TEST_F(OpenTest, AMacroFileWithoutPartnerStaysOpenWithTheBoxAndTheJoystickDocumentStaysEmpty)
+{
+    t.files.addFile(migMacros, "Fire = f");
+    t.openBoth(migMacros);
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.lastBox().title, "Couldn't find associated joystick file");
+    EXPECT_EQ(t.lastBox().text,
+              "I couldn't find a joystick file associated with this macro file. Either this is because "
+              "it has a different name, is located in a different directory,or it does not exist.");
+    EXPECT_EQ(macroText(), "Fire = f");
+    EXPECT_EQ(joystickText(), "");
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::noText);
+    EXPECT_EQ(t.status(), "Joystick file not opened");
+}
+
+TEST_F(OpenTest, AnUnknownExtensionLeadsToThePreferences)
+{
+    t.files.addFile("c:\\notes.txt", "x");
+    t.dialogues.filesToOpen = {"c:\\notes.txt"};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(t.lastBox().icon, BoxIcon::None);
+    EXPECT_EQ(t.lastBox().text,
+              "The file you opened isn't recognised as either a .b50 or a .m50 file. This is probably because you need "
+              "to set the preferences to display what the default extensions you will be using for your hardware. I'll "
+              "take you there now. And don't start on me ... I'm just the computer ... not the programmer.");
+    EXPECT_EQ(t.dialogues.modalForms, std::vector<std::string>{"Preferences"});
+    EXPECT_EQ(t.status(), "Files not opened");
+    EXPECT_EQ(joystickText(), "");
+}
+
+TEST_F(OpenTest, AskingComesFirstAndNoGoesOn)
+{
+    addPair();
+    t.typeJoystick("unsaved");
+    t.dialogues.answers = {Answer::No};
+    t.openBoth(mig);
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.lastBox().title, " Save untitled.b50 now?");
+    EXPECT_EQ(t.lastBox().text, "untitled.b50 has changed and isn't saved. Do you want to save it before opening a "
+                                "different joystick file?");
+    EXPECT_EQ(t.lastBox().icon, BoxIcon::Question);
+    EXPECT_EQ(t.lastBox().buttons, BoxButtons::YesNoCancel);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+}
+
+TEST_F(OpenTest, AskingAboutTheMacroFileAndCancellingStops)
+{
+    addPair();
+    t.typeMacro("A = a");
+    t.dialogues.answers = {Answer::Cancel};
+    t.openBoth(mig);
+    EXPECT_EQ(t.lastBox().text, "untitled.m50 has changed and isn't saved. Do you want to save it before opening a "
+                                "different macro file?");
+    EXPECT_EQ(joystickText(), "");
+    EXPECT_EQ(macroText(), "A = a");
+}
+
+TEST_F(OpenTest, YesAndThenCancellingTheSaveStopsWithTheBox)
+{
+    addPair();
+    t.typeJoystick("unsaved");
+    t.dialogues.answers = {Answer::Yes};
+    t.dialogues.filesToSave = {std::nullopt};
+    t.openBoth(mig);
+    EXPECT_EQ(t.lastBox().title, "Hmmm...let me think...");
+    EXPECT_EQ(t.lastBox().icon, BoxIcon::Exclamation);
+    EXPECT_EQ(t.lastBox().text, "untitled.b50 wasn't saved, so I won't continue to load up a new joystick file just in "
+                                "case you pressed the cancel button by accident.");
+    EXPECT_EQ(joystickText(), "unsaved");
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+}
+
+TEST_F(OpenTest, TheMacroQuestionHasItsOwnWords)
+{
+    addPair();
+    t.typeMacro("A = a");
+    t.dialogues.answers = {Answer::Yes};
+    t.dialogues.filesToSave = {std::nullopt};
+    t.dialogues.filesToOpen = {};
+    t.menus().MnuFileMacroLoad.Click();
+    EXPECT_EQ(t.lastBox().text,
+              "untitled.m50 wasn't saved, so I won't continue to load up a new macro file just in case "
+              "you pressed the cancel button by accident.");
+    EXPECT_TRUE(t.dialogues.openRequests.empty());
+}
+
+TEST_F(OpenTest, ColoursComeBackFromTheShadowAndNothingIsReformatted)
+{
+    addPair();
+    addShadow("mig.b50", "Rem mine\r\nBTN S1 Fire\r\n");
+    bool reformatted = false;
+    t.menus().mnuViewReformat.handler = [&] { reformatted = true; };
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().JoystickText.formatAt(0).colour, 0xFF0000);
+    EXPECT_EQ(t.editor().JoystickText.formatAt(1).colour, 0);
+    EXPECT_TRUE(reformatted) << "the macro file has no shadow";
+    reformatted = false;
+    t.menus().mnuFileNewMacro.Click();
+    addShadow("mig.m50", "Fire = f\r\n");
+    t.openBoth(mig);
+    EXPECT_FALSE(reformatted);
+    EXPECT_EQ(t.editor().TempRichTextBox.Text(), "");
+    EXPECT_FALSE(t.editor().TempRichTextBox.Visible);
+}
+
+TEST_F(OpenTest, AFileEditedElsewhereNoLongerEqualsItsShadowAndIsColouredAnew)
+{
+    addPair();
+    addShadow("mig.b50", "Rem older\r\n");
+    int coloured = 0;
+    t.program().operations.ApplyColourHighlighting = [&] { ++coloured; };
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().JoystickText.formatAt(0).colour, 0);
+    EXPECT_EQ(coloured, 1);
+}
+
+TEST_F(OpenTest, WithoutApplyColoursOnFileOpenNothingIsColoured)
+{
+    addPair();
+    int coloured = 0;
+    t.program().operations.ApplyColourHighlighting = [&] { ++coloured; };
+    t.settings().ApplyColoursOnFileOpen = 0;
+    t.openBoth(mig);
+    EXPECT_EQ(coloured, 0);
+}
+
+TEST_F(OpenTest, ADamagedShadowLosesToThePlainFile)
+{
+    addPair();
+    for (const std::string& damaged :
+         {std::string("{\\rtf1{\\fonttbl{{{{"), std::string("\0\xFF not rtf", 10), std::string()}) {
+        t.files.addFile("c:\\tarvex\\Rtf\\mig.b50", damaged);
+        t.openBoth(mig);
+        EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+        t.menus().mnuFileNewJoystick.Click();
+    }
+}
+
+TEST_F(OpenTest, AnUnreadableShadowLosesToThePlainFile)
+{
+    addPair();
+    addShadow("mig.b50", "Rem mine\r\nBTN S1 Fire\r\n");
+    t.files.failReads("c:\\tarvex\\Rtf\\mig.b50", RuntimeError(ErrorCode::PermissionDenied, "no"));
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+}
+
+TEST_F(OpenTest, SameNameInTwoFoldersSharesOneBackupAndOneShadowWhichFailsTheComparisonAndIsRebuilt)
+{
+    addPair();
+    t.openBoth(mig);
+    t.menus().mnuFileSave.Click();
+    ASSERT_TRUE(t.files.fileExists("c:\\tarvex\\Rtf\\mig.b50"));
+    t.files.addFile("c:\\other\\mig.b50", "another text");
+    t.files.addFile("c:\\other\\mig.m50", "");
+    t.openBoth("c:\\other\\mig.b50");
+    EXPECT_EQ(joystickText(), "another text");
+    t.menus().mnuFileSave.Click();
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\mig.b50"), "another text") << "the backup is shared too";
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(readRtf(t.fileText("c:\\tarvex\\Rtf\\mig.b50"), t.editor().formats).text(),
+              "Rem mine\r\nBTN S1 Fire\r\n");
+}
+
+TEST_F(OpenTest, AFileThatVanishedBetweenDialogueAndOpenLeavesEverythingAsItWas)
+{
+    t.typeJoystick("mine");
+    t.editor().pair.JoystickChanged = changed::saved;
+    t.dialogues.filesToOpen = {"c:\\tm\\b50progs\\gone.b50"};
+    t.menus().mnuFileJoystickLoad.Click();
+    EXPECT_EQ(joystickText(), "mine");
+    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_NE(t.lastBox().text.find("gone.b50"), std::string::npos);
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+}
+
+TEST_F(OpenTest, APartnerThatCantBeReadIsNotOpened)
+{
+    addPair();
+    int identified = 0;
+    t.program().operations.IdentifyMacrosUsed = [&] { ++identified; };
+    t.files.failReads(migMacros, RuntimeError(ErrorCode::PermissionDenied, "no"));
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(), "Macro file not opened");
+    EXPECT_EQ(identified, 0);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().pair.MacroFileName, "untitled.m50");
+}
+
+TEST_F(OpenTest, ACancelledOpenBothPutsTheStatusBack)
+{
+    const std::string before = t.status();
+    t.dialogues.whileOpening = [&] {
+        EXPECT_EQ(t.status(), "Opening joystick and associated macro file together ....");
+    };
+    t.dialogues.filesToOpen = {std::nullopt};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(t.status(), before);
+}
+
+TEST_F(OpenTest, AStepThatFailsInAnOpenLeavesNoLoadingMark)
+{
+    addPair();
+    t.program().operations.NoteLatestJoystickFile = [](const std::string&) { throw std::runtime_error("odd"); };
+    t.menus().mnuViewReformat.handler = [] { throw std::runtime_error("odd"); };
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+}
+
+TEST_F(OpenTest, AMacroFileThatCantBeReadKeepsTheMacroList)
+{
+    addPair();
+    t.files.failReads(migMacros, RuntimeError(ErrorCode::PermissionDenied, "no"));
+    bool cleared = false;
+    t.program().operations.ClearAllForNewMacroFile = [&] { cleared = true; };
+    t.dialogues.filesToOpen = {migMacros};
+    t.menus().MnuFileMacroLoad.Click();
+    EXPECT_FALSE(cleared);
+    EXPECT_EQ(macroText(), "");
+}
+
+TEST_F(OpenTest, EveryByteValueComesBackUnchangedFromOpenAndSave)
+{
+    std::string bytes;
+    for (int value = 0; value < 256; ++value) {
+        if (value != '\r' && value != '\n') bytes += static_cast<char>(value);
+    }
+    bytes += "\r\nline\r\n\r\n";
+    t.files.addFile(mig, bytes);
+    t.files.addFile(migMacros, bytes);
+    t.openBoth(mig);
+    t.menus().mnuFileSaveBoth.Click();
+    EXPECT_EQ(t.fileText(mig), bytes);
+    EXPECT_EQ(t.fileText(migMacros), bytes);
+}
+
+TEST_F(OpenTest, LoneLineEndsBecomePairs)
+{
+    t.files.addFile(mig, "a\nb\rc\r\nd");
+    t.files.addFile(migMacros, "");
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "a\r\nb\r\nc\r\nd");
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+}
+
+TEST_F(OpenTest, AnEmptyAndATenMegabyteFileOpen)
+{
+    std::string big;
+    for (int line = 0; line < 400'000; ++line) big += "BTN S1 /P a /R b rem x\r\n";
+    t.files.addFile(mig, big);
+    t.files.addFile(migMacros, "");
+    t.openBoth(mig);
+    EXPECT_EQ(t.editor().JoystickText.TextLength(), big.size());
+    EXPECT_EQ(macroText(), "");
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(t.fileText(mig), big);
+}
+
+TEST_F(OpenTest, WhatIsTypedAfterAnOpenIsAnEdit)
+{
+    addPair();
+    t.openBoth(mig);
+    t.typeJoystick("x");
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+}
+
+TEST_F(OpenTest, IdentifiesTheMacrosUsedWhenTheSettingAsksForIt)
+{
+    addPair();
+    int identified = 0;
+    int cleared = 0;
+    t.program().operations.IdentifyMacrosUsed = [&] { ++identified; };
+    t.openBoth(mig);
+    EXPECT_EQ(identified, 1);
+    t.settings().CheckIdentifyOK = 0;
+    t.program().operations.ClearMacroTicks = [&] { ++cleared; };
+    t.openBoth(mig);
+    EXPECT_EQ(identified, 1);
+    EXPECT_EQ(cleared, 1);
+}
+
+TEST_F(OpenTest, SingleFilesOnlyOpensTheOneThatWasNamed)
+{
+    addPair();
+    t.menus().mnuJoyPopUpSingleFile.Checked = true;
+    t.openBoth(mig);
+    EXPECT_EQ(macroText(), "");
+    t.menus().mnuFileNewJoystick.Click();
+    t.openBoth(migMacros);
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+    EXPECT_EQ(joystickText(), "");
+}
+
+TEST_F(OpenTest, SingleFilesTakeAnySliceOfTheMacroExtensionsForAMacroFile)
+{
+    t.menus().mnuJoyPopUpSingleFile.Checked = true;
+    t.files.addFile("c:\\odd.22m", "Odd = o");
+    t.openBoth("c:\\odd.22m");
+    EXPECT_EQ(macroText(), "Odd = o");
+    EXPECT_EQ(joystickText(), "");
+}
+
+TEST_F(OpenTest, AProtectedMacroPaneStillTakesAnotherFile)
+{
+    addPair();
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    t.openBoth(mig);
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+}
+
+} // namespace
+} // namespace tarvex

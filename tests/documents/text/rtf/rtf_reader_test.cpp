@@ -1,0 +1,206 @@
+#include "documents/text/rtf/rtf.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+RichText read(const std::string& rtf) { return readRtf(rtf, std::make_shared<FormatTable>()); }
+/// Reads the inside of a file.
+RichText body(const std::string& rtf) { return read("{\\rtf1 " + rtf + "}"); }
+std::string textOf(const std::string& rtf) { return body(rtf).text(); }
+
+CharacterFormat formatAt(const RichText& text, std::size_t position)
+{
+    return (*text.formats())[flattened(text.runs(), text.size())[position]];
+}
+
+std::string repeated(std::string_view part, int times)
+{
+    std::string all;
+    for (int i = 0; i < times; ++i) all += part;
+    return all;
+}
+
+} // namespace
+
+TEST(LooksLikeRtf, OnlyTheSignatureAtTheStartCounts)
+{
+    EXPECT_TRUE(looksLikeRtf("{\\rtf1 x}"));
+    EXPECT_TRUE(looksLikeRtf("{\\rtf"));
+    EXPECT_FALSE(looksLikeRtf("{\\rt"));
+    EXPECT_FALSE(looksLikeRtf(" {\\rtf1 x}"));
+    EXPECT_FALSE(looksLikeRtf(""));
+}
+
+TEST(ReadRtf, OtherBytesGiveAnEmptyText)
+{
+    EXPECT_TRUE(read("BTN S1").empty());
+    EXPECT_TRUE(read("").empty());
+}
+
+TEST(ReadRtf, LineEndsOfTheFileAreNoText) { EXPECT_EQ(textOf("a\r\nb\rc\nd"), "abcd"); }
+
+TEST(ReadRtf, ParagraphsAndLinesEndInCrLf)
+{
+    EXPECT_EQ(textOf("a\\par b\\line c\\\r\nd\\\ne"), "a\r\nb\r\nc\r\nd\r\ne");
+}
+
+TEST(ReadRtf, LastParagraphMarkEndsTheLastLineAndBeginsNone)
+{
+    EXPECT_EQ(textOf("a\\par"), "a");
+    EXPECT_EQ(textOf("a\\par\\par"), "a\r\n");
+    EXPECT_EQ(textOf("a\\par}{"), "a");
+    EXPECT_EQ(textOf("{a\\par}"), "a");
+    EXPECT_EQ(textOf("a\\line"), "a\r\n");
+    EXPECT_EQ(textOf("\\par"), "");
+}
+
+TEST(ReadRtf, SpecialCharactersAreThoseOfTheCodePage)
+{
+    EXPECT_EQ(textOf("\\tab\\emdash\\endash\\lquote\\rquote\\ldblquote\\rdblquote\\bullet\\~\\_"),
+              "\t\x97\x96\x91\x92\x93\x94\x95\xA0-");
+    EXPECT_EQ(textOf("\\{\\}\\\\"), "{}\\");
+    EXPECT_EQ(textOf("\\'e9\\'E9\\'00x"), std::string("\xE9\xE9\0x", 4));
+    EXPECT_EQ(textOf("raw \xE9\ttab"), "raw \xE9\ttab");
+}
+
+TEST(ReadRtf, EscapedLineEndBytesAreLineEnds)
+{
+    EXPECT_EQ(textOf("a\\'0d\\'0ab"), "a\r\nb");
+    EXPECT_EQ(textOf("a\\'0ab\\'0dc"), "a\r\nb\r\nc");
+    EXPECT_EQ(textOf("a\\'0a\\'0ab"), "a\r\n\r\nb");
+}
+
+TEST(ReadRtf, UnicodeCharactersTakeTheirReplacementAway)
+{
+    EXPECT_EQ(textOf("\\u8364?x"), "\x80x");
+    EXPECT_EQ(textOf("\\u8364\\'80x"), "\x80x");
+    EXPECT_EQ(textOf("\\u8364 ?x"), "\x80x");
+    EXPECT_EQ(textOf("\\uc0\\u233 x"), "\xE9x");
+    EXPECT_EQ(textOf("\\uc2\\u233 abx"), "\xE9x");
+    EXPECT_EQ(textOf("{\\uc2\\u233 ab}\\u233 cx"), "\xE9\xE9x");
+}
+
+TEST(ReadRtf, ReplacementEndsWithItsGroup)
+{
+    EXPECT_EQ(textOf("{\\uc5\\u233 ab}cd"), "\xE9"
+                                            "cd");
+}
+
+TEST(ReadRtf, CharactersThatTheCodePageLacksBecomeAQuestionMark)
+{
+    EXPECT_EQ(textOf("\\u1046x y"), "? y");
+    EXPECT_EQ(textOf("\\u-3913x y"), "? y");
+    EXPECT_EQ(textOf("\\u-10179x\\u-8704x y"), "? y"); // one character in two halves
+}
+
+TEST(ReadRtf, LookFollowsTheWordsAndTheGroups)
+{
+    const RichText text =
+        read("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f3\\fmodern Courier New;}}"
+             "{\\colortbl;\\red1\\green2\\blue3;}\\fs20 a{\\b\\i\\ul\\f3\\fs17\\cf1 b}c\\b d\\b0\\cf1 e}");
+    EXPECT_EQ(text.text(), "abcde");
+    EXPECT_EQ(formatAt(text, 0), (CharacterFormat{0, "Arial", 10, false, false, false, 0}));
+    EXPECT_EQ(formatAt(text, 1), (CharacterFormat{0x030201, "Courier New", 8.5F, true, true, true, 0}));
+    EXPECT_EQ(formatAt(text, 2), formatAt(text, 0));
+    EXPECT_TRUE(formatAt(text, 3).bold);
+    EXPECT_FALSE(formatAt(text, 4).bold);
+    EXPECT_EQ(formatAt(text, 4).colour, 0x030201);
+}
+
+TEST(ReadRtf, PlainTakesTheCharacterFormatBackAndPardTheIndent)
+{
+    const RichText text = body("\\li20\\b\\fs40\\ul a\\plain b\\pard c\\ul d\\ulnone e");
+    EXPECT_EQ(formatAt(text, 0).indent, 20);
+    EXPECT_TRUE(formatAt(text, 0).bold);
+    EXPECT_EQ(formatAt(text, 1), (CharacterFormat{0, "Arial", 12, false, false, false, 20}));
+    EXPECT_EQ(formatAt(text, 2).indent, 0);
+    EXPECT_TRUE(formatAt(text, 3).underline);
+    EXPECT_FALSE(formatAt(text, 4).underline);
+}
+
+TEST(ReadRtf, DefaultFontIsTheOneThatDeffNames)
+{
+    const RichText text =
+        read("{\\rtf1\\deff2{\\fonttbl{\\f1 One;}{\\f2 Two{\\*\\falt Other};}}a\\f1 b\\plain c\\f9 d}");
+    EXPECT_EQ(formatAt(text, 0).fontName, "Two");
+    EXPECT_EQ(formatAt(text, 1).fontName, "One");
+    EXPECT_EQ(formatAt(text, 2).fontName, "Two");
+    EXPECT_EQ(formatAt(text, 3).fontName, "Two");
+}
+
+TEST(ReadRtf, FontTableWithoutGroupsIsRead)
+{
+    const RichText text = read("{\\rtf1{\\fonttbl\\f1 One;\\f2 T\\'3bo;}\\f2 a\\f1 b}");
+    EXPECT_EQ(formatAt(text, 0).fontName, "T;o");
+    EXPECT_EQ(formatAt(text, 1).fontName, "One");
+}
+
+TEST(ReadRtf, ColourOutsideTheTableIsBlack)
+{
+    const RichText text = body("{\\colortbl;\\red9\\green999\\blue-9;}\\cf2 a\\cf-1 b\\cf1 c");
+    EXPECT_EQ(formatAt(text, 0).colour, 0);
+    EXPECT_EQ(formatAt(text, 1).colour, 0);
+    EXPECT_EQ(formatAt(text, 2).colour, 0x00FF09);
+}
+
+TEST(ReadRtf, GroupsThatHoldNoTextAreSkipped)
+{
+    EXPECT_EQ(textOf("a{\\stylesheet{\\s0 Normal;}}{\\info{\\title t}}{\\pict 0102}{\\*\\unknown x{y}}{\\footnote f}b"),
+              "ab");
+}
+
+TEST(ReadRtf, UnknownWordsAreSkippedAndTheirGroupsRead) { EXPECT_EQ(textOf("a\\zork12 b{\\zork c}"), "abc"); }
+
+TEST(ReadRtf, BinaryDataIsSkippedByItsLength)
+{
+    EXPECT_EQ(textOf("a\\bin4 {}\\}b"), "ab");
+    EXPECT_EQ(textOf("a{\\pict\\bin3 }}}}b"), "ab");
+    EXPECT_EQ(textOf("a\\bin99999999999 b"), "a");
+    EXPECT_EQ(textOf("a\\bin-5 b"), "ab");
+}
+
+TEST(ReadRtf, TextBehindTheLastGroupIsNotRead) { EXPECT_EQ(read("{\\rtf1 a}b{c}").text(), "a"); }
+
+TEST(ReadRtf, FileThatBreaksOffGivesWhatItHeld)
+{
+    EXPECT_EQ(read("{\\rtf1 a{\\b b").text(), "ab");
+    EXPECT_EQ(read("{\\rtf1 a\\").text(), "a");
+    EXPECT_EQ(read("{\\rtf1 a\\'").text(), "a");
+    EXPECT_EQ(read("{\\rtf1 a\\'e").text(), "ae");
+    EXPECT_EQ(read("{\\rtf1 a\\'zz").text(), "azz");
+    EXPECT_EQ(read("{\\rtf").text(), "");
+}
+
+TEST(ReadRtf, NumbersThatNoWordCanMeanAreBounded)
+{
+    const RichText text = body("\\fs99999999999\\li99999999999999999999 a\\fs-4 b\\li-99999999999 c\\fs0 d");
+    EXPECT_EQ(text.text(), "abcd");
+    EXPECT_EQ(formatAt(text, 0).fontSize, 12);
+    EXPECT_EQ(formatAt(text, 1).fontSize, 12);
+    EXPECT_EQ(formatAt(text, 3).fontSize, 12);
+    EXPECT_EQ(formatAt(text, 0).indent, INT32_MAX);
+    EXPECT_EQ(formatAt(text, 2).indent, INT32_MIN);
+}
+
+TEST(ReadRtf, GroupsDeeperThanAThousandAreSkipped)
+{
+    const auto nested = [](int depth) {
+        return "{\\rtf1 " + repeated("{", depth - 1) + "x" + repeated("}", depth - 1) + "y}";
+    };
+    EXPECT_EQ(read(nested(1000)).text(), "xy");
+    EXPECT_EQ(read(nested(1001)).text(), "y");
+    EXPECT_EQ(read(nested(1'000'000)).text(), "y");
+}
+
+TEST(ReadRtf, MoreFormatsThanTheTableHoldsStillGiveTheText)
+{
+    std::string rtf;
+    for (int i = 0; i < 70'000; ++i) rtf += "\\li" + std::to_string(i + 1) + " x";
+    const RichText text = body(rtf);
+    EXPECT_EQ(text.size(), 70'000U);
+    EXPECT_EQ(text.formats()->size(), 65536U);
+}
+
+} // namespace tarvex

@@ -1,0 +1,39 @@
+#include "documents/window/preferences_page.h"
+
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+TEST(PreferencesPage, EachCommandAsksForItsPage)
+{
+    TestProgram t;
+    Menus& menus = t.menus();
+    std::int16_t page = -1;
+    menus.mnuPreferencesEdit.handler = [&] { page = t.program().shared.PreferencesPage; };
+    const std::pair<const MenuItem*, std::int16_t> commands[] = {
+        {&menus.mnuViewEditColours, 1}, {&menus.mnuAppsEdit, 2}, {&menus.mnuFavsEdit, 3}, {&menus.mnuGamesEdit, 4}};
+    for (const auto& [item, wanted] : commands) {
+        item->Click();
+        EXPECT_EQ(page, wanted) << item->Name;
+    }
+}
+
+TEST(PreferencesPage, WithoutPreferencesTheCommandsAreGrey)
+{
+    TestProgram t;
+    Menus& menus = t.menus();
+    const MenuItem* const items[] = {&menus.mnuViewEditColours, &menus.mnuAppsEdit, &menus.mnuFavsEdit,
+                                     &menus.mnuGamesEdit};
+    menus.mnuPreferencesEdit.handler = nullptr;
+    wirePreferencesPages(t.editor());
+    for (const MenuItem* item : items) EXPECT_FALSE(item->Enabled) << item->Name;
+    menus.mnuPreferencesEdit.handler = [] {};
+    wirePreferencesPages(t.editor());
+    for (const MenuItem* item : items) EXPECT_TRUE(item->Enabled) << item->Name;
+}
+
+} // namespace
+} // namespace tarvex
