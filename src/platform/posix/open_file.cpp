@@ -26,15 +26,10 @@ OpenFile::OpenFile(SystemCalls& calls, const std::string& path, int flags, mode_
 {
 }
 
-OpenFile::~OpenFile()
-{
-    if (m_file >= 0) m_calls.close(m_file);
-}
-
 struct stat OpenFile::status()
 {
     struct stat status = {};
-    uninterrupted([&] { return m_calls.fstat(m_file, status); });
+    uninterrupted([&] { return m_calls.fstat(m_file.get(), status); });
     return status;
 }
 
@@ -56,13 +51,13 @@ std::string OpenFile::readAll()
 
 std::size_t OpenFile::readSome(char* bytes, std::size_t size)
 {
-    return static_cast<std::size_t>(uninterrupted([&] { return m_calls.read(m_file, bytes, size); }));
+    return static_cast<std::size_t>(uninterrupted([&] { return m_calls.read(m_file.get(), bytes, size); }));
 }
 
 void OpenFile::writeAll(std::string_view bytes)
 {
     while (!bytes.empty()) {
-        const auto count = uninterrupted([&] { return m_calls.write(m_file, bytes.data(), bytes.size()); });
+        const auto count = uninterrupted([&] { return m_calls.write(m_file.get(), bytes.data(), bytes.size()); });
         if (count == 0) throw systemError(EIO); // no progress and no reason: don't try for ever
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
@@ -70,18 +65,17 @@ void OpenFile::writeAll(std::string_view bytes)
 
 void OpenFile::truncate(std::size_t size)
 {
-    uninterrupted([&] { return m_calls.ftruncate(m_file, static_cast<off_t>(size)); });
+    uninterrupted([&] { return m_calls.ftruncate(m_file.get(), static_cast<off_t>(size)); });
 }
 
 void OpenFile::sync()
 {
-    uninterrupted([&] { return m_calls.fsync(m_file); });
+    uninterrupted([&] { return m_calls.fsync(m_file.get()); });
 }
 
 void OpenFile::close()
 {
-    const int file = m_file;
-    m_file = -1; // gone even when the call fails
+    const int file = m_file.release(); // gone even when the call fails
     if (m_calls.close(file) < 0 && errno != EINTR) throwSystemError();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/posix/file_descriptor.h"
 #include "platform/posix/system_calls.h"
 
 #include <string>
@@ -11,11 +12,8 @@ namespace tarvex {
 class OpenFile {
 public:
     OpenFile(SystemCalls& calls, const std::string& path, int flags, mode_t mode = 0);
-    ~OpenFile();
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
 
-    int descriptor() const { return m_file; }
+    int descriptor() const { return m_file.get(); }
     struct stat status();
     std::string readAll();
     /// Up to `size` bytes from where the last one ended; 0 at the end of the file.
@@ -23,12 +21,12 @@ public:
     void writeAll(std::string_view bytes);
     void truncate(std::size_t size);
     void sync();
-    /// Closes and tells whether that went well, which the destructor can't.
+    /// Closes and throws when that fails, which the destructor can't.
     void close();
 
 private:
     SystemCalls& m_calls;
-    int m_file;
+    FileDescriptor m_file;
 };
 
 } // namespace tarvex

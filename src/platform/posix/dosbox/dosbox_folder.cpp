@@ -41,43 +41,32 @@ std::string parentFolder()
     return runtime != nullptr && isFit(runtime) ? runtime : "/tmp";
 }
 
-/// An open file that is closed at the end.
-struct OpenedFile {
-    explicit OpenedFile(int file) : number(file) {}
-    ~OpenedFile()
-    {
-        if (number >= 0) ::close(number);
-    }
-    OpenedFile(const OpenedFile&) = delete;
-    OpenedFile& operator=(const OpenedFile&) = delete;
-    int number;
-};
-
-int openDirectory(const std::string& path)
+FileDescriptor openDirectory(const std::string& path)
 {
-    return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
-int openLock(const OpenedFile& folder, int flags)
+FileDescriptor openLock(const FileDescriptor& folder, int flags)
 {
-    return ::openat(folder.number, lockName, O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | flags, 0600);
+    constexpr int always = O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+    return FileDescriptor(::openat(folder.get(), lockName, always | flags, 0600));
 }
 
 /// Made by this user, for nobody else. In a folder that all share, a name says nothing.
-bool isOurs(const OpenedFile& folder)
+bool isOurs(const FileDescriptor& folder)
 {
     struct stat state {};
-    return folder.number >= 0 && ::fstat(folder.number, &state) == 0 && state.st_uid == ::geteuid() &&
+    return folder && ::fstat(folder.get(), &state) == 0 && state.st_uid == ::geteuid() &&
            (state.st_mode & 0777) == 0700;
 }
 
 /// Removes a folder whose lock nobody holds any more.
 void sweep(const std::string& path)
 {
-    const OpenedFile folder(openDirectory(path));
+    const FileDescriptor folder = openDirectory(path);
     if (!isOurs(folder)) return;
-    const OpenedFile lock(openLock(folder, 0));
-    if (lock.number < 0 || ::flock(lock.number, LOCK_EX | LOCK_NB) < 0) return;
+    const FileDescriptor lock = openLock(folder, 0);
+    if (!lock || ::flock(lock.get(), LOCK_EX | LOCK_NB) < 0) return;
     std::error_code ignored;
     fs::remove_all(path, ignored);
 }
@@ -99,15 +88,14 @@ DosboxFolder::DosboxFolder()
     sweepAll(parent);
     std::string unlocked = parent + "/tarvex-new-XXXXXX"; // a name that nobody sweeps
     if (::mkdtemp(unlocked.data()) == nullptr) throwSystemError();
-    m_lock = openLock(OpenedFile(openDirectory(unlocked)), O_CREAT | O_EXCL);
+    m_lock = openLock(openDirectory(unlocked), O_CREAT | O_EXCL);
     constexpr std::size_t randomPart = 6;
     m_path = parent + "/" + std::string(prefix) + unlocked.substr(unlocked.size() - randomPart);
-    if (m_lock >= 0 && ::flock(m_lock, LOCK_EX | LOCK_NB) == 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0)
+    if (m_lock && ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0)
         return;
     const int error = errno;
     std::error_code ignored;
     fs::remove_all(unlocked, ignored);
-    if (m_lock >= 0) ::close(m_lock);
     throw systemError(error);
 }
 
@@ -115,7 +103,6 @@ DosboxFolder::~DosboxFolder()
 {
     std::error_code ignored;
     if (!m_path.empty()) fs::remove_all(m_path, ignored);
-    if (m_lock >= 0) ::close(m_lock);
 }
 
 void DosboxFolder::put(const std::string& name, const std::string& bytes) const

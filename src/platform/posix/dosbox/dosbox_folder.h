@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/posix/file_descriptor.h"
+
 #include <string>
 
 namespace tarvex {
@@ -21,13 +23,13 @@ public:
     void makeDirectory(const std::string& name) const;
 
     /// For the process that uses the folder: it holds the lock for as long as it has the file open.
-    int lock() const { return m_lock; }
+    int lock() const { return m_lock.get(); }
     /// The process goes on without us: the folder stays until it is swept.
     void leave() { m_path.clear(); }
 
 private:
     std::string m_path;
-    int m_lock = -1;
+    FileDescriptor m_lock;
 };
 
 } // namespace tarvex

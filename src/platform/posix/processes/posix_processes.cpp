@@ -49,7 +49,6 @@ PosixProcesses::~PosixProcesses()
     reap();
     for (Child& child : m_children) {
         if (child.dos) child.dos->folder().leave();
-        if (child.program.file >= 0) ::close(child.program.file);
     }
 }
 
@@ -156,7 +155,7 @@ std::string PosixProcesses::wineArgument(const std::string& argument) const
 ProcessId PosixProcesses::adopt(pid_t process, std::unique_ptr<DosboxRun> dos)
 {
     const Running program{process, openProcess(process)};
-    m_children.push_back({program, std::move(dos), 0});
+    m_children.push_back({program, FileDescriptor(program.file), std::move(dos), 0});
     watch(program);
     return process;
 }
@@ -171,7 +170,6 @@ void PosixProcesses::forget(std::vector<Child>::iterator child)
 {
     unwatch(child->program);
     takeLeave(child->program.process);
-    if (child->program.file >= 0) ::close(child->program.file);
     m_children.erase(child);
 }
 

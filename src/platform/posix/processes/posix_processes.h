@@ -4,6 +4,7 @@
 #include "platform/files.h"
 #include "platform/posix/dosbox/dosbox_run.h"
 #include "platform/posix/drive_map.h"
+#include "platform/posix/file_descriptor.h"
 #include "platform/processes.h"
 
 #include <memory>
@@ -57,6 +58,7 @@ protected:
 private:
     struct Child {
         Running program;
+        FileDescriptor file;            ///< the one of `program`
         std::unique_ptr<DosboxRun> dos; ///< of a DOS program
         int waits = 0;                  ///< that go on: its file is theirs, and so is taking leave of it
     };

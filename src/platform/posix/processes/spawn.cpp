@@ -1,6 +1,7 @@
 #include "platform/posix/processes/spawn.h"
 
 #include "platform/errors.h"
+#include "platform/posix/file_descriptor.h"
 #include "platform/posix/system_error.h"
 
 #include <cerrno>
@@ -97,10 +98,11 @@ pid_t spawn(const std::vector<std::string>& arguments, const std::string& direct
 
 void fillStandardFiles()
 {
-    int file = 0;
-    do file = ::open("/dev/null", O_RDWR); // the lowest number that is free
-    while (file >= 0 && file <= STDERR_FILENO);
-    if (file >= 0) ::close(file);
+    FileDescriptor file;
+    do {
+        file.release();                          // a standard file now, and stays open
+        file.reset(::open("/dev/null", O_RDWR)); // the lowest number that is free
+    } while (file && file.get() <= STDERR_FILENO);
 }
 
 int openProcess(pid_t process) { return static_cast<int>(::syscall(SYS_pidfd_open, process, 0)); }
