@@ -49,7 +49,7 @@ public:
     {
         m_rtf.reserve(m_text.size() + 10 * m_runs.size() + 200);
         m_rtf += "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl" + m_fontTable + "}\r\n{\\colortbl ;" + m_colourTable +
-                 "}\r\n\\pard\\uc1";
+                 "}\r\n\\pard\\plain\\uc1"; // the look of the box that it is pasted into ends here
         m_afterWord = true;
         std::size_t at = 0;
         for (std::size_t i = 0; i < m_runs.size(); ++i) {

@@ -42,6 +42,15 @@ TEST(WriteRtf, NamesFontsAndColoursOnceInItsTables)
     EXPECT_THAT(rtf, HasSubstr("{\\colortbl ;\\red255\\green0\\blue0;\\red0\\green0\\blue255;}"));
 }
 
+TEST(WriteRtf, TextBeginsInThePlainLookWhateverStoodBefore)
+{
+    const std::string rtf = writeRtf(textIn("one", {format(0)}));
+    EXPECT_THAT(rtf, HasSubstr("}\r\n\\pard\\plain\\uc1\\f0\\fs20 one"));
+    const RichText pasted = readRtf("{\\rtf1\\b\\i\\ul\\fs60\\li99 " + rtf + "}", std::make_shared<FormatTable>());
+    EXPECT_EQ(pasted.text(), "one");
+    EXPECT_EQ((*pasted.formats())[pasted.runs().front().format], format(0));
+}
+
 TEST(WriteRtf, EachLineIsAParagraph)
 {
     const std::string rtf = writeRtf(textIn("one\r\ntwo", {format(0)}));
