@@ -15,14 +15,14 @@ constexpr std::size_t mostKnownLooks = 65536;
 
 void RtfFonts::add(char c)
 {
-    if (m_name.size() < FormatTable::maximumFontName) m_name += c;
+    if (m_font.name.size() < FormatTable::maximumFontName) m_font.name += c;
     m_begun = true;
 }
 
 void RtfFonts::end()
 {
-    m_index.insert_or_assign(m_number, static_cast<int>(m_names.size()));
-    m_names.push_back(std::exchange(m_name, {}));
+    m_index.insert_or_assign(m_number, static_cast<int>(m_fonts.size()));
+    m_fonts.push_back(std::exchange(m_font, {}));
     m_begun = false;
 }
 
@@ -37,10 +37,22 @@ int RtfFonts::indexOf(int number) const
     return entry == m_index.end() ? defaultFont : entry->second;
 }
 
-const std::string* RtfFonts::name(int index) const
+const RtfFonts::Font* RtfFonts::find(int index) const
 {
     if (index == defaultFont) index = indexOf(defaultNumber);
-    return index == defaultFont ? nullptr : &m_names[static_cast<std::size_t>(index)];
+    return index == defaultFont ? nullptr : &m_fonts[static_cast<std::size_t>(index)];
+}
+
+const std::string* RtfFonts::name(int index) const
+{
+    const Font* font = find(index);
+    return font ? &font->name : nullptr;
+}
+
+RtfCodePage RtfFonts::codePage(int index) const
+{
+    const Font* font = find(index);
+    return font ? font->codePage : rtfCodePage::ofFile;
 }
 
 void RtfColours::component(int which, int value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/text/character_format.h"
+#include "documents/text/rtf/rtf_code_pages.h"
 
 #include <memory>
 #include <string>
@@ -20,6 +21,7 @@ public:
 
     /// The file's number of the name that comes next.
     void number(int number) { m_number = number; }
+    void setCodePage(RtfCodePage page) { m_font.codePage = page; }
     void add(char c);
     void end();
     /// A name without its ";" ends with its group.
@@ -28,11 +30,19 @@ public:
     int indexOf(int number) const;
     /// Null when the file has no such font.
     const std::string* name(int index) const;
+    /// rtfCodePage::ofFile when the file has no such font or the font names none.
+    RtfCodePage codePage(int index) const;
 
 private:
-    std::vector<std::string> m_names;
+    struct Font {
+        std::string name;
+        RtfCodePage codePage = rtfCodePage::ofFile;
+    };
+    const Font* find(int index) const;
+
+    std::vector<Font> m_fonts;
     std::unordered_map<int, int> m_index;
-    std::string m_name;
+    Font m_font; ///< the one that is being read
     int m_number = 0;
     bool m_begun = false;
 };

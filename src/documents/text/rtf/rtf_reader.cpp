@@ -1,5 +1,7 @@
 #include "documents/text/rtf/rtf.h"
+#include "documents/text/rtf/rtf_code_pages.h"
 #include "documents/text/rtf/rtf_looks.h"
+#include "documents/text/rtf/rtf_text.h"
 #include "documents/text/rtf/rtf_tokens.h"
 #include "documents/text/rtf/rtf_words.h"
 #include "platform/windows1252.h"
@@ -20,30 +22,9 @@ struct Group {
     enum class Holds { Text, Fonts, Colours, Nothing };
     RtfLook look;
     Holds holds = Holds::Text;
-    bool optional = false; ///< "\*" stands at its start
-    int unicodeSkip = 1;   ///< characters that stand for a Unicode one in readers that don't know it
-};
-
-/// The text read so far.
-class TextBuilder {
-public:
-    void add(std::string_view characters, FormatId format)
-    {
-        m_text += characters;
-        appendRun(m_runs, characters.size(), format);
-    }
-    void removeLast(std::size_t count)
-    {
-        m_text.resize(m_text.size() - count);
-        for (; count > 0; --count) {
-            if (--m_runs.back().length == 0) m_runs.pop_back();
-        }
-    }
-    RichText take(const std::shared_ptr<FormatTable>& formats) const { return RichText(formats, m_text, m_runs); }
-
-private:
-    std::string m_text;
-    std::vector<FormatRun> m_runs;
+    bool hidden = false;
+    bool deleted = false;
+    int unicodeSkip = 1; ///< characters that stand for a Unicode one in readers that don't know it
 };
 
 class RtfReader {
@@ -65,7 +46,6 @@ public:
                 take(token);
             }
         }
-        if (m_endsInParagraph) m_text.removeLast(2); // it ends the last line and begins none
         return m_text.take(m_formats);
     }
 
@@ -73,20 +53,26 @@ private:
     Group& group() { return m_groups.back(); }
     RtfLook& look() { return m_groups.back().look; }
 
+    /// Where a token stands; "\*" only counts as a group's first one, and only for the word behind it.
+    enum class Place { GroupStart, BehindStar, Elsewhere };
+
     void open()
     {
         m_toSkip = 0;
+        m_next = Place::GroupStart;
+        m_decoder.interrupt();
         if (m_groups.size() == deepest) {
             ++m_tooDeep;
             return;
         }
         m_groups.push_back(m_groups.empty() ? Group{} : m_groups.back());
-        group().optional = false;
     }
 
     void close()
     {
         m_toSkip = 0;
+        m_next = Place::Elsewhere;
+        m_decoder.interrupt();
         if (m_tooDeep > 0) {
             --m_tooDeep;
             return;
@@ -97,6 +83,7 @@ private:
 
     void take(const RtfToken& token)
     {
+        m_place = std::exchange(m_next, Place::Elsewhere);
         if (m_toSkip > 0 && token.kind != RtfToken::Kind::Text) {
             --m_toSkip;
             return;
@@ -106,7 +93,7 @@ private:
             text(token.text);
             break;
         case RtfToken::Kind::Byte:
-            byte(static_cast<char>(token.value));
+            encodedByte(static_cast<char>(token.value));
             break;
         case RtfToken::Kind::Symbol:
             symbol(token.text.front());
@@ -128,7 +115,7 @@ private:
         characters.remove_prefix(skipped);
         switch (group().holds) {
         case Group::Holds::Text:
-            add(characters);
+            add(decoded(characters));
             break;
         case Group::Holds::Fonts:
             for (const char c : characters) c == ';' ? m_looks.fonts.end() : m_looks.fonts.add(c);
@@ -141,52 +128,60 @@ private:
         }
     }
 
-    void byte(char c)
+    std::string decoded(std::string_view bytes)
+    {
+        const RtfCodePage page = m_looks.fonts.codePage(look().font);
+        return m_decoder.decode(bytes, page == rtfCodePage::ofFile ? m_codePage : page);
+    }
+
+    /// A byte of the code page that holds here.
+    void encodedByte(char c)
+    {
+        if (group().holds != Group::Holds::Text) return character(c);
+        for (const char known : decoded({&c, 1})) character(known);
+    }
+
+    /// A character of Windows-1252.
+    void character(char c)
     {
         if (group().holds == Group::Holds::Fonts) {
             m_looks.fonts.add(c);
-        } else if (group().holds != Group::Holds::Text) {
-            return;
-        } else if (c == '\r') {
-            lineEnd();
-            m_afterCr = true;
-        } else if (c == '\n') {
-            if (!std::exchange(m_afterCr, false)) lineEnd();
+        } else if ((c == '\r' || c == '\n') && isShown()) {
+            m_text.addLineEndByte(c, format());
         } else {
             add({&c, 1});
         }
     }
 
+    bool isShown() { return group().holds == Group::Holds::Text && !group().hidden && !group().deleted; }
+
     void add(std::string_view characters)
     {
         if (characters.empty()) return;
-        m_text.add(characters, format());
-        m_endsInParagraph = m_afterCr = false;
+        m_afterHighSurrogate = false;
+        if (isShown()) m_text.add(characters, format());
     }
 
     void lineEnd()
     {
-        if (group().holds != Group::Holds::Text) return;
-        const FormatId format = this->format();
-        m_text.add("\r", m_crFormat.value_or(format));
-        m_text.add("\n", format);
-        m_crFormat.reset();
-        m_endsInParagraph = m_afterCr = false;
+        m_afterHighSurrogate = false;
+        if (isShown()) m_text.endLine(format());
     }
 
     void paragraph()
     {
-        lineEnd();
-        if (group().holds == Group::Holds::Text) m_endsInParagraph = true;
+        m_afterHighSurrogate = false;
+        if (isShown()) m_text.endParagraph(format());
     }
 
     void unicode(int value)
     {
         constexpr int codeUnits = 65536;
         const int unit = value < 0 ? value + codeUnits : value;
-        const bool secondOfTwo = unit >= 0xDC00 && unit <= 0xDFFF; // its first one has given the "?"
+        const bool endsPair = m_afterHighSurrogate && unit >= 0xDC00 && unit <= 0xDFFF; // the first half gave the "?"
         const int known = unit < 0 ? -1 : windows1252FromUnicode(static_cast<char32_t>(unit));
-        if (!secondOfTwo) byte(known < 0 ? '?' : static_cast<char>(known));
+        if (!endsPair) character(known < 0 ? '?' : static_cast<char>(known));
+        m_afterHighSurrogate = unit >= 0xD800 && unit <= 0xDBFF;
         m_toSkip = static_cast<std::size_t>(group().unicodeSkip);
     }
 
@@ -194,25 +189,25 @@ private:
     {
         switch (c) {
         case '*':
-            group().optional = true;
+            if (m_place == Place::GroupStart) m_next = Place::BehindStar;
             break;
         case '\r':
         case '\n':
             paragraph();
             break;
         case '~':
-            byte('\xA0');
+            character('\xA0');
             break;
         case '_':
-            byte('-');
+            character('-');
             break;
         case '\\':
         case '{':
         case '}':
-            byte(c);
+            character(c);
             break;
         case '\t':
-            byte('\t');
+            character('\t');
             break;
         default:
             break;
@@ -225,7 +220,8 @@ private:
     {
         if (group().holds == Group::Holds::Nothing) return;
         const RtfWord word = rtfWord(token.text);
-        if (std::exchange(group().optional, false)) return mark(word.action, token.value);
+        m_decoder.interrupt();
+        if (m_place == Place::BehindStar) return mark(word.action, token.value);
         const bool on = !token.hasValue || token.value != 0;
         if (look(word.action, token.value, on) || characters(word, token.value)) return;
         table(word, token.value);
@@ -250,8 +246,12 @@ private:
             return value <= 0 || value > 32767 || set(look().size, static_cast<float>(value) / 2);
         case RtfAction::Indent:
             return set(look().indent, value);
+        case RtfAction::Hidden:
+            return set(group().hidden, on);
+        case RtfAction::Deleted:
+            return set(group().deleted, on);
         case RtfAction::Plain:
-            return set(look(), plainLook(look().indent));
+            return plain();
         case RtfAction::ParagraphPlain:
             return set(look().indent, 0);
         default:
@@ -263,7 +263,7 @@ private:
     {
         switch (word.action) {
         case RtfAction::Character:
-            byte(static_cast<char>(word.value));
+            character(static_cast<char>(word.value));
             return true;
         case RtfAction::Paragraph:
             paragraph();
@@ -286,6 +286,18 @@ private:
         switch (word.action) {
         case RtfAction::DefaultFont:
             m_looks.fonts.defaultNumber = value;
+            break;
+        case RtfAction::FilePage:
+            m_codePage = word.value;
+            break;
+        case RtfAction::FilePageNumber:
+            m_codePage = value;
+            break;
+        case RtfAction::FontCharset:
+            m_looks.fonts.setCodePage(codePageOfCharset(value));
+            break;
+        case RtfAction::FontPage:
+            m_looks.fonts.setCodePage(value);
             break;
         case RtfAction::FontTable:
             group().holds = Group::Holds::Fonts;
@@ -323,17 +335,19 @@ private:
         } else if (action == RtfAction::ExactColour) {
             outer.colour = value;
         } else if (action == RtfAction::CrFormat) {
-            m_crFormat = m_looks.numberOf(outer);
+            m_text.setCrFormat(m_looks.numberOf(outer));
         }
     }
 
     // ---- look -------------------------------------------------------------------------------------------------------
 
-    static RtfLook plainLook(int indent)
+    bool plain()
     {
-        RtfLook look;
-        look.indent = indent;
-        return look;
+        RtfLook plainLook;
+        plainLook.indent = look().indent;
+        look() = plainLook;
+        group().hidden = group().deleted = false;
+        return true;
     }
 
     bool font(int number)
@@ -354,13 +368,15 @@ private:
 
     RtfTokens m_tokens;
     std::shared_ptr<FormatTable> m_formats;
-    TextBuilder m_text;
+    RtfText m_text;
     std::vector<Group> m_groups;
-    std::size_t m_tooDeep = 0; ///< groups open beyond the deepest that are kept
-    std::size_t m_toSkip = 0;  ///< characters that stand for the Unicode one just read
-    bool m_endsInParagraph = false;
-    bool m_afterCr = false; ///< a LF that comes now belongs to the last line end
-    std::optional<FormatId> m_crFormat;
+    std::size_t m_tooDeep = 0;        ///< groups open beyond the deepest that are kept
+    std::size_t m_toSkip = 0;         ///< characters that stand for the Unicode one just read
+    Place m_place = Place::Elsewhere; ///< of the token at hand
+    Place m_next = Place::Elsewhere;
+    bool m_afterHighSurrogate = false;
+    RtfCodePage m_codePage = rtfCodePage::windows;
+    RtfDecoder m_decoder;
 
     RtfLooks m_looks;
     RtfLook m_lastLook;

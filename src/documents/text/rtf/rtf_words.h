@@ -18,6 +18,8 @@ enum class RtfAction {
     Indent,
     Plain,
     ParagraphPlain,
+    Hidden,
+    Deleted,
     // characters
     Character, ///< the byte in `value`
     Paragraph,
@@ -26,6 +28,10 @@ enum class RtfAction {
     UnicodeSkip,
     // tables
     DefaultFont,
+    FilePage,       ///< the code page in `value`
+    FilePageNumber, ///< the code page that the word gives
+    FontCharset,    ///< of the font whose name follows
+    FontPage,       ///< likewise, as a number
     FontTable,
     ColourTable,
     Component, ///< of a colour: 0 red, 1 green, 2 blue, in `value`
@@ -38,7 +44,7 @@ enum class RtfAction {
 
 struct RtfWord {
     RtfAction action = RtfAction::None;
-    unsigned char value = 0;
+    int value = 0;
 };
 
 /// None for an unknown word.

@@ -93,6 +93,61 @@ TEST(ReadRtf, CharactersThatTheCodePageLacksBecomeAQuestionMark)
     EXPECT_EQ(textOf("\\u1046x y"), "? y");
     EXPECT_EQ(textOf("\\u-3913x y"), "? y");
     EXPECT_EQ(textOf("\\u-10179x\\u-8704x y"), "? y"); // one character in two halves
+    EXPECT_EQ(textOf("\\u-10179x\\b\\u-8704x y"), "? y");
+}
+
+TEST(ReadRtf, UnpairedSurrogateBecomesOneQuestionMark)
+{
+    EXPECT_EQ(textOf("a\\u-10179?b"), "a?b");
+    EXPECT_EQ(textOf("a\\u-8704?b"), "a?b");
+    EXPECT_EQ(textOf("\\u-10179?x\\u-8704?y"), "?x?y");
+    EXPECT_EQ(textOf("\\u-10179?\\par\\u-8704?"), "?\r\n?");
+    EXPECT_EQ(textOf("\\u-10179?\\u-10179?\\u-8704?\\u-8704?"), "???"); // alone, a pair, alone
+    EXPECT_EQ(textOf("\\u55357?\\u56832?\\u128512?x"), "??x");
+}
+
+TEST(ReadRtf, ReplacementIsCountedInCharactersAndWords)
+{
+    EXPECT_EQ(textOf("\\uc2\\u26085\\'93\\'fax"), "?x");
+    EXPECT_EQ(textOf("\\uc1\\u233\\tab x"), "\xE9x");
+    EXPECT_EQ(textOf("\\uc3\\u233\\'e9\\b abc"), "\xE9"
+                                                 "bc");
+    EXPECT_EQ(textOf("\\uc-1\\u233 x"), "\xE9x");
+    EXPECT_EQ(textOf("{\\uc0 {\\u233 x}}\\u233 yz"), "\xE9x\xE9z");
+}
+
+TEST(ReadRtf, BytesAreOfTheCodePageOfTheFile)
+{
+    EXPECT_EQ(textOf("\\ansicpg1251 \\'88\\'cf\xCF\xAB"), "\x80??\xAB");
+    EXPECT_EQ(textOf("\\mac \\'8e\x8E\\'d2"), "\xE9\xE9\x93");
+    EXPECT_EQ(textOf("\\pc \\'81\\'9b"), "\xFC\xA2");
+    EXPECT_EQ(textOf("\\pca \\'81\\'9b"), "\xFC\xF8");
+    EXPECT_EQ(textOf("\\ansi \\'81\\'9b"), "\x81\x9B");
+    EXPECT_EQ(textOf("\\mac\\ansicpg1252 \\'8e"), "\x8E");
+    EXPECT_EQ(textOf("\\ansicpg0 \\'8e"), "\x8E");
+}
+
+TEST(ReadRtf, NamedCharactersAreOfNoCodePage)
+{
+    EXPECT_EQ(textOf("\\mac \\emdash\\lquote\\bullet\\~\\u233?"), "\x97\x91\x95\xA0\xE9");
+}
+
+TEST(ReadRtf, BytesAreOfTheCodePageOfTheirFont)
+{
+    const std::string fonts = "\\ansicpg1251\\deff3{\\fonttbl{\\f0\\fcharset0 Arial;}{\\f1\\fcharset204 Arial CYR;}"
+                              "{\\f2\\fcharset77 Geneva;}{\\f3 Plain;}{\\f4\\fcharset2 Symbol;}{\\f5\\fcharset1 Any;}"
+                              "{\\f6\\fcharset0\\cpg850 Dos;}{\\f7\\fcharset204{\\*\\panose 02}{\\*\\falt X}Y;}}";
+    EXPECT_EQ(textOf(fonts + "\\'88\\f0\\'88\\f1\\'88\\f2\\'88\\f3\\'88\\f4\\'88\\f5\\'88\\f6\\'88\\f7\\'88"),
+              "\x80\x88\x80\xE0\x80\x88\x80\xEA\x80");
+    EXPECT_EQ(textOf(fonts + "{\\f2\\'88}\\'88\\f2\\plain\\'88"), "\xE0\x80\x80");
+}
+
+TEST(ReadRtf, EastAsianCharacterOfTwoBytesIsOneQuestionMark)
+{
+    const std::string fonts = "{\\fonttbl{\\f0\\fcharset128 Mincho;}{\\f1\\fcharset134 Song;}}\\f0 ";
+    EXPECT_EQ(textOf(fonts + "a\\'93\\'fa\\'96\\'7bb"), "a??b");
+    EXPECT_EQ(textOf(fonts + "\\'83Ab\\f1\\'c4\\'e3c"), "?b?c");
+    EXPECT_EQ(textOf(fonts + "\\'83\\b A{\\'83}A"), "?A?A");
 }
 
 TEST(ReadRtf, LookFollowsTheWordsAndTheGroups)
@@ -149,6 +204,44 @@ TEST(ReadRtf, GroupsThatHoldNoTextAreSkipped)
 {
     EXPECT_EQ(textOf("a{\\stylesheet{\\s0 Normal;}}{\\info{\\title t}}{\\pict 0102}{\\*\\unknown x{y}}{\\footnote f}b"),
               "ab");
+}
+
+TEST(ReadRtf, StarOnlyCountsAtTheStartOfItsGroup)
+{
+    EXPECT_EQ(read("{\\rtf1 A {\\loch\\*\\cs7 BTN S1} B}").text(), "A BTN S1 B");
+    EXPECT_EQ(textOf("a\\*\\zork b"), "ab");
+    EXPECT_EQ(textOf("a{b\\*\\zork c}"), "abc");
+    EXPECT_EQ(textOf("a{{}\\*\\zork b}"), "ab");
+    EXPECT_EQ(textOf("a{\r\n\\*\r\n\\zork b}c"), "ac");
+}
+
+TEST(ReadRtf, StarOnlyCountsForTheWordBehindIt)
+{
+    EXPECT_EQ(textOf("{\\*{\\b a}\\zork b}"), "ab");
+    EXPECT_EQ(textOf("{\\* a\\zork b}"), " ab");
+}
+
+TEST(ReadRtf, HiddenAndDeletedTextIsLeftOut)
+{
+    EXPECT_EQ(textOf("a{\\v b\\par c\\u233?\\'e9\\tab}d"), "ad");
+    EXPECT_EQ(textOf("a\\v b\\v0 c"), "ac");
+    EXPECT_EQ(textOf("a\\v b\\plain c"), "ac");
+    EXPECT_EQ(textOf("a{\\deleted b{\\b c}\\line}d"), "ad");
+    EXPECT_EQ(textOf("a\\deleted b\\deleted0 c"), "ac");
+    EXPECT_EQ(textOf("a{\\v\\deleted b\\v0 c\\deleted0 d}e"), "ade");
+    EXPECT_EQ(textOf("a\\par{\\v b\\par}"), "a");
+}
+
+TEST(ReadRtf, BulletsAndNumbersOfListsAreNoText)
+{
+    EXPECT_EQ(textOf("{\\pntext\\f3\\'b7\\tab}one\\par{\\listtext\\pard\\plain 2.\\tab}two"), "one\r\ntwo");
+}
+
+TEST(ReadRtf, CellsAreSeparatedByTabsInNestedTablesToo)
+{
+    EXPECT_EQ(textOf("a\\cell b\\cell\\row"), "a\tb\t\r\n");
+    EXPECT_EQ(textOf("a\\nestcell b\\nestcell{\\*\\nesttableprops\\trowd\\nestrow}{\\nonesttables\\par}c\\cell\\row"),
+              "a\tb\t\r\nc\t\r\n");
 }
 
 TEST(ReadRtf, UnknownWordsAreSkippedAndTheirGroupsRead) { EXPECT_EQ(textOf("a\\zork12 b{\\zork c}"), "abc"); }
