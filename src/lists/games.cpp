@@ -1,7 +1,7 @@
 #include "lists/games.h"
 
 #include "documents/files/file_save.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
 #include "documents/recovery/offer/recovery_offer.h"
 #include "documents/window/preferences_page.h"
 

@@ -12,7 +12,7 @@
 #include "documents/pair/editor_handler.h"
 #include "documents/pair/editor_layout.h"
 #include "documents/pair/tabs.h"
-#include "documents/recovery/recovery_journal.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "documents/window/editor_window.h"
 #include "documents/window/frame_commands.h"
 #include "documents/window/menu_choices.h"

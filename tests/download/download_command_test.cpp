@@ -1,4 +1,3 @@
-#include "documents/pair/tabs.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

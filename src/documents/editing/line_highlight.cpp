@@ -1,6 +1,6 @@
 #include "documents/editing/line_highlight.h"
 
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
 
 namespace tarvex {
 

@@ -2,8 +2,8 @@
 
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/undo.h"
-#include "documents/pair/tabs.h"
-#include "documents/recovery/recovery_journal.h"
+#include "documents/pair/document_status.h"
+#include "documents/recovery/journal/recovery_journal.h"
 
 namespace tarvex {
 

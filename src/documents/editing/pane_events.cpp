@@ -2,6 +2,7 @@
 
 #include "documents/editing/pane_keys.h"
 #include "documents/editing/pane_menu.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/tabs.h"
 #include "platform/input.h"
 #include "platform/windows1252.h"

@@ -1,10 +1,11 @@
 #include "documents/editing/undo.h"
 
 #include "documents/editing/line_highlight.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
 #include "documents/pair/protected_pane.h"
-#include "documents/pair/tabs.h"
-#include "documents/recovery/recovery_journal.h"
+#include "documents/pair/undo_menus.h"
+#include "documents/recovery/journal/recovery_journal.h"
 
 namespace tarvex {
 
@@ -13,8 +14,6 @@ namespace {
 constexpr int backspaceKey = 8;
 constexpr int returnKey = 13;
 constexpr int blankKey = 32;
-constexpr int undoButton = 11;
-constexpr int redoButton = 12;
 
 void keyPress(Side& side, int key)
 {
@@ -61,23 +60,6 @@ void showLevel(Editor& editor, std::size_t level)
     if (editor.shared.settings.HighlightLineOnUndo == 1) blinkLineAtIP(editor);
 }
 
-struct Offer {
-    MenuItem& item;
-    int button;
-    std::string name;
-    std::size_t levels; ///< that can be reached
-};
-
-void showOffer(Editor& editor, const Offer& offer)
-{
-    const std::string text = offer.levels > 0 ? offer.name + " (" + std::to_string(offer.levels) + ")" : offer.name;
-    offer.item.Caption = "&" + text;
-    offer.item.Enabled = offer.levels > 0;
-    Button& button = editor.mum.Toolbar1.Buttons(offer.button);
-    button.Enabled = offer.levels > 0;
-    if (offer.levels == 0 || editor.shared.settings.OKtoShowToolTips == 1) button.ToolTipText = text;
-}
-
 } // namespace
 
 void JoystickText_KeyPress(Editor& editor, int key)
@@ -116,13 +98,6 @@ void recordUndo(Editor& editor, Side& side)
     storeInNewestLevel(side);
     side.Undo.Position = 1;
     UpdateUndoRedoMenus(editor);
-}
-
-void UpdateUndoRedoMenus(Editor& editor)
-{
-    const UndoHistory& history = editor.selected().Undo;
-    showOffer(editor, {editor.menus.mnuEditUndo, undoButton, "Undo", history.Text.size() - history.Position});
-    showOffer(editor, {editor.menus.mnuEditRedo, redoButton, "Redo", history.Position - 1});
 }
 
 void mnuEditUndo_Click(Editor& editor)

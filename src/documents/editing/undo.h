@@ -20,8 +20,6 @@ void storeInNewestLevel(Side& side);
 /// The pane changed: into the newest level, or by TakeNewLevel into a new one.
 void recordUndo(Editor& editor, Side& side);
 
-/// Captions, tooltips and enabling of Undo and Redo for the selected document.
-void UpdateUndoRedoMenus(Editor& editor);
 void mnuEditUndo_Click(Editor& editor);
 void mnuEditRedo_Click(Editor& editor);
 

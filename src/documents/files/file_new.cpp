@@ -3,9 +3,9 @@
 #include "documents/editing/pane_change.h"
 #include "documents/editing/undo.h"
 #include "documents/files/file_questions.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
-#include "documents/pair/tabs.h"
-#include "documents/recovery/recovery_journal.h"
+#include "documents/recovery/journal/recovery_journal.h"
 
 namespace tarvex {
 

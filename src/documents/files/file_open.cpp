@@ -5,7 +5,6 @@
 #include "documents/files/text_files.h"
 #include "documents/pair/associated_files.h"
 #include "documents/pair/loading.h"
-#include "documents/pair/tabs.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 

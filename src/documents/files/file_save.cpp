@@ -3,8 +3,8 @@
 #include "documents/editing/undo.h"
 #include "documents/files/file_dialogues.h"
 #include "documents/files/text_files.h"
-#include "documents/pair/tabs.h"
-#include "documents/recovery/recovery_journal.h"
+#include "documents/pair/document_status.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 

@@ -1,7 +1,7 @@
 #include "documents/find/find_text.h"
 
 #include "documents/editing/line_highlight.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>

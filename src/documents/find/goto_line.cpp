@@ -1,7 +1,7 @@
 #include "documents/find/goto_line.h"
 
 #include "documents/editing/line_highlight.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
 #include "platform/text.h"
 
 #include <cmath>

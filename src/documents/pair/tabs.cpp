@@ -1,30 +1,12 @@
 #include "documents/pair/tabs.h"
 
-#include "documents/editing/undo.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/editor_layout.h"
-#include "documents/window/toolbar.h"
-#include "platform/dos_path.h"
+#include "documents/pair/undo_menus.h"
 
 namespace tarvex {
 
 namespace {
-
-/// The bar has fewer buttons: the statements that reach for it fail, and the download button stays as it is.
-constexpr int compileButton = 49;
-
-std::string savedStateTip(const std::string& name, std::int16_t state)
-{
-    switch (state) {
-    case changed::noText:
-        return name + " has no text and isn't saved";
-    case changed::saved:
-        return name + " is saved";
-    default:
-        return name + " has been modified and isn't saved";
-    }
-}
-
-bool isProtected(const Editor& editor) { return editor.menus.mnuPreferencesProtectMacroFile.Checked; }
 
 void showTabImages(Editor& editor)
 {
@@ -45,55 +27,6 @@ void gotFocus(Editor& editor, Side& side)
 }
 
 } // namespace
-
-void showEditingText(Editor& editor)
-{
-    StatusBar::Panel& progress = editor.mum.StatusBar.Panels(panel::progress);
-    Side& side = editor.selected();
-    if (side.tab == editor.macro.tab && isProtected(editor)) {
-        progress.Text = editor.tabCaption(side) + " is protected and can't be edited.";
-        progress.Enabled = false;
-        return;
-    }
-    progress.Enabled = true;
-    const std::string& text = progress.Text;
-    if (text.starts_with("Compile") || text.find('=') != std::string::npos) return;
-    progress.Text = "Editing " + editor.tabCaption(side);
-}
-
-void showLineNumber(Editor& editor, const Side& side, std::int64_t position)
-{
-    editor.mum.StatusBar.Panels(panel::line).Text =
-        "Line no: " + std::to_string(side.pane.GetLineFromChar(position) + 1);
-}
-
-void updateDownload(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "ED_TabStrip1_Click");
-    Menus& menus = editor.menus;
-    const std::string caption = editor.tabCaption(editor.joystick);
-    const Settings& settings = editor.shared.settings;
-    const bool fits = settings.AlwaysShowCompileDownload == 1 || lastThree(caption) == settings.JoystickExtension;
-
-    menus.mnuSendToJoystick.Enabled = fits;
-    if (fits)
-        menus.mnuAppsQuiet.Enabled = true;
-    else if (menus.mnuAppsQuiet.Checked)
-        menus.mnuAppsQuiet.Enabled = false;
-    menus.mnuSendToJoystick.Caption = fits ? "&Download " + caption : "&Download ";
-    step([&] { editor.mum.Toolbar1.Buttons(compileButton).Enabled = fits; });
-}
-
-void UpdateSavedIcon(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "UpdateSavedIcon");
-    step([&] {
-        const Side& side = editor.selected();
-        StatusBar::Panel& state = editor.mum.StatusBar.Panels(panel::savedState);
-        state.Picture = side.Changed + 2;
-        state.ToolTipText = savedStateTip(side.FileName, side.Changed);
-    });
-}
 
 void GetCurrentDefaultTextColour(Editor& editor) { editor.shared.DefaultTextColour = 0; }
 

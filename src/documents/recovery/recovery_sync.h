@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/pair/journal_record.h"
+#include "documents/recovery/journal_record.h"
 
 namespace tarvex {
 

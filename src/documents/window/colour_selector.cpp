@@ -1,28 +1,12 @@
 #include "documents/window/colour_selector.h"
 
-#include "documents/pair/editor.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
 
 namespace tarvex {
 
 namespace {
 
 constexpr int escapeKey = 27;
-
-struct Choice {
-    const char* caption;
-    Colour Settings::*colour; ///< none: black
-};
-
-constexpr Choice choices[] = {
-    {"Black", nullptr},
-    {"Rem", &Settings::RemStatements},
-    {"Misc", &Settings::MiscellaneousColour},
-    {"Raw, Dly", &Settings::RAWColour},
-    {"Slash", &Settings::SlashColour},
-    {"Buttons", &Settings::BTNColour},
-};
-static_assert(std::size(choices) == ColourSelector::count);
 
 void colourPane(Editor& editor, Colour colour)
 {
@@ -39,11 +23,6 @@ void colourPane(Editor& editor, Colour colour)
 
 } // namespace
 
-ColourSelector::ColourSelector()
-{
-    for (std::size_t index = 0; index < count; ++index) Command1[index].Caption = choices[index].caption;
-}
-
 void showColourSelector(Editor& editor, ColourTarget target)
 {
     editor.ColourSelector.target = target;
@@ -54,7 +33,7 @@ void showColourSelector(Editor& editor, ColourTarget target)
 void ColourSelector_Activate(Editor& editor)
 {
     for (std::size_t index = 0; index < ColourSelector::count; ++index) {
-        Colour Settings::*const colour = choices[index].colour;
+        Colour Settings::*const colour = colourChoices()[index].colour;
         if (colour != nullptr) editor.ColourSelector.Label1[index] = editor.shared.settings.*colour;
     }
 }

@@ -1,29 +1,8 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "shell/operation.h"
-
-#include <array>
-#include <cstddef>
+#include "documents/pair/editor.h"
 
 namespace tarvex {
-
-struct Editor;
-
-enum class ColourTarget { Pane = 0, Template = 1 };
-
-/// The small window with the colours that text is given by hand: six buttons, each beside its swatch.
-struct ColourSelector {
-    static constexpr std::size_t count = 6;
-
-    ColourSelector();
-
-    Form form;
-    std::array<Button, count> Command1;
-    std::array<Property<Colour>, count> Label1; ///< the swatches
-    ColourTarget target = ColourTarget::Pane;   ///< whose text takes the colour
-    Operation<Colour> colourTemplate;           ///< gives it to the Template Editor's text
-};
 
 /// Opens the window where its form stands.
 void showColourSelector(Editor& editor, ColourTarget target);

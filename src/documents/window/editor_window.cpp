@@ -5,9 +5,9 @@
 #include "documents/files/file_new.h"
 #include "documents/files/file_open.h"
 #include "documents/files/file_questions.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_offer.h"
-#include "documents/recovery/recovery_journal.h"
 #include "documents/window/hardware_changes.h"
 #include "platform/windows1252.h"
 

@@ -143,8 +143,6 @@ void StatusBar_MouseMove(Editor& editor, float x)
     }
 }
 
-void showCaretColour(Editor& editor) { editor.mum.Picture1 = editor.selected().pane.SelColor(); }
-
 void Picture1_MouseMove(Editor& editor)
 {
     if (panelIsFree(editor)) editor.status(std::string(slotOf(pictureSlot)->hoverText));

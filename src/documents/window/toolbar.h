@@ -37,8 +37,6 @@ void Toolbar1_MouseMove(Editor& editor, int button, int shift, float x, float y)
 /// The mouse is over the status bar, `x` twips from its left edge.
 void StatusBar_MouseMove(Editor& editor, float x);
 
-/// Shows the colour of the text at the caret on Picture1.
-void showCaretColour(Editor& editor);
 void Picture1_MouseMove(Editor& editor);
 /// Opens the choice of colours below the picture, for the pane.
 void Picture1_Click(Editor& editor);

@@ -3,7 +3,8 @@
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/pane_change.h"
 #include "documents/editing/undo.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/document_status.h"
+#include "documents/pair/undo_menus.h"
 #include "platform/text.h"
 
 namespace tarvex {

@@ -1,7 +1,7 @@
 #include "language/commands/rem_block.h"
 
+#include "documents/pair/document_status.h"
 #include "documents/pair/protected_pane.h"
-#include "documents/pair/tabs.h"
 #include "language/commands/coloured_insertion.h"
 #include "language/commands/side_caret.h"
 #include "platform/windows1252.h"

@@ -2,7 +2,6 @@
 
 #include "desktop/shell/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
-#include "documents/pair/tabs.h"
 #include "shell/appearance.h"
 #include "support/test_program.h"
 

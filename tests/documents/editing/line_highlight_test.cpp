@@ -1,6 +1,5 @@
 #include "documents/editing/line_highlight.h"
 
-#include "documents/pair/tabs.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

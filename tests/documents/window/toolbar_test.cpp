@@ -1,7 +1,6 @@
 #include "documents/window/toolbar.h"
 
 #include "documents/editing/clipboard_commands.h"
-#include "documents/editing/undo.h"
 #include "documents/pair/tabs.h"
 #include "support/test_program.h"
 

@@ -3,9 +3,9 @@
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
 #include "documents/editing/pane_events.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/editor_layout.h"
 #include "documents/pair/tabs.h"
-#include "documents/window/toolbar.h"
 #include "platform/input.h"
 
 #include <QEvent>

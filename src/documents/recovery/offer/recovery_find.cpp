@@ -1,6 +1,6 @@
 #include "documents/recovery/offer/recovery_find.h"
 
-#include "documents/recovery/recovery_journal.h"
+#include "documents/recovery/journal/recovery_journal.h"
 
 #include <functional>
 #include <set>

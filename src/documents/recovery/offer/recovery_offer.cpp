@@ -2,10 +2,11 @@
 
 #include "documents/files/file_open.h"
 #include "documents/files/text_files.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
 #include "documents/pair/tabs.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_find.h"
-#include "documents/recovery/recovery_journal.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 

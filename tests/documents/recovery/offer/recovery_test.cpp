@@ -1,8 +1,8 @@
 // What was typed and not saved comes back, however the program ended.
 
 #include "documents/files/auto_save.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/open_pair.h"
-#include "documents/recovery/recovery_journal.h"
 
 #include <gtest/gtest.h>
 

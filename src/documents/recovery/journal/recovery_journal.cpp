@@ -1,4 +1,4 @@
-#include "documents/recovery/recovery_journal.h"
+#include "documents/recovery/journal/recovery_journal.h"
 
 #include "documents/recovery/recovery_sync.h"
 

@@ -1,7 +1,7 @@
 // What is typed and not saved is written down.
 
 #include "documents/files/auto_save.h"
-#include "documents/recovery/recovery_journal.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "open_pair.h"
 
 #include <gtest/gtest.h>
