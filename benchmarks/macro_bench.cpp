@@ -1,8 +1,8 @@
 #include "coloured_text.h"
 #include "example_text.h"
-#include "language/identify_macros.h"
 #include "language/macro_analysis.h"
 #include "language/macro_file_lines.h"
+#include "language/macros_used.h"
 #include "language/slash_columns.h"
 
 #include <benchmark/benchmark.h>

@@ -18,7 +18,6 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 add_library(tarvex_compile_options INTERFACE)
-target_include_directories(tarvex_compile_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(tarvex_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> # g++ 12 sees overlaps where a literal and a string are joined

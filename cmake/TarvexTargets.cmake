@@ -1,9 +1,65 @@
-# One library per folder of the sources; its LINKS are all it may include.
-#   tarvex_library(NAME SOURCES a.cpp ... LINKS tarvex_platform ...)
+# Helpers that make the targets: libraries, programs, tests.
+
+# What the targets are made of, noted by this run.
+file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers ${CMAKE_BINARY_DIR}/include)
+
+# The layers hold by the build: a target finds the headers of what its LINKS name, of what those link publicly, and no
+# others. So each library offers its headers in a folder of its own, as links to the sources:
+#   build/include/TARGET/src/documents/pair/editor.h
+# The folder is set up anew by each configure run, so a header that is gone leaves nothing behind.
+function(tarvex_offer_headers name)
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR} OUTPUT_VARIABLE folder)
+    string(REGEX MATCH "^(src|tests)" root ${folder})
+    string(REGEX REPLACE "^(src|tests)/" "" folder ${folder})
+    set(offered ${CMAKE_BINARY_DIR}/include/${name}/${root})
+    file(MAKE_DIRECTORY ${offered}/${folder})
+    foreach(header ${ARGN})
+        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${offered}/${folder}/${header} COPY_ON_ERROR SYMBOLIC)
+    endforeach()
+    target_include_directories(${name} PUBLIC ${offered})
+endfunction()
+
+# Writes down what a target is made of and what it links, for scripts/check-layers.
+function(tarvex_note_layers name)
+    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;LINKS" ${ARGN})
+    set(lines "")
+    foreach(kind SOURCES HEADERS)
+        foreach(file ${arg_${kind}})
+            cmake_path(ABSOLUTE_PATH file NORMALIZE)
+            cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${CMAKE_SOURCE_DIR})
+            string(APPEND lines "${kind} ${file}\n")
+        endforeach()
+    endforeach()
+    foreach(link ${arg_LINKS})
+        string(APPEND lines "LINKS ${link}\n")
+    endforeach()
+    file(WRITE ${CMAKE_BINARY_DIR}/layers/${name} "${lines}")
+endfunction()
+
+# One library per folder of the sources; its LINKS are what it includes. All headers of the folder are its own, unless
+# HEADERS names some of them.
+#   tarvex_library(NAME SOURCES a.cpp ... [HEADERS a.h ...] LINKS tarvex_platform ...)
 function(tarvex_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;LINKS" ${ARGN})
+    if(NOT arg_HEADERS)
+        file(GLOB arg_HEADERS CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.h)
+    endif()
     add_library(${name} STATIC ${arg_SOURCES})
+    tarvex_offer_headers(${name} ${arg_HEADERS})
     target_link_libraries(${name} PUBLIC tarvex_compile_options ${arg_LINKS})
+    tarvex_note_layers(${name} SOURCES ${arg_SOURCES} HEADERS ${arg_HEADERS} LINKS ${arg_LINKS})
+endfunction()
+
+# A program; the headers of its folder are for its own sources only.
+#   tarvex_executable(NAME SOURCES main.cpp ... [HEADERS a.h ...] LINKS tarvex_shell ...)
+function(tarvex_executable name)
+    cmake_parse_arguments(arg "" "" "SOURCES;HEADERS;LINKS" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    if(arg_HEADERS)
+        tarvex_offer_headers(${name} ${arg_HEADERS})
+    endif()
+    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS})
+    tarvex_note_layers(${name} SOURCES ${arg_SOURCES} HEADERS ${arg_HEADERS} LINKS ${arg_LINKS})
 endfunction()
 
 # What the tests do themselves is little, and compiling it without optimisation takes half the time.
@@ -19,28 +75,34 @@ function(tarvex_test_headers)
     target_precompile_headers(tarvex_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
 endfunction()
 
-# One test program per folder of the tests, every TEST in it a test of its own for ctest.
-#   tarvex_test(NAME SOURCES a_test.cpp ... LINKS tarvex_shell ...)
+# One test program per folder of the tests, every TEST in it a test of its own for ctest. It links the folder that it
+# tests and what else its sources include. OWN_MAIN: main() is among the sources.
+#   tarvex_test(NAME [OWN_MAIN] SOURCES a_test.cpp ... LINKS tarvex_shell ...)
 function(tarvex_test name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
-    if(NOT TARGET tarvex_test_headers)
-        tarvex_test_headers()
-    endif()
-    add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS} GTest::gmock GTest::gtest_main)
-    target_compile_options(${name} PRIVATE -fPIC ${TARVEX_TEST_OPTIONS})
-    target_precompile_headers(${name} REUSE_FROM tarvex_test_headers)
+    cmake_parse_arguments(arg "OWN_MAIN" "" "SOURCES;LINKS" ${ARGN})
+    tarvex_executable(${name} SOURCES ${arg_SOURCES} LINKS ${arg_LINKS})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_compile_options(${name} PRIVATE ${TARVEX_TEST_OPTIONS})
     target_compile_definitions(${name} PRIVATE TARVEX_SOURCE_DIRECTORY="${CMAKE_SOURCE_DIR}")
+    if(arg_OWN_MAIN)
+        target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest)
+    else()
+        target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
+        if(NOT TARGET tarvex_test_headers)
+            tarvex_test_headers()
+        endif()
+        target_compile_options(${name} PRIVATE -fPIC)
+        target_precompile_headers(${name} REUSE_FROM tarvex_test_headers)
+    endif()
     gtest_discover_tests(${name} TEST_PREFIX "${TARVEX_TEST_PREFIX}" DISCOVERY_TIMEOUT 60)
 endfunction()
 
 # A program that libFuzzer feeds with bytes, and its short run as a test: from the files in corpus/NAME, the same way each
 # time. A long run:  build-sanitize/bin/NAME -max_total_time=600 FOLDER-FOR-FINDS fuzz/corpus/NAME
-#   tarvex_fuzz(NAME SOURCES a_fuzz.cpp LINKS tarvex_pane ...)
+#   tarvex_fuzz(NAME SOURCES a_fuzz.cpp LINKS tarvex_language ...)
 function(tarvex_fuzz name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
-    add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS})
+    tarvex_executable(${name} SOURCES ${arg_SOURCES} LINKS ${arg_LINKS})
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
     # Seeds by name: libFuzzer would add what it finds to a folder.
     file(GLOB seeds CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}/*)

@@ -1,9 +1,8 @@
-#include "language/button_definition.h"
-#include "language/commands/macro_keys.h"
-#include "language/identify_macros.h"
 #include "language/macro_analysis.h"
 #include "language/macro_file_lines.h"
+#include "language/macros_used.h"
 #include "language/slash_columns.h"
+#include "language/statements.h"
 #include "platform/lines.h"
 #include "platform/windows1252.h"
 

@@ -3,8 +3,8 @@
 #include "cli/colour_output.h"
 #include "cli/input.h"
 #include "cli/scheme.h"
-#include "documents/pair/associated_files.h"
 #include "documents/text/rtf/rtf.h"
+#include "language/associated_files.h"
 #include "language/base_format.h"
 #include "language/pass_runner.h"
 #include "platform/windows1252.h"
@@ -50,21 +50,6 @@ std::string inForm(const ColourOptions& options, const ColouredText& text)
 }
 
 } // namespace
-
-std::vector<ColourRun> colourRuns(const Pane& pane)
-{
-    std::vector<ColourRun> runs;
-    std::size_t start = 0;
-    for (const FormatRun& run : pane.runs()) {
-        const Colour colour = (*pane.formats())[run.format].colour;
-        if (!runs.empty() && runs.back().colour == colour)
-            runs.back().length += run.length;
-        else
-            runs.push_back({start, run.length, colour});
-        start += run.length;
-    }
-    return runs;
-}
 
 int colourCommand(const ColourOptions& given)
 {

@@ -1,18 +1,8 @@
 #pragma once
 
-#include "cli/colour_command.h"
+#include "cli/coloured_text.h"
 
 namespace tarvex::cli {
-
-/// What there is to print.
-struct ColouredText {
-    const Pane& pane;
-    std::vector<ColourRun> runs;
-    std::vector<HeldPass> held;
-    std::string name; ///< of the file
-    Colour background = 0xFFFFFF;
-    std::string fontName;
-};
 
 /// {"length": n, "runs": [[start, length, colour], ...], "held": [{"word": ..., "line": ...}, ...]} and a line end.
 std::string jsonText(const ColouredText& text);

@@ -2,9 +2,9 @@
 
 #include "cli/input.h"
 #include "cli/unicode_text.h"
-#include "language/identify_macros.h"
 #include "language/macro_analysis.h"
 #include "language/macro_file_lines.h"
+#include "language/macros_used.h"
 #include "platform/windows1252.h"
 
 #include <nlohmann/json.hpp>

@@ -2,7 +2,7 @@
 
 #include "cli/input.h"
 #include "cli/unicode_text.h"
-#include "language/button_definition.h"
+#include "language/statements.h"
 #include "platform/windows1252.h"
 
 #include <nlohmann/json.hpp>

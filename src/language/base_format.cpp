@@ -1,7 +1,5 @@
 #include "language/base_format.h"
 
-#include "documents/editing/pane_change.h"
-
 namespace tarvex {
 
 void writeBaseFormat(Pane& pane, const Settings& settings, Colour colour)

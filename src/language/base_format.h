@@ -5,6 +5,9 @@
 
 namespace tarvex {
 
+/// Left indent of every paragraph, twips.
+constexpr int paragraphIndent = 20;
+
 /// Gives a whole text the plain look that colours are painted on: font of the settings, neither italic nor underlined,
 /// one colour, the fixed indent. Caret to 0.
 void writeBaseFormat(Pane& pane, const Settings& settings, Colour colour);

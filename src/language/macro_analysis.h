@@ -1,11 +1,14 @@
 #pragma once
 
-#include "documents/pair/editor.h"
+#include "language/macro_record.h"
 
 #include <string>
 #include <vector>
 
 namespace tarvex {
+
+/// The heading that stands for every macro.
+inline constexpr char allMacros[] = "All";
 
 /// Names of macros, UTF-8, in the order of their definitions.
 using MacroNames = std::vector<std::string>;
@@ -16,14 +19,5 @@ std::vector<MacroNames> extractMacros(MacroRecord& record);
 
 /// Keeps of CurrentMacroName what stands before the first "=", without blanks at its ends.
 void RemoveSpacesFromMacroName(MacroRecord& record);
-
-/// Fills Combo1 and List1 from MacroFileLines and tells on the status bar what was found.
-void ExtractMacrosAndTitles(Editor& editor);
-/// Empties the headings and lists.
-void ClearAllForNewMacroFile(Editor& editor);
-/// The heading "All" is chosen again: Combo1 shows it, and its list comes to the front.
-void showAllMacros(Editor& editor);
-/// Makes one list the visible one.
-void bringToFront(FrameMacros& frame, std::size_t list);
 
 } // namespace tarvex

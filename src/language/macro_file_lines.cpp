@@ -9,7 +9,6 @@ namespace tarvex {
 
 namespace {
 
-constexpr const char* linesFile = "C:\\macro.txt";
 constexpr std::string_view bareRem = "rem";
 
 bool saysNothing(std::string_view line)
@@ -19,11 +18,10 @@ bool saysNothing(std::string_view line)
     return line.size() == bareRem.size() && lowerWindows1252(line) == bareRem;
 }
 
-std::string joined(const std::vector<std::string>& lines)
+bool beginsWith(std::string_view line, std::string_view start)
 {
-    std::string text;
-    for (const std::string& line : lines) (text += line) += "\r\n";
-    return text;
+    const auto lower = [](char character) { return windows1252Lower[static_cast<unsigned char>(character)]; };
+    return line.size() >= start.size() && std::ranges::equal(line.substr(0, start.size()), start, {}, lower, lower);
 }
 
 } // namespace
@@ -38,17 +36,11 @@ std::vector<std::string> keptMacroLines(std::string_view file)
     return kept;
 }
 
-void GetEachLineFromMacroFile(Editor& editor)
+const std::string* definitionOf(const std::vector<std::string>& lines, std::string_view name)
 {
-    const Steps step(editor.shared.errors, "ED_GetEachLineFromMacroFile");
-    FileSystem& files = editor.platform.files;
-    const std::string& path = editor.pair.MacroFilePath;
-    std::vector<std::string>& lines = editor.macros.MacroFileLines;
-    if (!files.fileExists(path)) return;
-    editor.status("Opening " + editor.pair.MacroFileName + " file for analysis ");
-    lines.clear();
-    step([&] { lines = keptMacroLines(files.read(path)); });
-    step([&] { files.write(linesFile, joined(lines)); });
+    const std::string start = std::string(name) + " =";
+    const auto line = std::ranges::find_if(lines, [&](const std::string& text) { return beginsWith(text, start); });
+    return line == lines.end() ? nullptr : &*line;
 }
 
 } // namespace tarvex

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "documents/pair/editor.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +10,7 @@ namespace tarvex {
 /// and "//", and "~" comments that hold "=". Bytes.
 std::vector<std::string> keptMacroLines(std::string_view file);
 
-/// Reads the macro file from disk into MacroFileLines, and leaves them in "C:\macro.txt" as well. A missing file is
-/// passed over.
-void GetEachLineFromMacroFile(Editor& editor);
+/// The line that defines a macro: its name, one blank and "=", whatever the case. Null without one.
+const std::string* definitionOf(const std::vector<std::string>& lines, std::string_view name);
 
 } // namespace tarvex

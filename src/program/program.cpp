@@ -9,6 +9,7 @@
 #include "documents/files/file_new.h"
 #include "documents/files/file_open.h"
 #include "documents/files/file_save.h"
+#include "documents/find/find_and_replace.h"
 #include "documents/pair/editor_handler.h"
 #include "documents/pair/editor_layout.h"
 #include "documents/pair/tabs.h"
@@ -20,7 +21,7 @@
 #include "download/download_commands.h"
 #include "download/own_tools.h"
 #include "language/commands/language_commands.h"
-#include "shell/mum_window.h"
+#include "shell/frame/mum_window.h"
 
 namespace tarvex {
 

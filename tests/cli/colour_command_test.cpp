@@ -122,8 +122,7 @@ TEST_F(ColourCommandTest, TheExamplesAreColouredAsTheProgramColoursThem)
     }
 }
 
-// ---- the other forms
-// ----------------------------------------------------------------------------------------------------
+// ---- the other forms ------------------------------------------------------------------------------------------------
 
 TEST_F(ColourCommandTest, AnsiIsTheTextWithEscapes)
 {
@@ -161,8 +160,7 @@ TEST_F(ColourCommandTest, RtfBringsTextAndColours)
     EXPECT_EQ((*formats)[text.runs()[0].format].colour, btn);
 }
 
-// ---- holds and bad input
-// ------------------------------------------------------------------------------------------------
+// ---- holds and bad input --------------------------------------------------------------------------------------------
 
 TEST_F(ColourCommandTest, AHeldPassIsToldAndTheResultIsPrintedAllTheSame)
 {

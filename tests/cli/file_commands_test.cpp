@@ -15,8 +15,7 @@ struct FileCommandsTest : CliTest {
     std::string macroFile = directory.put("a.m50", macros);
 };
 
-// ---- macros
-// -------------------------------------------------------------------------------------------------------------
+// ---- macros ---------------------------------------------------------------------------------------------------------
 
 TEST_F(FileCommandsTest, MacrosAsJsonListsThemByHeading)
 {
@@ -64,8 +63,7 @@ TEST_F(FileCommandsTest, AHundredThousandHeadingsAreListed)
     EXPECT_EQ(result.json().at("lists").back().dump(), R"(["a"])");
 }
 
-// ---- used
-// ---------------------------------------------------------------------------------------------------------------
+// ---- used -----------------------------------------------------------------------------------------------------------
 
 TEST_F(FileCommandsTest, UsedAsJsonHasAListOfPairsForEachHeading)
 {
@@ -122,8 +120,7 @@ TEST_F(FileCommandsTest, UsedAgreesWithTheProgramOnTheExamples)
     }
 }
 
-// ---- align
-// --------------------------------------------------------------------------------------------------------------
+// ---- align ----------------------------------------------------------------------------------------------------------
 
 TEST_F(FileCommandsTest, AlignPrintsTheBytesWithWindowsLineEnds)
 {
@@ -152,8 +149,7 @@ TEST_F(FileCommandsTest, AlignAgreesWithTheProgramOnAnExample)
     EXPECT_EQ(tarvexctl({"align", path, "--indent", "3"}).out, t.editor().JoystickText.Text());
 }
 
-// ---- statement
-// ----------------------------------------------------------------------------------------------------------
+// ---- statement ------------------------------------------------------------------------------------------------------
 
 TEST_F(FileCommandsTest, StatementEndsBeforeTheNextOne)
 {

@@ -45,8 +45,7 @@ struct RunTest : testing::Test {
 
 std::string blanks(std::size_t count) { return std::string(count, ' '); }
 
-// ---- holds
-// --------------------------------------------------------------------------------------------------------------
+// ---- holds ----------------------------------------------------------------------------------------------------------
 
 TEST_F(RunTest, AnUnclosedRawBehindTheLastBracketIsHeldAndTheRunGoesOn)
 {
@@ -87,8 +86,7 @@ TEST_F(RunTest, TheHoldsOfASecondRunBeginAnew)
     EXPECT_EQ(holds, (std::vector<Found>{{"RAW(", 1, true}, {"DLY(", 1, true}}));
 }
 
-// ---- positions of 16 bits
-// -----------------------------------------------------------------------------------------------
+// ---- positions of 16 bits -------------------------------------------------------------------------------------------
 
 TEST_F(RunTest, ABlankWordAt32767IsReadAndPainted)
 {
@@ -183,8 +181,7 @@ TEST_F(RunTest, TextsUpTo65535CharactersAreNotHeldAndLongerOnesAre)
     }
 }
 
-// ---- transfers
-// ----------------------------------------------------------------------------------------------------------
+// ---- transfers ------------------------------------------------------------------------------------------------------
 
 TEST_F(RunTest, SafeinsPassesAreFourAndPaintRemLast)
 {
@@ -203,8 +200,7 @@ TEST_F(RunTest, AMacroBlockIsColouredLikeAJoystickFileLessNullchr)
     EXPECT_EQ(block.replace(word, 7, "MMMMMMM"), joystick);
 }
 
-// ---- in the program
-// -----------------------------------------------------------------------------------------------------
+// ---- in the program -------------------------------------------------------------------------------------------------
 
 struct HeldProgramTest : testing::Test {
     TestProgram t;

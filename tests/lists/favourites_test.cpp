@@ -73,8 +73,7 @@ TEST(GetFavourites, TheNamesStandOnTheMenu)
     EXPECT_FALSE(t.menus().mnuFavArray[0].Visible);
 }
 
-// ---- adding
-// -----------------------------------------------------------------------------------------------------------
+// ---- adding ---------------------------------------------------------------------------------------------------------
 
 TEST(AddFavourite, TwoNewDocumentsAreNothingToAdd)
 {
@@ -300,8 +299,7 @@ TEST(ProposedName, AFileNameShorterThanFourCharactersGivesAnEmptyOrCutProposal)
     EXPECT_EQ(proposedName(""), "");
 }
 
-// ---- opening
-// ----------------------------------------------------------------------------------------------------------
+// ---- opening --------------------------------------------------------------------------------------------------------
 
 TEST(OpenFavourite, BothFilesAreOpenedTheMacroFileFirst)
 {

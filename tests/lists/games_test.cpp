@@ -76,8 +76,7 @@ TEST(GetGames, TheNamesStandOnTheMenuAndTheTickIsAsItWasLeft)
     EXPECT_FALSE(t.menus().mnuGamesDownloadFirst.Checked);
 }
 
-// ---- adding
-// -----------------------------------------------------------------------------------------------------------
+// ---- adding ---------------------------------------------------------------------------------------------------------
 
 TEST(AddGame, OkAddsItAtTheTopWithItsDetailsAsTheyStand)
 {
@@ -151,8 +150,7 @@ TEST(AddGame, DetailsWithLineBreaksDoNotBreakTheSettings)
     EXPECT_EQ(t.stored("GameName1"), "odd");
 }
 
-// ---- the dialogue
-// -----------------------------------------------------------------------------------------------------
+// ---- the dialogue ---------------------------------------------------------------------------------------------------
 
 TEST(EnterGameName, ComesUpWithASampleInEachBoxEachTime)
 {
@@ -265,8 +263,7 @@ TEST(EnterGameName, ABoxThatGetsTheKeyboardIsSelected)
     EXPECT_EQ(selected, 4);
 }
 
-// ---- the click
-// --------------------------------------------------------------------------------------------------------
+// ---- the click ------------------------------------------------------------------------------------------------------
 
 TEST(GameClick, MovesTheGameToTheTopAndLaunchesIt)
 {

@@ -269,8 +269,7 @@ TEST_P(PreviousFile, ALineBreakInAPathDoesNotBreakTheSettings)
     EXPECT_EQ(t.ini("FileLocations", "JoyName"), "1");
 }
 
-// ---- what enters the lists
-// --------------------------------------------------------------------------------------------
+// ---- what enters the lists ------------------------------------------------------------------------------------------
 
 TEST(PreviousFiles, OpeningAPairEntersBothLists)
 {

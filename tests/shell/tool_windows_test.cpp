@@ -1,6 +1,6 @@
 #include "shell/tool_windows.h"
 
-#include "shell/mum_window.h"
+#include "shell/frame/mum_window.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "desktop/platform/qt_dialogues.h"
 
-#include "desktop/shell/menu_view.h"
+#include "desktop/menus/menu_view.h"
 #include "desktop/text.h"
 #include "platform/errors.h"
 #include "platform/posix/drive_map.h"

@@ -4,14 +4,14 @@
 #include "desktop/documents/window/colour_selector_view.h"
 #include "desktop/documents/window/toolbar_view.h"
 #include "desktop/icon_theme.h"
+#include "desktop/menus/menu_view.h"
 #include "desktop/minimise.h"
 #include "desktop/shell/client_area.h"
-#include "desktop/shell/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
 #include "documents/editing/pane_keys.h"
 #include "documents/window/editor_window.h"
 #include "documents/window/toolbar.h"
-#include "shell/mum_window.h"
+#include "shell/frame/mum_window.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -57,7 +57,7 @@ MumWindow::MumWindow(Program& program)
     setObjectName(QStringLiteral("Mum"));
     setMinimumSize(smallestSize);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setCentralWidget(new ClientArea(program.mum.Gradient, new ToolbarView(program, this), m_editor, this));
+    setCentralWidget(new ClientArea(program.mum.Gradient, new ToolbarView(program.editor, this), m_editor, this));
     setStatusBar(m_status);
     m_status->hovered = [&program](int x) { StatusBar_MouseMove(program.editor, toTwips(x)); };
     addMenuBars();

@@ -4,6 +4,7 @@
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
 #include "documents/recovery/journal/recovery_journal.h"
+#include "language/base_format.h"
 
 namespace tarvex {
 
@@ -36,9 +37,8 @@ void MacroText_Change(Editor& editor) { paneChange(editor, editor.macro); }
 
 void applyScheme(Editor& editor, Side& side)
 {
-    const Settings& settings = editor.shared.settings;
     side.pane.BackColor = side.Background;
-    side.pane.setFont({settings.TextFontName, static_cast<float>(settings.TextFontSize), settings.TextFontBold == 1});
+    setPaneFont(side.pane, editor.shared.settings);
     side.pane.Refresh();
 }
 

@@ -4,9 +4,6 @@
 
 namespace tarvex {
 
-/// Left indent of every paragraph, twips.
-constexpr int paragraphIndent = 20;
-
 /// The user's edit of a pane: its document is modified, and its undo levels take the new state.
 void JoystickTextChanged(Editor& editor);
 void MacroTextChanged(Editor& editor);

@@ -3,8 +3,8 @@
 #include "documents/files/file_dialogues.h"
 #include "documents/files/file_questions.h"
 #include "documents/files/text_files.h"
-#include "documents/pair/associated_files.h"
 #include "documents/pair/loading.h"
+#include "language/associated_files.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 

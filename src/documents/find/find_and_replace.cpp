@@ -130,27 +130,29 @@ void open(FindAndReplace& window, int tab)
     window.ComboTextReplaceFind.SelectAll();
 }
 
-} // namespace
-
-FindAndReplace::FindAndReplace(Editor& theEditor) : editor(theEditor)
+/// What the controls say and run.
+void wireControls(FindAndReplace& window)
 {
-    form.Caption = "Find and replace";
-    form.Close = [this] { Form_Unload(*this); };
-    SSTab1.Tabs(findTab::find).Caption = "Find";
-    SSTab1.Tabs(findTab::replace).Caption = "Replace";
-    SSTab1.Tabs(findTab::line).Caption = "Go to line";
-    SSTab1.Click = [this] { SSTab1_Click(*this); };
-    wirePage(*this, findPage(*this), m_connections);
-    wirePage(*this, replacePage(*this), m_connections);
-    mirror(MatchCaseF, MatchCaseR, MatchOption);
-    mirror(WholeWordF, WholeWordR, WordOption);
-    wireKeepOnTop(*this);
-    wireButtons(*this);
-    LineToFind.GotFocus = quietly([this] { LineToFind.SelectAll(); });
+    window.form.Caption = "Find and replace";
+    window.form.Close = [&window] { Form_Unload(window); };
+    window.SSTab1.Tabs(findTab::find).Caption = "Find";
+    window.SSTab1.Tabs(findTab::replace).Caption = "Replace";
+    window.SSTab1.Tabs(findTab::line).Caption = "Go to line";
+    window.SSTab1.Click = [&window] { SSTab1_Click(window); };
+    wirePage(window, findPage(window), window.connections);
+    wirePage(window, replacePage(window), window.connections);
+    mirror(window.MatchCaseF, window.MatchCaseR, window.MatchOption);
+    mirror(window.WholeWordF, window.WholeWordR, window.WordOption);
+    wireKeepOnTop(window);
+    wireButtons(window);
+    window.LineToFind.GotFocus = quietly([&window] { window.LineToFind.SelectAll(); });
 }
+
+} // namespace
 
 void wireFindAndReplace(FindAndReplace& window)
 {
+    wireControls(window);
     Menus& menus = window.editor.menus;
     menus.mnuEditFind.handler = [&window] { mnuEditFind_Click(window); };
     menus.mnuEditReplace.handler = [&window] { mnuEditReplace_Click(window); };

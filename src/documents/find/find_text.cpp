@@ -68,18 +68,6 @@ bool findText(FindAndReplace& window, const FindPage& page, const Steps& step)
 
 } // namespace
 
-FindPage findPage(FindAndReplace& window)
-{
-    return {window.ComboTextFind, window.OptionJoystickF, window.OptionMacroF,
-            window.MatchCaseF,    window.WholeWordF,      window.Command1};
-}
-
-FindPage replacePage(FindAndReplace& window)
-{
-    return {window.ComboTextReplaceFind, window.OptionJoystickR, window.OptionMacroR,
-            window.MatchCaseR,           window.WholeWordR,      window.Command3};
-}
-
 void Command1_Click(FindAndReplace& window)
 {
     const Steps step(window.editor.shared.errors, "FIND Command1_Click");

@@ -1,24 +1,8 @@
 #pragma once
 
-#include "documents/find/find_and_replace.h"
+#include "documents/find/find_window.h"
 
 namespace tarvex {
-
-/// What the find tab and the replace tab both have.
-struct FindPage {
-    ComboBox& text; ///< to find
-    OptionButton& joystick;
-    OptionButton& macro;
-    CheckBox& matchCase;
-    CheckBox& wholeWord;
-    Button& find;
-};
-FindPage findPage(FindAndReplace& window);
-FindPage replacePage(FindAndReplace& window);
-
-/// What the button of a search says: whether the search begins at the top or goes on behind the last match.
-inline constexpr char findFirst[] = "Find first";
-inline constexpr char findNext[] = "Find next";
 
 /// Finds the first or next match in the chosen document.
 void Command1_Click(FindAndReplace& window);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/find/find_and_replace.h"
+#include "documents/find/find_window.h"
 
 namespace tarvex {
 

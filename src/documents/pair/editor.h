@@ -1,11 +1,11 @@
 #pragma once
 
 #include "documents/pair/colour_selector_state.h"
-#include "documents/pair/macro_record.h"
 #include "documents/pair/pair_record.h"
 #include "documents/pair/undo_history.h"
 #include "documents/recovery/journal_record.h"
 #include "documents/text/pane.h"
+#include "language/macro_record.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
 #include "shell/mum.h"

@@ -29,4 +29,10 @@ struct PairRecord {
     std::int16_t MacroTakeNewLevel = 1;
 };
 
+/// Text on its way into a pane.
+struct InsertionRecord {
+    std::string InsertText;        ///< bytes, as the pane holds them
+    std::int32_t InsertColour = 0; ///< what the caller chose for InsertText
+};
+
 } // namespace tarvex

@@ -5,6 +5,7 @@
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/undo_menus.h"
+#include "language/base_format.h"
 #include "platform/text.h"
 
 namespace tarvex {

@@ -4,15 +4,15 @@
 #include "language/commands/align_slashes.h"
 #include "language/commands/colour_highlighting.h"
 #include "language/commands/find_macro.h"
+#include "language/commands/identify_macros.h"
 #include "language/commands/layout_refresh.h"
+#include "language/commands/macro_file.h"
 #include "language/commands/macro_list_events.h"
+#include "language/commands/macro_lists.h"
 #include "language/commands/rem_block.h"
 #include "language/commands/remove_colour.h"
 #include "language/commands/slash_buttons.h"
 #include "language/commands/update_macros.h"
-#include "language/identify_macros.h"
-#include "language/macro_analysis.h"
-#include "language/macro_file_lines.h"
 
 namespace tarvex {
 

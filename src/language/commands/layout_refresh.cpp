@@ -1,6 +1,5 @@
 #include "language/commands/layout_refresh.h"
 
-#include "documents/editing/pane_change.h"
 #include "documents/pair/document_status.h"
 #include "language/base_format.h"
 #include "language/commands/coloured_insertion.h"

@@ -1,27 +1,9 @@
 #include "language/commands/macro_keys.h"
 
+#include "language/macro_file_lines.h"
 #include "platform/windows1252.h"
 
-#include <algorithm>
-
 namespace tarvex {
-
-namespace {
-
-bool beginsWith(std::string_view line, std::string_view start)
-{
-    const auto lower = [](char character) { return windows1252Lower[static_cast<unsigned char>(character)]; };
-    return line.size() >= start.size() && std::ranges::equal(line.substr(0, start.size()), start, {}, lower, lower);
-}
-
-} // namespace
-
-const std::string* definitionOf(const std::vector<std::string>& lines, std::string_view name)
-{
-    const std::string start = std::string(name) + " =";
-    const auto line = std::ranges::find_if(lines, [&](const std::string& text) { return beginsWith(text, start); });
-    return line == lines.end() ? nullptr : &*line;
-}
 
 void ShowMacroKeys(Editor& editor)
 {

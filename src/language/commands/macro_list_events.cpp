@@ -4,8 +4,8 @@
 #include "documents/pair/editor_layout.h"
 #include "language/commands/find_macro.h"
 #include "language/commands/macro_keys.h"
+#include "language/commands/macro_lists.h"
 #include "language/commands/side_caret.h"
-#include "language/macro_analysis.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>

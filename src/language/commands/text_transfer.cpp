@@ -1,7 +1,6 @@
 #include "language/commands/text_transfer.h"
 
 #include "documents/editing/line_highlight.h"
-#include "documents/editing/pane_change.h"
 #include "documents/pair/protected_pane.h"
 #include "language/base_format.h"
 #include "language/commands/colour_highlighting.h"

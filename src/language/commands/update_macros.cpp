@@ -1,8 +1,8 @@
 #include "language/commands/update_macros.h"
 
 #include "documents/pair/loading.h"
-#include "language/macro_analysis.h"
-#include "language/macro_file_lines.h"
+#include "language/commands/macro_file.h"
+#include "language/commands/macro_lists.h"
 
 namespace tarvex {
 

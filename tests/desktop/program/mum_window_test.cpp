@@ -1,6 +1,6 @@
 #include "desktop/program/mum_window.h"
 
-#include "desktop/shell/menu_view.h"
+#include "desktop/menus/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
 #include "shell/appearance.h"
 #include "support/test_program.h"

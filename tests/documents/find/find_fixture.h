@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/find/find_and_replace.h"
 #include "documents/find/find_text.h"
 #include "documents/find/replace_text.h"
 #include "support/test_program.h"

@@ -1,4 +1,3 @@
-#include "documents/find/find_text.h"
 
 #include "find_fixture.h"
 

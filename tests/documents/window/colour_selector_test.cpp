@@ -1,6 +1,7 @@
 #include "documents/window/colour_selector.h"
 
 #include "documents/editing/undo.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/tabs.h"
 #include "documents/window/toolbar.h"
 #include "support/test_program.h"

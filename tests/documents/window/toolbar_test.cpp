@@ -1,6 +1,7 @@
 #include "documents/window/toolbar.h"
 
 #include "documents/editing/clipboard_commands.h"
+#include "documents/pair/document_status.h"
 #include "documents/pair/tabs.h"
 #include "support/test_program.h"
 

@@ -103,8 +103,7 @@ TEST_F(ColourTest, PortIsPaintedUpToTheNextCapitalSWhichMayStandInALaterLine)
 
 TEST_F(ColourTest, PortIsNotColouredInAMacroFile) { EXPECT_EQ(macroColours("PortB1 IS H1U"), "............."); }
 
-// ---- what takes brackets
-// ----------------------------------------------------------------------------------------------
+// ---- what takes brackets --------------------------------------------------------------------------------------------
 
 TEST_F(ColourTest, OfARawStatementTheWordAndItsBracketsAreColoured)
 {
@@ -137,8 +136,7 @@ TEST_F(ColourTest, ComparisonsAreWholeWordsInAMacroFileOnly)
     EXPECT_EQ(macroColours("XDELAY(5)"), ".RRRRR...");
 }
 
-// ---- slashes
-// ----------------------------------------------------------------------------------------------------------
+// ---- slashes --------------------------------------------------------------------------------------------------------
 
 TEST_F(ColourTest, ASlashBehindABlankIsColouredWithTheNextCharacter)
 {
@@ -166,8 +164,7 @@ TEST_F(ColourTest, ASlashAtTheVeryStartOfTheTextIsReportedAndNotColoured)
     EXPECT_EQ(errors().ErrorProcedure, "ApplyMacroColourHighlighting");
 }
 
-// ---- comments
-// -----------------------------------------------------------------------------------------------------------
+// ---- comments -------------------------------------------------------------------------------------------------------
 
 TEST_F(ColourTest, ACommentIsPaintedOverTheStatementInIt)
 {
@@ -190,8 +187,7 @@ TEST_F(ColourTest, SlashesBeforeADefinitionAreACommentToTheColouring)
     EXPECT_EQ(macroColours("// a = b"), "CCCCCCCC");
 }
 
-// ---- the run
-// ------------------------------------------------------------------------------------------------------------
+// ---- the run --------------------------------------------------------------------------------------------------------
 
 TEST_F(ColourTest, EmptyTextIsOnlyTold)
 {
@@ -428,8 +424,7 @@ TEST_F(ColourTest, ThePopUpMenuColoursTheFileOfTheSelectedTab)
     EXPECT_EQ(coloursOf(macro(), t.settings()), "....SS..");
 }
 
-// ---- removing
-// -----------------------------------------------------------------------------------------------------------
+// ---- removing -------------------------------------------------------------------------------------------------------
 
 struct RemoveColourTest : ColourTest {
     RemoveColourTest()

@@ -130,8 +130,7 @@ TEST_F(InsertionTest, InsertCarriageReturnWritesOneLineEndAndLeavesASelectionAlo
     EXPECT_EQ(editor.pair.JoystickCaret, 3);
 }
 
-// ---- one edit
-// -----------------------------------------------------------------------------------------------------------
+// ---- one edit -------------------------------------------------------------------------------------------------------
 
 TEST_F(InsertionTest, AWholeInsertionIsOneEditAndOneUndoStep)
 {
@@ -193,8 +192,7 @@ TEST_F(InsertionTest, TheMacroPaneHasItsOwnUndoStep)
     EXPECT_EQ(macro.Text(), "A = a");
 }
 
-// ---- CheckAtLineBeginning
-// -----------------------------------------------------------------------------------------------
+// ---- CheckAtLineBeginning -------------------------------------------------------------------------------------------
 
 TEST_F(InsertionTest, CheckAtLineBeginningDoesNothingInAnEmptyPaneOrOverASelection)
 {

@@ -35,8 +35,7 @@ struct LayoutTest : testing::Test {
     }
 };
 
-// ---- reformat and refresh indent
-// ---------------------------------------------------------------------------------------
+// ---- reformat and refresh indent ------------------------------------------------------------------------------------
 
 TEST_F(LayoutTest, ReformatTakesColoursAndFontsFromTheWholeText)
 {
@@ -116,8 +115,7 @@ TEST_F(LayoutTest, RefreshIndentKeepsFontsAndColours)
     EXPECT_EQ(t.status(), "Layout refreshed ... (I wish I was!)");
 }
 
-// ---- AlignSlashes
-// -------------------------------------------------------------------------------------------------------
+// ---- AlignSlashes ---------------------------------------------------------------------------------------------------
 
 TEST_F(LayoutTest, AlignSlashesRewritesThePaneAsOneEditInThePlainFormat)
 {
@@ -212,8 +210,7 @@ TEST_F(LayoutTest, AlignForLayoutsLeavesItsOutputInTheFileAndNeverIndents)
     EXPECT_EQ(joystick.Text(), "BTN  S1");
 }
 
-// ---- comment blocks
-// -----------------------------------------------------------------------------------------------------
+// ---- comment blocks -------------------------------------------------------------------------------------------------
 
 TEST_F(LayoutTest, REMblockCommentsOutTheCaretsLine)
 {

@@ -43,8 +43,7 @@ struct ListEventsTest : testing::Test {
     }
 };
 
-// ---- Combo1
-// -------------------------------------------------------------------------------------------------------------
+// ---- Combo1 ---------------------------------------------------------------------------------------------------------
 
 TEST_F(ListEventsTest, AHeadingShowsItsListAndPicksTheFirstMacro)
 {
@@ -93,8 +92,7 @@ TEST_F(ListEventsTest, TheComboPromptsAndEndsTheSizingPointer)
     EXPECT_EQ(frame.MousePointer.get(), MousePointer::Default);
 }
 
-// ---- ShowMacroKeys
-// ------------------------------------------------------------------------------------------------------
+// ---- ShowMacroKeys --------------------------------------------------------------------------------------------------
 
 TEST_F(ListEventsTest, AKeyInTheListShowsTheMacrosDefinition)
 {
@@ -139,8 +137,7 @@ TEST_F(ListEventsTest, AMacroDefinedTwiceShowsItsFirstDefinition)
     EXPECT_EQ(t.status(), "stop = first");
 }
 
-// ---- keys and mouse
-// -----------------------------------------------------------------------------------------------------
+// ---- keys and mouse -------------------------------------------------------------------------------------------------
 
 TEST_F(ListEventsTest, ShiftAloneAlsoShowsWhereTheMacroIsUsed)
 {
@@ -233,8 +230,7 @@ TEST_F(ListEventsTest, TheRightButtonPopsUpNothingOnAnEmptyList)
     EXPECT_EQ(editor.macros.ListClicked, 0U);
 }
 
-// ---- double click
-// -------------------------------------------------------------------------------------------------------
+// ---- double click ---------------------------------------------------------------------------------------------------
 
 TEST_F(ListEventsTest, DoubleClickAtTheStartOfTheTextAddsNoBlankInFront)
 {

@@ -30,11 +30,11 @@ QString plainCaption(const MenuItem& item)
 
 } // namespace
 
-ToolbarView::ToolbarView(Program& program, QWidget* parent)
-    : QWidget(parent), m_program(program), m_extension(new QToolButton(this)),
+ToolbarView::ToolbarView(Editor& editor, QWidget* parent)
+    : QWidget(parent), m_editor(editor), m_extension(new QToolButton(this)),
       m_layout(new ToolbarLayout(m_extension, this))
 {
-    ToolBar& bar = program.mum.Toolbar1;
+    ToolBar& bar = editor.mum.Toolbar1;
     setObjectName(QStringLiteral("Toolbar1"));
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -69,8 +69,7 @@ void ToolbarView::addSeparator(int number)
     separator->setMouseTracking(true);
     m_layout->addSeparator(separator);
     m_slots[number] = {.action = nullptr, .widget = separator, .icon = {}};
-    m_bindings.bind(m_program.mum.Toolbar1.Buttons(number).Visible,
-                    [separator](bool on) { separator->setVisible(on); });
+    m_bindings.bind(m_editor.mum.Toolbar1.Buttons(number).Visible, [separator](bool on) { separator->setVisible(on); });
 }
 
 void ToolbarView::addSlot(const ToolbarSlot& slot)
@@ -87,8 +86,8 @@ void ToolbarView::addSlot(const ToolbarSlot& slot)
     if (slot.number == pictureSlot) {
         button->setObjectName(QStringLiteral("Picture1"));
         action->setText(QStringLiteral("Colour of text at cursor"));
-        m_bindings.follow(m_program.mum.Picture1PlaceWanted, [this] { reportPicture(); });
-        m_bindings.follow(m_program.mum.Picture1, [this, &slot] { showPicture(slot); });
+        m_bindings.follow(m_editor.mum.Picture1PlaceWanted, [this] { reportPicture(); });
+        m_bindings.follow(m_editor.mum.Picture1, [this, &slot] { showPicture(slot); });
     }
     followSlot(slot, *action);
 }
@@ -107,7 +106,7 @@ QToolButton* ToolbarView::makeButton(QAction& action)
 void ToolbarView::followSlot(const ToolbarSlot& slot, QAction& action)
 {
     const auto show = [this, &slot] { showSlot(slot); };
-    ToolBar::Slot& state = m_program.mum.Toolbar1.Buttons(slot.number);
+    ToolBar::Slot& state = m_editor.mum.Toolbar1.Buttons(slot.number);
     m_bindings.follow(state.Enabled, show);
     m_bindings.bind(state.ToolTipText, [&action](const std::string& tip) { action.setToolTip(toQt(tip)); });
     QWidget* button = m_slots[slot.number].widget;
@@ -115,10 +114,10 @@ void ToolbarView::followSlot(const ToolbarSlot& slot, QAction& action)
         action.setVisible(on);
         button->setVisible(on);
     });
-    if (slot.macro != nullptr) m_bindings.follow(m_program.editor.TabStrip1.SelectedItem, show);
+    if (slot.macro != nullptr) m_bindings.follow(m_editor.TabStrip1.SelectedItem, show);
     for (MenuItem Menus::*command : {slot.joystick, slot.macro, slot.both.command}) {
         if (command == nullptr) continue;
-        MenuItem& item = m_program.menus.*command;
+        MenuItem& item = m_editor.menus.*command;
         m_bindings.follow(item.Enabled, show);
         m_bindings.follow(item.Checked, show);
         m_bindings.follow(item.Caption, show);
@@ -129,10 +128,10 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
 {
     Shown& shown = m_slots[slot.number];
     QAction& action = *shown.action;
-    action.setEnabled(toolbarOffers(m_program.editor, slot.number));
+    action.setEnabled(toolbarOffers(m_editor, slot.number));
     if (slot.number == pictureSlot) return showPicture(slot);
-    const MenuItem* command = toolbarCommand(m_program.editor, slot.number);
-    const bool both = toolbarMeansBoth(m_program.editor, slot);
+    const MenuItem* command = toolbarCommand(m_editor, slot.number);
+    const bool both = toolbarMeansBoth(m_editor, slot);
     const QString icon = toolbarIcon(slot.number) + (both ? QStringLiteral("-both") : QString());
     if (icon != shown.icon) action.setIcon(themeIcon(icon));
     shown.icon = icon;
@@ -144,7 +143,7 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
 void ToolbarView::showPicture(const ToolbarSlot& slot)
 {
     const auto* button = static_cast<QToolButton*>(m_slots[slot.number].widget);
-    m_slots[slot.number].action->setIcon(swatch(toQt(m_program.mum.Picture1.get()), *button));
+    m_slots[slot.number].action->setIcon(swatch(toQt(m_editor.mum.Picture1.get()), *button));
 }
 
 void ToolbarView::showAll()
@@ -168,9 +167,9 @@ void ToolbarView::scaleIcons()
 void ToolbarView::press(const ToolbarSlot& slot)
 {
     if (slot.number == pictureSlot) {
-        Picture1_Click(m_program.editor);
+        Picture1_Click(m_editor);
     } else {
-        Toolbar1_ButtonClick(m_program.editor, slot.number);
+        Toolbar1_ButtonClick(m_editor, slot.number);
     }
 }
 
@@ -180,14 +179,14 @@ void ToolbarView::reportPicture()
     const QWidget* picture = m_slots[pictureSlot].widget;
     const QWidget* seen = m_layout->isLeftOut(picture) ? m_extension : picture;
     const QPoint corner = seen->mapToGlobal(QPoint(0, 0));
-    m_program.mum.Picture1Place = {corner.x(), corner.y(), seen->width(), seen->height()};
+    m_editor.mum.Picture1Place = {corner.x(), corner.y(), seen->width(), seen->height()};
 }
 
 void ToolbarView::reportPlaces()
 {
     for (const auto& [number, shown] : m_slots) {
         const QRect place = shown.widget->isVisible() ? shown.widget->geometry() : QRect();
-        m_program.mum.Toolbar1.Buttons(number).Place = {place.x(), place.y(), place.width(), place.height()};
+        m_editor.mum.Toolbar1.Buttons(number).Place = {place.x(), place.y(), place.width(), place.height()};
     }
 }
 
@@ -196,10 +195,10 @@ void ToolbarView::mouseMoveEvent(QMouseEvent* event) { hover(*event, event->posi
 /// `at` is a point of the bar.
 void ToolbarView::hover(const QMouseEvent& event, QPointF at)
 {
-    if (childAt(at.toPoint()) == m_slots[pictureSlot].widget) return Picture1_MouseMove(m_program.editor);
+    if (childAt(at.toPoint()) == m_slots[pictureSlot].widget) return Picture1_MouseMove(m_editor);
     reportPlaces();
-    Toolbar1_MouseMove(m_program.editor, toLogic(event.buttons()), toLogic(event.modifiers()),
-                       static_cast<float>(at.x()), static_cast<float>(at.y()));
+    Toolbar1_MouseMove(m_editor, toLogic(event.buttons()), toLogic(event.modifiers()), static_cast<float>(at.x()),
+                       static_cast<float>(at.y()));
 }
 
 /// A disabled button keeps the mouse to itself. And Qt shows the command's name where there is no tip, though the user
@@ -211,10 +210,10 @@ bool ToolbarView::eventFilter(QObject* watched, QEvent* event)
         hover(move, static_cast<QWidget*>(watched)->mapToParent(move.position()));
     }
     if (event->type() == QEvent::ToolTip) {
-        const bool off = m_program.shared.settings.OKtoShowToolTips != 1;
+        const bool off = m_editor.shared.settings.OKtoShowToolTips != 1;
         for (const auto& [number, shown] : m_slots) {
             if (shown.widget != watched) continue;
-            return off || m_program.mum.Toolbar1.Buttons(number).ToolTipText.get().empty();
+            return off || m_editor.mum.Toolbar1.Buttons(number).ToolTipText.get().empty();
         }
     }
     return QWidget::eventFilter(watched, event);

@@ -2,7 +2,7 @@
 
 #include "desktop/bind.h"
 #include "desktop/documents/window/toolbar_layout.h"
-#include "program/program.h"
+#include "documents/pair/editor.h"
 
 #include <QWidget>
 
@@ -18,7 +18,7 @@ struct ToolbarSlot;
 /// Toolbar1: all its slots by their numbers, and Picture1 in the place of its own. Slot 3 is the action "Toolbar1_3".
 class ToolbarView : public QWidget {
 public:
-    explicit ToolbarView(Program& program, QWidget* parent = nullptr);
+    explicit ToolbarView(Editor& editor, QWidget* parent = nullptr);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,7 +46,7 @@ private:
     void reportPlaces();
     void popUpExtension();
 
-    Program& m_program;
+    Editor& m_editor;
     QToolButton* m_extension;
     ToolbarLayout* m_layout;
     std::map<int, Shown> m_slots;

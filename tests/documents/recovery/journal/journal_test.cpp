@@ -2,7 +2,7 @@
 
 #include "documents/files/auto_save.h"
 #include "documents/recovery/journal/recovery_journal.h"
-#include "open_pair.h"
+#include "documents/recovery/open_pair.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
-#include "desktop/shell/menu_view.h"
+#include "desktop/menus/menu_view.h"
 
-#include "desktop/shell/menu_array_view.h"
+#include "desktop/menus/menu_array_view.h"
+#include "desktop/menus/menu_item_view.h"
 #include "documents/editing/pane_keys.h"
 
 #include <QAction>
@@ -15,22 +16,6 @@ namespace tarvex {
 namespace {
 
 constexpr char dividerCaption[] = "-";
-
-void bindCommand(MenuItem& item, QAction& action, Bindings& bindings)
-{
-    action.setObjectName(toQt(item.Name));
-    bindings.bind(item.Enabled, [&action, &item](bool on) { action.setEnabled(on && item.handler); });
-    bindings.bind(item.Visible, [&action](bool on) { action.setVisible(on); });
-    bindings.bind(item.Checked, [&action](bool on) {
-        if (on) action.setCheckable(true); // a command that is never ticked has no box
-        action.setChecked(on);
-    });
-    // The tick is the command's business, not the click's.
-    QObject::connect(&action, &QAction::triggered, &action, [&item, &action] {
-        item.Click();
-        action.setChecked(item.Checked);
-    });
-}
 
 /// These keys go to the pane of the selected tab, each to the command that it has there.
 bool isPaneKey(const std::string& keys)
@@ -69,26 +54,6 @@ void addMenu(QMenu& subMenu, const MenuEntry& entry, Bindings& bindings)
 }
 
 } // namespace
-
-void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys)
-{
-    bindCommand(item, action, bindings);
-    bindings.bind(item.Caption, [&action, shownKeys](const std::string& caption) {
-        action.setText(shownKeys.isEmpty() ? toQt(caption) : toQt(caption) + u'\t' + shownKeys);
-    });
-}
-
-void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings)
-{
-    bindCommand(item, action, bindings);
-    bindings.bind(item.Caption, [&action](const std::string& caption) {
-        QString text = withoutAccessKeys(toQt(caption));
-        for (QChar& character : text) {
-            if (!character.isPrint()) character = u' '; // a tab would part the keys from the caption
-        }
-        action.setText(text);
-    });
-}
 
 void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, Bindings& bindings)
 {

@@ -1,13 +1,8 @@
 #pragma once
 
 #include "desktop/bind.h"
-#include "shell/menus.h"
-
-#include <vector>
 
 class QAction;
-class QMenu;
-class QMenuBar;
 
 namespace tarvex {
 
@@ -16,9 +11,5 @@ namespace tarvex {
 void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys = {});
 /// The same for an item whose caption is a text of the user's, without access key.
 void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings);
-
-/// Fills a menu. Dividers that would divide nothing aren't seen.
-void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, Bindings& bindings);
-void fillMenuBar(QMenuBar& bar, const std::vector<MenuEntry>& entries, Bindings& bindings);
 
 } // namespace tarvex

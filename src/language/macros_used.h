@@ -1,6 +1,6 @@
 #pragma once
 
-#include "documents/pair/editor.h"
+#include "documents/text/pane.h"
 
 #include <string_view>
 
@@ -17,9 +17,5 @@ bool isMacroUsed(Pane& text, std::string_view name);
 /// program says `nothingToIdentify`.
 bool canIdentify(const Pane& joystick, const Pane& macros);
 extern const std::string_view nothingToIdentify;
-
-/// Ticks every macro of the lists that the joystick file uses.
-void IdentifyMacrosUsed(Editor& editor);
-void ClearMacroTicks(Editor& editor);
 
 } // namespace tarvex

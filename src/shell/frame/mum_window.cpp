@@ -1,4 +1,4 @@
-#include "shell/mum_window.h"
+#include "shell/frame/mum_window.h"
 
 #include "shell/hardware/hardware_profile.h"
 

@@ -1,6 +1,6 @@
-#include "desktop/shell/menu_array_view.h"
+#include "desktop/menus/menu_array_view.h"
 
-#include "desktop/shell/menu_view.h"
+#include "desktop/menus/menu_item_view.h"
 
 #include <QAction>
 #include <QMenu>

@@ -19,10 +19,4 @@ struct MacroRecord {
     std::size_t ListClicked = 0;             ///< index in List1 of the list that the pop-up menu is for
 };
 
-/// Text on its way into a pane.
-struct InsertionRecord {
-    std::string InsertText;        ///< bytes, as the pane holds them
-    std::int32_t InsertColour = 0; ///< what the caller chose for InsertText
-};
-
 } // namespace tarvex

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "documents/pair/editor.h"
+#include "documents/text/pane.h"
+#include "shell/errors.h"
 
 #include <string_view>
 
@@ -10,9 +11,5 @@ namespace tarvex {
 /// next statement's head that is no line end. A statement of "PortB" begins four characters earlier; where there are
 /// fewer, that step fails. False without such a head; the selection then stays.
 bool selectStatement(Pane& pane, std::string_view head, const Steps& step);
-
-/// The same in the joystick pane, whose tab is selected. JoystickSelectionLength takes the selection's length.
-/// False: nothing was found, or nothing is there.
-bool ExtractButtonDefinition(Editor& editor, std::string_view head);
 
 } // namespace tarvex

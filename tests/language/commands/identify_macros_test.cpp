@@ -1,8 +1,8 @@
-#include "language/identify_macros.h"
+#include "language/commands/identify_macros.h"
+#include "language/commands/macro_lists.h"
 
-#include "language/button_definition.h"
+#include "language/commands/button_definition.h"
 #include "language/commands/find_macro.h"
-#include "language/macro_analysis.h"
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
@@ -212,8 +212,7 @@ TEST_F(IdentifyTest, TicksAreNotSavedButMadeAgainOnRequest)
     EXPECT_THAT(ticked(), ElementsAre("Fire"));
 }
 
-// ---- FindMacroInJF
-// ------------------------------------------------------------------------------------------------------
+// ---- FindMacroInJF --------------------------------------------------------------------------------------------------
 
 struct FindMacroTest : testing::Test {
     TestProgram t;
@@ -262,8 +261,7 @@ TEST_F(FindMacroTest, WithoutAUseNothingMoves)
     EXPECT_EQ(editor.pair.JoystickCaret, 3);
 }
 
-// ---- ExtractButtonDefinition
-// ---------------------------------------------------------------------------------------------
+// ---- ExtractButtonDefinition ----------------------------------------------------------------------------------------
 
 struct StatementTest : testing::Test {
     TestProgram t;

@@ -1,4 +1,4 @@
-#include "documents/pair/associated_files.h"
+#include "language/associated_files.h"
 
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"

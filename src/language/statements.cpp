@@ -1,4 +1,4 @@
-#include "language/button_definition.h"
+#include "language/statements.h"
 
 #include <algorithm>
 
@@ -51,27 +51,6 @@ bool selectStatement(Pane& pane, std::string_view head, const Steps& step)
     if (head.starts_with("PortB")) step([&] { pane.setSelStart(start - 4); }); // with the "BTN " before it
     pane.setSelLength(next - start);
     return true;
-}
-
-bool ExtractButtonDefinition(Editor& editor, std::string_view head)
-{
-    const Steps step(editor.shared.errors, "ED_ExtractButtonDefinition");
-    Side& side = editor.joystick;
-    if (side.pane.TextLength() == 0) return false;
-    if (editor.TabStrip1.SelectedItem != side.tab) step([&] { editor.TabStrip1.Select(side.tab); });
-    const float caret = side.Caret;
-    side.Caret = 0;
-    bool found = false;
-    step([&] {
-        found = selectStatement(side.pane, head, step);
-        if (found) {
-            side.SelectionLength = static_cast<std::int32_t>(side.pane.SelLength());
-        } else {
-            side.Caret = caret;
-            side.pane.setSelStart(static_cast<std::int64_t>(caret));
-        }
-    });
-    return found;
 }
 
 } // namespace tarvex
