@@ -1,5 +1,7 @@
 #include "scan_code_balance.h"
 
+#include "safein/keys/key_table.h"
+
 #include <regex>
 #include <set>
 #include <sstream>
@@ -8,17 +10,14 @@ namespace examples {
 
 namespace {
 
-/// Make codes of the keys without a prefix, in the rows of the keyboard's own table.
-const std::set<std::string> plainKeys = {
-    "1C", "32", "21", "23", "24", "2B", "34", "33", "43", "3B", "42", "4B", "3A", "31", "44", "4D", "15",
-    "2D", "1B", "2C", "3C", "2A", "1D", "22", "35", "1A", "16", "1E", "26", "25", "2E", "36", "3D", "3E",
-    "46", "45", "0E", "4E", "55", "5D", "54", "5B", "4C", "52", "41", "49", "4A", "76", "0D", "58", "29",
-    "5A", "66", "12", "59", "14", "11", "05", "06", "04", "0C", "03", "0B", "83", "0A", "01", "09", "78",
-    "07", "77", "7E", "7C", "7B", "79", "71", "70", "69", "72", "7A", "6B", "73", "74", "6C", "75", "7D"};
-/// Make codes behind #E0; 12 is the fake shift around the grey keys.
-const std::set<std::string> greyKeys = {"14", "11", "70", "71", "6C", "69", "7D", "7A",
-                                        "75", "72", "6B", "74", "4A", "5A", "12", "7C"};
 const std::string pauseKey = "#E1 #14 #77 #E1 #F0 #14 #F0 #77";
+
+/// A fake shift around a grey key counts like a key here: it must come up again too.
+bool isKeyCode(const std::string& code, bool grey)
+{
+    const auto byte = static_cast<std::uint8_t>(std::stoul(code, nullptr, 16));
+    return tarvex::keyOfCode(byte, grey) != nullptr || (grey && tarvex::isFakeShift(byte));
+}
 
 class KeyStream {
 public:
@@ -45,7 +44,7 @@ private:
     }
     void key(const std::string& code)
     {
-        if (!(m_grey ? greyKeys : plainKeys).contains(code)) m_problems.push_back("no key: " + code);
+        if (!isKeyCode(code, m_grey)) m_problems.push_back("no key: " + code);
         const std::string name = (m_grey ? "E0 " : "") + code;
         const bool changed = m_break ? m_down.erase(name) == 1 : m_down.insert(name).second;
         if (!changed) m_problems.push_back((m_break ? "broken but not down: " : "made twice: ") + name);
