@@ -8,8 +8,9 @@ namespace tarvex::cli {
 /// What ends tarvexctl.
 namespace exitStatus {
 constexpr int done = 0;
-constexpr int wrongCall = 2; ///< or a file that can't be read
-constexpr int held = 3;      ///< a pass was held; the result is printed all the same
+constexpr int wrongCall = 2;   ///< or a file that can't be read
+constexpr int held = 3;        ///< a pass was held; the result is printed all the same
+constexpr int unknownCode = 3; ///< raw codes that no key has; the others are printed all the same
 constexpr int nothingToAnalyse = 4;
 } // namespace exitStatus
 

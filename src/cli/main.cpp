@@ -1,5 +1,6 @@
 #include "cli/colour_command.h"
 #include "cli/input.h"
+#include "cli/key_commands.h"
 #include "cli/layout_command.h"
 #include "cli/macro_commands.h"
 #include "cli/statement_command.h"
@@ -26,10 +27,12 @@ constexpr const char* teaching = R"(Examples:
   tarvexctl used mig.b50 mig.m50              which macros the joystick file uses
   tarvexctl align mig.b50 > aligned.b50       line up the slash modifiers
   tarvexctl statement mig.b50 H1U             what the hat does when pushed up
+  tarvexctl key DEL --ctrl                    what Ctrl+Delete is called, and its codes
+  tarvexctl raw '#12 #1C #F0 #1C #F0 #12'     which keys raw codes press and release
 
 Exit status: 0 done; 2 a wrong call, or a file that can't be read; 3 a search
-would never have ended (an unclosed bracket), the result is printed all the same;
-4 there is nothing to analyse, or no such statement.
+would never have ended (an unclosed bracket), or raw codes are no key's, the result
+is printed all the same; 4 there is nothing to analyse, no such statement or key.
 'tarvexctl COMMAND --help' tells more about a command; so does man tarvexctl.)";
 
 constexpr const char* colourTeaching =
@@ -70,6 +73,23 @@ whole word in any case, at its first place; the statement ends before the next
 BTN, RNG, ANT, MDEF, JSX, JSY, PORTB, USE, RATE, SWAPTG, THR or RDDR.
 
 JSON: {"start": n, "length": n, "text": "..."}; positions as those of colour.)";
+
+constexpr const char* keyTeaching =
+    R"(KEY is an index of the key table, 0 to 101, or a key's name as on an F-16 FLCS: a,
+DEL, KP5. A number is an index; 0 to 9 are the digit keys. Brk and Prt are Pause and
+Print Screen. The texts are the name in the controllers' language, and the raw codes
+that the key sends when it goes down, when it comes up, and both.
+
+JSON: {"index": n, "name": "...", "syntax": "...", "make": "...", "break": "...",
+       "combined": "..."}; with --all a list of these.)";
+
+constexpr const char* rawTeaching =
+    R"(TEXT holds scan codes as controller files have them: #12 #1C. In a text with RAW (...)
+only what stands in such brackets is read, all of them as one stream.
+
+JSON: {"events": [{"key": "LSFT", "down": true}, ...], "left_down": ["...", ...],
+       "unknown": [{"position": n, "text": "..."}, ...]}
+"left_down" names the keys that are never released; positions count bytes from 0.)";
 
 /// Called once the command line is known to be right; returns the exit status.
 using Work = std::function<int()>;
@@ -144,6 +164,33 @@ void addStatement(CLI::App& app, Work& work)
     command->add_flag("--json", options->json, "as JSON");
 }
 
+void addKey(CLI::App& app, Work& work)
+{
+    const auto [command, options] =
+        newCommand(app, work, keyCommand, "key", "Print a key's name and raw codes", keyTeaching);
+    CLI::Option_group* which = command->add_option_group("Key", "which key");
+    which->add_option("KEY", options->key, "index or name of a key");
+    which->add_flag("--all", options->all, "all keys of the keyboard");
+    which->require_option(1);
+    command->add_flag("--shift", options->shift, "with Shift held");
+    command->add_flag("--ctrl", options->ctrl, "with Ctrl held");
+    command->add_flag("--alt", options->alt, "with Alt held");
+    command->add_flag("--numlock", options->numLock, "with Num Lock on; counts with --extended");
+    command->add_flag("--no-shf", options->noShf, "A instead of SHF a");
+    command->add_flag("--extended", options->extended, "the extended codes of grey keys");
+    command->add_option("--joystick", options->joystick, "whose names to use, flcs by default")
+        ->check(CLI::IsMember({"f22", "flcs", "pfcs", "topgun", "fcs"}));
+    command->add_flag("--json", options->json, "as JSON");
+}
+
+void addRaw(CLI::App& app, Work& work)
+{
+    const auto [command, options] =
+        newCommand(app, work, rawCommand, "raw", "Print the key presses that raw codes stand for", rawTeaching);
+    command->add_option("TEXT", options->text, "raw codes; - reads standard input")->required();
+    command->add_flag("--json", options->json, "as JSON");
+}
+
 int fail(const std::string& text)
 {
     std::fprintf(stderr, "tarvexctl: %s\n", text.c_str());
@@ -172,6 +219,8 @@ int run(int argc, char** argv)
     addUsed(app, work);
     addAlign(app, work);
     addStatement(app, work);
+    addKey(app, work);
+    addRaw(app, work);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
