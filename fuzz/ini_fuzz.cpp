@@ -63,9 +63,16 @@ struct Difference {
     ProfileLines come;
 };
 
+/// The text of a file in UTF-16 as UTF-8, any other file as it is.
+std::string inBytes(const std::string& file)
+{
+    const auto order = utf16OrderOf(file);
+    return order ? utf8FromUtf16(file, *order) : file;
+}
+
 Difference differenceOf(const std::string& before, const std::string& after)
 {
-    Difference difference{splitProfileLines(before), splitProfileLines(after)};
+    Difference difference{splitProfileLines(inBytes(before)), splitProfileLines(inBytes(after))};
     auto& [gone, come] = difference;
     while (!gone.empty() && !come.empty() && gone.back() == come.back()) {
         gone.pop_back();
@@ -112,6 +119,7 @@ void run(const std::string& section, const std::string& key, const std::string& 
         check(file.bytes() == bytes, "a key that can't be is not written");
         return;
     }
+    check(bytes.empty() || utf16OrderOf(bytes) == utf16OrderOf(file.bytes()), "a file in UTF-16 stays in UTF-16");
     checkChange(differenceOf(bytes, file.bytes()));
     check(ini.readString(section, key, "none", ample) == expected, "a written value reads back");
     ProfileFile again(file, "c:\\Tarvex.ini");

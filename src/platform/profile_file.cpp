@@ -180,9 +180,12 @@ void ProfileFile::refresh() const
     m_loaded = true;
     m_readable = true;
     m_lines.clear();
+    m_utf16.reset();
     if (stamp.identity == 0) return;
     try {
-        m_lines = splitProfileLines(m_files.read(m_path));
+        const std::string bytes = m_files.read(m_path);
+        m_utf16 = utf16OrderOf(bytes);
+        m_lines = splitProfileLines(m_utf16 ? utf8FromUtf16(bytes, *m_utf16) : bytes);
     } catch (const std::exception&) {
         m_readable = false;
         m_loaded = false; // it may be readable the next time
@@ -196,7 +199,7 @@ void ProfileFile::flush() noexcept
     try {
         std::string bytes;
         for (const std::string& line : m_lines) bytes += line;
-        m_files.write(m_path, bytes);
+        m_files.write(m_path, m_utf16 ? utf16FromUtf8(bytes, *m_utf16) : bytes);
         m_stamp = m_files.stamp(m_path);
     } catch (const std::exception&) {
         m_loaded = false; // what the file holds counts

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/files.h"
+#include "platform/utf16.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +16,7 @@ namespace tarvex {
 ///
 /// Values are UTF-8 here. In the file they are Windows-1252; a value that the code page can't hold, or whose bytes
 /// would read as UTF-8, is written as UTF-8, and bytes that are valid UTF-8 are read as that. A file that begins with
-/// the UTF-8 mark gets UTF-8 only.
+/// the UTF-8 mark gets UTF-8 only, and one in UTF-16, with its mark, stays in UTF-16.
 ///
 /// A value ends at its first line break or NUL, in the file and in what is written, so that no value can break the
 /// file. A section name ends at "]" too, a key at "="; an empty key, or one that would make its line a comment or a
@@ -66,7 +68,8 @@ private:
     mutable bool m_loaded = false;
     mutable bool m_readable = false; ///< a file that is there but can't be read is never written over
     mutable FileStamp m_stamp;
-    mutable std::vector<std::string> m_lines; ///< each with its line end
+    mutable std::optional<Utf16Order> m_utf16; ///< set for a file in UTF-16, whose lines are UTF-8 here
+    mutable std::vector<std::string> m_lines;  ///< each with its line end
 };
 
 } // namespace tarvex

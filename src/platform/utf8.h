@@ -17,7 +17,7 @@ struct Utf8Character {
 /// surrogate, at most U+10FFFF) is a step of its own.
 Utf8Character firstUtf8Character(std::string_view text);
 
-/// Adds a code point that is no surrogate and at most U+10FFFF.
+/// Adds a code point of at most U+10FFFF. A surrogate gives three bytes that are no valid UTF-8.
 void appendUtf8(std::string& text, char32_t codePoint);
 
 constexpr bool isUtf8Continuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }

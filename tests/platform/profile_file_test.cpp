@@ -347,6 +347,84 @@ TEST_F(Profile, MissingDirectoryLosesTheWriteInSilence)
     EXPECT_EQ(other.readString("Games", "A", "default"), "default");
 }
 
+// ---- UTF-16 ---------------------------------------------------------------------------------------------------------
+
+namespace {
+
+const std::string utf8Mark = "\xEF\xBB\xBF";
+constexpr Utf16Order orders[] = {Utf16Order::LittleEndian, Utf16Order::BigEndian};
+
+} // namespace
+
+TEST_F(Profile, Utf16FileIsReadInBothOrders)
+{
+    for (const Utf16Order order : orders) {
+        fileHolds(utf16FromUtf8(utf8Mark + "[Games]\r\nKey=caf\u00E9 \u0416\r\nNumber=12\r\n", order));
+        EXPECT_EQ(read("Key"), "caf\u00E9 \u0416");
+        EXPECT_EQ(ini.readInt("Games", "Number", 0), 12);
+        EXPECT_EQ(ini.readStrings("Games", "Ke", 1, "none"), std::vector<std::string>{"none"});
+    }
+}
+
+TEST_F(Profile, Utf16FileKeepsItsFormCommentsOrderAndLineEnds)
+{
+    const std::string before = utf8Mark + "; \u00E4 \u4E2D\n[Other]\rX=1\r\n[Games]\r\nUnknown=\U0001F600\r\nKey=1\r\n";
+    for (const Utf16Order order : orders) {
+        fileHolds(utf16FromUtf8(before, order));
+        write("Key", "\u00FC\u0416");
+        write("New", "2");
+        const std::string after = utf8Mark + "; \u00E4 \u4E2D\n[Other]\rX=1\r\n[Games]\r\nUnknown=\U0001F600\r\n"
+                                             "Key=\u00FC\u0416\r\nNew=2\r\n";
+        EXPECT_EQ(bytes(), utf16FromUtf8(after, order));
+        ProfileFile again(files, path);
+        EXPECT_EQ(again.readString("Games", "Key", ""), "\u00FC\u0416");
+    }
+}
+
+TEST_F(Profile, Utf16FileIsWrittenByUnitsOfTwoBytes)
+{
+    fileHolds("\xFF\xFE[\0A\0]\0\r\0\n\0"s);
+    ini.writeString("A", "k", "\u20AC");
+    EXPECT_EQ(bytes(), "\xFF\xFE[\0A\0]\0\r\0\n\0k\0=\0\xAC\x20\r\0\n\0"s);
+    fileHolds("\xFE\xFF\0[\0A\0]"s);
+    ini.writeString("A", "k", "\u20AC");
+    EXPECT_EQ(bytes(), "\xFE\xFF\0[\0A\0]\0\r\0\n\0k\0=\x20\xAC\0\r\0\n"s);
+}
+
+TEST_F(Profile, Utf16FileWithAMarkAloneTakesItsFirstSection)
+{
+    fileHolds("\xFF\xFE");
+    write("Key", "1");
+    EXPECT_EQ(read("Key"), "1");
+    EXPECT_EQ(bytes(), utf16FromUtf8(utf8Mark + "\r\n[Games]\r\nKey=1\r\n", Utf16Order::LittleEndian));
+}
+
+TEST_F(Profile, EqualValueLeavesAUtf16FileUntouched)
+{
+    fileHolds(utf16FromUtf8(utf8Mark + "[Games]\r\nKey=\u0416\r\n", Utf16Order::LittleEndian));
+    write("Key", "\u0416");
+    EXPECT_TRUE(files.writes().empty());
+}
+
+TEST_F(Profile, HalfASurrogatePairInAUtf16FileStays)
+{
+    const std::string head = "\xFF\xFE[\0G\0a\0m\0e\0s\0]\0\n\0;\0\x3D\xD8\n\0"s;
+    fileHolds(head);
+    write("K", "1");
+    EXPECT_EQ(bytes(), head + "K\0=\0"
+                              "1\0\n\0"s);
+}
+
+TEST_F(Profile, FileThatTurnsFromUtf16IntoBytesIsReadAsBytes)
+{
+    fileHolds(utf16FromUtf8(utf8Mark + "[Games]\r\nKey=1\r\n", Utf16Order::LittleEndian));
+    EXPECT_EQ(read("Key"), "1");
+    fileHolds("[Games]\r\nKey=longer \xE9\r\n");
+    EXPECT_EQ(read("Key"), "longer \u00E9");
+    write("Key", "\u00E8");
+    EXPECT_EQ(bytes(), "[Games]\r\nKey=\xE8\r\n");
+}
+
 // ---- indexed families -----------------------------------------------------------------------------------------------
 
 /// Files in which a family is easy to misread.
@@ -357,6 +435,8 @@ const std::string oddFiles[] = {
     " [ gAMES ] \n sTEM1 = \"a\" \nSTEM01=zero\nStem1=second\n;Stem2=comment\nStem=none\nStem-1=no\n",
     "[Other]\r\nStem1=other\r\n[Games]\r\n\r\n; end\r\n\r\n[Games]\r\nStem2=later\r\n",
     "\xEF\xBB\xBF[Games]\nStem2=\xC3\xA4\nStem4=no line end",
+    "\xFF\xFE[\0G\0a\0m\0e\0s\0]\0\n\0S\0t\0e\0m\0"
+    "2\0=\0x\0"s,
     "[Games]\r\nStem99999999999999999999=large\r\nStem4=too far\r\nStem2x=no\r\n12=no\r\n",
 };
 
