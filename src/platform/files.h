@@ -56,7 +56,15 @@ public:
     }
     /// Replaces or creates the whole file: afterwards, whatever happens, the old or the new contents are there.
     virtual void write(const std::string& path, const std::string& bytes) = 0;
-    /// One level; the parent must exist. An existing directory is an error.
+    /// As write, for contents that nobody but the owner may access, whoever could access the file before.
+    virtual void writePrivate(const std::string& path, const std::string& bytes) { write(path, bytes); }
+    /// Copies a file of any size; nobody but the owner may access the copy. An existing file `to` is an error.
+    virtual void copyPrivate(const std::string& from, const std::string& to)
+    {
+        if (fileExists(to)) throw RuntimeError(ErrorCode::FileExists, "File already exists: " + to);
+        writePrivate(to, read(from));
+    }
+    /// One level, private to the owner; the parent must exist. An existing directory is an error.
     virtual void createDirectory(const std::string& path) = 0;
     /// A new file that nobody but its owner may look into; its directory is made (one level), likewise private, when it
     /// isn't there. An existing file is an error. A disk that is only read from has no such files.

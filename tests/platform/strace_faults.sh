@@ -40,7 +40,7 @@ check() {
     [ "$(ls -A "$place/work")" = mig.b50 ] || complain "$1: left behind: $(ls -A "$place/work")"
 }
 
-calls="openat write fsync close rename,renameat,renameat2 fchmod fstat,newfstatat,statx lstat,stat access,faccessat,faccessat2"
+calls="openat write fsync flock lgetxattr,llistxattr fsetxattr,fremovexattr close rename,renameat,renameat2 fchmod fstat,newfstatat,statx lstat,stat access,faccessat,faccessat2"
 for call in $calls; do
     names=?$(echo "$call" | sed 's/,/,?/g') # "?": not every kind of machine has every call
     prepare

@@ -21,6 +21,12 @@ template <typename Call> auto uninterrupted(Call call)
 
 } // namespace
 
+void requireRegular(const struct stat& status)
+{
+    if (S_ISDIR(status.st_mode)) throw systemError(EISDIR);
+    if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorCode::PathFileAccess, "Not a regular file", EINVAL);
+}
+
 OpenFile::OpenFile(SystemCalls& calls, const std::string& path, int flags, mode_t mode)
     : m_calls(calls), m_file(uninterrupted([&] { return calls.open(path, flags | O_CLOEXEC | O_NOCTTY, mode); }))
 {

@@ -8,6 +8,9 @@
 
 namespace tarvex {
 
+/// Throws RuntimeError for a directory, pipe, device or other special file.
+void requireRegular(const struct stat& status);
+
 /// A file that is open through SystemCalls; what fails throws RuntimeError.
 class OpenFile {
 public:

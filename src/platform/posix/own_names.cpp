@@ -1,10 +1,6 @@
 #include "platform/posix/own_names.h"
 
-#include <atomic>
-#include <cerrno>
-#include <charconv>
-#include <csignal>
-#include <unistd.h>
+#include <algorithm>
 
 namespace tarvex {
 
@@ -12,52 +8,49 @@ namespace {
 
 constexpr std::string_view temporaryStart = ".tarvex-save-";
 constexpr std::string_view copyMark = ".tarvex-copy-";
+constexpr std::string_view digits = "0123456789";
+constexpr std::string_view hexDigits = "0123456789abcdef";
+constexpr std::size_t endSize = 16; ///< 64 bits
 
-std::string uniqueEnd()
+std::string uniqueEnd(std::uint64_t random)
 {
-    static std::atomic<unsigned> count = 0;
-    return std::to_string(::getpid()) + "-" + std::to_string(++count);
+    std::string end(endSize, '0');
+    for (auto digit = end.rbegin(); digit != end.rend(); ++digit, random >>= 4) *digit = hexDigits[random & 0x0F];
+    return end;
 }
 
-/// "process-count" and nothing else.
-std::optional<pid_t> processOfEnd(std::string_view end)
+bool isNumber(std::string_view text)
 {
-    pid_t process = 0;
-    unsigned count = 0;
-    const char* const last = end.data() + end.size();
-    auto result = std::from_chars(end.data(), last, process);
-    if (result.ec != std::errc() || process <= 0 || result.ptr == last || *result.ptr != '-') return std::nullopt;
-    result = std::from_chars(result.ptr + 1, last, count);
-    if (result.ec != std::errc() || result.ptr != last) return std::nullopt;
-    return process;
+    return !text.empty() && text.find_first_not_of(digits) == std::string_view::npos;
+}
+
+/// 16 hexadecimal digits, or the "process-count" of earlier versions.
+bool isUniqueEnd(std::string_view end)
+{
+    if (end.size() == endSize && end.find_first_not_of(hexDigits) == std::string_view::npos) return true;
+    const std::size_t dash = std::min(end.find('-'), end.size());
+    return isNumber(end.substr(0, dash)) && dash < end.size() && isNumber(end.substr(dash + 1));
 }
 
 } // namespace
 
-std::string temporaryName() { return std::string(temporaryStart) + uniqueEnd(); }
+std::string temporaryName(std::uint64_t random) { return std::string(temporaryStart) + uniqueEnd(random); }
 
-std::string copyName(std::string_view name)
+std::string copyName(std::string_view name, std::uint64_t random)
 {
     constexpr std::size_t longest = 200; // leaves room for the end within the 255 bytes of a name
-    return std::string(name.substr(0, longest)).append(copyMark) + uniqueEnd();
+    return std::string(name.substr(0, longest)).append(copyMark) + uniqueEnd(random);
 }
 
-std::optional<pid_t> processOfTemporary(std::string_view name)
+bool isTemporaryName(std::string_view name)
 {
-    if (!name.starts_with(temporaryStart)) return std::nullopt;
-    return processOfEnd(name.substr(temporaryStart.size()));
+    return name.starts_with(temporaryStart) && isUniqueEnd(name.substr(temporaryStart.size()));
 }
 
-std::optional<pid_t> processOfCopy(std::string_view name)
+bool isCopyName(std::string_view name)
 {
     const std::size_t mark = name.rfind(copyMark);
-    if (mark == std::string_view::npos) return std::nullopt;
-    return processOfEnd(name.substr(mark + copyMark.size()));
-}
-
-bool isOtherLivingProcess(pid_t process)
-{
-    return process != ::getpid() && (::kill(process, 0) == 0 || errno == EPERM);
+    return mark != std::string_view::npos && isUniqueEnd(name.substr(mark + copyMark.size()));
 }
 
 } // namespace tarvex

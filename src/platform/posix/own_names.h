@@ -1,25 +1,21 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 
-// Names of the files that saving makes for itself: each tells its process, so that what a killed one has left behind
-// can be told from what a living one is writing.
+// Names of the files that saving makes for itself. They carry random bits and no process number: in containers and
+// after a restart the same number belongs to another process. What is in use is known by its lock instead.
 
 namespace tarvex {
 
-/// A hidden name for the new contents of a file, beside it. No two calls of one process give the same.
-std::string temporaryName();
+/// A hidden name for the new contents of a file, beside it.
+std::string temporaryName(std::uint64_t random);
 /// A name for the copy of a file of that name.
-std::string copyName(std::string_view name);
+std::string copyName(std::string_view name, std::uint64_t random);
 
-/// The process that made the name; nothing for a name of another kind.
-std::optional<pid_t> processOfTemporary(std::string_view name);
-std::optional<pid_t> processOfCopy(std::string_view name);
-
-/// The process is there and isn't this one.
-bool isOtherLivingProcess(pid_t process);
+/// Also true for the names of versions up to 0.1, which held process numbers.
+bool isTemporaryName(std::string_view name);
+bool isCopyName(std::string_view name);
 
 } // namespace tarvex

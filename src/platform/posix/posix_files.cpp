@@ -39,12 +39,6 @@ bool isReadOnlyFile(const std::string& native, const struct stat& status)
     return nobodyMayWrite || ::faccessat(AT_FDCWD, native.c_str(), W_OK, AT_EACCESS) < 0;
 }
 
-void requireRegular(const struct stat& status)
-{
-    if (S_ISDIR(status.st_mode)) throw systemError(EISDIR);
-    if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorCode::PathFileAccess, "Not a regular file", EINVAL);
-}
-
 /// Runs a call on a native path; "not found" tells whether the file or its directory is missing.
 template <typename Call> auto withErrorsOf(const std::string& native, Call call)
 {
@@ -123,11 +117,24 @@ void PosixFiles::write(const std::string& path, const std::string& bytes)
     withErrorsOf(native, [&] { m_writer.save(native, bytes); });
 }
 
+void PosixFiles::writePrivate(const std::string& path, const std::string& bytes)
+{
+    const std::string native = m_drives.toNative(path);
+    withErrorsOf(native, [&] { m_writer.savePrivate(native, bytes); });
+}
+
+void PosixFiles::copyPrivate(const std::string& from, const std::string& to)
+{
+    const std::string source = m_drives.toNative(from);
+    const std::string copy = m_drives.toNative(to);
+    withErrorsOf(copy, [&] { m_writer.copyPrivate(source, copy); });
+}
+
 void PosixFiles::createDirectory(const std::string& path)
 {
     const std::string native = m_drives.toNative(path);
     withErrorsOf(native, [&] {
-        if (::mkdir(native.c_str(), 0777) == 0) return;
+        if (::mkdir(native.c_str(), 0700) == 0) return;
         const int error = errno;
         if (error == EEXIST) throw RuntimeError(ErrorCode::PathFileAccess, systemError(error).what(), error);
         throw systemError(error);

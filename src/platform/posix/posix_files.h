@@ -21,6 +21,8 @@ public:
     std::string read(const std::string& path) const override;
     void readPieces(const std::string& path, const std::function<bool(std::string_view)>& take) const override;
     void write(const std::string& path, const std::string& bytes) override;
+    void writePrivate(const std::string& path, const std::string& bytes) override;
+    void copyPrivate(const std::string& from, const std::string& to) override;
     void createDirectory(const std::string& path) override;
     std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;
     void removeFile(const std::string& path) override;

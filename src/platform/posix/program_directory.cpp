@@ -56,6 +56,7 @@ void makeFilled(const fs::path& directory, const std::string& installedFiles)
             fs::copy(installedFiles, unfinished, fs::copy_options::recursive);
             makeWritable(unfinished);
         }
+        fs::permissions(unfinished, fs::perms::owner_all); // backups and notes of private files will lie in it
         fs::rename(unfinished, directory);
     } catch (const fs::filesystem_error&) {
         fs::remove_all(unfinished, ignored);

@@ -1,22 +1,23 @@
 #include "platform/posix/safe_writer.h"
 
+#include "platform/posix/file_rights.h"
+#include "platform/posix/left_overs.h"
 #include "platform/posix/open_file.h"
 #include "platform/posix/own_names.h"
 #include "platform/posix/system_error.h"
 
-#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <ctime>
 #include <fcntl.h>
-#include <filesystem>
 #include <unistd.h>
 
 namespace tarvex {
 
 namespace {
 
-constexpr mode_t permissions = 07777;
+constexpr mode_t privateMode = 0600;
 
 /// Errors of a folder that takes no new file, or of a file that can't be replaced (a mount point, say), though it may
 /// well be writable in place.
@@ -26,22 +27,6 @@ bool maySucceedDirectly(int error)
 }
 
 std::string directoryPart(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
-
-bool isOlder(const timespec& time, const timespec& than)
-{
-    return time.tv_sec != than.tv_sec ? time.tv_sec < than.tv_sec : time.tv_nsec < than.tv_nsec;
-}
-
-std::vector<std::string> namesIn(const std::string& directory)
-{
-    std::vector<std::string> names;
-    std::error_code error;
-    std::filesystem::directory_iterator entry(directory.empty() ? "." : directory, error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        names.push_back(entry->path().filename().string());
-    }
-    return names;
-}
 
 void overwrite(OpenFile& file, std::string_view bytes)
 {
@@ -60,20 +45,20 @@ SafeWriter::SafeWriter(std::string recoveryDirectory, SystemCalls& calls)
     ::clock_gettime(CLOCK_REALTIME, &m_started);
 }
 
-void SafeWriter::save(const std::string& path, std::string_view bytes)
+void SafeWriter::save(const std::string& path, std::string_view bytes) { save(path, bytes, Rights::AsBefore); }
+void SafeWriter::savePrivate(const std::string& path, std::string_view bytes) { save(path, bytes, Rights::Private); }
+
+void SafeWriter::save(const std::string& path, std::string_view bytes, Rights rights)
 {
     if (path.empty() || path.find('\0') != std::string::npos) throw systemError(EINVAL);
     const Target target = resolve(path);
     checkWritable(target);
     if (m_swept.insert(target.directory).second) sweep(target.directory);
-
-    const std::string temporary = target.directory + temporaryName();
     try {
-        writeBeside(target, temporary, bytes);
+        writeBeside(target, bytes, rights);
     } catch (const RuntimeError& error) {
-        m_calls.unlink(temporary);
         if (!target.exists || !maySucceedDirectly(error.lastDllError())) throw;
-        writeDirectly(target, bytes);
+        writeDirectly(target, bytes, rights);
         return;
     }
     syncDirectory(target.directory);
@@ -113,29 +98,17 @@ void SafeWriter::checkWritable(const Target& target) const
     if (m_calls.access(target.path, W_OK) < 0) throwSystemError();
 }
 
-void SafeWriter::writeBeside(const Target& target, const std::string& temporary, std::string_view bytes)
+void SafeWriter::writeBeside(const Target& target, std::string_view bytes, Rights rights)
 {
-    // A group or others that may not read the old contents don't get to see the new ones, not even for a moment.
-    const mode_t mode = target.exists ? target.status.st_mode & 0777U : 0666;
-    OpenFile file(m_calls, temporary, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode | S_IWUSR);
+    // Until it has the old file's rights, nobody else may access the new one.
+    const bool isPrivate = target.exists || rights == Rights::Private;
+    TemporaryFile temporary(m_calls, target.directory, isPrivate ? privateMode : 0666);
+    OpenFile& file = temporary.file();
     file.writeAll(bytes);
-    if (target.exists) keepOwnerAndMode(target, file.descriptor());
+    if (target.exists && rights == Rights::AsBefore) copyRights(m_calls, file.descriptor(), target.path, target.status);
     file.sync();
     file.close();
-    if (m_calls.rename(temporary, target.path) < 0) throwSystemError();
-}
-
-void SafeWriter::keepOwnerAndMode(const Target& target, int file) const
-{
-    struct stat made = {};
-    if (m_calls.fstat(file, made) < 0) throwSystemError();
-    const struct stat& old = target.status;
-    bool kept = made.st_uid == old.st_uid && made.st_gid == old.st_gid;
-    if (!kept) kept = m_calls.fchown(file, old.st_uid, old.st_gid) == 0;
-    if (!kept) m_calls.fchown(file, static_cast<uid_t>(-1), old.st_gid);   // the group alone is often allowed
-    const mode_t mode = old.st_mode & (kept ? permissions : mode_t{0777}); // no set-user-id for another owner
-    // Some file systems know no permissions; contents that are safe are worth more than their mode.
-    if ((made.st_mode & permissions) != mode || !kept) m_calls.fchmod(file, mode);
+    temporary.renameTo(target.path);
 }
 
 void SafeWriter::syncDirectory(const std::string& directory)
@@ -150,73 +123,81 @@ void SafeWriter::syncDirectory(const std::string& directory)
     if (error != 0) throw systemError(error);
 }
 
-void SafeWriter::writeDirectly(const Target& target, std::string_view bytes)
+void SafeWriter::writeDirectly(const Target& target, std::string_view bytes, Rights rights)
 {
     OpenFile file(m_calls, target.path, O_WRONLY | O_NOFOLLOW | O_NONBLOCK); // no copy of a file that takes nothing
+    if (rights == Rights::Private && m_calls.fchmod(file.descriptor(), privateMode) < 0) throwSystemError();
     const std::string old = OpenFile(m_calls, target.path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK).readAll();
-    const std::string copy = makeCopy(target, old);
+    prepareRecoveryDirectory();
+    TemporaryFile copy(m_calls, m_recoveryDirectory, privateMode); // locked, and so in use, for as long as it is here
+    completeCopy(copy, target.name, old);
     try {
         overwrite(file, bytes);
     } catch (const RuntimeError& error) {
         putBack(target, old, copy, error);
         throw;
     }
-    m_calls.unlink(copy);
+    copy.remove();
+}
+
+void SafeWriter::prepareRecoveryDirectory()
+{
+    if (m_calls.mkdir(m_recoveryDirectory, 0700) < 0 && errno != EEXIST) throwSystemError();
+    if (m_swept.insert(m_recoveryDirectory).second) sweep(m_recoveryDirectory);
+}
+
+/// Only complete copies have the name of one.
+void SafeWriter::completeCopy(TemporaryFile& copy, const std::string& name, std::string_view old)
+{
+    copy.file().writeAll(old);
+    copy.file().sync();
+    copy.renameTo(m_recoveryDirectory + copyName(name, m_calls.randomBits()));
+    try {
+        syncDirectory(m_recoveryDirectory);
+    } catch (const RuntimeError&) {
+        copy.remove();
+        throw;
+    }
 }
 
 /// Throws an error of its own when the old contents can't be put back; `error` is what went wrong before.
-void SafeWriter::putBack(const Target& target, std::string_view old, const std::string& copy, const RuntimeError& error)
+void SafeWriter::putBack(const Target& target, std::string_view old, TemporaryFile& copy, const RuntimeError& error)
 {
     try {
         OpenFile file(m_calls, target.path, O_WRONLY | O_NOFOLLOW | O_NONBLOCK);
         overwrite(file, old);
     } catch (const RuntimeError&) {
-        const std::string text = std::string(error.what()) + ". The file is damaged; a copy of it is " + copy;
+        const std::string text = std::string(error.what()) + ". The file is damaged; a copy of it is " + copy.path();
         throw RuntimeError(error.code(), text, error.lastDllError());
     }
-    m_calls.unlink(copy);
+    copy.remove();
 }
 
-std::string SafeWriter::makeCopy(const Target& target, std::string_view old)
+void SafeWriter::copyPrivate(const std::string& from, const std::string& to)
 {
-    if (m_calls.mkdir(m_recoveryDirectory, 0700) < 0 && errno != EEXIST) throwSystemError();
-    if (m_swept.insert(m_recoveryDirectory).second) sweep(m_recoveryDirectory);
-    Target copy;
-    copy.directory = m_recoveryDirectory;
-    copy.name = copyName(target.name);
-    copy.path = copy.directory + copy.name;
-    const std::string temporary = copy.directory + temporaryName();
+    OpenFile source(m_calls, from, O_RDONLY | O_NONBLOCK); // a pipe without a writer opens at once
+    requireRegular(source.status());
+    // Under its own name at once: a copy that is cut short by a kill is no loss, since the original is still there.
+    OpenFile copy(m_calls, to, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, privateMode);
     try {
-        writeBeside(copy, temporary, old);
-        syncDirectory(copy.directory);
+        std::array<char, 1 << 16> piece;
+        while (const std::size_t size = source.readSome(piece.data(), piece.size()))
+            copy.writeAll({piece.data(), size});
+        copy.sync();
+        copy.close();
+        syncDirectory(directoryPart(to));
     } catch (const RuntimeError&) {
-        m_calls.unlink(temporary);
-        m_calls.unlink(copy.path);
+        m_calls.unlink(to);
         throw;
     }
-    return copy.path;
 }
 
 void SafeWriter::sweep(const std::string& directory) const
 {
-    const std::string folder = directory.empty() || directory.ends_with('/') ? directory : directory + '/';
-    for (const std::string& name : namesIn(folder)) {
-        const auto process = processOfTemporary(name);
-        struct stat status = {};
-        if (!process || isOtherLivingProcess(*process) || m_calls.lstat(folder + name, status) < 0) continue;
-        if (S_ISREG(status.st_mode) && isOlder(status.st_mtim, m_started)) m_calls.unlink(folder + name);
-    }
+    const bool isComplete = directory.empty() || directory.ends_with('/');
+    removeTemporaryFiles(m_calls, isComplete ? directory : directory + '/', m_started);
 }
 
-std::vector<std::string> SafeWriter::leftCopies() const
-{
-    std::vector<std::string> paths;
-    for (const std::string& name : namesIn(m_recoveryDirectory)) {
-        const auto process = processOfCopy(name);
-        if (process && !isOtherLivingProcess(*process)) paths.push_back(m_recoveryDirectory + name);
-    }
-    std::sort(paths.begin(), paths.end());
-    return paths;
-}
+std::vector<std::string> SafeWriter::leftCopies() const { return unlockedCopies(m_calls, m_recoveryDirectory); }
 
 } // namespace tarvex

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <fcntl.h>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +26,9 @@ public:
     std::size_t mostPerWrite = static_cast<std::size_t>(-1);
     std::size_t room = static_cast<std::size_t>(-1); ///< bytes until the disk is full
     bool backgroundSyncs = true;                     ///< the system has them
+
+    std::deque<std::uint64_t> randomNumbers; ///< the next ones; real ones behind them
+    std::function<void()> beforeEach;        ///< looks at the disk as it is before each call, and so after each
 
     std::vector<std::string> made; ///< names of the calls so far
 
@@ -58,6 +63,30 @@ public:
     int startSync(aiocb& request) override
     {
         return backgroundSyncs ? SystemCalls::startSync(request) : refuse(ENOSYS);
+    }
+    int flock(int file, int operation) override { return fails("flock") ? -1 : SystemCalls::flock(file, operation); }
+    int fsetxattr(int file, const char* name, const void* value, std::size_t size) override
+    {
+        return fails("fsetxattr") ? -1 : SystemCalls::fsetxattr(file, name, value, size);
+    }
+    int fremovexattr(int file, const char* name) override
+    {
+        return fails("fremovexattr") ? -1 : SystemCalls::fremovexattr(file, name);
+    }
+    ssize_t lgetxattr(const std::string& path, const char* name, void* value, std::size_t size) override
+    {
+        return fails("lgetxattr") ? -1 : SystemCalls::lgetxattr(path, name, value, size);
+    }
+    ssize_t llistxattr(const std::string& path, char* names, std::size_t size) override
+    {
+        return fails("llistxattr") ? -1 : SystemCalls::llistxattr(path, names, size);
+    }
+    std::uint64_t randomBits() override
+    {
+        if (randomNumbers.empty()) return SystemCalls::randomBits();
+        const std::uint64_t next = randomNumbers.front();
+        randomNumbers.pop_front();
+        return next;
     }
     int fsync(int file) override { return fails("fsync") ? -1 : SystemCalls::fsync(file); }
     int close(int file) override
@@ -102,6 +131,7 @@ private:
     {
         const std::size_t number = made.size();
         made.emplace_back(name);
+        if (beforeEach) beforeEach();
         if (!fault || number < fault->at) return false;
         if (number > fault->at && !(fault->lasting && made[fault->at] == name)) return false;
         errno = fault->error;

@@ -147,10 +147,25 @@ TEST_F(Files, NulInAPathIsABadNameForEveryOperation)
     EXPECT_EQ(files.read("c:\\mig.b50"), "old");
 }
 
+TEST_F(Files, PrivateFilesAndCopiesAreForTheirOwnerAlone)
+{
+    constexpr auto ownerOnly = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+    files.write("c:\\mig.b50", "shared");
+    files.writePrivate("c:\\mig.b50", "private");
+    EXPECT_EQ(std::filesystem::status(root + "/mig.b50").permissions(), ownerOnly);
+    files.copyPrivate("c:\\mig.b50", "c:\\copy.b50");
+    EXPECT_EQ(std::filesystem::status(root + "/copy.b50").permissions(), ownerOnly);
+    EXPECT_EQ(files.read("c:\\copy.b50"), "private");
+    expectError(ErrorCode::FileExists, EEXIST, [&] { files.copyPrivate("c:\\mig.b50", "C:\\COPY.b50"); });
+    expectError(ErrorCode::FileNotFound, ENOENT, [&] { files.copyPrivate("c:\\none", "c:\\other"); });
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.copyPrivate("c:\\mig.b50", "c:\\none\\x"); });
+}
+
 TEST_F(Files, DirectoryIsMadeOneLevelAndOnce)
 {
     files.createDirectory("c:\\Backup");
     EXPECT_TRUE(files.directoryExists("c:\\backup"));
+    EXPECT_EQ(std::filesystem::status(root + "/Backup").permissions(), std::filesystem::perms::owner_all);
     expectError(ErrorCode::PathFileAccess, EEXIST, [&] { files.createDirectory("c:\\BACKUP"); });
     expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.createDirectory("c:\\a\\b"); });
 }

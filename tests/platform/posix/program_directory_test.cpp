@@ -66,6 +66,8 @@ TEST_F(ProgramDirectory, OfAnInstalledPackageIsFilledOnceWithItsFiles)
     struct stat status = {};
     ::stat((inHome + "/Tips.txt").c_str(), &status);
     EXPECT_EQ(status.st_mode & 0600U, 0600U) << "the user may change his copy";
+    ::stat(inHome.c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, 0700U);
     EXPECT_THAT(namesIn(disk / "home/.local/share"), testing::ElementsAre("tarvex"));
 
     std::filesystem::remove(inHome + "/Tips.txt");

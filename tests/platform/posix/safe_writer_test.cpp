@@ -4,11 +4,13 @@
 #include "platform/posix/faulty_calls.h"
 #include "support/temporary_directory.h"
 
+#include <algorithm>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/time.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace tarvex {
@@ -45,14 +47,6 @@ struct SafeWriting : testing::Test {
         struct stat status = {};
         ::stat(path.c_str(), &status);
         return status.st_mode & 07777U;
-    }
-    /// A process number that nobody has.
-    pid_t deadProcess() const
-    {
-        const pid_t child = ::fork();
-        if (child == 0) ::_exit(0);
-        ::waitpid(child, nullptr, 0);
-        return child;
     }
     void setOld(const std::string& path) const
     {
@@ -91,7 +85,7 @@ TEST_F(SafeWriting, FileIsSyncedBeforeTheRenameAndTheFolderBehindIt)
 {
     EXPECT_EQ(save(file, "new"), 0);
     EXPECT_THAT(calls.made,
-                ElementsAre("lstat", "open", "write", "fsync", "close", "rename", "open", "fsync", "close"));
+                ElementsAre("lstat", "open", "flock", "write", "fsync", "close", "rename", "open", "fsync", "close"));
 }
 
 TEST_F(SafeWriting, LargeFileInShortWritesIsWhole)
@@ -244,7 +238,7 @@ TEST_F(SafeWriting, CopyIsSafeOnDiskBeforeADirectWriteBegins)
     EXPECT_EQ(save(file, "new"), 0);
     const auto mkdir = std::find(calls.made.begin(), calls.made.end(), "mkdir");
     EXPECT_THAT(std::vector<std::string>(mkdir, calls.made.end()),
-                ElementsAre("mkdir", "open", "write", "fsync", "close", "rename", "open", "fsync", "close", // the copy
+                ElementsAre("mkdir", "open", "flock", "write", "fsync", "rename", "open", "fsync", "close", // the copy
                             "write", "ftruncate", "fsync", "close", "unlink"));
 }
 
@@ -300,46 +294,225 @@ TEST_F(SafeWriting, FolderThatCantBeReadIsSyncedAsAWhole)
     EXPECT_EQ(calls.made.back(), "sync");
 }
 
-TEST_F(SafeWriting, LeftOversOfDeadProcessesAreSweptAtTheFirstSave)
+TEST_F(SafeWriting, LeftOversAreSweptAtTheFirstSaveWhoeverHasTheirNumber)
 {
-    const std::string name = ".tarvex-save-" + std::to_string(deadProcess()) + "-1";
-    setOld(disk.put("work/" + name, "half"));
+    setOld(disk.put("work/.tarvex-save-0123456789abcdef", "half"));
+    const std::string living = std::to_string(::getppid()); // the number of another process today
+    setOld(disk.put("work/.tarvex-save-" + living + "-1", "half, of an earlier version"));
     EXPECT_EQ(save(file, "new"), 0);
     EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
 }
 
-TEST_F(SafeWriting, SweepSparesLivingProcessesYoungFilesAndForeignNames)
+TEST_F(SafeWriting, SweepSparesYoungFilesAndForeignNames)
 {
-    const std::string dead = std::to_string(deadProcess());
-    const std::vector<std::string> kept = {".tarvex-save-" + std::to_string(::getppid()) + "-1",
-                                           ".tarvex-save-" + dead + "-1x",
+    const std::vector<std::string> kept = {".tarvex-save-0123456789abcdeF",
+                                           ".tarvex-save-0123456789abcde",
+                                           ".tarvex-save-12-1x",
                                            ".tarvex-save-x-1",
-                                           ".tarvex-save-" + dead,
+                                           ".tarvex-save-12",
                                            ".tarvex-save-",
-                                           "x.tarvex-save-" + dead + "-1",
+                                           "x.tarvex-save-12-1",
                                            ".tarvex-save--5-1"};
     for (const std::string& name : kept) setOld(disk.put("work/" + name, "kept"));
     const timeval future[] = {{4'000'000'000, 0}, {4'000'000'000, 0}};
-    ::utimes(disk.put("work/.tarvex-save-" + dead + "-2", "young").c_str(), future);
-    fs::create_directory(folder + "/.tarvex-save-" + dead + "-3");
-    setOld(folder + "/.tarvex-save-" + dead + "-3");
+    const std::string young = disk.put("work/.tarvex-save-0000000000000001", "young");
+    ::utimes(young.c_str(), future);
+    fs::create_directory(folder + "/.tarvex-save-0000000000000002");
+    setOld(folder + "/.tarvex-save-0000000000000002");
+    fs::create_symlink("/dev/null", folder + "/.tarvex-save-0000000000000003");
 
     writer.sweep(folder);
-    EXPECT_EQ(namesIn(folder).size(), kept.size() + 2);
-    setOld(folder + "/.tarvex-save-" + dead + "-2");
+    EXPECT_EQ(namesIn(folder).size(), kept.size() + 3);
+    setOld(young);
     writer.sweep(folder);
-    EXPECT_EQ(namesIn(folder).size(), kept.size() + 1) << "old enough now";
+    EXPECT_EQ(namesIn(folder).size(), kept.size() + 2) << "old enough now";
+}
+
+TEST_F(SafeWriting, SweepSparesAFileThatIsBeingWritten)
+{
+    disk.put("work/mig.b50", "old");
+    save(file, "old");
+    std::size_t swept = 0;
+    calls.beforeEach = [&] {
+        if (calls.made.back() != "fsync") return;
+        calls.beforeEach = nullptr;
+        for (const std::string& name : namesIn(folder)) setOld(folder + "/" + name);
+        SystemCalls otherCalls;
+        SafeWriter(disk / "recovery", otherCalls).sweep(folder);
+        ++swept;
+    };
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_EQ(swept, 1U);
+    EXPECT_EQ(bytesOf(file), "new");
+}
+
+TEST_F(SafeWriting, WithoutLocksOfTheFileSystemASweepLeavesAll)
+{
+    setOld(disk.put("work/.tarvex-save-0123456789abcdef", "in use or not"));
+    calls.fault = {2, ENOLCK};
+    writer.sweep(folder);
+    EXPECT_EQ(calls.made, (std::vector<std::string>{"lstat", "open", "flock"}));
+    EXPECT_THAT(namesIn(folder), ElementsAre(".tarvex-save-0123456789abcdef"));
+}
+
+TEST_F(SafeWriting, TakenTemporaryNameIsLeftAloneAndAnotherOneTried)
+{
+    const std::string taken = disk.put("work/.tarvex-save-0000000000000007", "somebody else's");
+    const timeval future[] = {{4'000'000'000, 0}, {4'000'000'000, 0}};
+    ::utimes(taken.c_str(), future);
+    calls.randomNumbers = {7, 7, 8};
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_EQ(bytesOf(file), "new");
+    EXPECT_EQ(bytesOf(taken), "somebody else's");
+}
+
+TEST_F(SafeWriting, NothingIsRemovedThatWasNotMade)
+{
+    disk.put("work/mig.b50", "old");
+    for (const int error : {EEXIST, EMFILE, ENOSPC}) {
+        calls.made.clear();
+        calls.fault = {2, error, true}; // every open
+        EXPECT_EQ(save(file, "new"), error);
+        EXPECT_EQ(std::count(calls.made.begin(), calls.made.end(), "unlink"), 0) << error;
+        EXPECT_EQ(calls.made[2], "open");
+        EXPECT_LE(calls.made.size(), 110U) << "it ends, however many names are taken";
+    }
+    EXPECT_EQ(bytesOf(file), "old");
 }
 
 TEST_F(SafeWriting, SweepOfAMissingFolderDoesNothing) { EXPECT_NO_THROW(writer.sweep(disk / "none")); }
 
-TEST_F(SafeWriting, LeftCopiesAreThoseOfDeadProcesses)
+TEST_F(SafeWriting, LeftCopiesAreThoseThatNobodyHasLocked)
 {
-    const std::string dead = "mig.b50.tarvex-copy-" + std::to_string(deadProcess()) + "-1";
-    disk.put("recovery/" + dead, "old");
-    disk.put("recovery/mig.b50.tarvex-copy-" + std::to_string(::getppid()) + "-1", "in use");
+    const std::string left = disk.put("recovery/mig.b50.tarvex-copy-0123456789abcdef", "old");
+    const std::string earlier = disk.put("recovery/mig.b50.tarvex-copy-" + std::to_string(::getppid()) + "-1", "old");
+    const std::string used = disk.put("recovery/mig.b50.tarvex-copy-0123456789abcde0", "in use");
     disk.put("recovery/mig.b50", "foreign");
-    EXPECT_THAT(writer.leftCopies(), ElementsAre(disk / ("recovery/" + dead)));
+    OpenFile user(calls, used, O_WRONLY);
+    ASSERT_EQ(::flock(user.descriptor(), LOCK_EX), 0);
+    EXPECT_THAT(writer.leftCopies(), testing::UnorderedElementsAre(left, earlier));
+    user.close();
+    EXPECT_EQ(writer.leftCopies().size(), 3U);
+}
+
+TEST_F(SafeWriting, CopyOfARunningSaveIsNotReported)
+{
+    disk.put("work/mig.b50", "old");
+    calls.lockedFolder = folder + "/";
+    std::vector<std::string> during = {"never looked"};
+    calls.beforeEach = [&] {
+        if (calls.made.back() != "ftruncate") return;
+        EXPECT_EQ(namesIn(disk / "recovery").size(), 1U);
+        SystemCalls otherCalls;
+        during = SafeWriter(disk / "recovery", otherCalls).leftCopies();
+    };
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_THAT(during, IsEmpty());
+}
+
+TEST_F(SafeWriting, PrivateFileIsForItsOwnerAlone)
+{
+    writer.savePrivate(file, "new");
+    EXPECT_EQ(modeOf(file), 0600U);
+    ::chmod(file.c_str(), 0666);
+    mode_t widest = 0;
+    calls.beforeEach = [&] {
+        for (const std::string& name : namesIn(folder)) {
+            if (name != "mig.b50") widest |= modeOf(folder + "/" + name);
+        }
+    };
+    writer.savePrivate(file, "newer");
+    EXPECT_EQ(modeOf(file), 0600U);
+    EXPECT_EQ(widest, 0600U);
+    EXPECT_EQ(bytesOf(file), "newer");
+}
+
+TEST_F(SafeWriting, PrivateFileIsPrivateBeforeItIsWrittenDirectly)
+{
+    disk.put("work/mig.b50", "old");
+    ::chmod(file.c_str(), 0666);
+    calls.lockedFolder = folder + "/";
+    mode_t atWrite = 0;
+    calls.beforeEach = [&] {
+        if (calls.made.back() == "ftruncate") atWrite = modeOf(file);
+    };
+    writer.savePrivate(file, "new");
+    EXPECT_EQ(atWrite, 0600U);
+    EXPECT_EQ(bytesOf(file), "new");
+}
+
+TEST_F(SafeWriting, PrivateFileThatCannotBeMadePrivateIsNotWritten)
+{
+    disk.put("work/mig.b50", "old");
+    ::chmod(file.c_str(), 0666);
+    calls.lockedFolder = folder + "/";
+    writer.savePrivate(file, "old");
+    const auto at = std::find(calls.made.begin(), calls.made.end(), "fchmod") - calls.made.begin();
+    ::chmod(file.c_str(), 0666);
+    calls.made.clear();
+    calls.fault = {static_cast<std::size_t>(at), EPERM};
+    EXPECT_THROW(writer.savePrivate(file, "new"), RuntimeError);
+    EXPECT_EQ(bytesOf(file), "old");
+}
+
+TEST_F(SafeWriting, CopyOfAPrivateFileInAnOpenRecoveryDirectoryIsPrivate)
+{
+    disk.put("work/mig.b50", "old");
+    ::chmod(file.c_str(), 0600);
+    ::chmod(disk.makeDirectory("recovery").c_str(), 0755);
+    calls.lockedFolder = folder + "/";
+    mode_t widest = 0;
+    calls.beforeEach = [&] {
+        for (const std::string& name : namesIn(disk / "recovery")) widest |= modeOf(disk / ("recovery/" + name));
+    };
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_EQ(widest, 0600U);
+}
+
+TEST_F(SafeWriting, CopyIsWholeAndPrivateAndReplacesNothing)
+{
+    const std::string bytes(200'000, 'x');
+    disk.put("work/mig.b50", bytes);
+    const std::string copy = folder + "/copy";
+    writer.copyPrivate(file, copy);
+    EXPECT_EQ(bytesOf(copy), bytes);
+    EXPECT_EQ(modeOf(copy), 0600U);
+    disk.put("work/mig.b50", "newer");
+    EXPECT_THROW(writer.copyPrivate(file, copy), RuntimeError);
+    EXPECT_EQ(bytesOf(copy), bytes);
+}
+
+TEST_F(SafeWriting, CopyThatFailsAtAnyCallLeavesNothing)
+{
+    const std::string bytes(100'000, 'x');
+    disk.put("work/mig.b50", bytes);
+    const std::string copy = folder + "/copy";
+    writer.copyPrivate(file, copy);
+    const std::vector<std::string> made = calls.made;
+    for (std::size_t at = 0; at < made.size(); ++at) {
+        fs::remove(copy);
+        calls.made.clear();
+        calls.fault = {at, EIO};
+        bool failed = false;
+        try {
+            writer.copyPrivate(file, copy);
+        } catch (const RuntimeError&) {
+            failed = true;
+        }
+        EXPECT_EQ(failed, !fs::exists(copy)) << made[at] << " number " << at;
+        if (!failed) {
+            EXPECT_EQ(bytesOf(copy), bytes) << made[at] << " number " << at;
+        }
+    }
+    EXPECT_EQ(bytesOf(file), bytes);
+}
+
+TEST_F(SafeWriting, CopyOfAPipeOrDirectoryIsRefused)
+{
+    ASSERT_EQ(::mkfifo((folder + "/pipe").c_str(), 0600), 0);
+    EXPECT_THROW(writer.copyPrivate(folder + "/pipe", folder + "/copy"), RuntimeError);
+    EXPECT_THROW(writer.copyPrivate(folder, folder + "/copy"), RuntimeError);
+    EXPECT_FALSE(fs::exists(folder + "/copy"));
 }
 
 } // namespace tarvex

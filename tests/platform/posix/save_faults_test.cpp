@@ -1,5 +1,6 @@
 // Every system call of a save fails in turn, once and for good: the old file or the new one is there, whole.
 
+#include "access_list.h"
 #include "platform/errors.h"
 #include "platform/posix/faulty_calls.h"
 #include "platform/posix/safe_writer.h"
@@ -24,6 +25,7 @@ struct Situation {
     bool exists;
     bool lockedFolder;
     bool shortWrites;
+    bool hasAttributes = false; ///< an access control list and a user attribute, where the disk keeps them
 };
 
 void PrintTo(const Situation& situation, std::ostream* stream) { *stream << situation.name; }
@@ -45,6 +47,15 @@ protected:
         const std::string folder = disk.makeDirectory("work") + "/";
         const std::string file = folder + "mig.b50";
         if (GetParam().exists) disk.put("work/mig.b50", oldBytes);
+        if (GetParam().hasAttributes) {
+            setAttribute(file, accessListName,
+                         accessListBytes({{accessTag::owner, 6},
+                                          {accessTag::user, 6, 12345},
+                                          {accessTag::group, 0},
+                                          {accessTag::mask, 6},
+                                          {accessTag::others, 0}}));
+            setAttribute(file, "user.comment", "kept");
+        }
         FaultyCalls calls;
         calls.fault = fault;
         if (GetParam().lockedFolder) calls.lockedFolder = folder;
@@ -101,6 +112,7 @@ constexpr Situation situations[] = {
     {"NewFile", false, false, false},
     {"OldFile", true, false, false},
     {"OldFileInShortWrites", true, false, true},
+    {"OldFileWithAttributes", true, false, false, true},
     {"LockedFolder", true, true, false},
     {"LockedFolderInShortWrites", true, true, true},
 };
@@ -113,7 +125,7 @@ TEST_P(SaveFaults, EachCallFailingLeavesTheOldOrTheNewFileWhole)
     ASSERT_EQ(good.error, "");
     ASSERT_EQ(good.bytes, newBytes);
     ASSERT_GE(good.made.size(), 8U);
-    for (const int error : {EIO, ENOSPC, EACCES, EROFS, EMFILE}) {
+    for (const int error : {EIO, ENOSPC, EACCES, EROFS, EMFILE, EEXIST, ENOTSUP}) {
         for (const bool lasting : {false, true}) {
             for (std::size_t at = 0; at < good.made.size(); ++at) {
                 const FaultyCalls::Fault fault{at, error, lasting};
