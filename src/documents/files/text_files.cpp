@@ -128,6 +128,13 @@ void writePlain(Editor& editor, const Side& side, const std::string& path)
     editor.platform.files.write(path, editor.TempRichTextBox.Text());
 }
 
+void writePlainCopy(Editor& editor, const Side& side, const std::string& path)
+{
+    const WorkingBox temp(editor.TempRichTextBox);
+    editor.TempRichTextBox.setText(side.pane.Text());
+    editor.platform.files.writePrivate(path, editor.TempRichTextBox.Text());
+}
+
 void saveColouredText(Editor& editor, const Side& side)
 {
     const Steps step(editor.shared.errors, side.tab == 1 ? "ED_SaveColouredTextJF" : "ED_SaveColouredTextMF");
@@ -136,7 +143,7 @@ void saveColouredText(Editor& editor, const Side& side)
         if (shadow.empty()) return;
         const WorkingBox temp(editor.TempRichTextBox);
         editor.TempRichTextBox.setTextRTF(side.pane.TextRTF());
-        editor.platform.files.write(shadow, writeRtf(editor.TempRichTextBox.TextRTF()));
+        editor.platform.files.writePrivate(shadow, writeRtf(editor.TempRichTextBox.TextRTF()));
     });
 }
 

@@ -16,10 +16,12 @@ std::optional<std::string> readForOpening(Editor& editor, const std::string& pat
 void showDocument(Editor& editor, Side& side, const std::string& path, const std::string& name,
                   const std::string& bytes);
 
-/// The pane's text, as bytes of the file.
+/// Writes the pane's text as the document's file.
 void writePlain(Editor& editor, const Side& side, const std::string& path);
-/// The pane's text with its colours into the shadow of the document's name. A failure is reported and told to nobody:
-/// a shadow can always be made anew.
+/// Writes it as a copy that only the user may access: the document itself may be private.
+void writePlainCopy(Editor& editor, const Side& side, const std::string& path);
+/// Writes the pane's text with its colours into the shadow of the document's name, for the user alone. A failure is
+/// recorded but not shown: a shadow can always be made anew.
 void SaveColouredTextJF(Editor& editor);
 void SaveColouredTextMF(Editor& editor);
 void saveColouredText(Editor& editor, const Side& side);

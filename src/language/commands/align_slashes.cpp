@@ -22,8 +22,8 @@ void alignThroughFiles(FileSystem& files, const std::string& text, int indent)
 {
     removeIfThere(files, unalignedFile);
     removeIfThere(files, alignedFile);
-    files.write(unalignedFile, text);
-    files.write(alignedFile, alignedText(files.read(unalignedFile), indent));
+    files.writePrivate(unalignedFile, text);
+    files.writePrivate(alignedFile, alignedText(files.read(unalignedFile), indent));
 }
 
 /// A plain text in the base format, as one edit of the user's.

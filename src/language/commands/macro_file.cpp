@@ -27,7 +27,7 @@ void GetEachLineFromMacroFile(Editor& editor)
     editor.status("Opening " + editor.pair.MacroFileName + " file for analysis ");
     lines.clear();
     step([&] { lines = keptMacroLines(files.read(path)); });
-    step([&] { files.write(linesFile, joined(lines)); });
+    step([&] { files.writePrivate(linesFile, joined(lines)); });
 }
 
 } // namespace tarvex
