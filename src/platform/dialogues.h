@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarvex {
 
@@ -18,6 +19,8 @@ struct MessageBox {
     BoxIcon icon = BoxIcon::None;
     BoxButtons buttons = BoxButtons::Ok;
     bool secondButtonIsDefault = false;
+    /// Of the first buttons, "&" before the access key; the others keep the system's own.
+    std::vector<std::string> captions = {};
 };
 
 struct FileRequest {

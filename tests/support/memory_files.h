@@ -19,6 +19,9 @@ public:
     // What a test sets up; directories on the way are made, and neither the log nor the failures take part.
     void addFile(const std::string& path, const std::string& bytes);
     void addDirectory(const std::string& path);
+    /// Other bytes of the same number, under the time and identity that the file had.
+    void changeSecretly(const std::string& path, const std::string& bytes);
+    void removeDirectory(const std::string& path);
     void setReadOnly(const std::string& path, bool readOnly = true);
     /// Every write (read) of the path fails with the error from now on, or no longer.
     void failWrites(const std::string& path, std::optional<RuntimeError> error);

@@ -5,6 +5,7 @@
 #include "platform/errors.h"
 #include "platform/posix/drive_map.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
@@ -15,6 +16,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 
 namespace tarvex {
 
@@ -105,6 +107,10 @@ void fillBox(QMessageBox& view, const MessageBox& box)
     view.setText(fittingText(toQt(box.text)));
     view.setTextInteractionFlags(Qt::TextSelectableByMouse);
     view.setStandardButtons(toQt(box.buttons));
+    constexpr std::array order{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t i = 0; i < std::min(box.captions.size(), order.size()); ++i) {
+        if (QAbstractButton* const button = view.button(order[i])) button->setText(toQt(box.captions[i]));
+    }
     const bool twoButtons = box.buttons != BoxButtons::Ok;
     const auto first = twoButtons ? QMessageBox::Yes : QMessageBox::Ok;
     view.setDefaultButton(twoButtons && box.secondButtonIsDefault ? QMessageBox::No : first);

@@ -1,6 +1,7 @@
 #include "documents/files/auto_save.h"
 
 #include "documents/files/file_save.h"
+#include "documents/files/outside_change.h"
 #include "documents/files/text_files.h"
 
 namespace tarvex {
@@ -11,8 +12,15 @@ void autoSave(Editor& editor, Side& side)
 {
     if (side.Changed != changed::modified) return;
     const Steps step(editor.shared.errors, "ED_AutoSaveFile");
+    const OutsideChange change = outsideChange(editor, side);
+    if (change == OutsideChange::Changed) {
+        editor.status(side.FileName + " was changed by another program since I opened it, so I haven't saved it " +
+                      "automatically. Save it yourself, and I'll ask you what to do.");
+        return;
+    }
     bool written = false;
     step([&] {
+        if (change == OutsideChange::Unknown) keepOutsideVersion(editor, side); // an untitled text of another day
         writePlain(editor, side, side.FilePath);
         written = true;
     });

@@ -2,15 +2,25 @@
 
 #include "documents/editing/undo.h"
 #include "documents/files/file_dialogues.h"
+#include "documents/files/outside_change.h"
 #include "documents/files/text_files.h"
 #include "documents/pair/document_status.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "platform/dos_path.h"
+#include "platform/free_path.h"
 #include "platform/windows1252.h"
 
 namespace tarvex {
 
 namespace {
+
+/// One backup a name, which each save replaces; but a version that another program made is never replaced.
+std::string backupPath(Editor& editor, const Side& side)
+{
+    const std::string name = editor.tabCaption(side);
+    const std::string& directory = editor.shared.BackupDirectory;
+    return isOutsideVersion(name) ? freePath(editor.platform.files, directory, name) : directory + name;
+}
 
 void tellSaveFailed(Editor& editor, const std::string& path, const std::string& whyNot)
 {
@@ -27,16 +37,22 @@ void tellSaveFailed(Editor& editor, const std::string& path, const std::string& 
 
 bool saveAs(Editor& editor, Side& side);
 
-/// Writes the document, or has it saved elsewhere. The macro list isn't touched.
-bool saveText(Editor& editor, Side& side)
+/// Writes the document, or has it saved elsewhere. The macro list isn't touched. `agreed`: the user has just allowed to
+/// replace what the path holds.
+bool saveText(Editor& editor, Side& side, bool agreed = false)
 {
     const Steps step(editor.shared.errors, side.tab == 1 ? "ED_SaveJoystickText" : "ED_SaveMacroText");
     const std::string& whyNot = editor.shared.errors.ErrorDescription;
+    auto overwriting = Overwriting::Agreed;
     bool written = false;
     step([&] {
+        if (!agreed) overwriting = agreeOnOverwriting(editor, side);
+        if (overwriting != Overwriting::Agreed) return;
         writePlain(editor, side, side.FilePath);
         written = true;
     });
+    if (overwriting == Overwriting::UnderAnotherName) return saveAs(editor, side);
+    if (overwriting == Overwriting::Cancelled) return false;
     if (!written) {
         tellSaveFailed(editor, side.FilePath, whyNot);
         return saveAs(editor, side);
@@ -103,7 +119,8 @@ bool saveAs(Editor& editor, Side& side)
     const std::string oldName = side.FileName;
     side.FilePath = lowerUtf8(*path);
     side.FileName = lowerUtf8(fileNameOf(*path));
-    if (!saveText(editor, side)) {
+    const bool isOtherFile = side.FilePath != lowerUtf8(oldPath);
+    if (!saveText(editor, side, isOtherFile)) {
         side.FilePath = oldPath; // nothing was saved there, so the document keeps the name it had
         side.FileName = oldName;
         UpdateSavedIcon(editor);
@@ -126,8 +143,7 @@ bool isUntitled(const Side& side) { return side.FileName.starts_with("untitled")
 
 void writeBackup(Editor& editor, Side& side)
 {
-    if (editor.shared.settings.CreateBackup == 1)
-        writePlain(editor, side, editor.shared.BackupDirectory + editor.tabCaption(side));
+    if (editor.shared.settings.CreateBackup == 1) writePlainCopy(editor, side, backupPath(editor, side));
 }
 
 void noteSaved(Editor& editor, Side& side)

@@ -12,8 +12,9 @@ void mnuFileSaveAs_Click(Editor& editor);
 /// Each in turn, and back to the tab that was selected.
 void mnuFileSaveBoth_Click(Editor& editor);
 
-/// Write a document to its path, with backup and coloured shadow. When the file can't be written the user is told and
-/// Save As runs. False: the document wasn't saved, by neither road, and stays modified.
+/// Write a document to its path, with backup and coloured shadow. When another program has changed the file the user is
+/// asked first; when it can't be written the user is informed and Save As runs. False: the document wasn't saved, here
+/// or elsewhere, and stays modified.
 bool SaveJoystickText(Editor& editor);
 bool SaveMacroText(Editor& editor);
 

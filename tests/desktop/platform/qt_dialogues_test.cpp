@@ -5,6 +5,7 @@
 #include "platform/posix/drive_map.h"
 #include "support/temporary_directory.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -57,13 +58,39 @@ TEST(FillBox, SecondButtonIsTheDefaultWhenAsked)
     EXPECT_EQ(view.defaultButton(), view.button(QMessageBox::No));
 }
 
+MessageBox questionWithOwnCaptions()
+{
+    MessageBox box = question(BoxButtons::YesNoCancel);
+    box.captions = {"&Save anyway", "Another &name ..."};
+    return box;
+}
+
+TEST(FillBox, ButtonsShowTheirOwnCaptionsWhereThereAreAny)
+{
+    QMessageBox view;
+    fillBox(view, question(BoxButtons::YesNoCancel));
+    const QString cancel = view.button(QMessageBox::Cancel)->text();
+    fillBox(view, questionWithOwnCaptions());
+    EXPECT_EQ(view.button(QMessageBox::Yes)->text(), "&Save anyway");
+    EXPECT_EQ(view.button(QMessageBox::No)->text(), "Another &name ...");
+    EXPECT_EQ(view.button(QMessageBox::Cancel)->text(), cancel);
+}
+
 /// What the box answers when the user presses a key in it.
-Answer answerTo(BoxButtons buttons, Qt::Key key)
+Answer answerTo(const MessageBox& box, Qt::Key key, Qt::KeyboardModifier modifier = Qt::NoModifier)
 {
     const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
     QtDialogues dialogues(drives);
-    QTimer::singleShot(0, [key] { QTest::keyClick(QApplication::activeModalWidget(), key); });
-    return dialogues.show(question(buttons));
+    QTimer::singleShot(0, [=] { QTest::keyClick(QApplication::activeModalWidget(), key, modifier); });
+    return dialogues.show(box);
+}
+Answer answerTo(BoxButtons buttons, Qt::Key key) { return answerTo(question(buttons), key); }
+
+TEST(QtDialogues, ButtonsWithOwnCaptionsAnswerByPlace)
+{
+    EXPECT_EQ(answerTo(questionWithOwnCaptions(), Qt::Key_S, Qt::AltModifier), Answer::Yes);
+    EXPECT_EQ(answerTo(questionWithOwnCaptions(), Qt::Key_N, Qt::AltModifier), Answer::No);
+    EXPECT_EQ(answerTo(questionWithOwnCaptions(), Qt::Key_Escape), Answer::Cancel);
 }
 
 TEST(QtDialogues, EscapeIsCancelOrNoOrOkByTheButtonsThatThereAre)

@@ -8,6 +8,7 @@
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_find.h"
 #include "platform/dos_path.h"
+#include "platform/free_path.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>
@@ -17,16 +18,6 @@ namespace tarvex {
 namespace {
 
 constexpr std::string_view tag = "ED_offerRecovery";
-
-/// One that names no file yet: "mig.b50", "mig-2.b50", ...
-std::string freePath(const Editor& editor, const std::string& directory, const std::string& name)
-{
-    const std::size_t dot = std::min(name.rfind('.'), name.size());
-    std::string path = directory + name;
-    for (int count = 2; editor.platform.files.fileExists(path) || editor.platform.files.directoryExists(path); ++count)
-        path = directory + name.substr(0, dot) + "-" + std::to_string(count) + name.substr(dot);
-    return path;
-}
 
 // ---- bringing back --------------------------------------------------------------------------------------------------
 
@@ -46,7 +37,8 @@ std::string pathFor(Editor& editor, const LeftJournal& found)
     if (found.fileIsSame && start.file) return start.path;
     const std::string& present = sideOf(editor, found).FilePath;
     if (wasNew(found) && lowerUtf8(start.path) == lowerUtf8(present)) return present;
-    return freePath(editor, directoryOf(present), (untitled ? "" : "untitled-") + fileNameOf(start.name));
+    return freePath(editor.platform.files, directoryOf(present),
+                    (untitled ? "" : "untitled-") + fileNameOf(start.name));
 }
 
 /// The change from the saved text to the unsaved one, as if the user had made it.
@@ -162,9 +154,10 @@ std::string boxText(Editor& editor, const Offer& offer)
 void putAside(Editor& editor, const LeftJournal& found)
 {
     const Steps step(editor.shared.errors, tag);
-    const std::string path = freePath(editor, journalDirectory(editor) + "\\", fileNameOf(found.journal.start.name));
+    const std::string path =
+        freePath(editor.platform.files, journalDirectory(editor) + "\\", fileNameOf(found.journal.start.name));
     step([&] {
-        editor.platform.files.write(path, found.journal.text);
+        editor.platform.files.writePrivate(path, found.journal.text);
         removeJournal(editor, found.number);
     });
 }
@@ -209,7 +202,8 @@ void putAside(Editor& editor, const Side& side)
 {
     const Steps step(editor.shared.errors, tag);
     step([&] {
-        editor.platform.files.write(freePath(editor, journalDirectory(editor) + "\\", side.FileName), side.pane.Text());
+        editor.platform.files.writePrivate(
+            freePath(editor.platform.files, journalDirectory(editor) + "\\", side.FileName), side.pane.Text());
     });
 }
 

@@ -1,0 +1,110 @@
+#include "documents/files/outside_change.h"
+
+#include "documents/recovery/recovery_format.h"
+#include "platform/dos_path.h"
+#include "platform/free_path.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::string_view mark = "-outside";
+
+/// A file of another size needn't be read, however large it is.
+bool holds(const FileSystem& files, const std::string& path, const FileSum& sum)
+{
+    return files.stamp(path).size == sum.size && sumOf(files.read(path)) == sum;
+}
+
+bool holdsAnyOf(const FileSystem& files, const std::string& path, const std::vector<FileSum>& sums)
+{
+    bool any = false;
+    const Steps step;
+    step([&] {
+        any = std::any_of(sums.begin(), sums.end(), [&](const FileSum& sum) { return holds(files, path, sum); });
+    });
+    return any;
+}
+
+/// "mig-outside.b50"
+std::string outsideName(const std::string& name)
+{
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    return name.substr(0, dot) + std::string(mark) + name.substr(dot);
+}
+
+std::string outsidePath(const Editor& editor, const Side& side)
+{
+    return freePath(editor.platform.files, editor.shared.BackupDirectory, outsideName(fileNameOf(side.FilePath)));
+}
+
+Answer askWhatToDo(Editor& editor, const Side& side)
+{
+    return editor.platform.dialogues.show(
+        {.title = "Whoa ... not so fast!",
+         .text = side.FileName +
+                 " was changed by another program since I opened it, and I'd hate to wipe out somebody's work. If you "
+                 "save it anyway, I'll put the other version aside first, as\n\n    " +
+                 outsidePath(editor, side) +
+                 "\n\nOr give yours another name, and you'll have both. Or cancel, and have a look at what's there.",
+         .icon = BoxIcon::Exclamation,
+         .buttons = BoxButtons::YesNoCancel,
+         .secondButtonIsDefault = true,
+         .captions = {"&Save anyway", "Another &name ..."}});
+}
+
+std::vector<FileSum> harmlessContents(const Side& side)
+{
+    std::vector<FileSum> sums{sumOf(side.pane.Text())};
+    if (side.Journal.File) sums.push_back(*side.Journal.File);
+    return sums;
+}
+
+} // namespace
+
+OutsideChange outsideChange(const Editor& editor, const Side& side)
+{
+    const FileSystem& files = editor.platform.files;
+    if (!files.fileExists(side.FilePath) || holdsAnyOf(files, side.FilePath, harmlessContents(side)))
+        return OutsideChange::None;
+    return side.Journal.File ? OutsideChange::Changed : OutsideChange::Unknown;
+}
+
+Overwriting agreeOnOverwriting(Editor& editor, const Side& side)
+{
+    if (!side.Journal.File) return Overwriting::Agreed; // never read nor written: asked about by Save As
+    const FileSystem& files = editor.platform.files;
+    std::vector<FileSum> harmless = harmlessContents(side);
+    // The user may take his time to answer: what was written meanwhile is asked about, too.
+    while (files.fileExists(side.FilePath) && !holdsAnyOf(files, side.FilePath, harmless)) {
+        const Answer answer = askWhatToDo(editor, side);
+        if (answer == Answer::No) return Overwriting::UnderAnotherName;
+        if (answer != Answer::Yes) return Overwriting::Cancelled;
+        harmless.push_back(sumOf(files.read(keepOutsideVersion(editor, side))));
+    }
+    return Overwriting::Agreed;
+}
+
+std::string keepOutsideVersion(Editor& editor, const Side& side)
+{
+    FileSystem& files = editor.platform.files;
+    const std::string& directory = editor.shared.BackupDirectory;
+    if (!files.directoryExists(directory)) files.createDirectory(directory);
+    const std::string path = outsidePath(editor, side);
+    files.copyPrivate(side.FilePath, path);
+    return path;
+}
+
+bool isOutsideVersion(std::string_view name)
+{
+    std::string_view stem = name.substr(0, name.rfind('.'));
+    const std::size_t number = stem.find_last_not_of("0123456789");
+    if (number != std::string_view::npos && number + 1 < stem.size() && stem[number] == '-')
+        stem = stem.substr(0, number);
+    return stem.ends_with(mark);
+}
+
+} // namespace tarvex
