@@ -49,21 +49,23 @@ struct Arguments {
     std::string text;
 };
 
-Arguments readArguments(const QStringList& given)
+/// The bytes as they are given: a file's name needn't be text of the locale.
+Arguments readArguments(int count, char** values)
 {
     Arguments arguments;
     bool options = true;
-    for (const QString& argument : given.mid(1)) {
-        if (options && argument == QLatin1String("--")) {
+    for (int i = 1; i < count; ++i) {
+        const std::string argument = values[i];
+        if (options && argument == "--") {
             options = false;
-        } else if (options && argument == QLatin1String("--help")) {
+        } else if (options && argument == "--help") {
             return {{}, EXIT_SUCCESS, std::string(help)};
-        } else if (options && argument == QLatin1String("--version")) {
+        } else if (options && argument == "--version") {
             return {{}, EXIT_SUCCESS, "Tarvex " TARVEX_VERSION "\n"};
-        } else if (options && argument.startsWith(u'-')) {
-            return {{}, EXIT_FAILURE, "tarvex: unknown option " + argument.toStdString() + "\n" + std::string(help)};
+        } else if (options && argument.starts_with('-')) {
+            return {{}, EXIT_FAILURE, "tarvex: unknown option " + argument + "\n" + std::string(help)};
         } else if (arguments.file.empty()) {
-            arguments.file = argument.toStdString();
+            arguments.file = argument;
         } else {
             return {{}, EXIT_FAILURE, "tarvex: one file at most\n" + std::string(help)};
         }
@@ -76,14 +78,6 @@ int leave(const Arguments& arguments)
 {
     (arguments.exitStatus == EXIT_SUCCESS ? std::cout : std::cerr) << arguments.text;
     return *arguments.exitStatus;
-}
-
-/// Qt takes its own options out of the command line; those that only print need no window system.
-QStringList plainArguments(int count, char** values)
-{
-    QStringList arguments;
-    for (int i = 0; i < count; ++i) arguments.append(QString::fromLocal8Bit(values[i]));
-    return arguments;
 }
 
 void openDropped(tarvex::Program& program, const tarvex::DriveMap& drives, const QStringList& paths)
@@ -128,6 +122,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;
     if (program.start() && !desktop.quits()) {
+        for (const char* folder : {"", "/Backup", "/Rtf", "/Recover"}) writer.sweep(directory + folder);
         tellLeftCopies(dialogues, writer.leftCopies());
         status = QApplication::exec();
     }
@@ -140,12 +135,12 @@ int runProgram(tarvex::Application& application, const std::string& file)
 int main(int argumentCount, char** argumentValues)
 {
     tarvex::fillStandardFiles();
-    const Arguments early = readArguments(plainArguments(argumentCount, argumentValues));
+    const Arguments early = readArguments(argumentCount, argumentValues); // needs no window system
     if (early.exitStatus == EXIT_SUCCESS) return leave(early);
     tarvex::Application application(argumentCount, argumentValues);
     QApplication::setApplicationName(QStringLiteral("Tarvex"));
     QApplication::setDesktopFileName(QStringLiteral("tarvex"));
     QApplication::setQuitOnLastWindowClosed(false);
-    const Arguments arguments = readArguments(QApplication::arguments());
+    const Arguments arguments = readArguments(argumentCount, argumentValues); // without Qt's own
     return arguments.exitStatus ? leave(arguments) : runProgram(application, arguments.file);
 }

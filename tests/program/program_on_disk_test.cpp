@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 namespace tarvex {
@@ -108,6 +109,126 @@ TEST(ProgramOnDisk, AReadOnlyFileIsNeverWrittenOver)
     AutoSaveFile(editor);
     EXPECT_EQ(bytesOf(joystick), "precious");
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+}
+
+std::filesystem::perms accessTo(const std::string& path) { return std::filesystem::status(path).permissions(); }
+
+TEST(ProgramOnDisk, CopiesOfAPrivateFileAreForItsOwnerAlone)
+{
+    using std::filesystem::perms;
+    constexpr auto ownerOnly = perms::owner_read | perms::owner_write;
+    const TemporaryDirectory disk;
+    disk.put("Tarvex.ini", DiskProgram::settings);
+    const std::string joystick = disk.put("drive_c/tm/mig.b50", "precious");
+    const std::string macro = disk.put("drive_c/tm/mig.m50", "Fire = f\r\n");
+    for (const std::string& file : {joystick, macro}) std::filesystem::permissions(file, ownerOnly);
+    const std::string oldBackup = disk.put("Backup/mig.m50", "by an earlier version, for all to read");
+    std::filesystem::permissions(oldBackup, perms::owner_all | perms::group_read | perms::others_read);
+    DiskProgram t(disk.path(), joystick);
+    ASSERT_TRUE(t.start());
+    t.type(t.program->editor.joystick, "x");
+    t.type(t.program->editor.macro, "x");
+    t.program->menus.mnuFileSaveBoth.Click();
+    EXPECT_EQ(bytesOf(joystick), "xprecious");
+    for (const char* copy : {"Backup/mig.b50", "Backup/mig.m50", "Rtf/mig.b50", "Rtf/mig.m50", "drive_c/macro.txt"})
+        EXPECT_EQ(accessTo(disk / copy), ownerOnly) << copy;
+    EXPECT_EQ(accessTo(disk / "Rtf"), perms::owner_all);
+    EXPECT_EQ(accessTo(joystick), ownerOnly);
+}
+
+TEST(ProgramOnDisk, AnOutsideVersionUnderTheSameTimeAndSizeIsAskedAboutAndKeptForItsOwnerAlone)
+{
+    const TemporaryDirectory disk;
+    disk.put("Tarvex.ini", DiskProgram::settings);
+    const std::string joystick = disk.put("drive_c/tm/mig.b50", "BTN S1 x");
+    disk.put("drive_c/tm/mig.m50", "");
+    const auto time = std::filesystem::last_write_time(joystick);
+    DiskProgram t(disk.path(), joystick);
+    ASSERT_TRUE(t.start());
+    std::ofstream(joystick) << "BTN S2 y"; // into the same file, as many editors write
+    std::filesystem::last_write_time(joystick, time);
+    t.type(t.program->editor.joystick, "Rem ");
+    t.program->editor.TabStrip1.Select(1);
+    t.dialogues.answers = {Answer::Yes};
+    t.program->menus.mnuFileSave.Click();
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_NE(t.dialogues.boxes.back().text.find("was changed by another program"), std::string::npos);
+    EXPECT_EQ(bytesOf(joystick), "Rem BTN S1 x");
+    EXPECT_EQ(bytesOf(disk / "Backup/mig-outside.b50"), "BTN S2 y");
+    EXPECT_EQ(accessTo(disk / "Backup/mig-outside.b50"),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+}
+
+TEST(ProgramOnDisk, APipeInPlaceOfTheFileIsNeitherWaitedForNorReplaced)
+{
+    const TemporaryDirectory disk;
+    disk.put("Tarvex.ini", DiskProgram::settings);
+    const std::string joystick = disk.put("drive_c/tm/mig.b50", "BTN S1 x");
+    disk.put("drive_c/tm/mig.m50", "");
+    DiskProgram t(disk.path(), joystick);
+    ASSERT_TRUE(t.start());
+    std::filesystem::remove(joystick);
+    ASSERT_EQ(::mkfifo(joystick.c_str(), 0600), 0);
+    t.type(t.program->editor.joystick, "Rem ");
+    AutoSaveFile(t.program->editor);
+    t.program->editor.TabStrip1.Select(1);
+    t.dialogues.answers = {Answer::Yes};
+    t.dialogues.filesToSave = {std::nullopt};
+    t.program->menus.mnuFileSave.Click();
+    EXPECT_EQ(t.dialogues.boxes.back().title, "Error generated when trying to save your file");
+    EXPECT_TRUE(std::filesystem::is_fifo(joystick));
+    EXPECT_EQ(t.program->editor.pair.JoystickChanged, changed::modified);
+}
+
+TEST(ProgramOnDisk, AFolderOnTheCommandLineIsNamedInTheStatusBar)
+{
+    const TemporaryDirectory disk;
+    disk.put("Tarvex.ini", DiskProgram::settings);
+    DiskProgram t(disk.path(), disk.makeDirectory("drive_c/tm"));
+    ASSERT_TRUE(t.start());
+    EXPECT_EQ(t.status(), "c:\\tm is a folder, so I haven't opened it.");
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    EXPECT_EQ(t.program->editor.pair.JoystickFileName, "untitled.b50");
+}
+
+TEST(ProgramOnDisk, ALoopOfLinksOnTheCommandLineIsNamedInTheStatusBar)
+{
+    const TemporaryDirectory disk;
+    disk.put("Tarvex.ini", DiskProgram::settings);
+    disk.makeDirectory("drive_c/tm");
+    std::filesystem::create_symlink("b.b50", disk / "drive_c/tm/a.b50");
+    std::filesystem::create_symlink("a.b50", disk / "drive_c/tm/b.b50");
+    DiskProgram t(disk.path(), disk / "drive_c/tm/a.b50");
+    ASSERT_TRUE(t.start());
+    EXPECT_EQ(t.status(), "I couldn't open c:\\tm\\a.b50: Too many levels of symbolic links");
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
+TEST(ProgramOnDisk, ANameThatIsNotUtf8OpensItsFileOrIsReportedInTheStatusBar)
+{
+    for (const bool exists : {true, false}) {
+        const TemporaryDirectory disk;
+        disk.put("Tarvex.ini", DiskProgram::settings);
+        disk.makeDirectory("drive_c/tm");
+        if (exists) disk.put("drive_c/tm/J\xF6rg.b50", "BTN S1 x");
+        DiskProgram t(disk.path(), disk / "drive_c/tm/J\xF6rg.b50");
+        ASSERT_TRUE(t.start());
+        EXPECT_EQ(t.program->editor.JoystickText.Text(), exists ? "BTN S1 x" : "");
+        const bool isReported = t.status().find("isn't valid UTF-8") != std::string::npos;
+        EXPECT_EQ(isReported, !exists) << t.status();
+    }
+}
+
+TEST(ProgramOnDisk, AMissingFileOnTheCommandLineIsDroppedWithoutAWord)
+{
+    const TemporaryDirectory disk;
+    disk.put("Tarvex.ini", DiskProgram::settings);
+    for (const char* path : {"/drive_c/none.b50", "/none/none.b50"}) {
+        DiskProgram t(disk.path(), disk.path() + path);
+        ASSERT_TRUE(t.start());
+        EXPECT_EQ(t.status(), "Ready! Welcome to Tarvex!") << path;
+        EXPECT_TRUE(t.program->exit());
+    }
 }
 
 TEST(ProgramOnDisk, ADirectoryInPlaceOfAFileIsToldAndOpensNothing)

@@ -81,20 +81,41 @@ void openFavourite(Editor& editor)
     }
 }
 
+/// For the status bar: why a path that can be no file at all names none. Empty for a file, and for a name that simply
+/// doesn't exist, which is dropped without a word.
+std::string whyNotAFile(const FileSystem& files, const std::string& path)
+{
+    if (!isValidUtf8(path)) return "I couldn't find the file I was started with: its name isn't valid UTF-8.";
+    if (files.fileExists(path)) return {};
+    if (files.directoryExists(path)) return path + " is a folder, so I haven't opened it.";
+    try {
+        files.readPieces(path, [](std::string_view) { return false; });
+    } catch (const RuntimeError& error) {
+        if (error.code() != ErrorCode::FileNotFound && error.code() != ErrorCode::PathNotFound)
+            return "I couldn't open " + path + ": " + error.what();
+    }
+    return {};
+}
+
 /// The command line's file wins over a favourite. Text that was brought back is shown in their stead; a file that is no
-/// part of it is opened after the usual question.
-void openFirstFile(Editor& editor)
+/// part of it is opened after the usual question. Returns why the command line's file can't be opened, if it can't.
+std::string openFirstFile(Editor& editor)
 {
     Shared& shared = editor.shared;
     const auto broughtBack = offerRecovery(editor);
-    if (!shared.CommandLineFile.empty()) TestCommandLine(editor);
+    std::string whyNot;
     if (!shared.CommandLineFile.empty()) {
-        if (isAmong(broughtBack, shared.CommandLineFile)) return;
+        whyNot = whyNotAFile(editor.platform.files, shared.CommandLineFile);
+        TestCommandLine(editor);
+    }
+    if (!shared.CommandLineFile.empty()) {
+        if (isAmong(broughtBack, shared.CommandLineFile)) return {};
         editor.OpeningPath = shared.CommandLineFile;
         OpenPreviouslySavedFiles(editor);
     } else if (broughtBack.empty() && !shared.settings.FavNameToLoad.empty() && shared.settings.FavLoadOnStart == 1) {
         openFavourite(editor);
     }
+    return whyNot;
 }
 
 void playStartupSound(Editor& editor)
@@ -161,7 +182,8 @@ void Form_Load(Editor& editor)
     editor.MacroText.setSelStart(0);
     editor.TabStrip1.Select(editor.joystick.tab);
 
-    step([&] { openFirstFile(editor); });
+    std::string whyNotOpened;
+    step([&] { whyNotOpened = openFirstFile(editor); });
 
     shared.store.read(Access::GetLayoutFonts, "ED_Form_Load");
     shared.IsLoading = 0;
@@ -171,7 +193,7 @@ void Form_Load(Editor& editor)
     showLineNumber(editor, editor.joystick, editor.JoystickText.SelStart());
     UpdateSavedIcon(editor);
     F22MenusUpdate(editor);
-    editor.status("Ready! Welcome to Tarvex!");
+    editor.status(whyNotOpened.empty() ? "Ready! Welcome to Tarvex!" : whyNotOpened);
     editor.platform.desktop.doEvents();
     editor.platform.desktop.doEvents();
 

@@ -3,6 +3,7 @@
 #include "platform/errors.h"
 #include "platform/posix/dos_names.h"
 #include "platform/posix/system_error.h"
+#include "platform/windows1252.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -257,7 +258,9 @@ std::string DriveMap::dosFromAbsolute(const std::string& path) const
 std::string DriveMap::fromArgument(const std::string& argument) const
 {
     if (argument.empty()) return {};
-    if (!isDosPath(argument)) return toDos(argument);
+    const bool isText = isValidUtf8(argument);
+    if (!isText && !exists(argument.starts_with('/') ? argument : m_workingDirectory + "/" + argument)) return argument;
+    if (!isText || !isDosPath(argument)) return toDos(argument);
     std::string path = argument;
     std::replace(path.begin(), path.end(), '/', '\\');
     return path;

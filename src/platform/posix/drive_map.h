@@ -40,7 +40,8 @@ public:
     /// it has been lower-cased. A relative path goes from the working directory. Throws RuntimeError: BadFileName for a
     /// NUL or an empty path.
     std::string toDos(const std::string& nativePath) const;
-    /// The DOS path for an argument of the command line, which may be a DOS path already; an empty one stays empty.
+    /// The DOS path for an argument of the command line, which may be a DOS path already; an empty one stays empty,
+    /// and one that neither is UTF-8 nor names a file stays as it is.
     std::string fromArgument(const std::string& argument) const;
     /// The names in an existing directory, as toDos would give them. Throws RuntimeError when it can't be read.
     std::vector<std::string> list(const std::string& dosPath) const;

@@ -205,6 +205,8 @@ TEST_F(Drives, ListGivesTheNamesThatLeadToTheFiles)
 TEST_F(Drives, ArgumentMayBeADosOrANativePath)
 {
     EXPECT_EQ(map.fromArgument(""), "");
+    EXPECT_EQ(map.fromArgument("no\xFF.b50"), "no\xFF.b50");
+    EXPECT_EQ(map.fromArgument("/no\xFF.b50"), "/no\xFF.b50");
     EXPECT_EQ(map.fromArgument("C:/tm\\Mig.b50"), "C:\\tm\\Mig.b50");
     EXPECT_EQ(map.fromArgument(driveC + "/mig.b50"), "c:\\mig.b50");
     EXPECT_EQ(map.fromArgument("mig.b50"), base() + "\\mig.b50");
