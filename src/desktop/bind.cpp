@@ -3,8 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QTimer>
@@ -84,6 +86,8 @@ void Bindings::textBox(TextBox& state, QLineEdit& widget)
     bind(state.Text, [&widget](const std::string& text) {
         if (toQt(text) != widget.text()) widget.setText(toQt(text));
     });
+    bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
+    bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
     follow(state.selectAllWanted, [&widget] { widget.selectAll(); });
     QObject::connect(&widget, &QLineEdit::textChanged, &widget,
                      [&state](const QString& text) { state.Text = fromQt(text); });
@@ -93,6 +97,8 @@ void Bindings::checkBox(CheckBox& state, QCheckBox& widget)
 {
     bind(state.Caption, [&widget](const std::string& caption) { widget.setText(toQt(caption)); });
     bind(state.Value, [&widget](bool on) { widget.setChecked(on); });
+    bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
+    bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
     QObject::connect(&widget, &QCheckBox::clicked, &widget, [&state](bool on) {
         state.Value = on;
         if (state.Click) state.Click();
@@ -121,6 +127,52 @@ void Bindings::tabs(TabStrip& state, QTabWidget& widget)
         widget.setCurrentIndex(tab - 1);
     });
     QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&state](int index) { state.Select(index + 1); });
+}
+
+void Bindings::pages(SSTab& state, QTabWidget& widget)
+{
+    for (int page = 0; page < state.Count(); ++page) {
+        SSTab::Page& one = state.Pages(page);
+        bind(one.Caption, [&widget, page](const std::string& caption) { widget.setTabText(page, toQt(caption)); });
+        bind(one.Enabled, [&widget, page](bool on) { widget.setTabEnabled(page, on); });
+        bind(one.Visible, [&widget, page](bool on) { widget.setTabVisible(page, on); });
+    }
+    bind(state.Tab, [&widget](int page) {
+        const QSignalBlocker quiet(widget);
+        widget.setCurrentIndex(page);
+    });
+    QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&state](int page) {
+        state.Tab = page;
+        if (state.Click) state.Click();
+    });
+}
+
+void Bindings::listBox(ListBox& state, QListWidget& widget, Runs runs)
+{
+    focus(state, widget);
+    bind(state.Items, [&state, &widget](const std::vector<std::string>& items) {
+        const QSignalBlocker quiet(widget);
+        widget.clear();
+        for (const std::string& item : items) widget.addItem(toQt(item));
+        widget.setCurrentRow(state.ListIndex);
+    });
+    bind(state.ListIndex, [&widget](int row) {
+        const QSignalBlocker quiet(widget);
+        widget.setCurrentRow(row);
+    });
+    bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
+    bind(state.Visible, [&widget](bool on) { widget.setVisible(on); });
+    const auto click = [&state] {
+        if (state.Click && state.ListIndex >= 0) state.Click();
+    };
+    QObject::connect(&widget, &QListWidget::currentRowChanged, &widget, [&state, runs, click](int row) {
+        state.ListIndex = row;
+        if (runs == Runs::OnChoice) click();
+    });
+    if (runs == Runs::OnChoice) return;
+    QObject::connect(&widget, &QListWidget::clicked, &widget, click);
+    auto* byReturn = new QShortcut(QKeySequence(Qt::Key_Return), &widget, click);
+    byReturn->setContext(Qt::WidgetShortcut);
 }
 
 void Bindings::progressBar(ProgressBar& state, QProgressBar& widget)

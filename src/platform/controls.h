@@ -125,6 +125,9 @@ struct TextBox : Focusable {
     Signal<> selectAllWanted;
     void SelectAll() const { selectAllWanted(); }
     std::function<void()> GotFocus;
+    std::function<void()> LostFocus;
+    Property<bool> Enabled = true;
+    Property<std::string> ToolTipText;
 };
 
 struct Label {
@@ -135,6 +138,8 @@ struct Label {
 struct CheckBox {
     Property<std::string> Caption;
     Property<bool> Value = false;
+    Property<bool> Enabled = true;
+    Property<std::string> ToolTipText;
     std::function<void()> Click;
 };
 
@@ -151,6 +156,15 @@ struct ComboBox : Focusable {
     std::function<void()> Click; ///< the user chose an item
     Signal<> selectAllWanted;
     void SelectAll() const { selectAllWanted(); }
+};
+
+/// A list of which one entry can be chosen. The user's choice is in ListIndex when Click runs.
+struct ListBox : Focusable {
+    Property<std::vector<std::string>> Items;
+    Property<int> ListIndex = -1; ///< from 0; -1: none
+    Property<bool> Enabled = true;
+    Property<bool> Visible = true;
+    std::function<void()> Click;
 };
 
 struct CheckListBox {
@@ -189,6 +203,30 @@ public:
 
 private:
     std::deque<Tab> m_tabs;
+};
+
+/// The pages of a dialogue under their tabs, numbered from 0.
+class SSTab {
+public:
+    struct Page {
+        Property<std::string> Caption;
+        Property<bool> Visible = true;
+        Property<bool> Enabled = true; ///< a page that isn't can't be chosen by the user
+    };
+    SSTab(std::initializer_list<const char*> captions)
+    {
+        for (const char* caption : captions) m_pages.emplace_back().Caption = caption;
+    }
+
+    /// Throws std::out_of_range for a page that there isn't.
+    Page& Pages(int index) { return m_pages.at(static_cast<std::size_t>(index)); }
+    int Count() const { return static_cast<int>(m_pages.size()); }
+
+    Property<int> Tab = 0;       ///< the page that is shown
+    std::function<void()> Click; ///< the user chose a page, which is in Tab
+
+private:
+    std::deque<Page> m_pages;
 };
 
 /// Panels are numbered from 1.

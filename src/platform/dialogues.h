@@ -34,7 +34,7 @@ struct FileRequest {
 
 struct FontChoice {
     std::string name;
-    int size = 0; ///< points
+    float size = 0; ///< points
     bool bold = false;
 };
 
@@ -55,6 +55,11 @@ public:
     /// The DOS path of an existing folder, without "\" at its end except for a drive's root; nothing when cancelled.
     /// The dialogue starts in `directory`, if that is a folder.
     virtual std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) = 0;
+
+    /// The colour that the user chose, or nothing when cancelled. The dialogue starts with `now`.
+    virtual std::optional<Colour> chooseColour(Colour now) = 0;
+    /// The font that the user chose, its size in points, or nothing when cancelled. The dialogue starts with `now`.
+    virtual std::optional<FontChoice> chooseFont(const FontChoice& now, bool fixedPitchOnly) = 0;
 
     /// Shows the window of that name modally and returns when it has closed. False: there is no such window.
     virtual bool showModal(const std::string& formName) = 0;

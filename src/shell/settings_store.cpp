@@ -96,6 +96,12 @@ SettingsStore::SettingsStore(FileSystem& files, std::string programDirectory, Se
 {
 }
 
+SettingsStore::Batch::Batch(SettingsStore& store)
+{
+    for (const IniFile which : {IniFile::Tarvex, IniFile::Lists, IniFile::Layouts, IniFile::Tca})
+        m_files[static_cast<std::size_t>(which)].emplace(store.file(which));
+}
+
 std::string SettingsStore::pathOf(IniFile which) const
 {
     return m_programDirectory + "\\" + std::string(fileNameOf(which));

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace tarvex {
@@ -33,6 +34,15 @@ public:
     void SaveOpenSingleOnly() { write(Access::SaveOpenSingleOnly, "MODULE SaveOpenSingleOnly"); }
     void GetIndentStuff() { read(Access::GetIndentStuff, "MODULE GetIndentStuff"); }
     void SaveIndentStuff() { write(Access::SaveIndentStuff, "MODULE SaveIndentStuff"); }
+
+    /// Holds the writes of several procedures back until it ends, so that each INI file is written once.
+    class Batch {
+    public:
+        explicit Batch(SettingsStore& store);
+
+    private:
+        std::array<std::optional<ProfileFile::Batch>, 4> m_files;
+    };
 
     /// Full path of an INI file.
     std::string pathOf(IniFile file) const;

@@ -19,6 +19,8 @@ public:
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
     std::deque<std::optional<std::string>> folders;
+    std::deque<std::optional<Colour>> colours;
+    std::deque<std::optional<FontChoice>> fonts;
     std::function<void()> whileOpening; ///< runs while a file dialogue is up
     std::function<void()> whileSaving;
     bool modalFormsExist = true;
@@ -34,6 +36,9 @@ public:
     std::vector<FileRequest> saveRequests;
     std::vector<FileRequest> folderRequests;
     std::vector<std::string> modalForms;
+    std::vector<Colour> coloursShown; ///< what the dialogues started with
+    std::vector<FontChoice> fontsShown;
+    bool fixedPitchWanted = false;
     std::vector<std::string> popUps; ///< names of the menus that popped up
     std::vector<std::string> popUpsAtCaret;
     std::function<void()> whilePoppedUp; ///< runs while a menu is up
@@ -63,6 +68,17 @@ public:
     {
         folderRequests.push_back({.title = title, .directory = directory});
         return next(folders, std::optional<std::string>(), "folder " + title);
+    }
+    std::optional<Colour> chooseColour(Colour now) override
+    {
+        coloursShown.push_back(now);
+        return next(colours, std::optional<Colour>(), "colour");
+    }
+    std::optional<FontChoice> chooseFont(const FontChoice& now, bool fixedPitchOnly) override
+    {
+        fontsShown.push_back(now);
+        fixedPitchWanted = fixedPitchOnly;
+        return next(fonts, std::optional<FontChoice>(), "font");
     }
     bool showModal(const std::string& formName) override
     {

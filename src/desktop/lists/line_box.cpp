@@ -45,4 +45,10 @@ void LineBox::focusInEvent(QFocusEvent* event)
     });
 }
 
+void LineBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && m_state.LostFocus) m_state.LostFocus();
+}
+
 } // namespace tarvex

@@ -6,8 +6,8 @@
 
 namespace tarvex {
 
-/// A text box of one line that tells when it gets the keyboard. Of a text of several lines that is pasted into it the
-/// first is kept.
+/// A text box of one line that reports when it gets and loses the keyboard. Of a text of several lines that is pasted
+/// into it the first is kept.
 class LineBox : public QLineEdit {
     Q_OBJECT
 public:
@@ -16,6 +16,7 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     TextBox& m_state;

@@ -7,9 +7,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QColorDialog>
 #include <QCursor>
 #include <QDir>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QGridLayout>
 #include <QMenu>
 #include <QMessageBox>
@@ -189,6 +191,26 @@ std::optional<std::string> QtDialogues::chooseFolder(const std::string& title, c
     dialogue.setDirectory(startDirectory(directory));
     if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return std::nullopt;
     return m_drives.toDos(fromQt(dialogue.selectedFiles().constFirst()));
+}
+
+std::optional<Colour> QtDialogues::chooseColour(Colour now)
+{
+    const QColor colour = QColorDialog::getColor(toQt(now), parentNow());
+    if (!colour.isValid()) return std::nullopt;
+    return colour.red() | colour.green() << 8 | colour.blue() << 16;
+}
+
+std::optional<FontChoice> QtDialogues::chooseFont(const FontChoice& now, bool fixedPitchOnly)
+{
+    QFont font(toQt(now.name));
+    if (now.size > 0) font.setPointSizeF(now.size);
+    font.setBold(now.bold);
+    QFontDialog::FontDialogOptions options;
+    if (fixedPitchOnly) options |= QFontDialog::MonospacedFonts;
+    bool accepted = false;
+    font = QFontDialog::getFont(&accepted, font, parentNow(), QString(), options);
+    if (!accepted) return std::nullopt;
+    return FontChoice{fromQt(font.family()), static_cast<float>(font.pointSizeF()), font.bold()};
 }
 
 bool QtDialogues::showModal(const std::string& formName)

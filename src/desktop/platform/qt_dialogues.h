@@ -33,6 +33,8 @@ public:
     std::optional<std::string> openFile(const FileRequest& request) override;
     std::optional<std::string> saveFile(const FileRequest& request) override;
     std::optional<std::string> chooseFolder(const std::string& title, const std::string& directory) override;
+    std::optional<Colour> chooseColour(Colour now) override;
+    std::optional<FontChoice> chooseFont(const FontChoice& now, bool fixedPitchOnly) override;
     bool showModal(const std::string& formName) override;
     void popUp(const MenuItem& root) override;
     void popUpAtCaret(const MenuItem& root) override;
