@@ -86,7 +86,7 @@ bool nameFits(Editor& editor)
 class ResultFile {
 public:
     ResultFile(Editor& editor, const Steps& step)
-        : m_files(editor.platform.files), m_path(withLastThree(editor.shared.settings.B50LoadPath, "dat"))
+        : m_files(editor.platform.files), m_path(withLastThree(editor.shared.settings.B50LoadPath.whole(), "dat"))
     {
         step([&] { m_files.removeFile(m_path); });
         editor.platform.desktop.doEvents();
@@ -111,7 +111,7 @@ void showResult(Editor& editor, const std::string& path, const Steps& step)
 void download(Editor& editor, const Steps& step)
 {
     const Settings& settings = editor.shared.settings;
-    changeToFolderOf(editor.shared.currentDirectory, settings.B50LoadPath, step);
+    changeToFolderOf(editor.shared.currentDirectory, settings.B50LoadPath.whole(), step);
     std::string command = loaderCommand(editor, editor.pair.JoystickFilePath);
     std::optional<ResultFile> result; // the other loaders write none
     if (command.find(winLoadMark) != std::string::npos) {
@@ -130,7 +130,7 @@ void download(Editor& editor, const Steps& step)
 
 std::string loaderCommand(const Editor& editor, const std::string& joystickFile)
 {
-    return editor.shared.settings.B50LoadPath + " " + joystickFile;
+    return editor.shared.settings.B50LoadPath.whole() + " " + joystickFile;
 }
 
 bool wantsQuiet(const Editor& editor)

@@ -43,9 +43,9 @@ void tell(Editor& editor, const char* text) { editor.platform.dialogues.show({.t
 /// on.
 bool downloadFirst(Editor& editor, const Game& game)
 {
-    const std::string& loader = editor.shared.settings.B50LoadPath;
+    const std::string& loader = editor.shared.settings.B50LoadPath.whole();
     enter(editor.shared.currentDirectory, loader, directoryOf(loader));
-    std::string command = loaderCommand(editor, game.joystickFile);
+    std::string command = loaderCommand(editor, game.joystickFile.whole());
     if (wantsQuiet(editor)) command += " Q";
     if (!joystickIsAwake(editor)) return false;
     runLoader(editor, command);
@@ -58,8 +58,9 @@ void launchGame(Editor& editor, const Game& game)
 {
     try {
         if (editor.menus.mnuGamesDownloadFirst.Checked && !downloadFirst(editor, game)) return;
-        enter(editor.shared.currentDirectory, game.workingDirectory, game.workingDirectory);
-        editor.platform.processes.start(game.command, windowStyle::normal, editor.shared.currentDirectory.path());
+        enter(editor.shared.currentDirectory, game.workingDirectory.whole(), game.workingDirectory.whole());
+        editor.platform.processes.start(game.command.whole(), windowStyle::normal,
+                                        editor.shared.currentDirectory.path());
         editor.menus.mnuFileExit.Click();
     } catch (const RunnerMissing&) { // one box is enough
     } catch (const RuntimeError& error) {

@@ -48,7 +48,7 @@ std::string pathNeededFor(std::string_view tool)
 /// told so.
 bool enterControlCentre(Editor& editor, std::string_view mentioned, const Steps& step)
 {
-    const std::string& path = editor.shared.settings.CandCCPath;
+    const std::string& path = editor.shared.settings.CandCCPath.whole();
     if (path.empty()) {
         tell(editor, "Where is it?", pathNeededFor(mentioned));
         return false;
@@ -66,7 +66,7 @@ void startTool(Editor& editor, const Tool& tool)
 {
     const Steps step(editor.shared.errors, tool.tag);
     if (!enterControlCentre(editor, tool.mentioned, step)) return;
-    const std::string& path = editor.shared.settings.CandCCPath;
+    const std::string& path = editor.shared.settings.CandCCPath.whole();
     start(editor, tool.file.empty() ? path : directoryOf(path) + std::string(tool.file), step);
 }
 
@@ -96,7 +96,7 @@ void mnuAppsTMScope_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuAppsTMScope_Click");
     if (!enterControlCentre(editor, {}, step)) return;
-    const std::string& path = editor.shared.settings.CandCCPath;
+    const std::string& path = editor.shared.settings.CandCCPath.whole();
     const std::string folder = directoryOf(path);
     const std::string scope = firstThatExists(editor, {folder + "tmscope.exe", folder + "tms.exe"});
     if (!scope.empty()) return start(editor, scope, step, windowStyle::maximised);
@@ -133,7 +133,7 @@ void mnuAppsProPanel_Click(Editor& editor)
 void mnuAppsCTFJ_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuAppsCTFJ_Click");
-    const std::string& path = editor.shared.settings.CTFJPath;
+    const std::string& path = editor.shared.settings.CTFJPath.whole();
     if (path.empty()) {
         return tellAboutCtfj(editor, "You need to enter the path in preferences for whichever version of CTFJ you have "
                                      "on your system. I'll take you there now.");
@@ -165,7 +165,7 @@ void mnuCustomApp_Click(Editor& editor, int index)
 {
     const Steps step(editor.shared.errors, "ED_mnuCustomApp_Click");
     step([&] {
-        const std::string& path = editor.shared.settings.CustomAppPath.at(static_cast<std::size_t>(index));
+        const std::string& path = editor.shared.settings.CustomAppPath.at(static_cast<std::size_t>(index)).whole();
         changeToRootOf(editor.shared.currentDirectory, path, step);
         start(editor, path, step);
     });

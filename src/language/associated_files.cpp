@@ -27,7 +27,7 @@ const Family* familyBy(std::string_view Family::*extension, const std::string& p
 std::string macroExtensionFor(const std::string& joystickPath, const Settings& settings)
 {
     const Family* family = familyBy(&Family::joystickFile, joystickPath);
-    return family ? std::string(family->macroFile) : settings.MacroExtension;
+    return family ? std::string(family->macroFile) : std::string(settings.MacroExtension);
 }
 
 } // namespace
@@ -42,7 +42,7 @@ FileKind kindOfFile(const std::string& name)
 std::string associatedJoystickFile(const std::string& macroPath, const Settings& settings)
 {
     const Family* family = familyBy(&Family::macroFile, macroPath);
-    return withLastThree(macroPath, family ? family->joystickFile : settings.JoystickExtension);
+    return withLastThree(macroPath, family ? family->joystickFile : std::string_view(settings.JoystickExtension));
 }
 
 std::string associatedMacroFile(const std::string& joystickPath, const Settings& settings)

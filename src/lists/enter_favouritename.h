@@ -2,6 +2,7 @@
 
 #include "platform/controls.h"
 #include "shell/errors.h"
+#include "shell/setting_text.h"
 
 #include <string>
 
@@ -9,9 +10,9 @@ namespace tarvex {
 
 /// Three texts: what one favourite is.
 struct Favourite {
-    std::string name;
-    std::string joystickPath;
-    std::string macroPath;
+    SettingText name;
+    SettingText joystickPath;
+    SettingText macroPath;
 };
 
 /// The dialogue that asks for the name of a new favourite.

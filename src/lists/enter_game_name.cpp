@@ -112,7 +112,7 @@ void GAME_Command3_Click(EnterGameName& form)
 {
     handle(form, "GAME Command3_Click", [&] {
         form.okPressed = 1;
-        form.current = {form.Text1.Text, form.Text2.Text, form.Text3.Text, form.Text4.Text};
+        form.current = {form.Text1.Text.get(), form.Text2.Text.get(), form.Text3.Text.get(), form.Text4.Text.get()};
         form.Form.Visible = false;
     });
 }

@@ -11,10 +11,10 @@ namespace tarvex {
 
 /// Four texts: what one game is.
 struct Game {
-    std::string name;
-    std::string command; ///< starts it, with any switches
-    std::string workingDirectory;
-    std::string joystickFile; ///< to download before it starts
+    SettingText name;
+    SettingText command; ///< starts it, with any switches
+    SettingText workingDirectory;
+    SettingText joystickFile; ///< to download before it starts
 };
 
 /// The dialogue that asks for the details of a new game.

@@ -64,8 +64,8 @@ void UpdateFavouritesMenu(Favourites& favourites)
     const Steps step(favourites.editor.shared.errors, "MODULE UpdateFavouritesMenu");
     Favourite& current = favourites.current;
     step([&] {
-        current.joystickPath = lowerUtf8(current.joystickPath);
-        current.macroPath = lowerUtf8(current.macroPath);
+        current.joystickPath = current.joystickPath.lower();
+        current.macroPath = current.macroPath.lower();
         favourites.editor.menus.mnuFavourites.Enabled = true;
         putOnTop(favourites.list, {current.name, current.joystickPath, current.macroPath});
     });
@@ -105,8 +105,8 @@ void mnuFavArray_Click(Favourites& favourites, int index)
         const Settings& settings = editor.shared.settings;
         const auto entry = static_cast<std::size_t>(index - 1);
         favourites.current = {settings.FavName.at(entry), settings.FavJFPath.at(entry), settings.FavMFPath.at(entry)};
-        OpenFavouriteFile(favourites, favourites.current.macroPath);
-        OpenFavouriteFile(favourites, favourites.current.joystickPath);
+        OpenFavouriteFile(favourites, favourites.current.macroPath.whole());
+        OpenFavouriteFile(favourites, favourites.current.joystickPath.whole());
         UpdateFavouritesMenu(favourites);
         if (settings.CheckIdentifyOK == 1) editor.operations.IdentifyMacrosUsed();
     });

@@ -70,11 +70,19 @@ void tellGone(Editor& editor, const std::string& path)
                                     .icon = BoxIcon::Exclamation});
 }
 
+/// The caption, or what it stands for when it was cut.
+std::string pathOf(const RecentList& list, int index)
+{
+    const SettingText& path = list.columns.front()->at(static_cast<std::size_t>(index - 1));
+    const std::string& caption = list.menu[index].Caption;
+    return path == caption ? path.whole() : caption;
+}
+
 void openItem(Editor& editor, PreviousList& previous, int index)
 {
     const Steps step(editor.shared.errors, previous.tags.click);
     step([&] {
-        const std::string path = previous.list.menu[index].Caption; // opening moves the captions
+        const std::string path = pathOf(previous.list, index); // opening moves the entries
         if (!editor.platform.files.fileExists(path)) return tellGone(editor, path);
         editor.OpeningPath = path;
         OpenPreviouslySavedFiles(editor);
@@ -85,8 +93,8 @@ void openItem(Editor& editor, PreviousList& previous, int index)
 void clearList(Editor& editor, PreviousList& previous)
 {
     const Steps step(editor.shared.errors, previous.tags.clear);
-    std::vector<std::string>& paths = *previous.list.columns.front();
-    std::fill(paths.begin(), paths.end(), std::string());
+    std::vector<SettingText>& paths = *previous.list.columns.front();
+    std::fill(paths.begin(), paths.end(), SettingText());
     previous.list.count = 0;
     editor.shared.store.write(previous.update, previous.tags.clear);
     addArray(editor, previous);

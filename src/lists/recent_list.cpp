@@ -7,10 +7,12 @@ namespace tarvex {
 namespace {
 
 /// Place, from 1, of the last entry with this first text; 0 when there is none.
-int lastPlaceOf(const RecentList& list, const std::string& text)
+int lastPlaceOf(const RecentList& list, const SettingText& text)
 {
-    const std::vector<std::string>& texts = *list.columns.front();
-    const auto found = std::find(texts.rbegin(), texts.rend(), text);
+    const std::vector<SettingText>& texts = *list.columns.front();
+    auto found =
+        std::find_if(texts.rbegin(), texts.rend(), [&](const SettingText& one) { return one.whole() == text.whole(); });
+    if (found == texts.rend() && isOnMenu(list, text) != 0) found = std::find(texts.rbegin(), texts.rend(), text);
     return static_cast<int>(texts.rend() - found);
 }
 
@@ -28,7 +30,7 @@ int placeForNew(const RecentList& list)
 void resizeColumns(const RecentList& list)
 {
     list.count = std::max<std::int16_t>(list.count, 0);
-    for (std::vector<std::string>* column : list.columns) column->resize(static_cast<std::size_t>(list.count));
+    for (std::vector<SettingText>* column : list.columns) column->resize(static_cast<std::size_t>(list.count));
 }
 
 void showMenu(const RecentList& list)
@@ -37,7 +39,7 @@ void showMenu(const RecentList& list)
     while (menu.UBound() > list.count) menu.Unload(menu.UBound());
     while (menu.UBound() < list.count) menu.Load(menu.UBound() + 1);
     menu[0].Visible = list.count == 0;
-    const std::vector<std::string>& texts = *list.columns.front();
+    const std::vector<SettingText>& texts = *list.columns.front();
     for (int i = 1; i <= list.count; ++i) {
         menu[i].Caption = texts[static_cast<std::size_t>(i - 1)];
         menu[i].Visible = true;
@@ -53,10 +55,10 @@ std::int16_t isOnMenu(const RecentList& list, const std::string& caption)
     return 0;
 }
 
-void putOnTop(const RecentList& list, const std::vector<std::string>& entry)
+void putOnTop(const RecentList& list, const std::vector<SettingText>& entry)
 {
     resizeColumns(list);
-    int place = isOnMenu(list, entry.front()) != 0 ? lastPlaceOf(list, entry.front()) : 0;
+    int place = lastPlaceOf(list, entry.front());
     if (place == 0) place = placeForNew(list);
     for (std::size_t i = 0; i < list.columns.size(); ++i) {
         const auto first = list.columns[i]->begin();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls.h"
+#include "shell/setting_text.h"
 
 #include <cstdint>
 #include <string>
@@ -12,7 +13,7 @@ namespace tarvex {
 /// the menu array that shows the first column, item i for entry i (both from 1). Names its parts; owns nothing.
 struct RecentList {
     std::int16_t& count;
-    std::vector<std::vector<std::string>*> columns; ///< at least one
+    std::vector<std::vector<SettingText>*> columns; ///< at least one
     MenuArray& menu;
 };
 
@@ -27,7 +28,8 @@ void showMenu(const RecentList& list);
 /// -1 when an item, from 1 to the count, has exactly this caption, else 0.
 std::int16_t isOnMenu(const RecentList& list, const std::string& caption);
 /// Puts an entry, a text for each column, first: the one of the same first text moves there and takes the other texts
-/// (of several the last), otherwise it is a new one. The menu follows.
-void putOnTop(const RecentList& list, const std::vector<std::string>& entry);
+/// (of several the last), otherwise it is a new one. Texts that were cut are the same when they are so as a whole. The
+/// menu follows.
+void putOnTop(const RecentList& list, const std::vector<SettingText>& entry);
 
 } // namespace tarvex

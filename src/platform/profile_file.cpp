@@ -62,20 +62,21 @@ void insertEntries(ProfileLines& lines, std::optional<std::size_t> header, std::
 }
 
 /// Returns whether the line has changed.
-bool changeEntry(std::string& line, std::string_view value, bool onlyUtf8)
+bool changeEntry(std::string& line, std::string_view value, bool onlyUtf8, const ProfileFile::Says& says = {})
 {
     const ProfileEntry old = splitProfileEntry(line);
-    if (readable(old.value) == readable(value)) return false;
+    const std::string stored = readable(old.value);
+    if (stored == readable(value) || (says && says(stored))) return false;
     line = std::string(old.before) + encodeProfileText(value, onlyUtf8) + std::string(old.lineEnd);
     return true;
 }
 
 /// Returns whether the lines have changed.
-bool setValue(ProfileLines& lines, const Names& names, std::string_view value)
+bool setValue(ProfileLines& lines, const Names& names, std::string_view value, const ProfileFile::Says& says)
 {
     const bool onlyUtf8 = hasUtf8Mark(lines);
     const ProfilePlace place = findProfileEntry(lines, names.section, names.key);
-    if (place.entry) return changeEntry(lines[*place.entry], value, onlyUtf8);
+    if (place.entry) return changeEntry(lines[*place.entry], value, onlyUtf8, says);
     insertEntries(lines, place.header, place.insertAt, names.section,
                   {entryLine(names.key, value, onlyUtf8, prevailingLineEnd(lines))});
     return true;
@@ -103,6 +104,19 @@ bool setValues(ProfileLines& lines, const Names& names, const std::vector<std::s
 
 } // namespace
 
+int profileInt(std::string_view value)
+{
+    value.remove_prefix(std::min(value.find_first_not_of(" \t"), value.size()));
+    const bool negative = value.starts_with('-');
+    if (negative || value.starts_with('+')) value.remove_prefix(1);
+    std::uint32_t number = 0;
+    for (const char c : value) {
+        if (c < '0' || c > '9') break;
+        number = number * 10 + static_cast<std::uint32_t>(c - '0');
+    }
+    return static_cast<int>(negative ? 0U - number : number);
+}
+
 ProfileFile::ProfileFile(FileSystem& files, std::string path) : m_files(files), m_path(std::move(path)) {}
 
 ProfileFile::Batch::~Batch()
@@ -123,25 +137,15 @@ int ProfileFile::readInt(std::string_view section, std::string_view key, int def
 {
     refresh();
     const auto value = findValue(m_lines, cleanNames(section, key));
-    if (!value || value->empty()) return defaultValue;
-    std::string_view digits = *value;
-    digits.remove_prefix(std::min(digits.find_first_not_of(" \t"), digits.size()));
-    const bool negative = digits.starts_with('-');
-    if (negative || digits.starts_with('+')) digits.remove_prefix(1);
-    std::uint32_t number = 0;
-    for (const char c : digits) {
-        if (c < '0' || c > '9') break;
-        number = number * 10 + static_cast<std::uint32_t>(c - '0');
-    }
-    return static_cast<int>(negative ? 0U - number : number);
+    return !value || value->empty() ? defaultValue : profileInt(*value);
 }
 
-void ProfileFile::writeString(std::string_view section, std::string_view key, std::string_view value)
+void ProfileFile::writeString(std::string_view section, std::string_view key, std::string_view value, const Says& says)
 {
     refresh();
     const Names names = cleanNames(section, key);
     if (!m_readable || !names.usable()) return;
-    if (setValue(m_lines, names, cutProfileValue(value))) m_dirty = true;
+    if (setValue(m_lines, names, cutProfileValue(value), says)) m_dirty = true;
     if (m_batches == 0) flush();
 }
 

@@ -3,12 +3,17 @@
 #include "platform/files.h"
 #include "platform/utf16.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tarvex {
+
+/// The number that a value of an INI file stands for: its leading decimal digits, after blanks and a sign; 0 when it
+/// starts with something else. Beyond 32 bits it wraps around.
+int profileInt(std::string_view value);
 
 /// One INI file and the three profile calls on it. Section and key names match without regard to case and surrounding
 /// blanks; the first section of a name and the first key in it count. Nothing here throws: a missing or unreadable file
@@ -31,12 +36,13 @@ public:
     /// treated alike, when there is no such key.
     std::string readString(std::string_view section, std::string_view key, std::string_view defaultValue,
                            std::size_t buffer = 100) const;
-    /// The leading decimal digits of the value, after blanks and a sign; 0 when it starts with something else. The
-    /// default for a missing key or an empty value. Beyond 32 bits the value wraps around.
+    /// The value as profileInt reads it; the default for a missing key or an empty value.
     int readInt(std::string_view section, std::string_view key, int defaultValue) const;
+    /// Whether the value of the file, without blanks and quotes around it, says what is to be written.
+    using Says = std::function<bool(const std::string& stored)>;
     /// Creates the file and the section when needed; keeps unknown keys, comments, order and line ends. A value that
-    /// reads the same already leaves the file untouched.
-    void writeString(std::string_view section, std::string_view key, std::string_view value);
+    /// reads the same already, or says the same as `says` judges it, leaves the file untouched.
+    void writeString(std::string_view section, std::string_view key, std::string_view value, const Says& says = {});
 
     /// The keys of an indexed family, STEM1 to STEM`count`, each as readString and writeString treat it. The cost grows
     /// with the section and not with its square, however many keys a damaged file asks for.

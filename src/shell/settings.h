@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/controls.h"
+#include "shell/setting_text.h"
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace tarvex {
@@ -13,25 +13,25 @@ namespace tarvex {
 /// anything was read.
 struct Settings {
     // Tarvex.ini, FileLocations
-    std::string B50LoadPath;
-    std::string ProgramFilesPath;
-    std::string CTFJPath;
-    std::string GamesCaption;
-    std::string JoystickExtension;
-    std::string MacroExtension;
+    SettingText B50LoadPath;
+    SettingText ProgramFilesPath;
+    SettingText CTFJPath;
+    SettingText GamesCaption;
+    SettingText JoystickExtension;
+    SettingText MacroExtension;
     std::int16_t JoyName = 0;
     std::int16_t ThrottleName = 0;
     std::int16_t RudderName = 0;
     std::int16_t ShowTips = 0;
     std::int16_t FirstTimeUsed = 0;
     std::int16_t AlwaysShowCompileDownload = 0;
-    std::string CandCCPath;
+    SettingText CandCCPath;
 
     // WinLoad
-    std::string WinLoadString;
+    SettingText WinLoadString;
     std::int16_t WinLoadUse = 0;
     std::int16_t WinLoadStatusBarErrors = 0;
-    std::string WinLoadExtra;
+    SettingText WinLoadExtra;
     std::int16_t WinLoadThr = 0;
     std::int16_t WinLoadMouse = 0;
     std::int16_t WinLoadMouseType = 0;
@@ -67,7 +67,7 @@ struct Settings {
     std::int16_t ComposerImages = 0;
     std::int16_t UndoMax = 0;
     std::int16_t UndoClearOnSave = 0;
-    std::string ValidUser;
+    SettingText ValidUser;
 
     float MumTopAtStartup = 0;
     float MumLeftAtStartup = 0;
@@ -97,7 +97,7 @@ struct Settings {
     std::int16_t IndentAsWell = 0;
     std::int16_t MacroSaveUpdateMacros = 0;
     std::int16_t MacroSaveIdentifyJF = 0;
-    std::string ImagesDirectory;
+    SettingText ImagesDirectory;
 
     // Colours
     Colour BackgroundColour = 0xFFFFFF;
@@ -107,40 +107,40 @@ struct Settings {
     Colour MiscellaneousColour = 0;
     Colour MacroBackgroundColour = 0xFFFFFF;
     Colour RemStatements = 0;
-    std::string TextFontName;
+    SettingText TextFontName;
     std::int16_t TextFontSize = 0;
     std::int16_t TextFontBold = 0;
     std::int16_t ApplyColoursOnFileOpen = 0;
     std::int16_t InsertWithColour = 0;
 
     // Apps; the three lists have four entries each
-    std::string ImageFilePath;
-    std::string TextFilePath;
-    std::vector<std::string> CustomAppName;
-    std::vector<std::string> CustomAppPath;
+    SettingText ImageFilePath;
+    SettingText TextFilePath;
+    std::vector<SettingText> CustomAppName;
+    std::vector<SettingText> CustomAppPath;
     std::vector<std::int16_t> CustomAppUse;
 
     // Games
     std::int16_t GameArrayNum = 0;
     std::int16_t GameDownloadOption = 0;
-    std::vector<std::string> GameName;
-    std::vector<std::string> GamePath;
-    std::vector<std::string> GameDIRPath;
-    std::vector<std::string> GameJF;
+    std::vector<SettingText> GameName;
+    std::vector<SettingText> GamePath;
+    std::vector<SettingText> GameDIRPath;
+    std::vector<SettingText> GameJF;
 
     // Favourites
     std::int16_t FavArrayNum = 0;
     std::int16_t FavLoadOnStart = 0;
-    std::string FavNameToLoad;
-    std::vector<std::string> FavName;
-    std::vector<std::string> FavJFPath;
-    std::vector<std::string> FavMFPath;
+    SettingText FavNameToLoad;
+    std::vector<SettingText> FavName;
+    std::vector<SettingText> FavJFPath;
+    std::vector<SettingText> FavMFPath;
 
     // PreviousJoystickFiles, PreviousMacroFiles
     std::int16_t JFArrayNum = 0;
-    std::vector<std::string> JFPath;
+    std::vector<SettingText> JFPath;
     std::int16_t MFArrayNum = 0;
-    std::vector<std::string> MFPath;
+    std::vector<SettingText> MFPath;
 
     // Online Help
     float InfoWindowTop = 0;
@@ -149,14 +149,14 @@ struct Settings {
     float InfoWindowWidth = 0;
 
     // Launcher
-    std::string FilesDirectory;
+    SettingText FilesDirectory;
 
     // Lists.ini, Loaders
     std::int16_t NumPreviousLoaders = 0;
-    std::vector<std::string> Loader;
+    std::vector<SettingText> Loader;
 
     // Layouts.ini, Joystick Layout
-    std::string LOTextFont;
+    SettingText LOTextFont;
     std::int16_t LOTextFontSize = 0;
     std::int16_t LOTextFontBold = 0;
 

@@ -1,6 +1,7 @@
 #include "shell/settings_store.h"
 
 #include "platform/text.h"
+#include "platform/windows1252.h"
 
 #include <algorithm>
 #include <charconv>
@@ -14,6 +15,9 @@ namespace {
 
 // A count in a damaged file must not make the program ask for billions of keys.
 constexpr int mostOfAFamily = std::numeric_limits<std::int16_t>::max();
+
+/// As a buffer: whatever the file holds.
+constexpr std::size_t wholeText = std::numeric_limits<std::size_t>::max();
 
 std::size_t bufferOf(SettingForm form)
 {
@@ -42,7 +46,6 @@ std::string textOf(float value)
     return {buffer, end};
 }
 std::string textOf(int value) { return std::to_string(value); }
-std::string textOf(const std::string& value) { return value; }
 
 int numberOf(std::string_view text)
 {
@@ -51,8 +54,22 @@ int numberOf(std::string_view text)
     return number;
 }
 
+bool namesSomething(const FileSystem& files, const std::string& path)
+{
+    return files.fileExists(path) || files.directoryExists(path);
+}
+
+/// A path that is longer than its buffer is taken whole where only the whole one leads anywhere.
+SettingText fittedText(const FileSystem& files, SettingForm form, std::string whole)
+{
+    SettingText text = SettingText::cutTo(bufferOf(form) - 1, std::move(whole));
+    if (!text.isCut() || namesSomething(files, text) || !namesSomething(files, text.whole())) return text;
+    return {text.whole()};
+}
+
 /// One key of one row: what a family and a single setting have in common.
 struct Key {
+    const FileSystem& files;
     ProfileFile& file;
     const SettingRow& row;
     std::string name;
@@ -75,15 +92,44 @@ struct Key {
         const std::string atTheTime = textOf(value);
         value = static_cast<float>(toNumber(text(row.readDefault == present ? atTheTime : row.readDefault)));
     }
-    void readInto(std::string& value) const { value = text(row.readDefault); }
-
-    template <typename Value> void write(const Value& value) const
+    void readInto(SettingText& value) const
     {
-        file.writeString(row.section, name, textOf(value));
+        value = fittedText(files, row.form, file.readString(row.section, name, row.readDefault, wholeText));
+    }
+
+    void write(const SettingText& value) const { file.writeString(row.section, name, value.whole()); }
+    /// A number that the file spells in its own way keeps its spelling.
+    template <typename Number> void write(Number value) const
+    {
+        file.writeString(row.section, name, textOf(value),
+                         [&](const std::string& stored) { return says(stored, value); });
+    }
+
+    bool says(const std::string& stored, std::int16_t value) const
+    {
+        if (row.form != SettingForm::IntegerText) return !stored.empty() && profileInt(stored) == value;
+        return saysNumber([&] { return toInteger(fitted(stored)) == value; });
+    }
+    bool says(const std::string& stored, Colour value) const
+    {
+        return saysNumber([&] { return toLong(fitted(stored)) == value; });
+    }
+    bool says(const std::string& stored, float value) const
+    {
+        return saysNumber([&] { return static_cast<float>(toNumber(fitted(stored))) == value; });
+    }
+    std::string_view fitted(std::string_view stored) const { return utf8Left(stored, bufferOf(row.form) - 1); }
+    template <typename Compare> static bool saysNumber(Compare compare)
+    {
+        try {
+            return compare();
+        } catch (const RuntimeError&) {
+            return false; // no number at all
+        }
     }
 };
 
-template <typename Member> constexpr bool isTextFamily = std::is_same_v<Member, std::vector<std::string> Settings::*>;
+template <typename Member> constexpr bool isTextFamily = std::is_same_v<Member, std::vector<SettingText> Settings::*>;
 template <typename Member>
 constexpr bool isNumberFamily = std::is_same_v<Member, std::vector<std::int16_t> Settings::*>;
 
@@ -131,15 +177,18 @@ void SettingsStore::readRow(const SettingRow& row)
             if constexpr (std::is_same_v<Member, std::monostate>) {
                 profile.readInt(row.section, row.key, numberOf(row.readDefault)); // read, and thrown away
             } else if constexpr (isTextFamily<Member>) {
-                m_settings.*member = profile.readStrings(row.section, row.key, static_cast<std::size_t>(countOf(row)),
-                                                         row.readDefault, bufferOf(row.form));
+                auto& texts = m_settings.*member;
+                texts.clear();
+                for (std::string& whole : profile.readStrings(
+                         row.section, row.key, static_cast<std::size_t>(countOf(row)), row.readDefault, wholeText))
+                    texts.push_back(fittedText(m_files, row.form, std::move(whole)));
             } else if constexpr (isNumberFamily<Member>) {
                 auto& values = m_settings.*member;
                 values.assign(static_cast<std::size_t>(countOf(row)), {});
                 for (std::size_t i = 0; i < values.size(); ++i)
-                    Key{profile, row, indexed(row.key, i + 1)}.readInto(values[i]);
+                    Key{m_files, profile, row, indexed(row.key, i + 1)}.readInto(values[i]);
             } else {
-                Key{profile, row, std::string(row.key)}.readInto(m_settings.*member);
+                Key{m_files, profile, row, std::string(row.key)}.readInto(m_settings.*member);
             }
         },
         row.member);
@@ -154,13 +203,15 @@ void SettingsStore::writeRow(const SettingRow& row)
             if constexpr (std::is_same_v<Member, std::monostate>) {
                 profile.writeString(row.section, row.key, "");
             } else if constexpr (isTextFamily<Member>) {
-                profile.writeStrings(row.section, row.key, m_settings.*member);
+                std::vector<std::string> texts;
+                for (const SettingText& text : m_settings.*member) texts.push_back(text.whole());
+                profile.writeStrings(row.section, row.key, texts);
             } else if constexpr (isNumberFamily<Member>) {
                 const auto& values = m_settings.*member;
                 for (std::size_t i = 0; i < values.size(); ++i)
-                    Key{profile, row, indexed(row.key, i + 1)}.write(values[i]);
+                    Key{m_files, profile, row, indexed(row.key, i + 1)}.write(values[i]);
             } else {
-                Key{profile, row, std::string(row.key)}.write(m_settings.*member);
+                Key{m_files, profile, row, std::string(row.key)}.write(m_settings.*member);
             }
         },
         row.member);
@@ -203,7 +254,7 @@ void SettingsStore::ColoursSortOut()
             m_settings.** colour = toLong(row.factory);
         else if (const auto* number = std::get_if<std::int16_t Settings::*>(&row.member))
             m_settings.** number = toInteger(row.factory);
-        else if (const auto* text = std::get_if<std::string Settings::*>(&row.member))
+        else if (const auto* text = std::get_if<SettingText Settings::*>(&row.member))
             m_settings.** text = row.factory;
     }
     m_settings.InsertWithColour = 1;

@@ -86,7 +86,7 @@ std::string_view fileNameOf(IniFile file);
 
 using SettingMember =
     std::variant<std::monostate, std::int16_t Settings::*, Colour Settings::*, float Settings::*,
-                 std::string Settings::*, std::vector<std::int16_t> Settings::*, std::vector<std::string> Settings::*>;
+                 SettingText Settings::*, std::vector<std::int16_t> Settings::*, std::vector<SettingText> Settings::*>;
 /// How many keys an indexed family has: none (a single key), a fixed number, or the value of another setting.
 using SettingCount = std::variant<std::monostate, int, std::int16_t Settings::*>;
 

@@ -426,5 +426,50 @@ TEST(EditFavourites, AsksThePreferencesForTheirPage)
     EXPECT_EQ(page, 3);
 }
 
+/// Two favourites whose paths are cut alike; their files are on a disk that comes and goes.
+struct LongFav : Fav {
+    LongFav() : Fav(false)
+    {
+        store(2);
+        for (const std::string n : {"1", "2"}) {
+            setIni("Favourites", "FavJFPath" + n, path(n, "b50"));
+            setIni("Favourites", "FavMFPath" + n, path(n, "m50"));
+        }
+    }
+    static std::string path(const std::string& name, const std::string& extension)
+    {
+        return "d:\\" + std::string(110, 'x') + "\\" + name + "." + extension;
+    }
+    void mount(const std::string& name)
+    {
+        files.addFile(path(name, "b50"), "Rem " + name);
+        files.addFile(path(name, "m50"), "Fire = f");
+    }
+};
+
+TEST(OpenFavourite, WithPathsThatWereCutKeepsThemWholeInTheSettings)
+{
+    LongFav t;
+    t.start();
+    t.menus().mnuFavArray[2].Click();
+    EXPECT_THAT(t.captions(), ElementsAre("n2", "n1"));
+    EXPECT_EQ(t.stored("FavJFPath1"), LongFav::path("2", "b50"));
+    EXPECT_EQ(t.stored("FavMFPath1"), LongFav::path("2", "m50"));
+    EXPECT_EQ(t.stored("FavJFPath2"), LongFav::path("1", "b50"));
+    EXPECT_EQ(t.stored("FavMFPath2"), LongFav::path("1", "m50"));
+}
+
+TEST(OpenFavourite, WithPathsThatWereCutOpensTheWholeOnes)
+{
+    LongFav t;
+    t.start();
+    t.mount("2");
+    t.files.addFile(LongFav::path("2", "b50").substr(0, 99), "wrong");
+    t.menus().mnuFavArray[2].Click();
+    EXPECT_EQ(t.editor().JoystickText.Text(), "Rem 2");
+    EXPECT_EQ(t.editor().pair.JoystickFilePath, LongFav::path("2", "b50"));
+    EXPECT_EQ(t.editor().pair.MacroFilePath, LongFav::path("2", "m50"));
+}
+
 } // namespace
 } // namespace tarvex

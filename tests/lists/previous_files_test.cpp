@@ -20,7 +20,7 @@ struct Kind {
     MenuArray Menus::*array;
     MenuItem Menus::*parent;
     MenuItem Menus::*clear;
-    std::vector<std::string> Settings::*paths;
+    std::vector<SettingText> Settings::*paths;
     std::int16_t Settings::*count;
     const char* clearCaption;
 };
@@ -50,7 +50,7 @@ protected:
     MenuArray& array() { return t.menus().*kind().array; }
     MenuItem& parent() { return t.menus().*kind().parent; }
     MenuItem& clear() { return t.menus().*kind().clear; }
-    std::vector<std::string>& paths() { return t.settings().*kind().paths; }
+    std::vector<SettingText>& paths() { return t.settings().*kind().paths; }
     std::string stored(int i) { return t.ini(kind().section, kind().pathKey + std::to_string(i)); }
     std::string storedCount() { return t.ini(kind().section, kind().countKey); }
     std::vector<std::string> captions()
@@ -186,14 +186,65 @@ TEST_P(PreviousFile, AClearedListTakesFilesAgain)
 // The buffer of 100 characters has its end in it.
 TEST_P(PreviousFile, APathOfMoreThan100CharactersLoadsCutAtThe100thAndIsWrittenWhole)
 {
-    const std::string longPath = "c:\\" + std::string(120, 'x') + kind().extension;
+    const std::string longPath = path(std::string(120, 'x'));
     t.files.addFile(longPath, "");
     t.start();
     t.openBoth(longPath);
     EXPECT_THAT(captions(), ElementsAre(longPath));
-    EXPECT_NE(t.fileText(TestMachine::iniPath).find("1=" + longPath + "\r\n"), std::string::npos);
+    EXPECT_EQ(stored(1), longPath);
+    t.files.removeFile(longPath);
     t.start();
     EXPECT_THAT(captions(), ElementsAre(longPath.substr(0, 99)));
+    t.files.addFile(path(1), "BTN S1 x");
+    t.openBoth(path(1));
+    EXPECT_EQ(stored(2), longPath) << "moving it down doesn't write it cut";
+}
+
+TEST_P(PreviousFile, ALongPathWhoseFileIsThereLoadsWhole)
+{
+    const std::string longPath = path(std::string(120, 'x'));
+    t.files.addFile(longPath, "BTN S1 x");
+    t.setIni(kind().section, kind().countKey, "1");
+    t.setIni(kind().section, std::string(kind().pathKey) + "1", longPath);
+    t.start();
+    EXPECT_THAT(captions(), ElementsAre(longPath));
+}
+
+TEST_P(PreviousFile, AnItemThatWasCutOpensTheWholePathAndNeverWhatLiesAtTheCutOne)
+{
+    const std::string longPath = path(std::string(120, 'x'));
+    t.files.addFile(longPath, "BTN S1 x");
+    t.files.addFile(longPath.substr(0, 99), "wrong");
+    startWith(1);
+    t.setIni(kind().section, kind().countKey, "2");
+    t.setIni(kind().section, std::string(kind().pathKey) + "2", longPath);
+    t.start();
+    EXPECT_THAT(captions(), ElementsAre(path(1), longPath.substr(0, 99)));
+    array()[2].Click();
+    EXPECT_EQ(documentPath(), longPath);
+    EXPECT_THAT(captions(), ElementsAre(longPath, path(1))) << "one entry, not two";
+
+    t.start();
+    t.files.removeFile(longPath);
+    t.dialogues.boxes.clear();
+    array()[1].Click();
+    EXPECT_EQ(t.lastBox().title, "Can't find file");
+    EXPECT_NE(t.lastBox().text.find(longPath), std::string::npos);
+    EXPECT_NE(documentPath(), longPath.substr(0, 99));
+}
+
+TEST_P(PreviousFile, TwoPathsThatAreCutAlikeStayTwo)
+{
+    const std::string folder(110, 'x');
+    startWith(1);
+    t.setIni(kind().section, kind().countKey, "3");
+    t.setIni(kind().section, std::string(kind().pathKey) + "2", path(folder + "\\a"));
+    t.setIni(kind().section, std::string(kind().pathKey) + "3", path(folder + "\\b"));
+    t.start();
+    t.files.addFile(path("new"), "BTN S1 x");
+    t.openBoth(path("new"));
+    EXPECT_EQ(stored(3), path(folder + "\\a"));
+    EXPECT_EQ(stored(4), path(folder + "\\b"));
 }
 
 TEST_P(PreviousFile, AFileThatIsGoneIsToldAndStaysOnTheMenu)

@@ -11,8 +11,8 @@ using testing::ElementsAre;
 /// Names with a second column, and their menu.
 struct Names {
     std::int16_t count = 0;
-    std::vector<std::string> names;
-    std::vector<std::string> paths;
+    std::vector<SettingText> names;
+    std::vector<SettingText> paths;
     MenuArray menu{"mnuNames", {"(none)"}};
     RecentList list{count, {&names, &paths}, menu};
 

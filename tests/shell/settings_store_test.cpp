@@ -99,6 +99,83 @@ TEST(GetOptions, APathOf99CharactersSurvivesAndALongerOneIsCutTo99)
     }
 }
 
+/// A path of 120 characters.
+std::string longPath() { return "c:\\" + std::string(113, 'x') + ".exe"; }
+
+TEST(GetOptions, ALongPathIsTakenWholeWhereOnlyTheWholeOneLeadsAnywhere)
+{
+    Store t;
+    t.files.addFile(longPath(), "");
+    t.files.addDirectory(longPath() + "s");
+    t.setIni("FileLocations", "B50LoadPath", longPath());
+    t.setIni("FileLocations", "ProgramFilesPath", longPath() + "s");
+    t.setIni("FileLocations", "CTFJPath", longPath() + "gone");
+    t.store.GetOptions();
+    EXPECT_EQ(t.settings.B50LoadPath, longPath());
+    EXPECT_EQ(t.settings.ProgramFilesPath, longPath() + "s");
+    EXPECT_EQ(t.settings.CTFJPath, longPath().substr(0, 99)) << "nothing is there either way";
+}
+
+TEST(GetOptions, ALongPathIsCutWhereTheCutOneLeadsSomewhereAndKnowsTheWhole)
+{
+    Store t;
+    t.files.addFile(longPath(), "");
+    t.files.addFile(longPath().substr(0, 99), "another program");
+    t.setIni("FileLocations", "B50LoadPath", longPath());
+    t.store.GetOptions();
+    EXPECT_EQ(t.settings.B50LoadPath, longPath().substr(0, 99));
+    EXPECT_EQ(t.settings.B50LoadPath.whole(), longPath());
+}
+
+TEST(SaveOptions, WhatWasReadCutIsNotWrittenBackCut)
+{
+    Store t;
+    t.setIni("FileLocations", "CTFJPath", longPath());
+    t.setIni("Miscellaneous", "ValidUser", std::string(150, 'u'));
+    t.setIni("WinLoad", "WinLoadString", std::string(60, 'o'));
+    t.store.GetOptions();
+    t.store.SaveOptions();
+    t.store.write(Access::SaveWinLoadStuff, "MODULE SaveWinLoadStuff");
+    EXPECT_EQ(t.ini("FileLocations", "CTFJPath"), longPath());
+    EXPECT_EQ(t.ini("Miscellaneous", "ValidUser"), std::string(150, 'u'));
+    EXPECT_EQ(t.ini("WinLoad", "WinLoadString"), std::string(60, 'o'));
+    t.settings.ValidUser = "Ned";
+    t.store.SaveOptions();
+    EXPECT_EQ(t.ini("Miscellaneous", "ValidUser"), "Ned");
+}
+
+TEST(SaveOptions, ANumberThatTheFileSpellsInItsOwnWayKeepsItsSpelling)
+{
+    Store t;
+    t.setIni("Miscellaneous", "UndoMax", "010 levels");
+    t.setIni("Miscellaneous", "AutoSaveTime", "+7");
+    t.setIni("Colours", "BTNColour", "0255");
+    t.setIni("Miscellaneous", "MumWidthAtStartup", "9000.0");
+    t.store.GetOptions();
+    t.store.GetColours();
+    t.store.read(Access::GetMumPosition, "MUM GetMumPosition");
+    t.store.SaveOptions();
+    t.store.write(Access::SaveColourScheme, "PREFS SaveColourScheme");
+    t.store.write(Access::SaveMumPosition, "MUM SaveMumPosition");
+    EXPECT_EQ(t.ini("Miscellaneous", "UndoMax"), "010 levels");
+    EXPECT_EQ(t.ini("Miscellaneous", "AutoSaveTime"), "+7");
+    EXPECT_EQ(t.ini("Colours", "BTNColour"), "0255");
+    EXPECT_EQ(t.ini("Miscellaneous", "MumWidthAtStartup"), "9000.0");
+    t.settings.UndoMax = 11;
+    t.store.SaveOptions();
+    EXPECT_EQ(t.ini("Miscellaneous", "UndoMax"), "11");
+}
+
+TEST(SaveOptions, AValueThatIsNoNumberGivesWayToTheOneInMemory)
+{
+    Store t;
+    t.setIni("Colours", "BTNColour", "blue");
+    t.store.GetColours();
+    t.settings.BTNColour = 0;
+    t.store.write(Access::SaveColourScheme, "PREFS SaveColourScheme");
+    EXPECT_EQ(t.ini("Colours", "BTNColour"), "0");
+}
+
 TEST(GetWinloadStuff, AnOptionStringIsCutTo49Characters)
 {
     Store t;
@@ -216,8 +293,8 @@ TEST(SettingsStore, AFamilyIsReadByItsCountAndIndexedFromOne)
     t.setIni("Games", "GameName2", "Kestrel");
     t.setIni("Games", "GameName3", "not counted");
     t.store.read(Access::GetGames, "MODULE GetGames");
-    EXPECT_EQ(t.settings.GameName, (std::vector<std::string>{"Lance", "Kestrel"}));
-    EXPECT_EQ(t.settings.GameJF, (std::vector<std::string>{"", ""}));
+    EXPECT_EQ(t.settings.GameName, (std::vector<SettingText>{"Lance", "Kestrel"}));
+    EXPECT_EQ(t.settings.GameJF, (std::vector<SettingText>{"", ""}));
 }
 
 TEST(SettingsStore, ANegativeCountGivesNoEntries)

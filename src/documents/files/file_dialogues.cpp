@@ -52,7 +52,7 @@ std::string macroSaveFilter(const Settings& settings)
 
 std::string dialogueFolder(const Editor& editor, const Side& side)
 {
-    const std::string& programs = editor.shared.settings.ProgramFilesPath;
+    const std::string& programs = editor.shared.settings.ProgramFilesPath.whole();
     return programs.empty() ? directoryOf(side.FilePath) : programs;
 }
 

@@ -50,7 +50,7 @@ constexpr std::string_view macroTag = "ED_mnuFileNewMacro_Click";
 void nameUntitled(Editor& editor, Side& side)
 {
     side.FileName = "untitled." + side.Extension;
-    side.FilePath = editor.shared.settings.ProgramFilesPath + side.FileName;
+    side.FilePath = editor.shared.settings.ProgramFilesPath.whole() + side.FileName;
     editor.TabStrip1.Tabs(side.tab).Caption = side.FileName;
     updateDownload(editor);
     UpdateSavedIcon(editor);

@@ -10,7 +10,7 @@ namespace {
 
 bool loaderIsWinLoad(const Settings& settings)
 {
-    return fileNameOf(settings.B50LoadPath).find("winld") != std::string::npos;
+    return fileNameOf(settings.B50LoadPath.whole()).find("winld") != std::string::npos;
 }
 
 } // namespace
