@@ -20,14 +20,7 @@ QSize screenSize()
 
 } // namespace
 
-/// A lock left by a copy that died counts as none; so does a directory that takes no lock.
-bool QtDesktop::anotherInstanceRuns()
-{
-    if (m_lock) return false;
-    m_lock.emplace(toQt(m_programDirectory) + QStringLiteral("/Tarvex.lock"));
-    m_lock->setStaleLockTime(0);
-    return !m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError;
-}
+bool QtDesktop::anotherInstanceRuns() { return !m_lock.take(m_programDirectory + "/Tarvex.lock"); }
 
 void QtDesktop::doEvents()
 {

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/posix/instance_lock.h"
 
-#include <QLockFile>
-
-#include <optional>
 #include <string>
 
 namespace tarvex {
@@ -26,7 +24,7 @@ public:
 
 private:
     std::string m_programDirectory;
-    std::optional<QLockFile> m_lock;
+    InstanceLock m_lock;
     bool m_handlesEvents = false;
     bool m_quits = false;
 };

@@ -282,10 +282,10 @@ TEST(QtDesktop, SecondCopyInTheSameDirectoryIsNoticedUntilTheFirstEnds)
     EXPECT_FALSE(second.anotherInstanceRuns());
 }
 
-TEST(QtDesktop, LockOfACopyThatDiedIsNoHindrance)
+TEST(QtDesktop, LockFileThatNamesThisVeryProcessIsNoHindrance)
 {
     const TemporaryDirectory directory;
-    std::ofstream(directory.path() + "/Tarvex.lock") << "999999999\ntarvex\n"
+    std::ofstream(directory.path() + "/Tarvex.lock") << QCoreApplication::applicationPid() << "\ntarvex\n"
                                                      << QSysInfo::machineHostName().toStdString() << "\n";
     QtDesktop desktop(directory.path());
     EXPECT_FALSE(desktop.anotherInstanceRuns());
