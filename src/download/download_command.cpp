@@ -112,13 +112,13 @@ void download(Editor& editor, const Steps& step)
 {
     const Settings& settings = editor.shared.settings;
     changeToFolderOf(editor.shared.currentDirectory, settings.B50LoadPath.whole(), step);
-    std::string command = loaderCommand(editor, editor.pair.JoystickFilePath);
+    ProgramCommand command = loaderCommand(editor, editor.pair.JoystickFilePath);
     std::optional<ResultFile> result; // the other loaders write none
-    if (command.find(winLoadMark) != std::string::npos) {
+    if (command.line().find(winLoadMark) != std::string::npos) {
         result.emplace(editor, step);
-        if (settings.WinLoadUse == 1) command += " " + settings.WinLoadString;
+        if (settings.WinLoadUse == 1) command.options = " " + settings.WinLoadString;
     } else if (wantsQuiet(editor)) {
-        command += " Q";
+        command.options = " Q";
     }
     if (!joystickIsAwake(editor)) return;
     runLoader(editor, command);
@@ -128,9 +128,9 @@ void download(Editor& editor, const Steps& step)
 
 } // namespace
 
-std::string loaderCommand(const Editor& editor, const std::string& joystickFile)
+ProgramCommand loaderCommand(const Editor& editor, const std::string& joystickFile)
 {
-    return editor.shared.settings.B50LoadPath.whole() + " " + joystickFile;
+    return {editor.shared.settings.B50LoadPath.whole() + " ", joystickFile};
 }
 
 bool wantsQuiet(const Editor& editor)
@@ -144,7 +144,7 @@ bool joystickIsAwake(Editor& editor)
     return !editor.menus.mnuUseWakeWarning.Checked || editor.platform.dialogues.show(wakeUp()) == Answer::Yes;
 }
 
-void runLoader(Editor& editor, const std::string& command)
+void runLoader(Editor& editor, const ProgramCommand& command)
 {
     constexpr std::int32_t forEver = -1;
     const WindowState before = editor.mum.form.State;

@@ -45,8 +45,8 @@ bool downloadFirst(Editor& editor, const Game& game)
 {
     const std::string& loader = editor.shared.settings.B50LoadPath.whole();
     enter(editor.shared.currentDirectory, loader, directoryOf(loader));
-    std::string command = loaderCommand(editor, game.joystickFile.whole());
-    if (wantsQuiet(editor)) command += " Q";
+    ProgramCommand command = loaderCommand(editor, game.joystickFile.whole());
+    if (wantsQuiet(editor)) command.options = " Q";
     if (!joystickIsAwake(editor)) return false;
     runLoader(editor, command);
     return true;

@@ -9,7 +9,7 @@ constexpr std::int32_t forEver = -1;
 
 } // namespace
 
-std::int32_t ShellAndWait(Processes& processes, const CurrentDirectory& current, const std::string& command,
+std::int32_t ShellAndWait(Processes& processes, const CurrentDirectory& current, const ProgramCommand& command,
                           std::optional<int> style, std::optional<std::int32_t> timeout)
 {
     constexpr int last = windowStyle::minimisedWithoutFocus;

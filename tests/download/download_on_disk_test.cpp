@@ -91,6 +91,18 @@ TEST(DownloadOnDisk, APathWithSignsOfAShellReachesTheLoader)
     EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 30 bytes)");
 }
 
+TEST(DownloadOnDisk, APathWithBlanksQuotesAndDashesReachesTheLoaderInOnePiece)
+{
+    for (const std::string name : {"f --evil -x/k.b50", "a\"b'c.b50"}) {
+        Road r("c:\\tm\\b50load.exe", name);
+        r.script("printf '<%s>' \"$@\" >seen\n", "tm/b50load.exe");
+        r.t->program->menus.mnuAppsQuiet.Enabled = true;
+        r.t->program->menus.mnuAppsQuiet.Checked = true;
+        r.download();
+        EXPECT_EQ(bytesOf(r.disk / "drive_c/tm/seen"), "<" + r.joystick + "><Q>");
+    }
+}
+
 TEST(DownloadOnDisk, LoaderPathsThatAreNoneShowNothing)
 {
     for (const std::string path : {"", "c:\\tm\\gone\\winld.exe", "c:\\tm", "winld.exe", "q:\\winld.exe"}) {

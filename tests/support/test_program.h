@@ -50,10 +50,10 @@ struct FakeProcesses final : Processes {
     std::function<void()> whileRunning;  ///< what a program does before the wait for it ends
     std::int32_t result = waitResult::ended;
 
-    ProcessId start(const std::string& commandLine, int style, const std::string& directory) override
+    ProcessId start(const ProgramCommand& command, int style, const std::string& directory) override
     {
         if (failure) throw RuntimeError(*failure);
-        starts.push_back({commandLine, style, directory});
+        starts.push_back({command.line(), style, directory});
         return static_cast<ProcessId>(starts.size());
     }
     std::int32_t wait(ProcessId process, std::int32_t timeout) override

@@ -54,11 +54,12 @@ PosixProcesses::~PosixProcesses()
 
 // ---- start ----------------------------------------------------------------------------------------------------------
 
-ProcessId PosixProcesses::start(const std::string& commandLine, int /*style*/, const std::string& directory)
+ProcessId PosixProcesses::start(const ProgramCommand& command, int /*style*/, const std::string& directory)
 {
     reap();
-    if (commandLine.find('\0') != std::string::npos) throw RuntimeError(ErrorCode::BadFileName, "Bad file name");
-    const CommandLine line = splitCommandLine(commandLine);
+    if (command.line().find('\0') != std::string::npos) throw RuntimeError(ErrorCode::BadFileName, "Bad file name");
+    const CommandLine line = splitCommandLine(command.start);
+    const std::string tail = line.tail + command.file + command.options;
     const std::string native = findProgram(m_drives, inSystemFolder(line.program));
     const std::string place = m_drives.toNative(directory);
     std::error_code error;
@@ -67,15 +68,15 @@ ProcessId PosixProcesses::start(const std::string& commandLine, int /*style*/, c
     const ProgramKind kind = kindOfProgram(native);
     switch (kind) {
     case ProgramKind::Native:
-        return adopt(startNative(native, line.tail, place), nullptr);
+        return adopt(startNative(native, line.tail, command, place), nullptr);
     case ProgramKind::Windows:
     case ProgramKind::ControlPanel:
-        return adopt(startWindows(native, line.tail, place, kind == ProgramKind::ControlPanel), nullptr);
+        return adopt(startWindows(native, tail, place, kind == ProgramKind::ControlPanel), nullptr);
     default:
         break;
     }
     const std::string dosbox = findRunner(m_files, m_dialogues, m_programDirectory, Runner::DosBox, line.program);
-    auto run = std::make_unique<DosboxRun>(m_drives, kind, m_drives.toDos(native), line.tail, directory);
+    auto run = std::make_unique<DosboxRun>(m_drives, kind, m_drives.toDos(native), tail, directory);
     const pid_t process = spawn(run->arguments(dosbox), run->folder().path(), run->folder().lock());
     return adopt(process, std::move(run));
 }
@@ -88,11 +89,13 @@ std::string PosixProcesses::inSystemFolder(const std::string& program) const
                                                      : program;
 }
 
-pid_t PosixProcesses::startNative(const std::string& program, const std::string& tail,
+pid_t PosixProcesses::startNative(const std::string& program, const std::string& tail, const ProgramCommand& command,
                                   const std::string& directory) const
 {
     std::vector<std::string> arguments{program};
     for (const std::string& argument : windowsArguments(tail)) arguments.push_back(nativeArgument(argument));
+    if (!command.file.empty()) arguments.push_back(fileArgument(command.file));
+    for (const std::string& argument : windowsArguments(command.options)) arguments.push_back(nativeArgument(argument));
     return spawn(arguments, directory);
 }
 
@@ -116,6 +119,13 @@ std::string PosixProcesses::nativeArgument(const std::string& argument) const
     } catch (const RuntimeError&) {
         return argument;
     }
+}
+
+/// A name that begins with a dash mustn't be taken for an option.
+std::string PosixProcesses::fileArgument(const std::string& file) const
+{
+    const std::string native = nativeArgument(file);
+    return native.starts_with('-') ? "./" + native : native;
 }
 
 /// How Wine is told a native path. As long as it has no prefix, its drives, which it will make at its start, aren't

@@ -15,7 +15,8 @@
 namespace tarvex {
 
 /// Programs of three worlds, told apart by looking into their files. Those of this system run as they are; what follows
-/// the program's name becomes the arguments that a program of Windows would see, DOS paths among them native. Those of
+/// the program's name becomes the arguments that a program of Windows would see, DOS paths among them native, and the
+/// command's file is one argument of its own. Those of
 /// Windows run in Wine, which puts the same arguments together again, with quotes of its own. Those of DOS run in
 /// DOSBox and get it as it stands, but for paths that are called otherwise there; one too long for DOS, or for a batch
 /// file one that its interpreter would make something of, is refused. Which Wine and which DOSBox is set in
@@ -30,7 +31,7 @@ public:
     PosixProcesses(const PosixProcesses&) = delete;
     PosixProcesses& operator=(const PosixProcesses&) = delete;
 
-    ProcessId start(const std::string& commandLine, int style, const std::string& directory) override;
+    ProcessId start(const ProgramCommand& command, int style, const std::string& directory) override;
     std::int32_t wait(ProcessId process, std::int32_t timeout) override;
     std::string windowsDirectory() const override { return "c:\\windows"; }
 
@@ -65,11 +66,13 @@ private:
     ProcessId adopt(pid_t process, std::unique_ptr<DosboxRun> dos);
     std::vector<Child>::iterator find(ProcessId process);
     void forget(std::vector<Child>::iterator child);
-    pid_t startNative(const std::string& program, const std::string& tail, const std::string& directory) const;
+    pid_t startNative(const std::string& program, const std::string& tail, const ProgramCommand& command,
+                      const std::string& directory) const;
     pid_t startWindows(const std::string& program, const std::string& tail, const std::string& directory,
                        bool controlPanel) const;
     std::string inSystemFolder(const std::string& program) const;
     std::string nativeArgument(const std::string& argument) const;
+    std::string fileArgument(const std::string& file) const;
     std::string wineArgument(const std::string& argument) const;
     std::string winePath(std::string native) const;
     bool isKnownToWine(const std::string& path, const std::string& native) const;

@@ -87,6 +87,34 @@ TEST(StartProgram, WithABlankInItsPathIsTheTextBeforeTheBlank)
     EXPECT_EQ(w.run("c:\\gone tm\\load.exe"), 53);
 }
 
+/// A command as the download builds it.
+ProgramCommand withFile(const std::string& file, const std::string& options = {})
+{
+    ProgramCommand command("c:\\load.exe ", file);
+    command.options = options;
+    return command;
+}
+
+TEST(StartProgram, ANativeOneGetsTheFileAsOneArgumentWhateverItsPathHolds)
+{
+    for (const std::string name : {"my file.b50", "f --evil -x/k.b50", "a\"b'c.b50", "two  blanks\t.b50", "\"q\".b50",
+                                   "ends\\\"", "-x.b50", "a\nb.b50", "*.b50"}) {
+        ProcessWorld w;
+        w.script("load.exe", show);
+        w.disk.put("drive_c/" + name, "");
+        EXPECT_EQ(w.run(withFile(w.drives.toDos(w.driveC + "/" + name), " Q /X \"y z\"")), 0) << name;
+        EXPECT_EQ(w.contents("seen"), w.driveC + "\n<" + w.driveC + "/" + name + "><Q></X><y z>") << name;
+    }
+}
+
+TEST(StartProgram, AFileNameWithoutAFolderIsNoOptionOfANativeOne)
+{
+    ProcessWorld w;
+    w.script("load.exe", show);
+    EXPECT_EQ(w.run(withFile("--evil x.b50")), 0);
+    EXPECT_EQ(w.contents("seen"), w.driveC + "\n<./--evil x.b50>");
+}
+
 // ---- what isn't ----
 
 TEST(StartProgram, NothingNamedStartsNothing)
@@ -280,6 +308,18 @@ TEST(Runner, OfWindowsProgramsIsTheOneOfPlatformIni)
                                 }() +
                                 "></X y><Q>")
         << "without a Wine prefix its drives aren't ours";
+}
+
+TEST(Runner, OfWindowsProgramsGetsTheLineWithTheFileAsItStands)
+{
+    Settable w("Wine");
+    std::string program(0x80, '\0');
+    program.replace(0, 2, "MZ");
+    program[0x3C] = 0x40;
+    program.replace(0x40, 2, "PE");
+    w.disk.put("drive_c/load.exe", program);
+    EXPECT_EQ(w.run(withFile("q:\\my \"file.b50", " Q")), 0);
+    EXPECT_EQ(w.contents("seen"), "<" + w.driveC + "/load.exe><q:\\my><file.b50 Q>");
 }
 
 /// A Wine prefix whose c: is drive_c, and a runner that notes what Wine would be told.

@@ -24,10 +24,10 @@ struct ProcessWorld {
     /// What a file of drive c: holds.
     std::string contents(const std::string& name) const { return bytesOf(disk / ("drive_c/" + name)); }
     /// Number of the run-time error that starting ends with; 0 when the program ran to its end.
-    int run(const std::string& commandLine, const std::string& directory = "c:\\")
+    int run(const ProgramCommand& command, const std::string& directory = "c:\\")
     {
         try {
-            const ProcessId process = processes.start(commandLine, windowStyle::normal, directory);
+            const ProcessId process = processes.start(command, windowStyle::normal, directory);
             EXPECT_EQ(processes.wait(process, -1), waitResult::ended);
         } catch (const RuntimeError& error) {
             lastError = error.what();
