@@ -101,9 +101,12 @@ LoaderResult loaderResult(const LoaderResultReader& reader, const Steps& step)
 LoaderResult readLoaderResult(const FileSystem& files, const std::string& path, const Steps& step)
 {
     LoaderResultReader reader;
+    std::size_t left = largestResult;
     files.readPieces(path, [&](std::string_view piece) {
+        piece = piece.substr(0, left);
+        left -= piece.size();
         reader.take(piece);
-        return true;
+        return left > 0;
     });
     reader.finish();
     return loaderResult(reader, step);

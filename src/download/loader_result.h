@@ -48,6 +48,9 @@ struct LoaderResult {
     std::string statusText() const;
 };
 
+/// Bytes of a result file that are read; a loader writes less than one hundredth of that.
+constexpr std::size_t largestResult = std::size_t{1} << 20;
+
 /// What can't be read or converted stays at its initial value, and is dealt with by `step`. Throws RuntimeError when
 /// the file itself can't be read.
 LoaderResult readLoaderResult(const FileSystem& files, const std::string& path, const Steps& step);

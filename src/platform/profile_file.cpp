@@ -182,9 +182,10 @@ void ProfileFile::refresh() const
     if (m_loaded && stamp == m_stamp) return;
     m_stamp = stamp;
     m_loaded = true;
-    m_readable = true;
+    m_readable = stamp.size <= largestProfile;
     m_lines.clear();
     m_utf16.reset();
+    if (!m_readable) return;
     if (stamp.identity == 0) return;
     try {
         const std::string bytes = m_files.read(m_path);
@@ -200,6 +201,8 @@ void ProfileFile::flush() noexcept
 {
     if (!m_dirty) return;
     m_dirty = false;
+    m_loaded = m_loaded && m_files.stamp(m_path).size <= largestProfile; // it may have grown meanwhile
+    if (!m_loaded) return;
     try {
         std::string bytes;
         for (const std::string& line : m_lines) bytes += line;

@@ -15,6 +15,9 @@ namespace tarvex {
 /// starts with something else. Beyond 32 bits it wraps around.
 int profileInt(std::string_view value);
 
+/// Bytes of an INI file that are read. One that is larger gives the defaults and is never written.
+constexpr std::uint64_t largestProfile = std::uint64_t{16} << 20;
+
 /// One INI file and the three profile calls on it. Section and key names match without regard to case and surrounding
 /// blanks; the first section of a name and the first key in it count. Nothing here throws: a missing or unreadable file
 /// gives the defaults, and a write that fails is lost in silence.
@@ -72,7 +75,7 @@ private:
     int m_batches = 0;
     bool m_dirty = false;
     mutable bool m_loaded = false;
-    mutable bool m_readable = false; ///< a file that is there but can't be read is never written over
+    mutable bool m_readable = false; ///< a file that is there but can't be read, or is too large, is never written over
     mutable FileStamp m_stamp;
     mutable std::optional<Utf16Order> m_utf16; ///< set for a file in UTF-16, whose lines are UTF-8 here
     mutable std::vector<std::string> m_lines;  ///< each with its line end

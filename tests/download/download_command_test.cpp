@@ -490,5 +490,32 @@ TEST(DownloadOptions, DownloadFirstTogglesItsMarkAndIsStored)
     EXPECT_EQ(t.ini("Games", "GameDownloadOption"), "1");
 }
 
+// ---- long paths and large files ----
+
+TEST(SendToJoystick, ALoaderWhosePathTheSettingsCutIsStartedWholeInItsFolder)
+{
+    const std::string folder = "c:\\" + std::string(110, 'x');
+    const std::string loader = folder + "\\b50load.exe";
+    Loaded t(loader);
+    ASSERT_TRUE(t.settings().B50LoadPath.isCut());
+    t.files.addFile(loader, "");
+    t.files.addFile(loader.substr(0, 99), "another program");
+    t.download();
+    EXPECT_EQ(t.command(), loader + " c:\\tm\\mig.b50");
+    EXPECT_EQ(t.processes.starts.back().directory, folder);
+}
+
+TEST(SendToJoystick, AResultFileIsReadUpToOneMegabyte)
+{
+    for (const bool within : {true, false}) {
+        WithWinLoad t;
+        std::string result = "a\r\nb\r\n30\r\n";
+        result.resize((std::size_t{1} << 20) - (within ? 5 : 4), 'x');
+        t.reports(result + "ERROR");
+        t.download();
+        EXPECT_EQ(t.status().starts_with("Compiler reported"), within) << t.status();
+    }
+}
+
 } // namespace
 } // namespace tarvex

@@ -187,5 +187,26 @@ TEST(LaunchGame, ModifiedFilesAreSavedBeforeTheGameStarts)
     EXPECT_EQ(t.desktop.quits, 1);
 }
 
+TEST(LaunchGame, SwitchesAndPathsThatTheSettingsCutAreUsedWhole)
+{
+    WithGame t;
+    const std::string command = "d:\\f22\\f22.exe " + std::string(120, '-');
+    const std::string folder = "d:\\" + std::string(120, 'x');
+    const std::string file = folder + "\\mig.b50";
+    t.setIni("Games", "GamePath1", command);
+    t.setIni("Games", "GameDIRPath1", folder);
+    t.setIni("Games", "GameJF1", file);
+    t.start();
+    ASSERT_EQ(t.settings().GamePath[0], command.substr(0, 99));
+    t.files.addDirectory(folder);
+    t.menus().mnuGamesDownloadFirst.Checked = true;
+    t.launch();
+    EXPECT_EQ(t.started(0), "c:\\tm\\b50load.exe " + file + "|1|c:\\tm");
+    EXPECT_EQ(t.started(1), command + "|1|" + folder);
+    EXPECT_EQ(t.ini("Games", "GamePath1"), command);
+    EXPECT_EQ(t.ini("Games", "GameDIRPath1"), folder);
+    EXPECT_EQ(t.ini("Games", "GameJF1"), file);
+}
+
 } // namespace
 } // namespace tarvex

@@ -68,6 +68,23 @@ std::string shadowOf(const Editor& editor, const std::string& path, const std::s
     return lowerUtf8(shadow) == lowerUtf8(path) ? std::string() : shadow;
 }
 
+/// The pane of a text holds it several times over, and no file for a controller comes near that.
+constexpr std::uint64_t largestText = std::uint64_t{64} << 20;
+
+bool isTooLarge(const Editor& editor, const std::string& path)
+{
+    return editor.platform.files.stamp(path).size > largestText;
+}
+
+void tellTooLarge(Editor& editor, const std::string& name)
+{
+    editor.platform.dialogues.show({.title = "Ooops!",
+                                    .text = name +
+                                            " is larger than 64 MB, so I don't believe that it's for a joystick. "
+                                            "I've left everything just as it was.",
+                                    .icon = BoxIcon::Exclamation});
+}
+
 void tellUnreadable(Editor& editor, const std::string& name)
 {
     editor.platform.dialogues.show({.title = "Ooops!",
@@ -83,6 +100,10 @@ std::optional<std::string> readForOpening(Editor& editor, const std::string& pat
 {
     const Steps step(editor.shared.errors, "ED_readForOpening");
     std::optional<std::string> bytes;
+    if (isTooLarge(editor, path)) {
+        tellTooLarge(editor, name);
+        return bytes;
+    }
     step([&] { bytes = editor.platform.files.read(path); });
     if (!bytes) tellUnreadable(editor, name);
     return bytes;
@@ -97,7 +118,7 @@ void showDocument(Editor& editor, Side& side, const std::string& path, const std
     // The text comes first: as long as the pane may hold the old one, it keeps the old name.
     bool coloured = false;
     const std::string shadow = shadowOf(editor, path, name);
-    if (!shadow.empty() && editor.platform.files.fileExists(shadow))
+    if (!shadow.empty() && editor.platform.files.fileExists(shadow) && !isTooLarge(editor, shadow))
         step([&] { coloured = putShadow(editor, side, shadow, bytes); });
     if (!coloured) putPlain(editor, side, bytes);
     side.FilePath = path;

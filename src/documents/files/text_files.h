@@ -7,7 +7,8 @@
 
 namespace tarvex {
 
-/// The bytes of a file that is to be opened; nothing when it can't be read, and the user was told.
+/// The bytes of a file that is to be opened; nothing when it can't be read or is larger than 64 MB, and the user was
+/// informed.
 std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name);
 
 /// Puts a file into its pane: from its coloured shadow when that still has the same plain text, else plain, laid out

@@ -1,6 +1,7 @@
 #include "shell/frame/mum_window.h"
 
 #include "shell/hardware/hardware_profile.h"
+#include "shell/large_settings.h"
 
 #include <algorithm>
 
@@ -81,6 +82,7 @@ bool MDIForm_Load(const MumContext& context)
     if (settings.FlatToolbar == 1) mum.Toolbar1.Flat = true;
     if (settings.GradientEffect == 1) step([&] { operations.PaintGradient(); });
 
+    step([&] { tellLargeSettings(platform); });
     step([&] { operations.ShowEditor(); });
     if (settings.ShowTips == 1) step([&] { platform.dialogues.showModal("frmTip"); });
     return true;

@@ -528,5 +528,22 @@ TEST_F(OpenTest, AProtectedMacroPaneStillTakesAnotherFile)
     EXPECT_EQ(macroText(), "Fire = f\r\n");
 }
 
+TEST(OpenFile, OneOver64MegabytesIsRefusedAndNotRead)
+{
+    constexpr std::size_t most = std::size_t{64} << 20;
+    TestProgram t;
+    t.typeJoystick("BTN S1 a");
+    t.menus().mnuJoyPopUpSingleFile.Checked = true;
+    t.files.addFile("c:\\tm\\huge.b50", std::string(most + 1, 'x'));
+    t.files.failReads("c:\\tm\\huge.b50", RuntimeError(ErrorCode::DeviceInputOutput, "was read"));
+    t.dialogues.answers = {Answer::No};
+    t.openBoth("c:\\tm\\huge.b50");
+    ASSERT_FALSE(t.dialogues.boxes.empty());
+    EXPECT_EQ(t.lastBox().title, "Ooops!");
+    EXPECT_NE(t.lastBox().text.find("huge.b50 is larger than 64 MB"), std::string::npos) << t.lastBox().text;
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 a");
+    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
+}
+
 } // namespace
 } // namespace tarvex
