@@ -73,6 +73,12 @@ public:
         throw RuntimeError(ErrorCode::PermissionDenied, "Permission denied: " + path);
     }
     virtual void removeFile(const std::string& path) = 0;
+    /// Gives a file another name in its directory. An existing file of that name is an error. A disk that is only read
+    /// from renames nothing.
+    virtual void renameFile(const std::string& path, const std::string& newPath)
+    {
+        throw RuntimeError(ErrorCode::PermissionDenied, "Permission denied: " + path + " to " + newPath);
+    }
     /// Names (not paths) of the files and directories in a directory, in no particular order.
     virtual std::vector<std::string> list(const std::string& path) const = 0;
 };

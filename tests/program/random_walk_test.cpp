@@ -13,12 +13,16 @@
 #include "platform/dos_path.h"
 #include "support/test_program.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <map>
+#include <numeric>
 #include <random>
+#include <span>
+#include <vector>
 
 namespace tarvex {
 
@@ -101,6 +105,7 @@ public:
     Random random;
     std::map<std::string, std::string> saved; ///< what each file has to hold
     unsigned broughtBack = 0;                 ///< texts, after the program was killed
+    unsigned damagedJournals = 0;             ///< that were noticed as such
 
 private:
     void save(const std::string& name, const std::string& text)
@@ -306,6 +311,92 @@ void killAndRestart(Walk& walk)
     }
 }
 
+/// Some change of some bytes, or an end too early.
+std::string damaged(Random& random, std::string bytes)
+{
+    const auto size = static_cast<unsigned>(bytes.size());
+    switch (below(random, 4)) {
+    case 0:
+        bytes[below(random, size)] ^= static_cast<char>(1U << below(random, 8));
+        break;
+    case 1:
+        bytes.resize(below(random, size));
+        break;
+    case 2:
+        bytes.insert(below(random, size), std::string(below(random, 40) + 1, static_cast<char>(random())));
+        break;
+    default:
+        bytes.replace(below(random, size), 20, "Dear diary");
+        break;
+    }
+    return bytes;
+}
+
+/// One of the journals of what is open, with its side and what can be read of it.
+struct OneJournal {
+    Side* side = nullptr;
+    std::string path;
+    std::string bytes;
+};
+
+OneJournal anyJournal(Walk& walk)
+{
+    Side& side = walk.anySide();
+    if (side.Journal.Number == 0) return {};
+    const std::string path = journalPath(walk.editor(), side.Journal.Number);
+    const std::string bytes = walk.files.contents(path).value_or("");
+    return {bytes.empty() ? nullptr : &side, path, bytes};
+}
+
+bool isKept(const Walk& walk, const std::string& bytes)
+{
+    const std::vector<std::string> names = walk.files.list("c:\\tarvex\\Recover");
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return walk.fileText("c:\\tarvex\\Recover\\" + name) == bytes; });
+}
+
+/// The program is gone without a word, and something happens to a journal before it is started again: the other
+/// document isn't touched by it, what precedes the damage comes back, and the bytes are kept, and the user knows.
+void killDamageAndRestart(Walk& walk)
+{
+    const OneJournal journal = anyJournal(walk);
+    if (journal.side == nullptr) return;
+    const Side& otherSide = walk.editor().other(*journal.side);
+    const int tab = journal.side->tab;
+    const Unsaved other = unsavedOf(walk, otherSide);
+    const std::string bytes = damaged(walk.random, journal.bytes);
+    walk.files.addFile(journal.path, bytes);
+    Journal readable;
+    const JournalState state = readJournal(bytes, readable);
+    walk.restart();
+
+    Side& side = tab == walk.editor().joystick.tab ? walk.editor().joystick : walk.editor().macro;
+    if (other.mustComeBack) {
+        EXPECT_EQ(walk.editor().other(side).pane.Text(), other.text);
+    }
+    if (state == JournalState::Damaged || (state == JournalState::Readable && readable.damaged)) {
+        ++walk.damagedJournals;
+        EXPECT_TRUE(isKept(walk, bytes));
+        EXPECT_FALSE(walk.dialogues.boxes.empty()) << "the user is informed";
+    }
+}
+
+/// An orderly exit leaves no journal, except for those that can't be read, or that look like those of another version.
+void exitAndRestartBesideDamage(Walk& walk)
+{
+    if (!walk.program().exit()) return;
+    const std::string directory = "c:\\tarvex\\Recover";
+    const bool isThere = walk.files.directoryExists(directory);
+    for (const std::string& name : isThere ? walk.files.list(directory) : std::vector<std::string>()) {
+        if (!name.ends_with(".journal")) continue;
+        Journal journal;
+        EXPECT_EQ(readJournal(walk.fileText(directory + "\\" + name), journal), JournalState::OtherVersion) << name;
+    }
+    walk.dialogues.boxes.clear();
+    walk.restart();
+    EXPECT_TRUE(walk.dialogues.boxes.empty());
+}
+
 void exitAndRestart(Walk& walk)
 {
     if (!walk.program().exit()) return;
@@ -402,15 +493,23 @@ constexpr Action actions[] = {
     {"exit and restart", 1, exitAndRestart},
 };
 
-const Action& nextAction(Random& random)
+/// The same user on a disk that damages journals.
+std::vector<Action> actionsWithDamage()
 {
-    static const int total = [] {
-        int sum = 0;
-        for (const Action& action : actions) sum += action.weight;
-        return sum;
-    }();
+    std::vector<Action> all(std::begin(actions), std::end(actions));
+    for (Action& action : all) {
+        if (action.run == exitAndRestart) action.run = exitAndRestartBesideDamage;
+    }
+    all.push_back({"kill, damage a journal and restart", 4, killDamageAndRestart});
+    return all;
+}
+
+const Action& nextAction(Random& random, std::span<const Action> all)
+{
+    const int total =
+        std::accumulate(all.begin(), all.end(), 0, [](int sum, const Action& action) { return sum + action.weight; });
     int left = static_cast<int>(below(random, static_cast<unsigned>(total)));
-    const Action* action = actions;
+    const Action* action = all.data();
     while (left >= action->weight) left -= action++->weight;
     return *action;
 }
@@ -492,7 +591,7 @@ void checkMacros(Walk& walk)
 
 void checkList(const RecentList& list)
 {
-    for (const std::vector<std::string>* column : list.columns)
+    for (const std::vector<SettingText>* column : list.columns)
         EXPECT_EQ(column->size(), list.columns.front()->size()) << list.menu.Name;
     EXPECT_GE(static_cast<int>(list.columns.front()->size()), list.count) << list.menu.Name;
     EXPECT_LE(list.count, mostEntries) << list.menu.Name;
@@ -540,17 +639,12 @@ unsigned fromEnvironment(const char* name, unsigned otherwise)
     return told ? static_cast<unsigned>(std::strtoul(told, nullptr, 10)) : otherwise;
 }
 
-} // namespace
-
-TEST(RandomWalk, AfterAnyActionTheProgramIsAsItHasToBe)
+/// Stops at the first failure.
+void goForAWalk(Walk& walk, std::span<const Action> all, unsigned steps)
 {
-    const unsigned seed = fromEnvironment("TARVEX_SEED", std::random_device()());
-    const unsigned steps = fromEnvironment("TARVEX_STEPS", 50'000);
-    std::cout << "TARVEX_SEED=" << seed << '\n';
-    Walk walk(seed);
     std::string last;
-    for (unsigned step = 0; step < steps && !HasFailure(); ++step) {
-        const Action& action = nextAction(walk.random);
+    for (unsigned step = 0; step < steps && !testing::Test::HasFailure(); ++step) {
+        const Action& action = nextAction(walk.random, all);
         SCOPED_TRACE("step " + std::to_string(step) + ": " + action.name + ", on tab " +
                      std::to_string(walk.side().tab) + ", after" + last);
         walk.dialogues.boxes.clear();
@@ -560,8 +654,33 @@ TEST(RandomWalk, AfterAnyActionTheProgramIsAsItHasToBe)
         shorten(walk);
         last = last.substr(last.size() > 200 ? last.find(',', last.size() - 200) : 0) + ", " + action.name;
     }
+}
+
+unsigned walkSeed()
+{
+    const unsigned seed = fromEnvironment("TARVEX_SEED", std::random_device()());
+    std::cout << "TARVEX_SEED=" << seed << '\n';
+    return seed;
+}
+
+} // namespace
+
+TEST(RandomWalk, AfterAnyActionTheProgramIsAsItHasToBe)
+{
+    const unsigned steps = fromEnvironment("TARVEX_STEPS", 50'000);
+    Walk walk(walkSeed());
+    goForAWalk(walk, actions, steps);
     if (HasFailure()) return;
     EXPECT_GE(walk.broughtBack, steps / 500) << "there was something to bring back";
+}
+
+TEST(RandomWalk, ADamagedJournalCostsNoMoreThanWhatFollowsTheDamage)
+{
+    const unsigned steps = fromEnvironment("TARVEX_STEPS", 10'000);
+    Walk walk(walkSeed());
+    goForAWalk(walk, actionsWithDamage(), steps);
+    if (HasFailure()) return;
+    EXPECT_GE(walk.damagedJournals, steps / 500) << "there was damage";
 }
 
 } // namespace tarvex

@@ -186,6 +186,17 @@ void MemoryFiles::removeFile(const std::string& path)
     m_entries.erase(key(path));
 }
 
+void MemoryFiles::renameFile(const std::string& path, const std::string& newPath)
+{
+    if (!fileExists(path)) fail(ErrorCode::FileNotFound, "File not found");
+    if (find(newPath) != nullptr) fail(ErrorCode::FileExists, "File already exists");
+    if (m_writeErrors.contains(key(newPath))) throw RuntimeError(m_writeErrors.at(key(newPath)));
+    Entry entry = fileAt(path);
+    entry.path = cleaned(newPath);
+    m_entries.erase(key(path));
+    m_entries[key(newPath)] = std::move(entry);
+}
+
 std::vector<std::string> MemoryFiles::list(const std::string& path) const
 {
     if (!directoryExists(path)) fail(ErrorCode::PathNotFound, "Path not found");

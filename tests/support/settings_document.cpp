@@ -104,7 +104,8 @@ constexpr std::string_view introduction =
     "Every key that Tarvex keeps in its INI files, in the order in which they are read and written. This page is made "
     "from the table in `src/shell/settings_table.cpp`; a test compares the two and, with `TARVEX_UPDATE_DOCS=1` in the "
     "environment, writes the page anew.\n\n"
-    "Forms: *flag* 0 or 1; *int* a decimal 16-bit number; *text, n* at most n characters survive a read; *colour* the "
+    "Forms: *flag* 0 or 1; *int* a decimal 16-bit number; *text, n* at most n characters survive a read, while the "
+    "file keeps the whole text, and a path of which only the whole one leads anywhere is taken whole; *colour* the "
     "decimal number 0x00BBGGRR, so 255 is red; *twips* 1/1440 inch. *new* is what a new installation gets.\n";
 
 } // namespace

@@ -13,7 +13,9 @@
 #include "shell/shared.h"
 
 #include <array>
+#include <cstdint>
 #include <deque>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -101,12 +103,13 @@ struct Editor {
     std::string OpeningName;
     std::int16_t OpeningWithoutAsking = 0;
     std::int16_t ExitInProgress = 0;
-    int BlinkStep = 0;                ///< of the line highlight
-    int BlinkTab = 1;                 ///< of the pane whose line flashes
-    std::int64_t HighlightLength = 0; ///< characters of the line highlighted
-    int AutoSaveMinutes = 0;          ///< since the last automatic save
-    std::uint64_t LastJournal = 0;    ///< number of the newest journal; 0: not looked for yet
-    bool ToldJournalFailure = false;  ///< the user knows that journals can't be written
+    int BlinkStep = 0;                       ///< of the line highlight
+    int BlinkTab = 1;                        ///< of the pane whose line flashes
+    std::int64_t HighlightLength = 0;        ///< characters of the line highlighted
+    int AutoSaveMinutes = 0;                 ///< since the last automatic save
+    std::uint64_t LastJournal = 0;           ///< number of the newest journal; 0: not looked for yet
+    bool ToldJournalFailure = false;         ///< the user knows that journals can't be written
+    std::set<std::uint64_t> DamagedJournals; ///< numbers of those that can be read in part; they are kept aside
 
     /// The document of the selected tab.
     Side& selected() { return TabStrip1.SelectedItem == 1 ? joystick : macro; }

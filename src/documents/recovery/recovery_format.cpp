@@ -121,6 +121,37 @@ std::optional<JournalStart> readStart(const Record& record)
     return start;
 }
 
+/// A write that was cut short leaves the beginning of a record and nothing behind it. Where the length of the record
+/// and the one inside of it disagree, one of them was changed, and there may be more records than it seems.
+bool isTorn(std::string_view bytes)
+{
+    const char kind = bytes.front();
+    if (kind != journalKind::edit && kind != journalKind::partner) return false;
+    if (bytes.size() < recordHead) return true;
+    const std::uint64_t size = numberAt(bytes.substr(1));
+    const std::string_view contents = bytes.substr(recordHead);
+    if (size <= contents.size()) return false;
+    const std::size_t numbers =
+        kind == journalKind::edit ? 3 * numberSize : numberSize; // the last is the text's length
+    return contents.size() < numbers || numberAt(contents.substr(numbers - numberSize)) == size - numbers;
+}
+
+/// The mark of a journal of ours, except for the number in it.
+bool isOtherVersion(std::string_view bytes)
+{
+    constexpr std::size_t number = mark.find('1');
+    if (!bytes.starts_with(mark.substr(0, number))) return false;
+    bytes.remove_prefix(number);
+    const std::size_t digits = std::min(bytes.find_first_not_of("0123456789"), bytes.size());
+    return digits > 0 && bytes.substr(0, digits) != "1" && bytes.substr(digits).starts_with(mark.substr(number + 1));
+}
+
+/// Too short for any text.
+bool isUnbegun(std::string_view bytes)
+{
+    return mark.starts_with(bytes) || (bytes.starts_with(mark) && bytes.size() < mark.size() + recordHead);
+}
+
 /// False: the record makes no sense, and nothing was done.
 bool follow(Journal& journal, const Record& record)
 {
@@ -215,19 +246,22 @@ std::string journalPartner(std::string_view path, std::uint64_t& chain)
 
 JournalState readJournal(std::string_view bytes, Journal& journal)
 {
-    if (bytes.size() < mark.size() && mark.starts_with(bytes)) return JournalState::Unbegun;
-    if (!bytes.starts_with(mark)) return JournalState::Foreign;
-    bytes.remove_prefix(mark.size());
+    if (isUnbegun(bytes)) return JournalState::Unbegun;
+    const bool isMarked = bytes.starts_with(mark);
+    std::string_view rest = bytes.substr(std::min(mark.size(), bytes.size()));
 
     std::uint64_t chain = 0;
-    const auto first = takeRecord(bytes, chain);
+    const auto first = takeRecord(rest, chain); // its sum says more than the mark, which may be damaged
     auto start = first ? readStart(*first) : std::nullopt;
-    if (!start) return JournalState::Unbegun;
-    std::string text = start->base;
-    if (!apply(text, start->edit)) return JournalState::Unbegun;
-    journal = {std::move(*start), std::move(text)};
-    while (const auto record = takeRecord(bytes, chain)) {
-        if (!follow(journal, *record)) break;
+    std::string text = start ? start->base : std::string();
+    if (!start || !apply(text, start->edit))
+        return isOtherVersion(bytes) ? JournalState::OtherVersion : JournalState::Damaged;
+    journal = {std::move(*start), std::move(text), !isMarked};
+    while (!rest.empty()) {
+        const auto record = takeRecord(rest, chain);
+        if (record && follow(journal, *record)) continue;
+        journal.damaged = journal.damaged || record || !isTorn(rest);
+        break;
     }
     return JournalState::Readable;
 }

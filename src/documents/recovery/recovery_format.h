@@ -64,15 +64,18 @@ constexpr char partner = 'P';
 
 struct Journal {
     JournalStart start;
-    std::string text; ///< after the last edit that is whole
+    std::string text;     ///< after the last edit that is whole
+    bool damaged = false; ///< there was more, which can't be read
 };
 
 enum class JournalState {
     Readable,
-    Unbegun, ///< cut off before its first text was there
-    Foreign, ///< of another version, or no journal at all
+    Unbegun,      ///< cut off before anything of the text was there
+    Damaged,      ///< its first text can't be read, or it is no journal at all
+    OtherVersion, ///< of a program that writes them in another way
 };
-/// Any bytes. Stops at the first record that isn't whole; the journal is there when the start is.
+/// Any bytes. Reads up to the first record that isn't whole; the journal is there when the start is. A last record that
+/// was cut short, as by a crash, is no damage.
 JournalState readJournal(std::string_view bytes, Journal& journal);
 
 } // namespace tarvex

@@ -158,6 +158,23 @@ void PosixFiles::removeFile(const std::string& path)
     });
 }
 
+/// A link and not a rename, which would replace a file of the new name.
+void PosixFiles::renameFile(const std::string& path, const std::string& newPath)
+{
+    const std::string native = m_drives.toNative(path);
+    const std::string newNative = m_drives.toNative(newPath);
+    withErrorsOf(native, [&] {
+        if (::link(native.c_str(), newNative.c_str()) < 0) {
+            const bool hasNoLinks = errno == EPERM || errno == ENOTSUP || errno == EMLINK;
+            if (!hasNoLinks) throwSystemError();
+            if (statusOf(newNative)) throw systemError(EEXIST);
+            if (::rename(native.c_str(), newNative.c_str()) < 0) throwSystemError();
+        } else if (::unlink(native.c_str()) < 0) {
+            throwSystemError();
+        }
+    });
+}
+
 std::vector<std::string> PosixFiles::list(const std::string& path) const
 {
     try {

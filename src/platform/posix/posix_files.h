@@ -26,6 +26,7 @@ public:
     void createDirectory(const std::string& path) override;
     std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;
     void removeFile(const std::string& path) override;
+    void renameFile(const std::string& path, const std::string& newPath) override;
     std::vector<std::string> list(const std::string& path) const override;
 
 private:

@@ -29,6 +29,19 @@ std::string textOf(const std::string& bytes)
     return readJournal(bytes, journal) == JournalState::Readable ? journal.text : "(none)";
 }
 
+JournalState stateOf(const std::string& bytes)
+{
+    Journal journal;
+    return readJournal(bytes, journal);
+}
+
+/// Readable, but not to its end.
+bool isDamaged(const std::string& bytes)
+{
+    Journal journal;
+    return readJournal(bytes, journal) == JournalState::Readable && journal.damaged;
+}
+
 TEST(ReadJournal, GivesBackWhatWasWritten)
 {
     Written written;
@@ -75,6 +88,7 @@ TEST(ReadJournal, CutAnywhereGivesTheTextAfterTheLastWholeRecord)
                                      : size < written.bytes.size() ? "axyc1"
                                                                    : "axyc12";
         EXPECT_EQ(textOf(written.bytes.substr(0, size)), expected) << size;
+        EXPECT_FALSE(isDamaged(written.bytes.substr(0, size))) << size << ": a crash is no damage";
     }
 }
 
@@ -89,6 +103,46 @@ TEST(ReadJournal, AChangedByteEndsTheTextAtTheRecordBefore)
         damaged[at] ^= 0x10;
         const std::string text = textOf(damaged);
         EXPECT_TRUE(text == "axyc" || text == "axyc1") << at << ": " << text;
+    }
+}
+
+TEST(ReadJournal, NoSingleBitIsDamagedUnnoticed)
+{
+    Written written;
+    const std::size_t start = written.bytes.size();
+    written.edit({4, 0, "1"});
+    written.bytes += journalPartner("c:\\tm\\other.b50", written.chain);
+    written.edit({5, 0, "2"});
+    for (std::size_t at = 0; at < written.bytes.size(); ++at) {
+        for (int bit = 0; bit < 8; ++bit) {
+            std::string damaged = written.bytes;
+            damaged[at] = static_cast<char>(damaged[at] ^ 1 << bit);
+            const bool inStart = at >= journalMark().size() && at < start;
+            EXPECT_EQ(stateOf(damaged), inStart ? JournalState::Damaged : JournalState::Readable) << at;
+            EXPECT_EQ(isDamaged(damaged), !inStart) << at << ", bit " << bit;
+        }
+    }
+}
+
+TEST(ReadJournal, ADamagedMarkCostsNothingOfTheText)
+{
+    Written written;
+    written.edit({4, 0, "1"});
+    for (const std::size_t at : {std::size_t{0}, journalMark().find('1'), journalMark().size() - 1}) {
+        std::string damaged = written.bytes;
+        damaged[at] = '7';
+        EXPECT_EQ(textOf(damaged), "axyc1") << at;
+        EXPECT_TRUE(isDamaged(damaged)) << at;
+    }
+}
+
+TEST(ReadJournal, BytesBehindTheLastRecordThatAreNoneAreDamage)
+{
+    for (const std::string& tail : {std::string(1, '\0'), std::string(4096, '\0'), std::string("Dear diary")}) {
+        Written written;
+        written.edit({4, 0, "1"});
+        EXPECT_EQ(textOf(written.bytes + tail), "axyc1");
+        EXPECT_TRUE(isDamaged(written.bytes + tail));
     }
 }
 
@@ -114,31 +168,44 @@ TEST(ReadJournal, AnEditOutsideTheTextIsNotMade)
     EXPECT_EQ(textOf(huge.bytes), "axyc");
 }
 
-TEST(ReadJournal, AnotherVersionAndGarbageAreForeign)
+TEST(ReadJournal, AnotherVersionIsToldFromDamage)
 {
-    Journal journal;
-    EXPECT_EQ(readJournal("Tarvex journal 2\x1A\nS", journal), JournalState::Foreign);
-    EXPECT_EQ(readJournal("Dear diary", journal), JournalState::Foreign);
-    EXPECT_EQ(readJournal(std::string(1000, '\0'), journal), JournalState::Foreign);
+    EXPECT_EQ(stateOf("Tarvex journal 2\x1A\nS"), JournalState::OtherVersion);
+    EXPECT_EQ(stateOf("Tarvex journal 10\x1A\n"), JournalState::OtherVersion);
+    EXPECT_EQ(stateOf("Tarvex journal \x1A\nSSSSSSSSSSSSSSSSSSS"), JournalState::Damaged);
+    EXPECT_EQ(stateOf("Tarvex journal x\x1A\nSSSSSSSSSSSSSSSSSSS"), JournalState::Damaged);
 }
 
-TEST(ReadJournal, OneWithoutAWholeTextIsUnbegun)
+TEST(ReadJournal, ForeignBytesAreDamage)
 {
-    Journal journal;
-    EXPECT_EQ(readJournal("", journal), JournalState::Unbegun);
-    EXPECT_EQ(readJournal(journalMark().substr(0, 5), journal), JournalState::Unbegun);
-    EXPECT_EQ(readJournal(std::string(journalMark()) + "S", journal), JournalState::Unbegun);
+    EXPECT_EQ(stateOf("Dear diary"), JournalState::Damaged);
+    EXPECT_EQ(stateOf(std::string(1000, '\0')), JournalState::Damaged);
+}
+
+TEST(ReadJournal, OneThatEndsBeforeItsFirstRecordHoldsAnythingIsUnbegun)
+{
+    const std::string mark(journalMark());
+    EXPECT_EQ(stateOf(""), JournalState::Unbegun);
+    EXPECT_EQ(stateOf(mark.substr(0, 5)), JournalState::Unbegun);
+    EXPECT_EQ(stateOf(mark), JournalState::Unbegun);
+    EXPECT_EQ(stateOf(mark + "S" + std::string(15, '\0')), JournalState::Unbegun);
+}
+
+TEST(ReadJournal, ACutFirstRecordIsDamage)
+{
+    const Written written;
+    for (std::size_t size = journalMark().size() + 17; size < written.bytes.size(); ++size)
+        EXPECT_EQ(stateOf(written.bytes.substr(0, size)), JournalState::Damaged) << size;
     std::uint64_t chain = 0;
     const std::string edit = journalEdit({0, 0, "x"}, chain);
-    EXPECT_EQ(readJournal(std::string(journalMark()) + edit, journal), JournalState::Unbegun);
+    EXPECT_EQ(stateOf(std::string(journalMark()) + edit), JournalState::Damaged) << "no start at all";
 }
 
 TEST(ReadJournal, ALengthBeyondTheFileIsNoRecord)
 {
     std::string bytes(journalMark());
     bytes += 'S' + std::string(16, '\xFF');
-    Journal journal;
-    EXPECT_EQ(readJournal(bytes, journal), JournalState::Unbegun);
+    EXPECT_EQ(stateOf(bytes), JournalState::Damaged);
 }
 
 TEST(DifferenceOf, IsTheSmallestEdit)

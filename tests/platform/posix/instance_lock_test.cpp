@@ -26,8 +26,8 @@ public:
         if (m_process == 0) {
             InstanceLock lock;
             const bool taken = lock.take(path);
-            const int told = taken ? afterwards() : -1;
-            if (::write(ends[1], &told, sizeof told) != sizeof told) ::_exit(1);
+            const int result = taken ? afterwards() : -1;
+            if (::write(ends[1], &result, sizeof result) != sizeof result) ::_exit(1);
             for (;;) ::pause();
         }
         ::close(ends[1]);

@@ -170,6 +170,25 @@ TEST_F(Files, DirectoryIsMadeOneLevelAndOnce)
     expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.createDirectory("c:\\a\\b"); });
 }
 
+TEST_F(Files, RenamedFileKeepsItsContentsAndPermissionsAndReplacesNone)
+{
+    disk.put("drive_c/Recover/1.journal", "old");
+    ASSERT_EQ(::chmod((root + "/Recover/1.journal").c_str(), 0600), 0);
+    files.renameFile("c:\\recover\\1.JOURNAL", "c:\\recover\\1.damaged");
+    EXPECT_THAT(files.list("c:\\recover"), UnorderedElementsAre("1.damaged"));
+    EXPECT_EQ(files.read("c:\\Recover\\1.damaged"), "old");
+    struct stat status = {};
+    ASSERT_EQ(::stat((root + "/Recover/1.damaged").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+
+    disk.put("drive_c/Recover/2.journal", "new");
+    expectError(ErrorCode::FileExists, EEXIST,
+                [&] { files.renameFile("c:\\recover\\2.journal", "c:\\recover\\1.damaged"); });
+    EXPECT_EQ(files.read("c:\\Recover\\1.damaged"), "old");
+    expectError(ErrorCode::FileNotFound, ENOENT,
+                [&] { files.renameFile("c:\\recover\\3.journal", "c:\\recover\\3.damaged"); });
+}
+
 TEST_F(Files, ListNamesFilesAndDirectories)
 {
     disk.put("drive_c/Tm/mig.b50", "x");

@@ -1,6 +1,7 @@
 #include "documents/recovery/journal/recovery_journal.h"
 
 #include "documents/recovery/recovery_sync.h"
+#include "platform/free_path.h"
 
 #include <algorithm>
 #include <charconv>
@@ -11,7 +12,6 @@ namespace tarvex {
 namespace {
 
 constexpr std::string_view tag = "ED_RecoveryJournal";
-constexpr std::string_view nameEnd = ".journal";
 constexpr std::uint64_t ample = 1 << 20;
 
 /// Numbers grow, so that they tell which of two journals is the later one.
@@ -138,21 +138,44 @@ std::uint64_t keptUntilSafe(const JournalRecord& journal, std::uint64_t replaces
 
 void removeJournal(Editor& editor, std::uint64_t number)
 {
+    if (editor.DamagedJournals.contains(number)) {
+        keepDamagedJournal(editor, number);
+        return;
+    }
     const Steps step;
     if (number != 0) step([&] { editor.platform.files.removeFile(journalPath(editor, number)); });
+}
+
+std::string keepDamagedJournal(Editor& editor, std::uint64_t number)
+{
+    editor.DamagedJournals.erase(number);
+    const Steps step(editor.shared.errors, tag);
+    std::string path = journalPath(editor, number);
+    step([&] {
+        const std::string kept = damagedPath(editor, number);
+        editor.platform.files.renameFile(path, kept);
+        path = kept;
+    });
+    return path;
+}
+
+std::string damagedPath(const Editor& editor, std::uint64_t number)
+{
+    return freePath(editor.platform.files, journalDirectory(editor) + "\\",
+                    std::to_string(number) + std::string(damagedNameEnd));
 }
 
 std::string journalDirectory(const Editor& editor) { return editor.platform.programDirectory + "\\Recover"; }
 
 std::string journalPath(const Editor& editor, std::uint64_t number)
 {
-    return journalDirectory(editor) + "\\" + std::to_string(number) + std::string(nameEnd);
+    return journalDirectory(editor) + "\\" + std::to_string(number) + std::string(journalNameEnd);
 }
 
 std::uint64_t journalNumber(const std::string& name)
 {
-    if (!name.ends_with(nameEnd)) return 0;
-    const char* const end = name.data() + name.size() - nameEnd.size();
+    if (!name.ends_with(journalNameEnd)) return 0;
+    const char* const end = name.data() + name.size() - journalNameEnd.size();
     std::uint64_t number = 0;
     const auto result = std::from_chars(name.data(), end, number);
     constexpr auto most = std::uint64_t{1} << 62; // there is always a next one

@@ -2,7 +2,9 @@
 
 #include "documents/recovery/journal/recovery_journal.h"
 
+#include <algorithm>
 #include <functional>
+#include <initializer_list>
 #include <set>
 
 namespace tarvex {
@@ -12,75 +14,104 @@ namespace {
 constexpr std::string_view tag = "ED_findJournals";
 constexpr std::uint64_t largest = std::uint64_t{1} << 30; // a file beyond that is none of ours
 
-/// The sum of what the path holds now; none when there is no such file.
-std::optional<FileSum> sumOfFile(const Editor& editor, const std::string& path)
+/// The contents of a file that may be one of these sizes; nothing when it has another one or can't be read.
+std::optional<std::string> contentsOfSize(const FileSystem& files, const std::string& path,
+                                          std::initializer_list<std::uint64_t> sizes)
 {
-    if (!editor.platform.files.fileExists(path)) return std::nullopt;
+    const std::uint64_t size = files.stamp(path).size;
+    std::optional<std::string> contents;
     const Steps step;
-    FileSum sum{UINT64_MAX, 0}; // of a file that can't be read: it isn't what it was
-    step([&] { sum = sumOf(editor.platform.files.read(path)); });
-    return sum;
+    if (std::find(sizes.begin(), sizes.end(), size) != sizes.end()) step([&] { contents = files.read(path); });
+    return contents;
 }
 
 /// Everything typed is in the file already, or was taken back. A base that stands in no file, as that of a text which
 /// came back under a new name, isn't to be found anywhere else.
-bool isNeedless(Editor& editor, LeftJournal& left)
+bool isNeedless(const Editor& editor, LeftJournal& left)
 {
     const JournalStart& start = left.journal.start;
     const std::string& text = left.journal.text;
-    const auto now = sumOfFile(editor, start.path);
-    left.fileIsSame = now == start.file;
-    if (now && *now == sumOf(text)) return true;
+    const FileSystem& files = editor.platform.files;
+    if (files.fileExists(start.path)) {
+        const auto now = contentsOfSize(files, start.path, {text.size(), start.file ? start.file->size : text.size()});
+        left.fileIsSame = now && start.file && sumOf(*now) == *start.file;
+        if (now == text) return true;
+    } else {
+        left.fileIsSame = !start.file;
+    }
     return left.fileIsSame && text == start.base && (start.file || start.base.empty());
 }
 
-/// Nothing for a file that holds no text; it is removed when it is ours.
-std::optional<LeftJournal> readLeft(Editor& editor, std::uint64_t number)
+/// Nothing for a file that holds no text.
+std::optional<LeftJournal> readLeft(Editor& editor, std::uint64_t number, FoundJournals& found)
 {
     const FileSystem& files = editor.platform.files;
     const std::string path = journalPath(editor, number);
     if (files.stamp(path).size > largest) return std::nullopt;
     LeftJournal left;
     left.number = number;
-    const JournalState state = readJournal(files.read(path), left.journal);
-    if (state == JournalState::Unbegun) removeJournal(editor, number);
-    if (state != JournalState::Readable) return std::nullopt;
-    return left;
+    switch (readJournal(files.read(path), left.journal)) {
+    case JournalState::Readable:
+        if (left.journal.damaged) editor.DamagedJournals.insert(number);
+        return left;
+    case JournalState::Damaged:
+        found.unreadable.push_back(keepDamagedJournal(editor, number));
+        return std::nullopt;
+    case JournalState::Unbegun:
+        removeJournal(editor, number);
+        return std::nullopt;
+    case JournalState::OtherVersion:
+        break;
+    }
+    return std::nullopt;
 }
 
-std::vector<LeftJournal> readAll(Editor& editor)
+void readAll(Editor& editor, FoundJournals& found)
 {
     const Steps step(editor.shared.errors, tag);
     const std::string directory = journalDirectory(editor);
-    if (!editor.platform.files.directoryExists(directory)) return {};
+    if (!editor.platform.files.directoryExists(directory)) return;
     std::set<std::uint64_t, std::greater<>> numbers;
     step([&] {
         for (const std::string& name : editor.platform.files.list(directory)) numbers.insert(journalNumber(name));
     });
     numbers.erase(0);
-    std::vector<LeftJournal> journals;
     for (const std::uint64_t number : numbers) {
         step([&] {
-            if (auto left = readLeft(editor, number)) journals.push_back(std::move(*left));
+            if (auto left = readLeft(editor, number, found)) found.withText.push_back(std::move(*left));
         });
     }
-    return journals;
+}
+
+/// A journal was begun in the place of that one, and has all that it has. Numbers only grow, so one that claims the
+/// place of a later one, or its own, is wrong about that.
+bool isReplaced(const LeftJournal& left, const std::vector<LeftJournal>& all)
+{
+    return std::any_of(all.begin(), all.end(), [&](const LeftJournal& other) {
+        return other.number > left.number && other.journal.start.replaces == left.number &&
+               other.journal.start.tab == left.journal.start.tab;
+    });
 }
 
 } // namespace
 
-std::vector<LeftJournal> findJournals(Editor& editor)
+FoundJournals findJournals(Editor& editor)
 {
-    std::vector<LeftJournal> journals = readAll(editor);
-    std::set<std::uint64_t> replaced;
-    for (const LeftJournal& left : journals) replaced.insert(left.journal.start.replaces);
-    std::erase_if(journals, [&](LeftJournal& left) {
-        // One that was about to take another's place has all that the other has.
-        if (!replaced.contains(left.number) && !isNeedless(editor, left)) return false;
-        removeJournal(editor, left.number);
-        return true;
-    });
-    return journals;
+    FoundJournals found;
+    readAll(editor, found);
+    std::vector<LeftJournal> wanted;
+    for (LeftJournal& left : found.withText) {
+        const bool replaced = isReplaced(left, found.withText);
+        if (!replaced && !isNeedless(editor, left)) {
+            wanted.push_back(left);
+        } else if (!replaced && left.journal.damaged) {
+            found.unreadable.push_back(keepDamagedJournal(editor, left.number)); // the file may lack what is in there
+        } else {
+            removeJournal(editor, left.number);
+        }
+    }
+    found.withText = std::move(wanted);
+    return found;
 }
 
 } // namespace tarvex

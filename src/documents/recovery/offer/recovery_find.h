@@ -3,6 +3,7 @@
 #include "documents/pair/editor.h"
 #include "documents/recovery/recovery_format.h"
 
+#include <string>
 #include <vector>
 
 namespace tarvex {
@@ -14,8 +15,14 @@ struct LeftJournal {
     bool fileIsSame = false; ///< holds what it held when the journal was begun; or there was none, and is none
 };
 
-/// Those with text to bring back, the newest first. The others of ours are removed: those that end before there is a
-/// text in them, or whose text stands in another one or in the file. What isn't a journal of ours stays.
-std::vector<LeftJournal> findJournals(Editor& editor);
+struct FoundJournals {
+    std::vector<LeftJournal> withText;   ///< to bring back, the newest first
+    std::vector<std::string> unreadable; ///< paths of those that were put aside, since nothing in them can be read
+};
+
+/// Looks through the journals that were left. Removed are those that end before there is a text in them, and those
+/// whose text stands in a newer one or in the file. Those that can't be read are renamed and kept, except for those of
+/// another version of the program, which stay as they are.
+FoundJournals findJournals(Editor& editor);
 
 } // namespace tarvex

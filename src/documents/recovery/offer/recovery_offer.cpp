@@ -6,6 +6,7 @@
 #include "documents/pair/loading.h"
 #include "documents/pair/tabs.h"
 #include "documents/recovery/journal/recovery_journal.h"
+#include "documents/recovery/journal/recovery_names.h"
 #include "documents/recovery/offer/recovery_find.h"
 #include "platform/dos_path.h"
 #include "platform/free_path.h"
@@ -33,12 +34,12 @@ bool wasNew(const LeftJournal& found) { return found.fileIsSame && !found.journa
 std::string pathFor(Editor& editor, const LeftJournal& found)
 {
     const JournalStart& start = found.journal.start;
-    const bool untitled = start.name.starts_with("untitled");
+    const std::string name = fileNameFor(start.name);
+    const bool untitled = name.starts_with("untitled");
     if (found.fileIsSame && start.file) return start.path;
     const std::string& present = sideOf(editor, found).FilePath;
     if (wasNew(found) && lowerUtf8(start.path) == lowerUtf8(present)) return present;
-    return freePath(editor.platform.files, directoryOf(present),
-                    (untitled ? "" : "untitled-") + fileNameOf(start.name));
+    return freePath(editor.platform.files, directoryOf(present), (untitled ? "" : "untitled-") + name);
 }
 
 /// The change from the saved text to the unsaved one, as if the user had made it.
@@ -63,12 +64,15 @@ void showBase(Editor& editor, Side& side, const std::string& path, const std::st
     showDocument(editor, side, path, fileNameOf(path), base); // no macros to list
 }
 
+/// The document's name as the user knows it.
+std::string shownName(const LeftJournal& found) { return fileNameFor(found.journal.start.name); }
+
 /// The journal stays, for another time.
 void tellOfWrongText(Editor& editor, const LeftJournal& found)
 {
     editor.platform.dialogues.show(
         {.title = "That's not quite it ...",
-         .text = "I couldn't bring " + fileNameOf(found.journal.start.name) +
+         .text = "I couldn't bring " + shownName(found) +
                  " back as you left it, so don't trust what you see there. My notes are still where they were: I'll "
                  "ask you again next time, and if you press No then, you'll find them as plain text in\n\n    " +
                  journalDirectory(editor),
@@ -131,17 +135,26 @@ Offer sortedOut(std::vector<LeftJournal> journals)
 std::string newNameInBox(Editor& editor, const LeftJournal& found)
 {
     if (found.fileIsSame) return {};
-    return "\n\n" + fileNameOf(found.journal.start.name) +
-           " isn't what it was then, so I'd leave the file alone and call yours " + fileNameOf(pathFor(editor, found)) +
-           ".";
+    return "\n\n" + shownName(found) + " isn't what it was then, so I'd leave the file alone and call yours " +
+           fileNameOf(pathFor(editor, found)) + ".";
+}
+
+/// A text that ends where its journal can't be read any further.
+std::string damageInBox(const Editor& editor, const LeftJournal& found)
+{
+    if (!found.journal.damaged) return {};
+    return "\n\nSome of my notes on " + shownName(found) +
+           " have gone bad, so you'll get it as it was before those. I'll keep the lot as " +
+           fileNameOf(damagedPath(editor, found.number)) + ".";
 }
 
 std::string boxText(Editor& editor, const Offer& offer)
 {
     std::string text = "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been "
                        "taking notes all along, and here's what I've got:\n";
-    for (const LeftJournal& found : offer.wanted) text += "\n    " + fileNameOf(found.journal.start.name);
+    for (const LeftJournal& found : offer.wanted) text += "\n    " + shownName(found);
     for (const LeftJournal& found : offer.wanted) text += newNameInBox(editor, found);
+    for (const LeftJournal& found : offer.wanted) text += damageInBox(editor, found);
     text += "\n\nShall I bring it back? It will be just as you left it: not saved yet, and one Undo away from what was "
             "saved. If you press No it goes as plain text into\n\n    " +
             journalDirectory(editor) + "\n\nand I won't bother you with it again.";
@@ -154,8 +167,7 @@ std::string boxText(Editor& editor, const Offer& offer)
 void putAside(Editor& editor, const LeftJournal& found)
 {
     const Steps step(editor.shared.errors, tag);
-    const std::string path =
-        freePath(editor.platform.files, journalDirectory(editor) + "\\", fileNameOf(found.journal.start.name));
+    const std::string path = freePath(editor.platform.files, journalDirectory(editor) + "\\", shownName(found));
     step([&] {
         editor.platform.files.writePrivate(path, found.journal.text);
         removeJournal(editor, found.number);
@@ -181,11 +193,20 @@ std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
     return open;
 }
 
-} // namespace
-
-std::vector<std::string> offerRecovery(Editor& editor)
+/// They have been renamed, so this is said once.
+void tellUnreadable(Editor& editor, const std::vector<std::string>& paths)
 {
-    std::vector<LeftJournal> journals = findJournals(editor);
+    if (paths.empty()) return;
+    std::string text = "These are notes that I took of something that wasn't saved, and they've gone bad, so I can't "
+                       "bring it back. There may still be something of yours in there, so I've kept them:\n";
+    for (const std::string& path : paths) text += "\n    " + path;
+    editor.platform.dialogues.show({.title = "I can't read my own writing ...",
+                                    .text = text + "\n\nI won't bother you with them again.",
+                                    .icon = BoxIcon::Exclamation});
+}
+
+std::vector<std::string> offerTexts(Editor& editor, std::vector<LeftJournal> journals)
+{
     if (journals.empty()) return {};
     const Offer offer = sortedOut(std::move(journals));
     const Answer answer = editor.platform.dialogues.show({.title = "Phew ... nothing's lost!",
@@ -198,12 +219,23 @@ std::vector<std::string> offerRecovery(Editor& editor)
     return {};
 }
 
+} // namespace
+
+std::vector<std::string> offerRecovery(Editor& editor)
+{
+    FoundJournals found = findJournals(editor);
+    std::vector<std::string> open = offerTexts(editor, std::move(found.withText));
+    tellUnreadable(editor, found.unreadable);
+    return open;
+}
+
 void putAside(Editor& editor, const Side& side)
 {
     const Steps step(editor.shared.errors, tag);
     step([&] {
-        editor.platform.files.writePrivate(
-            freePath(editor.platform.files, journalDirectory(editor) + "\\", side.FileName), side.pane.Text());
+        const std::string name = fileNameFor(side.FileName);
+        editor.platform.files.writePrivate(freePath(editor.platform.files, journalDirectory(editor) + "\\", name),
+                                           side.pane.Text());
     });
 }
 

@@ -11,7 +11,8 @@ namespace tarvex {
 // saved text one undo away; under its own name when its file still is what it was, else under a new name that Save asks
 // about, so that nothing is written over.
 
-/// Finds the journals left behind and asks whether their texts are wanted. Those that aren't go into the journals'
+/// Finds the journals left behind and asks whether their texts are wanted. The user is informed of those that can't be
+/// read, which are kept. Those that aren't go into the journals'
 /// directory as plain text, and aren't asked about again. Gives the paths of what is open now for that reason, under
 /// their old and new names; none when nothing was brought back.
 std::vector<std::string> offerRecovery(Editor& editor);

@@ -401,7 +401,7 @@ TEST(Recovery, AJournalWithoutATextIsSweptInSilence)
 TEST(Recovery, WhatIsNoJournalOfOursIsLeftAlone)
 {
     TestProgram t(false);
-    t.files.addFile("c:\\tarvex\\Recover\\3.journal", "Dear diary");
+    t.files.addFile("c:\\tarvex\\Recover\\3.damaged", "Dear diary");
     t.files.addFile("c:\\tarvex\\Recover\\4.journal", "Tarvex journal 2\x1A\nfrom the future");
     t.files.addFile("c:\\tarvex\\Recover\\notes.journal", "");
     t.files.addFile("c:\\tarvex\\Recover\\99999999999999999999999.journal", "");
