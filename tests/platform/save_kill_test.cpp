@@ -2,6 +2,7 @@
 
 #include "platform/posix/safe_writer.h"
 #include "support/kill_moments.h"
+#include "support/random_seed.h"
 #include "support/temporary_directory.h"
 
 #include <csignal>
@@ -83,8 +84,7 @@ Round runAndKill(const std::string& file, const std::string& recovery, Version f
 
 TEST(SaveKill, KilledAtAnyMomentLeavesAWholeFileThatIsNoOlderThanTheLastSave)
 {
-    const unsigned seed = chosenSeed();
-    std::cout << "TARVEX_SEED=" << seed << '\n';
+    const unsigned seed = randomSeed();
     std::mt19937 random(seed);
     const TemporaryDirectory disk(fastDisk());
     const std::string file = disk.put("work/mig.b50", contentsOf(0));

@@ -11,6 +11,7 @@
 #include "language/commands/macro_list_events.h"
 #include "language/commands/text_transfer.h"
 #include "platform/dos_path.h"
+#include "support/random_seed.h"
 #include "support/test_program.h"
 
 #include <algorithm>
@@ -656,19 +657,13 @@ void goForAWalk(Walk& walk, std::span<const Action> all, unsigned steps)
     }
 }
 
-unsigned walkSeed()
-{
-    const unsigned seed = fromEnvironment("TARVEX_SEED", std::random_device()());
-    std::cout << "TARVEX_SEED=" << seed << '\n';
-    return seed;
-}
 
 } // namespace
 
 TEST(RandomWalk, AfterAnyActionTheProgramIsAsItHasToBe)
 {
     const unsigned steps = fromEnvironment("TARVEX_STEPS", 50'000);
-    Walk walk(walkSeed());
+    Walk walk(randomSeed());
     goForAWalk(walk, actions, steps);
     if (HasFailure()) return;
     EXPECT_GE(walk.broughtBack, steps / 500) << "there was something to bring back";
@@ -677,7 +672,7 @@ TEST(RandomWalk, AfterAnyActionTheProgramIsAsItHasToBe)
 TEST(RandomWalk, ADamagedJournalCostsNoMoreThanWhatFollowsTheDamage)
 {
     const unsigned steps = fromEnvironment("TARVEX_STEPS", 10'000);
-    Walk walk(walkSeed());
+    Walk walk(randomSeed());
     goForAWalk(walk, actionsWithDamage(), steps);
     if (HasFailure()) return;
     EXPECT_GE(walk.damagedJournals, steps / 500) << "there was damage";

@@ -3,6 +3,7 @@
 
 #include "support/disk_program.h"
 #include "support/kill_moments.h"
+#include "support/random_seed.h"
 #include "support/temporary_directory.h"
 
 #include <csignal>
@@ -151,8 +152,7 @@ Round typeAndKill(const std::string& folder, Step from, std::mt19937& random)
 TEST(RecoveryKill, EveryCharacterThatReachedAPaneBeforeTheKillComesBack)
 {
     constexpr int kills = 200;
-    const unsigned seed = chosenSeed();
-    std::cout << "TARVEX_SEED=" << seed << '\n';
+    const unsigned seed = randomSeed();
     std::mt19937 random(seed);
     const TemporaryDirectory disk(fastDisk());
     disk.put("Tarvex.ini", DiskProgram::settings);

@@ -80,18 +80,22 @@ void PaneMirror::deliver(int caret)
     m_pane.userEdit(stretch.begin, stretch.end - stretch.begin, text.bytes);
 }
 
-/// The part that differs. Qt may report more than what changed: the whole line that a composed text went into.
+/// The part from `from` to `to` of the document, and the part of the pane that it replaces.
+PaneMirror::Stretch PaneMirror::typedBetween(int from, int to) const
+{
+    const int linesAfter = m_document.blockCount() - 1 - m_document.findBlock(to).blockNumber();
+    const std::int64_t begin = panePosition(from);
+    const std::int64_t end = paneLength() - (documentLength() - to + linesAfter);
+    return {.begin = begin, .end = std::max(begin, end), .from = from, .to = to};
+}
+
+/// The part that differs. Qt may report more than what changed: the whole line that a composed text went into. When
+/// nothing differs, it is what the user replaced by the same text: from the old selection to where typing left the
+/// caret; empty when text is only being composed.
 PaneMirror::Stretch PaneMirror::typedStretch(Common typed, int caret) const
 {
-    Stretch stretch;
-    stretch.from = static_cast<int>(std::min<std::int64_t>(typed.before, documentLength()));
-    stretch.to = std::max(stretch.from, documentLength() - static_cast<int>(typed.after));
-    const auto toPane = [this, &stretch] {
-        stretch.begin = panePosition(stretch.from);
-        const int linesAfter = m_document.blockCount() - 1 - m_document.findBlock(stretch.to).blockNumber();
-        stretch.end = std::max(stretch.begin, paneLength() - (documentLength() - stretch.to + linesAfter));
-    };
-    toPane();
+    const int from = static_cast<int>(std::min<std::int64_t>(typed.before, documentLength()));
+    const Stretch stretch = typedBetween(from, std::max(from, documentLength() - static_cast<int>(typed.after)));
     if (stretch.begin == stretch.end || stretch.from == stretch.to) return stretch;
     const QString old = paneStretch(stretch.begin, stretch.end);
     const QString now = documentStretch(stretch.from, stretch.to);
@@ -99,10 +103,9 @@ PaneMirror::Stretch PaneMirror::typedStretch(Common typed, int caret) const
     const int most = caret >= stretch.from && caret <= stretch.to ? stretch.to - caret : 0;
     const int after = commonEnd(old, now, most);
     const int before = commonStart(old.chopped(after), now.chopped(after));
-    stretch.from += before;
-    stretch.to -= after;
-    toPane();
-    return stretch;
+    if (old != now) return typedBetween(stretch.from + before, stretch.to - after);
+    const int selected = documentPosition(m_pane.SelStart());
+    return typedBetween(selected, std::max(selected, caret));
 }
 
 // ---- from the pane to the document ----------------------------------------------------------------------------------

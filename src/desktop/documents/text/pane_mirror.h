@@ -65,6 +65,7 @@ private:
         int to = 0;
     };
 
+    Stretch typedBetween(int from, int to) const;
     Stretch typedStretch(Common typed, int caret) const;
     void onDocumentChanged(int position, int removed, int added);
     void onPaneEdited(const Pane::Edit& edit);

@@ -81,8 +81,9 @@ private:
     void showColours();
     void formatShown();
     bool zoomByKey(const QKeyEvent& event);
-    void tellKeyPress(const QKeyEvent& event);
-    void tellEdit();
+    void announceKey(const QKeyEvent& event);
+    void announceCharacter(int code);
+    void announceEdit();
 
     struct Selection {
         std::int64_t start = 0;

@@ -45,6 +45,9 @@ std::string commandKeys(const QKeyEvent& event)
     return fromQt(QKeySequence(event.keyCombination()).toString(QKeySequence::PortableText));
 }
 
+/// The code of the first character, as the pane will hold it.
+int codeOf(const QString& text) { return static_cast<unsigned char>(paneText(text.left(1)).bytes[0]); }
+
 QStringList localFiles(const QMimeData& data)
 {
     QStringList files;
@@ -98,8 +101,8 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         emit overwriteModeChanged(overwriteMode());
         return;
     }
-    if (event->key() == Qt::Key_Delete) tellEdit();
-    tellKeyPress(*event);
+    if (event->key() == Qt::Key_Delete) announceEdit();
+    announceKey(*event);
     QPlainTextEdit::keyPressEvent(event);
 }
 
@@ -125,22 +128,27 @@ void PaneView::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton) emit clicked();
 }
 
-/// A key that is about to write a character, by the character's code.
-void PaneView::tellKeyPress(const QKeyEvent& event)
+/// Announces a key that is about to write a character.
+void PaneView::announceKey(const QKeyEvent& event)
 {
-    if (m_pane.Locked || !m_pane.KeyPress) return;
     const QString text = event.text();
     const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        m_pane.KeyPress('\r');
+        announceCharacter('\r');
     else if (event.key() == Qt::Key_Backspace)
-        m_pane.KeyPress('\b');
+        announceCharacter('\b');
     else if (!command && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\t'))
-        m_pane.KeyPress(static_cast<unsigned char>(paneText(text.left(1)).bytes[0]));
+        announceCharacter(codeOf(text));
+}
+
+void PaneView::announceCharacter(int code)
+{
+    if (m_pane.Locked || !m_pane.KeyPress) return;
+    m_pane.KeyPress(code);
     showPane(); // the caret may have been moved out of the way
 }
 
-void PaneView::tellEdit()
+void PaneView::announceEdit()
 {
     if (m_pane.EditComing) m_pane.EditComing();
     showPane();
@@ -174,7 +182,11 @@ void PaneView::wheelEvent(QWheelEvent* event)
 
 void PaneView::inputMethodEvent(QInputMethodEvent* event)
 {
-    if (!event->commitString().isEmpty() || !event->preeditString().isEmpty()) tellEdit();
+    const QString& written = event->commitString();
+    if (written.size() == 1 && written[0].isPrint())
+        announceCharacter(codeOf(written)); // as typed, also when it took a dead key
+    else if (!written.isEmpty() || !event->preeditString().isEmpty())
+        announceEdit();
     QPlainTextEdit::inputMethodEvent(event);
     settle();
     m_mirror.formats().formatComposing(textCursor().block());
@@ -201,7 +213,7 @@ bool PaneView::canInsertFromMimeData(const QMimeData* source) const { return !m_
 void PaneView::insertFromMimeData(const QMimeData* source)
 {
     settle();
-    tellEdit();
+    announceEdit();
     insertContent(m_pane, fromMime(*source));
     settle();
     ensureCursorVisible();
@@ -244,6 +256,7 @@ void PaneView::dropEvent(QDropEvent* event)
 void PaneView::takeDrop(const QMimeData& content, int target, bool movesOwnSelection)
 {
     settle();
+    announceEdit();
     const std::int64_t position = m_mirror.panePosition(target);
     if (movesOwnSelection) {
         moveSelection(m_pane, position);

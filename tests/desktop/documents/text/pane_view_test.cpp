@@ -146,6 +146,76 @@ TEST(PaneView, TypingOverEverythingIsOneEdit)
     EXPECT_EQ(shown.changes, 1);
 }
 
+TEST(PaneView, CharacterTypedOverItsEqualIsAnEdit)
+{
+    Shown shown("abc def");
+    shown.caretTo(7);
+    shown.press(Qt::Key_Left, Qt::ShiftModifier);
+    shown.type("f");
+    EXPECT_EQ(shown.changes, 1);
+    EXPECT_EQ(shown.pane.SelStart(), 7);
+    EXPECT_EQ(shown.pane.SelLength(), 0);
+    shown.type("g");
+    EXPECT_EQ(shown.pane.Text(), "abc defg");
+}
+
+TEST(PaneView, OverwritingEqualCharactersMovesTheCaretOn)
+{
+    Shown shown("abc");
+    shown.press(Qt::Key_Insert);
+    shown.type("abX");
+    EXPECT_EQ(shown.pane.Text(), "abX");
+    EXPECT_EQ(shown.changes, 3);
+    EXPECT_EQ(shown.pane.SelStart(), 3);
+}
+
+TEST(PaneView, ReturnTypedOverASelectedLineEndIsAnEdit)
+{
+    Shown shown("ab\r\ncd");
+    shown.select(2, 3);
+    shown.press(Qt::Key_Return);
+    EXPECT_EQ(shown.pane.Text(), "ab\r\ncd");
+    EXPECT_EQ(shown.changes, 1);
+    EXPECT_EQ(shown.pane.SelStart(), 4);
+}
+
+TEST(PaneView, ComposedCharacterCommittedOverItsEqualIsAnEdit)
+{
+    Shown shown("xfx");
+    shown.select(1, 2);
+    QInputMethodEvent commit;
+    commit.setCommitString("f");
+    QApplication::sendEvent(&shown.view, &commit);
+    EXPECT_EQ(shown.pane.Text(), "xfx");
+    EXPECT_EQ(shown.changes, 1);
+    EXPECT_EQ(shown.pane.SelStart(), 2);
+}
+
+TEST(PaneView, CompositionThatIsGivenUpIsNoEdit)
+{
+    Shown shown("xfx");
+    shown.caretTo(1);
+    for (const char* composed : {"f", "fx", ""}) {
+        QInputMethodEvent composing(composed, {});
+        QApplication::sendEvent(&shown.view, &composing);
+    }
+    EXPECT_EQ(shown.pane.Text(), "xfx");
+    EXPECT_EQ(shown.changes, 0);
+    EXPECT_EQ(shown.pane.SelStart(), 1);
+}
+
+TEST(PaneView, PasteOfEqualTextIsAnEdit)
+{
+    Shown shown("xfx");
+    shown.select(1, 2);
+    shown.view.copy();
+    shown.view.paste();
+    EXPECT_EQ(shown.pane.Text(), "xfx");
+    EXPECT_EQ(shown.changes, 1);
+    EXPECT_EQ(shown.pane.SelStart(), 2);
+    EXPECT_EQ(shown.view.textCursor().position(), 2);
+}
+
 TEST(PaneView, CharacterOutsideTheCodePageBecomesAQuestionMarkInPaneAndView)
 {
     Shown shown("ab");
@@ -401,6 +471,45 @@ TEST(PaneView, CharacterKeysAreToldBeforeTheyChangeTheText)
     t.pane.Locked = true;
     QTest::keyClicks(&t.view, "b");
     EXPECT_EQ(told.size(), 3U);
+}
+
+TEST(PaneView, CharacterOfAnInputMethodIsAnnouncedLikeAKey)
+{
+    Shown shown("gar");
+    shown.caretTo(3);
+    std::vector<int> keys;
+    int edits = 0;
+    shown.pane.KeyPress = [&](int key) { keys.push_back(key); };
+    shown.pane.EditComing = [&] { ++edits; };
+    QInputMethodEvent commit;
+    commit.setCommitString(QStringLiteral("\u00e7"));
+    QApplication::sendEvent(&shown.view, &commit);
+    EXPECT_EQ(keys, std::vector<int>{0xE7});
+    EXPECT_EQ(edits, 0);
+    EXPECT_EQ(shown.pane.Text(), "gar\xE7");
+    commit.setCommitString("ons");
+    QApplication::sendEvent(&shown.view, &commit);
+    EXPECT_EQ(keys.size(), 1U);
+    EXPECT_EQ(edits, 1) << "several at once are an edit of their own";
+}
+
+TEST(PaneView, DropsPastesAndTheDeleteKeyAreAnnouncedAsEdits)
+{
+    Shown shown("abc");
+    int edits = 0;
+    shown.pane.EditComing = [&] { ++edits; };
+    shown.press(Qt::Key_Delete);
+    EXPECT_EQ(edits, 1);
+    QMimeData content;
+    content.setText("x");
+    shown.view.takeDrop(content, 1, false);
+    EXPECT_EQ(edits, 2);
+    shown.select(0, 1);
+    shown.view.takeDrop(content, 3, true);
+    EXPECT_EQ(edits, 3);
+    shown.view.copy();
+    shown.view.paste();
+    EXPECT_EQ(edits, 4);
 }
 
 TEST(PaneView, KeysOfCommandsAreOfferedByNameFirstAndLeftToTheTextWhenRefused)
