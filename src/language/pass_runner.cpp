@@ -44,7 +44,7 @@ private:
         m_pass = &pass;
         m_run.position = 0;
         m_read = {};
-        m_coated = {};
+        m_painted = {};
         if (!m_run.mum) return;
         if (!pass.status.empty()) m_run.mum->StatusBar.Panels(panel::progress).Text = std::string(pass.status);
         showKeywordProgress(pass.progress != passProgress::byPosition);
@@ -207,18 +207,20 @@ private:
     void extend() { m_pane.setSelLength(m_pane.SelLength() + 1); }
     void goOnBehindSelection() { m_run.position = static_cast<float>(m_found + m_pane.SelLength()); }
 
-    /// Paints from here up to a character of the set, which is the same for the whole pass. What has its coat already
-    /// gets no second one: many signs on one long line would cost the square of its length.
+    /// Paints from here up to a character of the set, which is the same for the whole pass. Skips what the pass has
+    /// painted already: otherwise many matches on one long line would cost the square of its length.
     void paintOnUpTo(std::string_view set)
     {
         moveCaretHere();
         const std::int64_t begin = m_pane.SelStart();
-        if (begin < m_coated.begin || begin + m_pane.SelLength() > m_coated.end) {
+        if (begin < m_painted.begin || begin + m_pane.SelLength() > m_painted.end) {
             m_pane.Span(set, true, true);
             paint(m_pass->colour);
-            m_coated.end = m_pane.SelStart() + m_pane.SelLength();
+            m_painted.end = m_pane.SelStart() + m_pane.SelLength();
+        } else if (m_pane.SelLength() > 0) {
+            paint(m_pass->colour); // the match, still selected, may have got another colour since
         }
-        m_coated.begin = begin; // a word before it may be painted over
+        m_painted.begin = begin; // a word before it may be painted over
     }
 
     /// A position that has turned negative is refused, and the selection stays.
@@ -257,7 +259,7 @@ private:
         std::int64_t begin = 0;
         std::int64_t end = -1;
     };
-    Range m_coated; ///< by paintOnUpTo in this pass, up to a character of its set
+    Range m_painted; ///< by paintOnUpTo in this pass, up to a character of its set
     bool m_keywords = false;
     bool m_wasHeld = false;
 };

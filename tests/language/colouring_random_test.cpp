@@ -89,12 +89,13 @@ struct RandomColouring : testing::Test {
 
     std::size_t below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(chance); }
 
-    std::string words(std::size_t count)
+    std::string words(std::size_t count) { return words(count, pieces); }
+    std::string words(std::size_t count, const std::vector<std::string>& from)
     {
         const bool spaced = below(2) == 0;
         std::string text;
         for (std::size_t i = 0; i < count; ++i) {
-            text += pieces[below(pieces.size())];
+            text += from[below(from.size())];
             if (spaced && below(4) != 0) text += ' ';
         }
         return text;
@@ -163,6 +164,19 @@ TEST_F(RandomColouring, TextsBeyondTheBoundsOf16BitsAreColouredAsTheNaiveWayDoes
             if (below(3) == 0) break;
         }
         compareAll(text + (below(2) == 0 ? ")" : ""));
+    }
+}
+
+/// Statement heads without blanks between them, at positions that a pass holds as negative ones.
+TEST_F(RandomColouring, CrowdedHeadsBeyondTheBoundOf16BitsAreColouredAsTheNaiveWayDoes)
+{
+    begin();
+    const std::vector<std::string> heads{"DEF", "DEF,", "DEF,", "BTN,", "Rem", ",", "x", " ", "\r\n"};
+    for (int i = 0; i < 200 && !HasFatalFailure(); ++i) {
+        std::string text = words(10, heads);
+        text += std::string(32768 - below(60) - text.size(), ' ') + words(40, heads);
+        compare(text, templatePasses());
+        if (!HasFatalFailure()) compare(text, joystickPasses());
     }
 }
 
