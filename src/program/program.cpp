@@ -95,8 +95,8 @@ void wirePanes(Editor& editor)
     editor.MacroText.Change = on(editor, MacroText_Change);
     editor.JoystickText.KeyPress = [&editor](int key) { JoystickText_KeyPress(editor, key); };
     editor.MacroText.KeyPress = [&editor](int key) { MacroText_KeyPress(editor, key); };
-    editor.JoystickText.EditComing = on(editor, endBlinking);
-    editor.MacroText.EditComing = on(editor, endBlinking);
+    editor.JoystickText.EditComing = [&editor] { paneEditComing(editor, editor.joystick); };
+    editor.MacroText.EditComing = [&editor] { paneEditComing(editor, editor.macro); };
     editor.TabStrip1.Click = on(editor, TabStrip1_Click);
     editor.Timer1.Tick = on(editor, Timer1_Timer);
     editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);

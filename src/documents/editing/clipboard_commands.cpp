@@ -1,6 +1,8 @@
 #include "documents/editing/clipboard_commands.h"
 
+#include "documents/editing/blank_strings.h"
 #include "documents/editing/line_highlight.h"
+#include "documents/editing/undo.h"
 #include "documents/pair/protected_pane.h"
 #include "documents/pair/tabs.h"
 #include "documents/text/rtf/rtf.h"
@@ -49,11 +51,12 @@ void mnuEditCut_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditCut_Click");
     endBlinking(editor);
-    Pane& pane = editor.selected().pane;
+    Side& side = editor.selected();
+    Pane& pane = side.pane;
     if (pane.SelLength() == 0 || refuseProtected(editor)) return;
     step([&] {
         editor.platform.clipboard.put(selectionContent(pane));
-        pane.setSelText("");
+        writeAsOneLevel(side, [&] { pane.setSelText(""); });
     });
     UpdateCCPButtons(editor);
 }
@@ -63,7 +66,11 @@ void mnuEditPaste_Click(Editor& editor)
     const Steps step(editor.shared.errors, "ED_mnuEditPaste_Click");
     endBlinking(editor);
     if (refuseProtected(editor)) return;
-    step([&] { insertContent(editor.selected().pane, editor.platform.clipboard.get()); });
+    step([&] {
+        const ClipboardContent content = editor.platform.clipboard.get();
+        Side& side = editor.selected();
+        writeAsOneLevel(side, [&] { insertContent(side.pane, content); });
+    });
     UpdateCCPButtons(editor);
 }
 
@@ -71,9 +78,9 @@ void mnuEditDelete_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditDelete_Click");
     endBlinking(editor);
-    Pane& pane = editor.selected().pane;
-    if (pane.SelLength() == 0 || refuseProtected(editor)) return;
-    step([&] { pane.setSelText(""); });
+    Side& side = editor.selected();
+    if (side.pane.SelLength() == 0 || refuseProtected(editor)) return;
+    step([&] { writeAsOneLevel(side, [&] { side.pane.setSelText(""); }); });
     UpdateCCPButtons(editor);
 }
 
@@ -81,6 +88,8 @@ void mnuEditSelectAll_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditSelectAll_Click");
     Pane& pane = editor.selected().pane;
+    RemoveHugeBlankStringJF(editor);
+    RemoveHugeBlankStringMF(editor);
     step([&] {
         pane.setSelStart(0);
         pane.setSelLength(static_cast<std::int64_t>(pane.TextLength()));

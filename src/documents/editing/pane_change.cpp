@@ -10,14 +10,6 @@ namespace tarvex {
 
 namespace {
 
-void textChanged(Editor& editor, Side& side)
-{
-    side.Changed = changed::modified;
-    UpdateSavedIcon(editor);
-    writeDownChanges(editor, side);
-    recordUndo(editor, side);
-}
-
 void paneChange(Editor& editor, Side& side)
 {
     stopBlinking(editor, side);
@@ -29,6 +21,14 @@ void paneChange(Editor& editor, Side& side)
 }
 
 } // namespace
+
+void textChanged(Editor& editor, Side& side)
+{
+    side.Changed = changed::modified;
+    UpdateSavedIcon(editor);
+    writeDownChanges(editor, side);
+    recordUndo(editor, side);
+}
 
 void JoystickTextChanged(Editor& editor) { textChanged(editor, editor.joystick); }
 void MacroTextChanged(Editor& editor) { textChanged(editor, editor.macro); }

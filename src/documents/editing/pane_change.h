@@ -5,6 +5,7 @@
 namespace tarvex {
 
 /// The user's edit of a pane: its document is modified, and its undo levels take the new state.
+void textChanged(Editor& editor, Side& side);
 void JoystickTextChanged(Editor& editor);
 void MacroTextChanged(Editor& editor);
 

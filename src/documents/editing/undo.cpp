@@ -21,7 +21,7 @@ void keyPress(Side& side, int key)
     side.Caret = static_cast<float>(side.pane.SelStart());
     if (key != backspaceKey && key != returnKey && key != blankKey)
         history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
-    // What is typed on an undone state mustn't overwrite the newest one.
+    // Typing on an undone state must not overwrite the newest one.
     if (history.Position != 1) {
         side.TakeNewLevel = 1;
         return;
@@ -43,6 +43,13 @@ void keyPress(Side& side, int key)
     history.LastKeyWasSpace = key == blankKey ? 1 : 0;
 }
 
+/// The text is the one that its file got, or was read from, last.
+bool holdsSavedText(const Side& side)
+{
+    const RichText& saved = side.Journal.Base;
+    return side.Journal.File && saved.size() == side.pane.TextLength() && saved.text() == side.pane.Text();
+}
+
 void showLevel(Editor& editor, std::size_t level)
 {
     Side& side = editor.selected();
@@ -53,9 +60,14 @@ void showLevel(Editor& editor, std::size_t level)
     side.pane.setTextRTF(history.Text[level - 1]);
     side.pane.setSelStart(history.Caret[level - 1]);
     side.Caret = static_cast<float>(history.Caret[level - 1]);
-    side.Changed = changed::modified; // it needn't be what was saved
+    if (holdsSavedText(side)) {
+        noteTextSettled(editor, side, side.Journal.File);
+        side.Changed = changed::saved;
+    } else {
+        writeDownChanges(editor, side);
+        side.Changed = changed::modified;
+    }
     UpdateSavedIcon(editor);
-    writeDownChanges(editor, side);
     UpdateUndoRedoMenus(editor);
     if (editor.shared.settings.HighlightLineOnUndo == 1) blinkLineAtIP(editor);
 }
@@ -74,6 +86,12 @@ void MacroText_KeyPress(Editor& editor, int key)
     keyPress(editor.macro, key);
 }
 
+void paneEditComing(Editor& editor, Side& side)
+{
+    endBlinking(editor);
+    side.TakeNewLevel = 1;
+}
+
 void UpdateUndoText(const Editor& editor, Side& side)
 {
     UndoHistory& history = side.Undo;
@@ -89,6 +107,16 @@ void storeInNewestLevel(Side& side)
 {
     side.Undo.Text.front() = side.pane.TextRTF();
     side.Undo.Caret.front() = static_cast<std::int32_t>(side.pane.SelStart());
+}
+
+void storeStateBeforeWrite(Editor& editor, Side& side)
+{
+    if (side.Undo.Position != 1) {
+        UpdateUndoText(editor, side);
+        side.Undo.Position = 1;
+        UpdateUndoRedoMenus(editor);
+    }
+    storeInNewestLevel(side);
 }
 
 void recordUndo(Editor& editor, Side& side)

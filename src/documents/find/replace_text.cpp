@@ -2,6 +2,7 @@
 
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/pane_change.h"
+#include "documents/editing/undo.h"
 #include "documents/find/find_text.h"
 #include "documents/pair/loading.h"
 #include "documents/pair/protected_pane.h"
@@ -68,17 +69,6 @@ void tellReplaced(FindAndReplace& window, Side& side, std::int64_t count)
          .icon = BoxIcon::Information});
 }
 
-/// As one undo level.
-void markChanged(Editor& editor, Side& side)
-{
-    side.TakeNewLevel = 1;
-    if (side.tab == editor.joystick.tab) {
-        JoystickTextChanged(editor);
-    } else {
-        MacroTextChanged(editor);
-    }
-}
-
 } // namespace
 
 void ReplaceText(FindAndReplace& window)
@@ -90,7 +80,7 @@ void ReplaceText(FindAndReplace& window)
         takeReplacement(window);
         Side& side = chosenSide(window, replacePage(window));
         if (refuseProtected(editor, side)) return;
-        side.pane.setSelText(window.ReplaceText);
+        writeAsOneLevel(side, [&] { side.pane.setSelText(window.ReplaceText); });
         side.Caret += static_cast<float>(window.ReplaceText.size());
     });
 }
@@ -121,7 +111,7 @@ void Command6_Click(FindAndReplace& window)
             step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
             offerNoReplacement(window);
         }
-        markChanged(editor, side);
+        writeAsOneLevel(side, [&] { textChanged(editor, side); });
     });
 }
 

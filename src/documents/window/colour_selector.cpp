@@ -1,5 +1,6 @@
 #include "documents/window/colour_selector.h"
 
+#include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
 
 namespace tarvex {
@@ -14,7 +15,7 @@ void colourPane(Editor& editor, Colour colour)
     const std::int16_t changedBefore = side.Changed;
     if (!side.pane.Locked) {
         editor.mum.Picture1 = colour;
-        side.pane.setSelColor(colour);
+        writeAsOneLevel(side, [&] { side.pane.setSelColor(colour); });
     }
     side.Changed = changedBefore;
     UpdateSavedIcon(editor);

@@ -1,6 +1,7 @@
 #include "language/commands/align_slashes.h"
 
 #include "documents/editing/pane_change.h"
+#include "documents/editing/undo.h"
 #include "documents/pair/protected_pane.h"
 #include "language/slash_columns.h"
 
@@ -26,7 +27,7 @@ void alignThroughFiles(FileSystem& files, const std::string& text, int indent)
     files.writePrivate(alignedFile, alignedText(files.read(unalignedFile), indent));
 }
 
-/// A plain text in the base format, as one edit of the user's.
+/// A plain text in the base format, as one edit by the user.
 void loadPlain(Editor& editor, Side& side, const std::string& text)
 {
     Pane& pane = side.pane;
@@ -35,8 +36,7 @@ void loadPlain(Editor& editor, Side& side, const std::string& text)
     pane.setTextRTF({}); // drops the formats of the old text
     applyBaseFormat(editor, pane);
     editor.shared.IsLoading = loading;
-    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
-    pane.setText(text);
+    writeAsOneLevel(side, [&] { pane.setText(text); });
     side.Caret = 0;
     side.SelectionLength = 0;
 }

@@ -4,6 +4,7 @@
 #include "documents/editing/pane_change.h"
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
+#include "documents/pair/protected_pane.h"
 #include "documents/pair/undo_menus.h"
 #include "language/base_format.h"
 #include "platform/text.h"
@@ -25,6 +26,7 @@ void setFontAndColour(Editor& editor, Pane& pane, Colour colour)
 void insertColoured(Editor& editor, std::string_view text, Colour colour)
 {
     const Steps step;
+    if (refuseProtected(editor)) return;
     step([&] {
         Side& side = editor.selected();
         Pane& pane = side.pane;
@@ -39,8 +41,10 @@ void insertColoured(Editor& editor, std::string_view text, Colour colour)
 }
 
 /// Plain text at the caret; a selection stays where it is.
-void insertBlack(Side& side, std::string_view text)
+void insertBlack(Editor& editor, std::string_view text)
 {
+    if (refuseProtected(editor)) return;
+    Side& side = editor.selected();
     side.pane.setSelStart(side.pane.SelStart());
     side.pane.setSelColor(0);
     side.pane.setSelText(text);
@@ -52,16 +56,11 @@ void insertBlack(Side& side, std::string_view text)
 void BeginColInsert(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_BeginColInsert");
+    if (refuseProtected(editor)) return;
     endBlinking(editor);
     step([&] {
         editor.shared.IsLoading = 1;
-        Side& side = editor.selected();
-        if (side.Undo.Position != 1) { // the newest level holds something that was undone and is to stay in reach
-            UpdateUndoText(editor, side);
-            side.Undo.Position = 1;
-            UpdateUndoRedoMenus(editor);
-        }
-        storeInNewestLevel(side);
+        storeStateBeforeWrite(editor, editor.selected());
     });
 }
 
@@ -69,11 +68,9 @@ void EndColInsert(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_EndColInsert");
     editor.shared.IsLoading = 0;
-    step([&] {
-        Side& side = editor.selected();
-        side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
-        side.tab == editor.joystick.tab ? JoystickTextChanged(editor) : MacroTextChanged(editor);
-    });
+    Side& side = editor.selected();
+    if (side.pane.Locked) return; // nothing was written
+    step([&] { writeAsOneLevel(side, [&] { textChanged(editor, side); }); });
     step([&] { UpdateUndoRedoMenus(editor); });
 }
 
@@ -90,14 +87,14 @@ void InsertColouredStringNoSpace(Editor& editor, std::string_view text, Colour c
 void InsertBlackBlanks(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_InsertBlackBlanks");
-    step([&] { insertBlack(editor.selected(), "     "); });
+    step([&] { insertBlack(editor, "     "); });
     step([&] { editor.mum.Picture1 = editor.shared.DefaultTextColour; });
 }
 
 void InsertCarriageReturn(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_InsertCarriageReturn");
-    step([&] { insertBlack(editor.selected(), "\r\n"); });
+    step([&] { insertBlack(editor, "\r\n"); });
 }
 
 void InsertBlackText(Editor& editor)
@@ -121,6 +118,7 @@ void AddSpaceToColouredText(Editor& editor)
 void CheckAtLineBeginning(Editor& editor)
 {
     const Steps step;
+    if (refuseProtected(editor)) return;
     step([&] {
         Side& side = editor.selected();
         Pane& pane = side.pane;

@@ -8,7 +8,8 @@ namespace tarvex {
 
 // Text that the program puts into the pane of the selected tab, with a colour of its own, so that the file needn't be
 // highlighted again. A caller's sequence: BeginColInsert; perhaps CheckAtLineBeginning; any number of insertions;
-// EndColInsert. The whole of it is one edit and one undo step. Texts are bytes, as the pane holds them.
+// EndColInsert. The whole of it is one edit and one undo step. Texts are bytes, as the pane holds them. Each of these
+// operations refuses to write into a protected pane, and the status says so.
 
 /// Opens an insertion: the newest undo level takes the state before it.
 void BeginColInsert(Editor& editor);

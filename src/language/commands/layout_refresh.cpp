@@ -1,8 +1,9 @@
 #include "language/commands/layout_refresh.h"
 
+#include "documents/editing/line_highlight.h"
+#include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
 #include "language/base_format.h"
-#include "language/commands/coloured_insertion.h"
 
 namespace tarvex {
 
@@ -29,7 +30,9 @@ template <typename LayOut> void refreshLayout(Editor& editor, std::string_view t
     scratch.Visible = false;
     UpdateSavedIcon(editor);
     editor.status("Layout refreshed ... (I wish I was!)");
-    BeginColInsert(editor);
+    // BeginColInsert's part: a protected pane is laid out too, though it takes no insertion.
+    endBlinking(editor);
+    step([&] { storeStateBeforeWrite(editor, side); });
     editor.shared.IsLoading = 0;
 }
 

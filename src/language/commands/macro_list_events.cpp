@@ -1,6 +1,7 @@
 #include "language/commands/macro_list_events.h"
 
 #include "documents/editing/line_highlight.h"
+#include "documents/editing/undo.h"
 #include "documents/pair/editor_layout.h"
 #include "language/commands/find_macro.h"
 #include "language/commands/macro_keys.h"
@@ -50,31 +51,32 @@ void key(Editor& editor, std::size_t list, int shift)
     step([&] { showMacro(editor, list, shift == shiftKey::shift); });
 }
 
-/// The character before the caret is read through the selection.
-bool touchesAWord(const Side& side)
+/// The character before the caret is read through the selection. A caret below 0, which a replacement can leave in the
+/// record, is refused by the pane: then it is the character behind the pane's own caret.
+bool touchesAWord(const Side& side, const Steps& step)
 {
-    if (side.Caret <= 0) return false;
-    side.pane.setSelStart(static_cast<std::int64_t>(side.Caret) - 1);
+    if (side.Caret == 0) return false;
+    step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret) - 1); });
     side.pane.setSelLength(1);
     return side.pane.SelText() != " ";
 }
 
-void insertMacro(Editor& editor)
+void insertMacro(Editor& editor, const Steps& step)
 {
     Side& side = editor.joystick;
     Pane& pane = side.pane;
     const std::string name = windows1252FromUtf8(editor.macros.SelectedMacro);
     std::string text = name + " ";
     if (pane.SelLength() == 0) {
-        if (touchesAWord(side)) text.insert(0, " ");
-        pane.setSelStart(static_cast<std::int64_t>(side.Caret));
+        if (touchesAWord(side, step)) text.insert(0, " ");
+        step([&] { pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
     } else {
         side.Caret = static_cast<float>(pane.SelStart());
     }
     const FormatId black = pane.formats()->withColour(pane.formats()->idOf(pane.SelFormat()), 0);
-    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
     // Text and colour in one write: a selection coloured first would be an edit, and an undo level, of its own.
-    pane.setSelRTF(RichText(pane.formats(), text, {{static_cast<std::uint32_t>(text.size()), black}}));
+    const RichText coloured(pane.formats(), text, {{static_cast<std::uint32_t>(text.size()), black}});
+    writeAsOneLevel(side, [&] { pane.setSelRTF(coloured); });
     // A blank in front isn't counted: the caret then stops before the one behind the name.
     putCaret(side, static_cast<std::int64_t>(side.Caret) + static_cast<std::int64_t>(name.size()) + 1);
     pane.SetFocus();
@@ -110,7 +112,7 @@ void List1_DblClick(Editor& editor, std::size_t list)
     step([&] {
         endBlinking(editor);
         if (!editor.JoystickText.Visible) editor.TabStrip1.Select(editor.joystick.tab);
-        if (pickMacro(editor, list)) insertMacro(editor);
+        if (pickMacro(editor, list)) insertMacro(editor, step);
     });
 }
 

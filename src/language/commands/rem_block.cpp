@@ -1,5 +1,6 @@
 #include "language/commands/rem_block.h"
 
+#include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/protected_pane.h"
 #include "language/commands/coloured_insertion.h"
@@ -109,10 +110,9 @@ void RemBlockCommon(Editor& editor)
         Side& side = editor.selected();
         Pane& pane = side.pane;
         const std::int64_t caret = pane.SelStart();
-        side.TakeNewLevel = 1;
         pane.setSelStart(pane.lineStart(pane.GetLineFromChar(caret)));
         if (editor.menus.mnuInsertWithColour.Checked) pane.setSelColor(editor.shared.settings.RemStatements);
-        pane.setSelText(comment);
+        writeAsOneLevel(side, [&] { pane.setSelText(comment); });
         putCaretAlone(side, caret + static_cast<std::int64_t>(comment.size()));
         pane.SetFocus();
     });

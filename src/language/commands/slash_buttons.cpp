@@ -1,6 +1,5 @@
 #include "language/commands/slash_buttons.h"
 
-#include "documents/pair/protected_pane.h"
 #include "language/commands/coloured_insertion.h"
 
 namespace tarvex {
@@ -96,7 +95,6 @@ void loadSlashButtons(Editor& editor)
 void Command1_Click(Editor& editor, std::size_t index)
 {
     const Steps step(editor.shared.errors, "ED_Command1_Click");
-    if (refuseProtected(editor)) return;
     step([&] {
         const std::string& caption = editor.FrameMacros.Command1.at(index).Caption;
         index == delayButton ? insertDelay(editor) : insertModifier(editor, caption);

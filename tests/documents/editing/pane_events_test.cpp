@@ -1,5 +1,6 @@
 #include "documents/editing/pane_events.h"
 
+#include "documents/editing/blank_strings.h"
 #include "documents/editing/pane_keys.h"
 #include "platform/input.h"
 #include "support/test_program.h"
@@ -54,6 +55,19 @@ TEST_F(PaneEvents, ACtrlKeyNotesTheCaretFirst)
     menus.mnuEditCopy.handler = [&] { noted = editor.pair.JoystickCaret; };
     JoystickText_KeyDown(editor, "Ctrl+C");
     EXPECT_EQ(noted, 6);
+}
+
+TEST_F(PaneEvents, TheHugeBlankStringOperationsDoNothing)
+{
+    const RichText joystickBefore = joystick.TextRTF();
+    const RichText macroBefore = editor.MacroText.TextRTF();
+    AddHugeBlankStringJF(editor);
+    AddHugeBlankStringMF(editor);
+    RemoveHugeBlankStringJF(editor);
+    RemoveHugeBlankStringMF(editor);
+    EXPECT_TRUE(joystick.TextRTF() == joystickBefore);
+    EXPECT_TRUE(editor.MacroText.TextRTF() == macroBefore);
+    EXPECT_EQ(joystick.SelStart(), 6);
 }
 
 TEST_F(PaneEvents, TheMacroPaneHasItsOwnFileCommands)

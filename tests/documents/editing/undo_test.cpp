@@ -1,6 +1,8 @@
 #include "documents/editing/undo.h"
 
 #include "documents/editing/line_highlight.h"
+#include "documents/find/replace_text.h"
+#include "documents/window/colour_selector.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -143,6 +145,100 @@ TEST_F(UndoTest, WhatIsUndoneAfterASaveIsUnsavedText)
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
     EXPECT_EQ(t.program().mum.StatusBar.Panels(2).Picture.get(), 3);
 }
+
+TEST_F(UndoTest, UndoOrRedoToTheSavedTextIsSavedAgain)
+{
+    t.files.addFile("c:\\a\\x.b50", "A");
+    t.files.addFile("c:\\a\\x.m50", "");
+    t.openBoth("c:\\a\\x.b50");
+    const auto state = [&] { return t.program().mum.StatusBar.Panels(2).Picture.get() - 2; };
+    press("x");
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(pane.Text(), "A");
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(state(), changed::saved);
+    t.menus().mnuEditRedo.Click();
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    t.menus().mnuFileSave.Click();
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified) << "the file holds the other text now";
+    t.menus().mnuEditRedo.Click();
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(state(), changed::saved);
+}
+
+TEST_F(UndoTest, UndoToTheSavedTextLeavesNothingToRecover)
+{
+    t.files.addFile("c:\\a\\x.b50", "A");
+    t.files.addFile("c:\\a\\x.m50", "");
+    t.openBoth("c:\\a\\x.b50");
+    press("x");
+    EXPECT_EQ(t.files.list("c:\\tarvex\\Recover").size(), 1U);
+    t.menus().mnuEditUndo.Click();
+    EXPECT_TRUE(t.files.list("c:\\tarvex\\Recover").empty());
+    t.menus().mnuEditRedo.Click();
+    EXPECT_EQ(t.files.list("c:\\tarvex\\Recover").size(), 1U);
+}
+
+TEST_F(UndoTest, ANewDocumentUndoneToNothingStaysModified)
+{
+    press("x");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(pane.Text(), "");
+    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+}
+
+/// A command, and what it leaves of "one two" with "two" selected and "cut" in the clipboard.
+struct WritingCommand {
+    const char* name;
+    void (*run)(TestProgram&);
+    const char* text;
+};
+
+class AfterAKeyThatChangedNothing : public UndoTest, public testing::WithParamInterface<WritingCommand> {};
+
+TEST_P(AfterAKeyThatChangedNothing, TheCommandStillOpensALevel)
+{
+    press("one two");
+    pane.setSelStart(4);
+    pane.setSelLength(3);
+    t.clipboard.content = {.text = "cut", .rtf = {}};
+    t.program().operations.UpdateCCPButtons();
+    pane.KeyPress('x'); // as in a pane that refuses the key
+    const std::size_t levels = history.Text.size();
+    GetParam().run(t);
+    EXPECT_EQ(pane.Text(), GetParam().text);
+    EXPECT_EQ(history.Text.size(), levels + 1);
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(pane.Text(), "one two");
+    EXPECT_EQ(pane.formatAt(4).colour, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    UndoTest, AfterAKeyThatChangedNothing,
+    testing::Values(WritingCommand{"Cut", [](TestProgram& t) { t.menus().mnuEditCut.Click(); }, "one "},
+                    WritingCommand{"Paste", [](TestProgram& t) { t.menus().mnuEditPaste.Click(); }, "one cut"},
+                    WritingCommand{"Delete", [](TestProgram& t) { t.menus().mnuEditDelete.Click(); }, "one "},
+                    WritingCommand{"DeleteKey",
+                                   [](TestProgram& t) {
+                                       t.editor().JoystickText.EditComing();
+                                       t.editor().JoystickText.userEdit(4, 3, "");
+                                   },
+                                   "one "},
+                    WritingCommand{"Replace",
+                                   [](TestProgram& t) {
+                                       t.program().findAndReplace.ComboTextReplaceWith.Text = "2";
+                                       ReplaceText(t.program().findAndReplace);
+                                   },
+                                   "one 2"},
+                    WritingCommand{"ColourByHand",
+                                   [](TestProgram& t) {
+                                       showColourSelector(t.editor(), ColourTarget::Pane);
+                                       ColourSelector_Command1_Click(t.editor(), 1);
+                                   },
+                                   "one two"}),
+    [](const auto& command) { return std::string(command.param.name); });
 
 TEST_F(UndoTest, AProtectedMacroFileIsNotUndone)
 {

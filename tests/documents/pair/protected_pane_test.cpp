@@ -1,5 +1,6 @@
 #include "documents/pair/protected_pane.h"
 
+#include "language/commands/coloured_insertion.h"
 #include "language/commands/rem_block.h"
 #include "language/commands/text_transfer.h"
 #include "support/test_program.h"
@@ -43,6 +44,30 @@ struct ProtectedPaneTest : testing::Test {
 TEST_F(ProtectedPaneTest, TakesNoSlashModifierAndNoDelay)
 {
     for (Button& button : editor.FrameMacros.Command1) expectRefused([&] { button.Click(); });
+}
+
+TEST_F(ProtectedPaneTest, TakesNoInsertionByTheInsertionOperations)
+{
+    constexpr Colour red = 255;
+    expectRefused([&] { BeginColInsert(editor); });
+    expectRefused([&] { InsertColouredString(editor, "x", red); });
+    expectRefused([&] { InsertColouredStringNoSpace(editor, "x", red); });
+    expectRefused([&] { InsertBlackBlanks(editor); });
+    expectRefused([&] { InsertCarriageReturn(editor); });
+    expectRefused([&] {
+        editor.insertion.InsertText = "x";
+        InsertBlackText(editor);
+    });
+    expectRefused([&] {
+        BeginColInsert(editor);
+        CheckAtLineBeginning(editor);
+        InsertColouredString(editor, "x", red);
+        EndColInsert(editor);
+    });
+    macro.setSelLength(0);
+    CheckAtLineBeginning(editor);
+    EXPECT_EQ(macro.Text(), text);
+    EXPECT_EQ(macro.SelStart(), 0);
 }
 
 TEST_F(ProtectedPaneTest, TakesNoTransfer)

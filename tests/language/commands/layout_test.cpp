@@ -79,6 +79,18 @@ TEST_F(LayoutTest, ReformatPutsTheNewStateIntoTheNewestUndoLevel)
     EXPECT_TRUE(editor.JoystickUndo.Text[0] == joystick.TextRTF());
 }
 
+TEST_F(LayoutTest, ReformatWithARecordedCaretBelow0PutsTheCaretTo0AndGoesOn)
+{
+    t.typeJoystick("BTN S1");
+    editor.pair.JoystickCaret = -1;
+    t.menus().mnuViewReformat.Click();
+    EXPECT_EQ(joystick.SelStart(), 0);
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_mnuViewReformat_Click");
+    EXPECT_EQ(t.status(), "Layout refreshed ... (I wish I was!)");
+    EXPECT_EQ(editor.TempRichTextBox.Text(), "");
+    EXPECT_EQ(t.program().shared.IsLoading, 0);
+}
+
 TEST_F(LayoutTest, ReformatActsOnTheSelectedTabOnly)
 {
     t.typeJoystick("j");

@@ -270,6 +270,23 @@ TEST_F(ListEventsTest, AfterColouringOrRemovingColourDoubleClickWritesAtACaretBe
     }
 }
 
+TEST_F(ListEventsTest, AfterAReplaceAllThatFoundNothingDoubleClickStillWritesAndReplacesTheCharacterBehindTheCaret)
+{
+    joystick.setText("one two");
+    joystick.setSelStart(3);
+    FindAndReplace& window = t.program().findAndReplace;
+    t.menus().mnuEditReplace.Click();
+    window.ComboTextReplaceFind.Text = "absent";
+    window.Command6.Click();
+    ASSERT_EQ(editor.pair.JoystickCaret, -1);
+    ASSERT_EQ(joystick.SelStart(), 3);
+    doubleClickFire();
+    EXPECT_EQ(joystick.Text(), "oneFire two") << "the one character that was read was a blank";
+    EXPECT_EQ(editor.pair.JoystickCaret, 4);
+    EXPECT_EQ(joystick.SelStart(), 4);
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_List1_DblClick");
+}
+
 TEST_F(ListEventsTest, DoubleClickReplacesASelection)
 {
     caretAt("one two three", 4);
