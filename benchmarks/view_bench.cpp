@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
+#include <string>
+#include <utility>
 #include <vector>
 
 // What the user waits for: from an act, or from what the program does to a pane, to the painted view.
@@ -30,28 +32,64 @@ struct PaintCounter : QObject {
     }
 };
 
-/// A pane in a window of usual size.
-struct Shown {
-    Pane pane;
-    PaneView view{pane};
-    PaintCounter counter;
-
-    Shown()
+/// A text widget in a window of usual size.
+class PaintedWidget {
+public:
+    explicit PaintedWidget(QPlainTextEdit& widget) : m_widget(widget)
     {
-        view.resize(1200, 900);
-        view.show();
-        view.viewport()->installEventFilter(&counter);
+        widget.resize(1200, 900);
+        widget.show();
+        widget.viewport()->installEventFilter(&m_counter);
         paint();
     }
     /// Lets events run until what waits has been painted.
     void paint() const
     {
-        const int before = counter.paints;
+        const int before = m_counter.paints;
         const auto start = Clock::now();
-        while (counter.paints == before && secondsSince(start) < longest) QApplication::processEvents();
-        if (counter.paints == before) throw std::runtime_error("the view isn't painted");
+        while (m_counter.paints == before && secondsSince(start) < longest) QApplication::processEvents();
+        if (m_counter.paints == before) throw std::runtime_error("the view isn't painted");
     }
+    /// Seconds from the key to its painted character.
+    double press(Qt::Key code, const QString& text) const
+    {
+        QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, text);
+        const auto start = Clock::now();
+        QApplication::sendEvent(&m_widget, &key);
+        paint();
+        return secondsSince(start);
+    }
+
+private:
     static constexpr double longest = 2; // seconds
+    QPlainTextEdit& m_widget;
+    PaintCounter m_counter;
+};
+
+/// A pane in such a window.
+struct Shown {
+    Pane pane;
+    PaneView view{pane};
+    PaintedWidget painted{view};
+
+    void paint() const { painted.paint(); }
+};
+
+/// The floor: the same text in Qt's own widget, without colours, undo levels or a pane behind it.
+struct PlainShown {
+    QPlainTextEdit edit;
+    PaintedWidget painted{edit};
+
+    explicit PlainShown(const Shown& model)
+    {
+        edit.setLineWrapMode(QPlainTextEdit::NoWrap);
+        edit.setFont(model.view.font());
+        edit.setUndoRedoEnabled(false);
+        edit.setPlainText(model.view.toPlainText());
+        edit.setTextCursor(QTextCursor(edit.document()->findBlockByNumber(model.view.textCursor().blockNumber())));
+        edit.setFocus();
+        painted.paint();
+    }
 };
 
 /// Every ten characters of 30,000 get a colour, and all that is in sight is painted.
@@ -78,12 +116,16 @@ void colourRunsToPaintedView(benchmark::State& state)
 }
 BENCHMARK(colourRunsToPaintedView)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-double percentile(std::vector<double>& sorted, double part)
+double percentile(std::vector<double>& times, double part)
 {
-    return sorted[std::min(sorted.size() - 1, static_cast<std::size_t>(part * static_cast<double>(sorted.size())))];
+    const auto rank = static_cast<std::size_t>(part * static_cast<double>(times.size()));
+    const auto at = times.begin() + static_cast<std::ptrdiff_t>(std::min(times.size() - 1, rank));
+    std::nth_element(times.begin(), at, times.end());
+    return *at;
 }
 
-/// A key in the middle of a coloured text of so many lines, with its undo level, painted. Every tenth is Return.
+/// A key in the middle of a coloured text of so many lines, with its undo level, painted. Every tenth is Return. Each
+/// key also goes to a plain widget with the same text: the "times" are how much longer the view takes than that.
 void keystrokeToPaintedView(benchmark::State& state)
 {
     constexpr std::size_t charactersOfALine = 44;
@@ -91,23 +133,26 @@ void keystrokeToPaintedView(benchmark::State& state)
     fillColoured(shown.pane, static_cast<std::size_t>(state.range(0)) * charactersOfALine);
     RichText level;
     shown.pane.Change = [&] { level = shown.pane.TextRTF(); };
-    shown.view.setFocus();
-    shown.pane.setSelStart(shown.pane.lineStart(shown.pane.lineCount() / 2) + 5);
+    shown.pane.setSelStart(shown.pane.lineStart(shown.pane.lineCount() / 2));
     shown.paint();
+    const PlainShown plain(shown);
     std::vector<double> times;
+    std::vector<double> plainTimes;
     for (auto _ : state) {
         const bool lineEnd = times.size() % 10 == 9;
-        QKeyEvent key(QEvent::KeyPress, lineEnd ? Qt::Key_Return : Qt::Key_X, Qt::NoModifier,
-                      lineEnd ? QStringLiteral("\r") : QStringLiteral("x"));
-        const auto start = Clock::now();
-        QApplication::sendEvent(&shown.view, &key);
-        shown.paint();
-        times.push_back(secondsSince(start));
+        const Qt::Key key = lineEnd ? Qt::Key_Return : Qt::Key_X;
+        const QString text = lineEnd ? QStringLiteral("\r") : QStringLiteral("x");
+        plainTimes.push_back(plain.painted.press(key, text));
+        times.push_back(shown.painted.press(key, text));
         state.SetIterationTime(times.back());
     }
-    std::sort(times.begin(), times.end());
-    state.counters["p50_ms"] = percentile(times, 0.50) * 1e3;
-    state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
+    for (const auto& [name, part] : {std::pair("p50", 0.50), std::pair("p99", 0.99)}) {
+        const double view = percentile(times, part);
+        const double floor = percentile(plainTimes, part);
+        state.counters[std::string(name) + "_ms"] = view * 1e3;
+        state.counters[std::string(name) + "_plain_ms"] = floor * 1e3;
+        state.counters[std::string(name) + "_times"] = view / floor;
+    }
     state.counters["lines"] = static_cast<double>(shown.pane.lineCount());
 }
 BENCHMARK(keystrokeToPaintedView)
