@@ -112,8 +112,7 @@ void PaneView::showPane()
         verticalScrollBar()->setValue(top);
         horizontalScrollBar()->setValue(left);
     }
-    formatShown();
-    viewport()->update();
+    formatShown(); // text, formats and caret have what they changed repainted themselves
     emit paneShown();
 }
 
