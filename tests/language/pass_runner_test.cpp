@@ -217,8 +217,9 @@ TEST_F(HeldProgramTest, StatusNamesTheLineOfTheFirstHoldUntilEscape)
 {
     t.editor().JoystickText.setText("x\r\nRAW(x\r\nDLY(x\r\nRem y");
     t.menus().mnuViewColourJoystick.Click();
-    EXPECT_EQ(shown, std::vector<std::string>{
-                         "Applying colour to RAW statements ... held by RAW( in line 2. Press Esc to go on."});
+    EXPECT_EQ(shown,
+              std::vector<std::string>{
+                  "Applying colour to RAW statements ... held by RAW( in line 2. Press Esc to go on, Ctrl+S to save."});
     EXPECT_EQ(t.status(), "Done");
     EXPECT_EQ(visibleColoursOf(t.editor().JoystickText, t.settings()), ".\r\nRRRR.\r\nRRRR.\r\nCCCCC");
 }
@@ -228,7 +229,36 @@ TEST_F(HeldProgramTest, AnUnclosedRawHoldsAMacroFileToo)
     t.editor().MacroText.setText("A = RAW(#1");
     t.menus().mnuViewColourMacro.Click();
     ASSERT_EQ(shown.size(), 1U);
-    EXPECT_EQ(shown[0], "Applying colour to RAW statements ... held by RAW( in line 1. Press Esc to go on.");
+    EXPECT_EQ(shown[0],
+              "Applying colour to RAW statements ... held by RAW( in line 1. Press Esc to go on, Ctrl+S to save.");
+}
+
+TEST_F(HeldProgramTest, OpeningAFileHoldsNothingAndRemarksWhereColouringEnded)
+{
+    t.settings().ApplyColoursOnFileOpen = 1;
+    t.settings().CheckIdentifyOK = 0;
+    t.files.addFile("c:\\a\\x.b50", "BTN S1\r\nRAW(x\r\nDLY(x\r\nRem y");
+    t.files.addFile("c:\\a\\x.m50", "A = RAW(#1");
+    t.openBoth("c:\\a\\x.b50");
+    EXPECT_TRUE(shown.empty());
+    EXPECT_EQ(t.status(), "Done. Colouring x.b50 couldn't get past RAW( in line 2. Colouring x.m50 couldn't get past "
+                          "RAW( in line 1.");
+    EXPECT_EQ(visibleColoursOf(t.editor().JoystickText, t.settings()), "BBBBBB\r\nRRRR.\r\nRRRR.\r\nCCCCC");
+    t.menus().mnuViewColourJoystick.Click();
+    EXPECT_EQ(shown.size(), 1U) << "the command still holds";
+}
+
+TEST_F(HeldProgramTest, OpeningATextBeyond65535CharactersHoldsNothing)
+{
+    t.settings().ApplyColoursOnFileOpen = 1;
+    t.settings().CheckIdentifyOK = 0;
+    std::string text;
+    while (text.size() < 66'000) text += "BTN S1 x Rem y\r\n";
+    t.files.addFile("c:\\a\\x.b50", text);
+    t.files.addFile("c:\\a\\x.m50", "");
+    t.openBoth("c:\\a\\x.b50");
+    EXPECT_TRUE(shown.empty());
+    EXPECT_TRUE(t.status().starts_with("Done. Colouring x.b50 couldn't get past ")) << t.status();
 }
 
 TEST_F(HeldProgramTest, AFileWithoutHoldsWaitsForNobody)

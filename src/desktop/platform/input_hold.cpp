@@ -78,6 +78,12 @@ void InputHold::keepFocus(QWidget* widget, bool in)
     }
 }
 
+void InputHold::reportKey(const QKeyEvent& event)
+{
+    if (event.key() == Qt::Key_Escape) emit escapePressed();
+    if (event.keyCombination() == (Qt::ControlModifier | Qt::Key_S)) emit savePressed();
+}
+
 bool InputHold::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Timer) return watched->objectName() == QLatin1String(tickName);
@@ -94,8 +100,7 @@ bool InputHold::eventFilter(QObject* watched, QEvent* event)
     if (!isInput(event->type())) return false;
     // Taking a key here keeps it from the shortcuts too.
     event->setAccepted(event->type() == QEvent::ShortcutOverride);
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
-        emit escapePressed();
+    if (event->type() == QEvent::KeyPress) reportKey(*static_cast<const QKeyEvent*>(event));
     return true;
 }
 

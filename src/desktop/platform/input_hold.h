@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
+class QKeyEvent;
+
 namespace tarvex {
 
 /// Runs an event loop that lets the windows be drawn and nothing else happen: nothing is taken from the user, and no
@@ -17,6 +19,7 @@ public:
 
 signals:
     void escapePressed();
+    void savePressed(); ///< Ctrl+S
     /// The user wants a window closed; it stays open.
     void closeWanted(QWidget* window);
 
@@ -25,6 +28,7 @@ protected:
 
 private:
     void keepFocus(QWidget* widget, bool in);
+    void reportKey(const QKeyEvent& event);
 
     QEventLoop m_loop;
     QPointer<QWidget> m_lostFocus;

@@ -146,6 +146,7 @@ bool loadFile(Editor& editor, Side& side, const std::string& path, const std::st
 void mnuFileJoystickLoad_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuFileJoystickLoad_Click");
+    editor.OpeningRemarks.clear();
     step([&] {
         if (!mayLeave(editor, editor.joystick, questionBeforeOpen(editor.joystick))) return;
         const auto file = chooseFile(editor, {.title = "Opening joystick file",
@@ -155,11 +156,13 @@ void mnuFileJoystickLoad_Click(Editor& editor)
         endOpenOne(editor, editor.joystick);
         editor.status("Done");
     });
+    showOpeningRemarks(editor);
 }
 
 void MnuFileMacroLoad_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_MnuFileMacroLoad_Click");
+    editor.OpeningRemarks.clear();
     step([&] {
         if (!mayLeave(editor, editor.macro, questionBeforeOpen(editor.macro))) return;
         const auto file = chooseFile(editor, {.title = "Opening file",
@@ -169,11 +172,13 @@ void MnuFileMacroLoad_Click(Editor& editor)
         endOpenOne(editor, editor.macro);
         editor.status("Finished opening up macro file and extracting macros from it");
     });
+    showOpeningRemarks(editor);
 }
 
 void mnuFileOpen_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuFileOpen_Click");
+    editor.OpeningRemarks.clear();
     step([&] {
         if (!mayLeave(editor, editor.joystick, questionBeforeOpen(editor.joystick))) return;
         if (!mayLeave(editor, editor.macro, questionBeforeOpen(editor.macro))) return;
@@ -193,6 +198,7 @@ void mnuFileOpen_Click(Editor& editor)
             return refuseUnknownKind(editor);
         }
     });
+    showOpeningRemarks(editor);
 }
 
 void OpenPreviouslySavedFiles(Editor& editor)

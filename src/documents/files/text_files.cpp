@@ -94,6 +94,27 @@ void tellUnreadable(Editor& editor, const std::string& name)
                                     .icon = BoxIcon::Exclamation});
 }
 
+/// Lone CR and lone LF.
+std::size_t otherLineEnds(std::string_view bytes)
+{
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const bool isPair = bytes.substr(i, 2) == "\r\n";
+        if (!isPair && (bytes[i] == '\r' || bytes[i] == '\n')) ++count;
+        if (isPair) ++i;
+    }
+    return count;
+}
+
+/// The pane has CR LF throughout, and so has the file after its next save.
+void remarkOtherLineEnds(Editor& editor, const std::string& name, std::string_view bytes)
+{
+    const std::size_t count = otherLineEnds(bytes);
+    if (count == 0) return;
+    editor.OpeningRemarks.push_back(name + " had " + std::to_string(count) + (count == 1 ? " line end" : " line ends") +
+                                    " of another kind.");
+}
+
 } // namespace
 
 std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name)
@@ -121,6 +142,7 @@ void showDocument(Editor& editor, Side& side, const std::string& path, const std
     if (!shadow.empty() && editor.platform.files.fileExists(shadow) && !isTooLarge(editor, shadow))
         step([&] { coloured = putShadow(editor, side, shadow, bytes); });
     if (!coloured) putPlain(editor, side, bytes);
+    remarkOtherLineEnds(editor, name, bytes);
     side.FilePath = path;
     side.FileName = name;
     side.Changed = changed::saved;
@@ -140,6 +162,14 @@ void showDocument(Editor& editor, Side& side, const std::string& path, const std
     noteTextSettled(editor, side, sumOf(bytes));
     UpdateSavedIcon(editor);
     showLineNumber(editor, side, 0);
+}
+
+void showOpeningRemarks(Editor& editor)
+{
+    std::string text = editor.mum.StatusBar.Panels(panel::progress).Text;
+    if (!editor.OpeningRemarks.empty() && !text.empty() && text.back() != '!' && text.back() != '.') text += '.';
+    for (const std::string& remark : editor.OpeningRemarks) text += ' ' + remark;
+    editor.status(text);
 }
 
 void writePlain(Editor& editor, const Side& side, const std::string& path)

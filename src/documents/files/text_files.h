@@ -17,6 +17,10 @@ std::optional<std::string> readForOpening(Editor& editor, const std::string& pat
 void showDocument(Editor& editor, Side& side, const std::string& path, const std::string& name,
                   const std::string& bytes);
 
+/// Adds to the status text what the user should know of the files that were opened last: line ends that a save will
+/// change, colouring that couldn't be finished.
+void showOpeningRemarks(Editor& editor);
+
 /// Writes the pane's text as the document's file.
 void writePlain(Editor& editor, const Side& side, const std::string& path);
 /// Writes it as a copy that only the user may access: the document itself may be private.

@@ -18,6 +18,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvex {
 
@@ -102,6 +103,7 @@ struct Editor {
     std::string OpeningPath;           ///< what OpenPreviouslySavedFiles hands to the open commands
     std::string OpeningName;
     std::int16_t OpeningWithoutAsking = 0;
+    std::vector<std::string> OpeningRemarks; ///< sentences on the files opened last, for the end of the status text
     std::int16_t ExitInProgress = 0;
     int BlinkStep = 0;                       ///< of the line highlight
     int BlinkTab = 1;                        ///< of the pane whose line flashes

@@ -5,6 +5,7 @@
 #include "documents/files/file_new.h"
 #include "documents/files/file_open.h"
 #include "documents/files/file_questions.h"
+#include "documents/files/text_files.h"
 #include "documents/pair/document_status.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_offer.h"
@@ -194,6 +195,7 @@ void Form_Load(Editor& editor)
     UpdateSavedIcon(editor);
     F22MenusUpdate(editor);
     editor.status(whyNotOpened.empty() ? "Ready! Welcome to Tarvex!" : whyNotOpened);
+    showOpeningRemarks(editor);
     editor.platform.desktop.doEvents();
     editor.platform.desktop.doEvents();
 

@@ -62,7 +62,7 @@ private:
     std::array<OfSide, 2> m_of;
 };
 
-void apply(Editor& editor, const Highlighter& what)
+void apply(Editor& editor, const Highlighter& what, const std::function<void(const Hold&)>& held)
 {
     const Steps step(editor.shared.errors, what.tag);
     Side& side = what.side;
@@ -78,15 +78,39 @@ void apply(Editor& editor, const Highlighter& what)
     step([&] { setBaseFormat(editor, side); });
     if (!what.selectsTabFirst) selectTab();
 
-    runPasses({side.pane, editor.shared.settings, side.Caret, step, &editor.mum,
-               holdUntilEscape(editor.platform, editor.mum)},
-              what.passes);
+    runPasses({side.pane, editor.shared.settings, side.Caret, step, &editor.mum, held}, what.passes);
 
     kept.giveBack(step);
     side.Undo.Text[side.Undo.Position - 1] = side.pane.TextRTF();
     saveColouredText(editor, side);
     editor.status("Done");
     editor.mum.ProgressBar1.Visible = false;
+}
+
+Highlighter joystickHighlighter(Editor& editor)
+{
+    return {editor.joystick, "ApplyColourHighlighting", editor.menus.mnuRemoveColourJoystick, joystickPasses(), true};
+}
+
+Highlighter macroHighlighter(Editor& editor)
+{
+    return {editor.macro, "ApplyMacroColourHighlighting", editor.menus.mnuRemoveColourMacro, macroPasses(), false};
+}
+
+std::string placeOf(const Hold& hold) { return std::string(hold.word) + " in line " + std::to_string(hold.line); }
+
+void applyAndHold(Editor& editor, const Highlighter& what)
+{
+    apply(editor, what, holdUntilEscape(editor.platform, editor.mum));
+}
+
+void applyAndRemark(Editor& editor, const Highlighter& what)
+{
+    apply(editor, what, [&](const Hold& hold) {
+        if (hold.isFirstOfRun)
+            editor.OpeningRemarks.push_back("Colouring " + what.side.FileName + " couldn't get past " + placeOf(hold) +
+                                            ".");
+    });
 }
 
 } // namespace
@@ -96,25 +120,23 @@ std::function<void(const Hold&)> holdUntilEscape(Platform& platform, Mum& mum)
     return [&platform, &mum](const Hold& hold) {
         if (!hold.isFirstOfRun) return;
         Property<std::string>& status = mum.StatusBar.Panels(panel::progress).Text;
-        status = status.get() + " held by " + std::string(hold.word) + " in line " + std::to_string(hold.line) +
-                 ". Press Esc to go on.";
+        const std::string before = status;
+        status = before + " held by " + placeOf(hold) + ". Press Esc to go on, Ctrl+S to save.";
         platform.desktop.waitForEscape();
+        status = before;
     };
 }
 
-void ApplyColourHighlighting(Editor& editor)
-{
-    apply(editor,
-          {editor.joystick, "ApplyColourHighlighting", editor.menus.mnuRemoveColourJoystick, joystickPasses(), true});
-}
+void ApplyColourHighlighting(Editor& editor) { applyAndHold(editor, joystickHighlighter(editor)); }
+void ApplyMacroColourHighlighting(Editor& editor) { applyAndHold(editor, macroHighlighter(editor)); }
+void colourOpenedJoystickFile(Editor& editor) { applyAndRemark(editor, joystickHighlighter(editor)); }
+void colourOpenedMacroFile(Editor& editor) { applyAndRemark(editor, macroHighlighter(editor)); }
 
-void ApplyMacroColourHighlighting(Editor& editor)
+void mnuRHMColour_Click(Editor& editor)
 {
-    apply(editor,
-          {editor.macro, "ApplyMacroColourHighlighting", editor.menus.mnuRemoveColourMacro, macroPasses(), false});
+    const bool joystick = editor.selected().tab == editor.joystick.tab;
+    (joystick ? editor.menus.mnuViewColourJoystick : editor.menus.mnuViewColourMacro).Click();
 }
-
-void mnuRHMColour_Click(Editor& editor) { editor.selected().ApplyColours(); }
 
 void mnuViewApplyColourBothFiles_Click(Editor& editor)
 {

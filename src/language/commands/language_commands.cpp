@@ -21,8 +21,8 @@ namespace {
 void wireColours(Editor& editor)
 {
     Menus& menus = editor.menus;
-    editor.operations.ApplyColourHighlighting = on(editor, ApplyColourHighlighting);
-    editor.operations.ApplyMacroColourHighlighting = on(editor, ApplyMacroColourHighlighting);
+    editor.operations.ApplyColourHighlighting = on(editor, colourOpenedJoystickFile);
+    editor.operations.ApplyMacroColourHighlighting = on(editor, colourOpenedMacroFile);
     menus.mnuViewColourJoystick.handler = on(editor, ApplyColourHighlighting);
     menus.mnuViewColourMacro.handler = on(editor, ApplyMacroColourHighlighting);
     menus.mnuViewApplyColourBothFiles.handler = on(editor, mnuViewApplyColourBothFiles_Click);

@@ -1,6 +1,7 @@
 #include "language/commands/text_transfer.h"
 
 #include "documents/editing/line_highlight.h"
+#include "documents/editing/undo.h"
 #include "documents/pair/protected_pane.h"
 #include "language/base_format.h"
 #include "language/commands/colour_highlighting.h"
@@ -23,9 +24,11 @@ void colourScratch(Editor& editor, std::span<const ColourPass> passes)
     writeBaseFormat(scratch, editor.shared.settings, editor.shared.DefaultTextColour);
     if (!editor.menus.mnuInsertWithColour.Checked) return;
     float position = 0;
+    bool saves = false;
     runPasses(
-        {scratch, editor.shared.settings, position, Steps(), nullptr, holdUntilEscape(editor.platform, editor.mum)},
+        {scratch, editor.shared.settings, position, Steps(), nullptr, holdUntilKey(editor.platform, editor.mum, saves)},
         passes);
+    return saves;
 }
 
 void transfer(Editor& editor)
@@ -37,8 +40,7 @@ void transfer(Editor& editor)
     if (touchesAWord(target)) scratch.setSelText(" ");
     scratch.setSelStart(0);
     scratch.setSelLength(static_cast<std::int64_t>(scratch.TextLength()));
-    side.TakeNewLevel = 1; // a key that changed nothing may have left the mark at 0
-    target.setSelRTF(scratch.SelRTF());
+    writeAsOneLevel(side, [&] { target.setSelRTF(scratch.SelRTF()); });
 }
 
 void transferColoured(Editor& editor, std::span<const ColourPass> passes)

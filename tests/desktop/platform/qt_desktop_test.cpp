@@ -27,6 +27,17 @@ TEST(WaitForEscape, EndsWithEscAndTakesNothingElse)
     EXPECT_EQ(window.keys + window.clicks + window.shortcuts, 0);
 }
 
+TEST(WaitForEscape, CtrlSEndsItTooAndReachesTheWindowAfterwards)
+{
+    HeldWindow window;
+    window.press(Qt::Key_S);
+    window.acts.emplace_back([&] { QTest::keyClick(window.windowHandle(), Qt::Key_S, Qt::ControlModifier); });
+    EXPECT_TRUE(window.waitWhileTheUserActs());
+    EXPECT_EQ(window.keys, 0) << "the work that waited comes first";
+    QApplication::processEvents();
+    EXPECT_EQ(window.keys, 1);
+}
+
 TEST(WaitForEscape, TheWindowTakesInputAgainAfterwards)
 {
     HeldWindow window;

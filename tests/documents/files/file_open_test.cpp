@@ -316,6 +316,41 @@ TEST_F(OpenTest, ColoursComeBackFromTheShadowAndNothingIsReformatted)
     EXPECT_FALSE(t.editor().TempRichTextBox.Visible);
 }
 
+TEST_F(OpenTest, LineEndsOfAnotherKindAreRemarkedBehindTheClosingText)
+{
+    t.settings().CheckIdentifyOK = 0;
+    t.files.addFile(mig, "one\ntwo\rthree\r\nfour\n");
+    t.files.addFile(migMacros, "Fire = f\r\nStop = s\r");
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "one\r\ntwo\r\nthree\r\nfour\r\n");
+    EXPECT_EQ(t.status(), "Done. mig.b50 had 3 line ends of another kind. mig.m50 had 1 line end of another kind.");
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    t.menus().mnuFileNewBoth.Click();
+    t.files.addFile(mig, "\n\r\n\r\r\n");
+    t.menus().mnuJoyPopUpSingleFile.Checked = true;
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(), "Done. mig.b50 had 2 line ends of another kind.");
+}
+
+TEST_F(OpenTest, WindowsLineEndsAreNotRemarked)
+{
+    t.settings().CheckIdentifyOK = 0;
+    addPair();
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(), "Done");
+}
+
+TEST_F(OpenTest, LineEndsOfAnotherKindInTheFileOfTheCommandLineAreRemarkedAtTheStart)
+{
+    TestProgram started(false);
+    started.files.addFile(mig, "one\ntwo\n");
+    started.files.addFile(migMacros, "");
+    started.setIni("Miscellaneous", "CheckIdentifyOK", "0");
+    started.platform.commandLine = mig;
+    started.start();
+    EXPECT_EQ(started.status(), "Ready! Welcome to Tarvex! mig.b50 had 2 line ends of another kind.");
+}
+
 TEST_F(OpenTest, AFileEditedElsewhereNoLongerEqualsItsShadowAndIsColouredAnew)
 {
     addPair();
