@@ -30,7 +30,7 @@ void keyPress(Side& side, int key)
         side.TakeNewLevel = 0;
         return;
     }
-    if (history.Text.size() == 1) {
+    if (history.Levels.size() == 1) {
         side.TakeNewLevel = 1;
         return;
     }
@@ -54,12 +54,13 @@ void showLevel(Editor& editor, std::size_t level)
 {
     Side& side = editor.selected();
     UndoHistory& history = side.Undo;
-    if (level < 1 || level > history.Text.size() || refuseProtected(editor)) return;
+    if (level < 1 || level > history.Levels.size() || refuseProtected(editor)) return;
     const Loading loading(editor.shared);
     history.Position = level;
-    side.pane.setTextRTF(history.Text[level - 1]);
-    side.pane.setSelStart(history.Caret[level - 1]);
-    side.Caret = static_cast<float>(history.Caret[level - 1]);
+    const UndoHistory::Level& shown = history.Levels[level - 1];
+    side.pane.setTextRTF(shown.Text);
+    side.pane.setSelStart(shown.Caret);
+    side.Caret = static_cast<float>(shown.Caret);
     if (holdsSavedText(side)) {
         noteTextSettled(editor, side, side.Journal.File);
         side.Changed = changed::saved;
@@ -95,18 +96,14 @@ void paneEditComing(Editor& editor, Side& side)
 void UpdateUndoText(const Editor& editor, Side& side)
 {
     UndoHistory& history = side.Undo;
-    const bool grows = static_cast<long>(history.Text.size()) <= editor.shared.settings.UndoMax;
-    history.Text.push_front(history.Text.front());
-    history.Caret.push_front(history.Caret.front());
-    if (grows) return;
-    history.Text.pop_back();
-    history.Caret.pop_back();
+    const bool grows = static_cast<long>(history.Levels.size()) <= editor.shared.settings.UndoMax;
+    history.Levels.push_front(history.Levels.front());
+    if (!grows) history.Levels.pop_back();
 }
 
 void storeInNewestLevel(Side& side)
 {
-    side.Undo.Text.front() = side.pane.TextRTF();
-    side.Undo.Caret.front() = static_cast<std::int32_t>(side.pane.SelStart());
+    side.Undo.Levels.front() = {side.pane.TextRTF(), static_cast<std::int32_t>(side.pane.SelStart())};
 }
 
 void storeStateBeforeWrite(Editor& editor, Side& side)

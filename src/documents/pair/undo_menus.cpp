@@ -29,7 +29,7 @@ void showOffer(Editor& editor, const Offer& offer)
 void UpdateUndoRedoMenus(Editor& editor)
 {
     const UndoHistory& history = editor.selected().Undo;
-    showOffer(editor, {editor.menus.mnuEditUndo, undoButton, "Undo", history.Text.size() - history.Position});
+    showOffer(editor, {editor.menus.mnuEditUndo, undoButton, "Undo", history.Levels.size() - history.Position});
     showOffer(editor, {editor.menus.mnuEditRedo, redoButton, "Redo", history.Position - 1});
 }
 

@@ -81,7 +81,7 @@ void apply(Editor& editor, const Highlighter& what, const std::function<void(con
     runPasses({side.pane, editor.shared.settings, side.Caret, step, &editor.mum, held}, what.passes);
 
     kept.giveBack(step);
-    side.Undo.Text[side.Undo.Position - 1] = side.pane.TextRTF();
+    side.Undo.Levels[side.Undo.Position - 1].Text = side.pane.TextRTF();
     saveColouredText(editor, side);
     editor.status("Done");
     editor.mum.ProgressBar1.Visible = false;

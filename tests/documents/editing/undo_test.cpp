@@ -24,46 +24,45 @@ struct UndoTest : testing::Test {
 TEST_F(UndoTest, AWordAndABlankOnANewDocumentOpenTwoLevels)
 {
     press("abc");
-    EXPECT_EQ(history.Text.size(), 2U);
+    EXPECT_EQ(history.Levels.size(), 2U);
     press(" ");
-    EXPECT_EQ(history.Text.size(), 3U);
-    EXPECT_EQ(history.Text[0].text(), "abc ");
-    EXPECT_EQ(history.Text[1].text(), "abc");
-    EXPECT_EQ(history.Text[2].text(), "");
+    EXPECT_EQ(history.Levels.size(), 3U);
+    EXPECT_EQ(history.Levels[0].Text.text(), "abc ");
+    EXPECT_EQ(history.Levels[1].Text.text(), "abc");
+    EXPECT_EQ(history.Levels[2].Text.text(), "");
 }
 
 TEST_F(UndoTest, TwelveWordsWithUndoMaxAtTenLeaveElevenLevels)
 {
     t.settings().UndoMax = 10;
     for (int word = 0; word < 12; ++word) press("word ");
-    EXPECT_EQ(history.Text.size(), 11U);
-    EXPECT_EQ(history.Caret.size(), 11U);
-    EXPECT_NE(history.Text.back().text(), "") << "the oldest fell off";
+    EXPECT_EQ(history.Levels.size(), 11U);
+    EXPECT_NE(history.Levels.back().Text.text(), "") << "the oldest fell off";
 }
 
 TEST_F(UndoTest, ABlankInAnEmptyPaneOpensNoNewLevel)
 {
     press(" ");
-    EXPECT_EQ(history.Text.size(), 1U);
-    EXPECT_EQ(history.Text[0].text(), " ");
+    EXPECT_EQ(history.Levels.size(), 1U);
+    EXPECT_EQ(history.Levels[0].Text.text(), " ");
 }
 
 TEST_F(UndoTest, ARunOfBlanksOrReturnsIsOneLevel)
 {
     press("ab");
     press("   ");
-    EXPECT_EQ(history.Text.size(), 3U);
+    EXPECT_EQ(history.Levels.size(), 3U);
     press("\r\r\r");
-    EXPECT_EQ(history.Text.size(), 4U);
+    EXPECT_EQ(history.Levels.size(), 4U);
     press(" ");
-    EXPECT_EQ(history.Text.size(), 5U);
+    EXPECT_EQ(history.Levels.size(), 5U);
 }
 
 TEST_F(UndoTest, EachBackspaceOpensALevel)
 {
     press("abc");
     press("\b\b");
-    EXPECT_EQ(history.Text.size(), 4U);
+    EXPECT_EQ(history.Levels.size(), 4U);
     EXPECT_EQ(pane.Text(), "a");
 }
 
@@ -71,7 +70,7 @@ TEST_F(UndoTest, AChangeWithoutAKeyOpensALevelOfItsOwn)
 {
     press("abc");
     pane.setSelText("pasted");
-    EXPECT_EQ(history.Text.size(), 3U);
+    EXPECT_EQ(history.Levels.size(), 3U);
 }
 
 TEST_F(UndoTest, UndoAndRedoBringTextAndCaretBack)
@@ -128,7 +127,7 @@ TEST_F(UndoTest, ABlankTypedAfterUndoingBackToAnEmptyPaneKeepsTheNewestLevel)
     EXPECT_EQ(pane.Text(), "");
     press(" ");
     EXPECT_EQ(history.Position, 1U);
-    EXPECT_EQ(history.Text[1].text(), "my long work");
+    EXPECT_EQ(history.Levels[1].Text.text(), "my long work");
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "my long work");
 }
@@ -206,10 +205,10 @@ TEST_P(AfterAKeyThatChangedNothing, TheCommandStillOpensALevel)
     t.clipboard.content = {.text = "cut", .rtf = {}};
     t.program().operations.UpdateCCPButtons();
     pane.KeyPress('x'); // as in a pane that refuses the key
-    const std::size_t levels = history.Text.size();
+    const std::size_t levels = history.Levels.size();
     GetParam().run(t);
     EXPECT_EQ(pane.Text(), GetParam().text);
-    EXPECT_EQ(history.Text.size(), levels + 1);
+    EXPECT_EQ(history.Levels.size(), levels + 1);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "one two");
     EXPECT_EQ(pane.formatAt(4).colour, 0);
@@ -305,9 +304,9 @@ TEST_F(UndoTest, DeleteUndosFromMemoryEmptiesBoth)
     press("j");
     t.pressKeys(editor.MacroText, "m");
     DeleteUndosFromMemory(editor);
-    EXPECT_EQ(history.Text.size(), 1U);
-    EXPECT_EQ(editor.MacroUndo.Text.size(), 1U);
-    EXPECT_TRUE(history.Text[0].empty());
+    EXPECT_EQ(history.Levels.size(), 1U);
+    EXPECT_EQ(editor.MacroUndo.Levels.size(), 1U);
+    EXPECT_TRUE(history.Levels[0].Text.empty());
     EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
 }
 
@@ -380,9 +379,9 @@ TEST_F(UndoTest, ACharacterTypedAfterAnUndoEndsTheRunOfBlanks)
     editor.TimerBlinkLine.Enabled = false;
     pane.setSelStart(2);
     press("x");
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     press(" ");
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
 }
 
 TEST_F(UndoTest, AProtectedMacroFileSaysSoInsteadOfBeingUndone)

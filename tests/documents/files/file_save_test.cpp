@@ -347,8 +347,8 @@ TEST_F(SaveTest, UndoIsKeptByASaveUnlessUndoClearOnSaveAsksOtherwise)
     t.settings().UndoClearOnSave = 1;
     t.menus().mnuFileSave.Click();
     EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
-    EXPECT_EQ(t.editor().JoystickUndo.Text.size(), 1U);
-    EXPECT_EQ(t.editor().JoystickUndo.Text[0].text(), "xBTN S1 x\r\n");
+    EXPECT_EQ(t.editor().JoystickUndo.Levels.size(), 1U);
+    EXPECT_EQ(t.editor().JoystickUndo.Levels[0].Text.text(), "xBTN S1 x\r\n");
 }
 
 TEST_F(SaveTest, ASavedPathEntersThePreviousFiles)

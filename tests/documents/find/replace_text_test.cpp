@@ -215,9 +215,9 @@ TEST_F(Replace, AllOfNothingOrInNothingIsToldLikeASearch)
 TEST_F(Replace, AllIsOneUndoLevel)
 {
     t.typeJoystick("Z");
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     replaceAll("ab", "x");
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     EXPECT_EQ(editor.pair.JoystickTakeNewLevel, 1);
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
     t.menus().mnuEditUndo.Click();

@@ -75,11 +75,11 @@ TEST_F(PairTest, ChangesWhileLoadingDontCount)
 TEST_F(PairTest, AChangeTakesAnUndoLevelAndOpensANewOneForTheNext)
 {
     t.typeJoystick("x");
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), 2U);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), 2U);
     editor.pair.JoystickTakeNewLevel = 0;
     t.typeJoystick("y");
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), 2U);
-    EXPECT_EQ(editor.JoystickUndo.Text[0].text(), "xy");
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), 2U);
+    EXPECT_EQ(editor.JoystickUndo.Levels[0].Text.text(), "xy");
     EXPECT_EQ(editor.pair.JoystickTakeNewLevel, 1);
 }
 

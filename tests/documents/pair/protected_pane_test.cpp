@@ -27,7 +27,7 @@ struct ProtectedPaneTest : testing::Test {
     /// The command does nothing but tell that the pane is protected.
     template <typename Command> void expectRefused(Command command)
     {
-        const std::size_t levels = editor.MacroUndo.Text.size();
+        const std::size_t levels = editor.MacroUndo.Levels.size();
         t.files.clearWrites();
         editor.status("");
         command();
@@ -35,7 +35,7 @@ struct ProtectedPaneTest : testing::Test {
         EXPECT_EQ(macro.Text(), text);
         EXPECT_EQ(macro.SelLength(), 14);
         EXPECT_EQ(editor.pair.MacroChanged, changed::saved);
-        EXPECT_EQ(editor.MacroUndo.Text.size(), levels);
+        EXPECT_EQ(editor.MacroUndo.Levels.size(), levels);
         EXPECT_EQ(t.program().shared.IsLoading, 0);
         EXPECT_TRUE(t.files.writes().empty());
     }

@@ -83,13 +83,13 @@ TEST_F(ColourSelectorTest, AColourByHandPaintsTheSelectionAndDoesntCountAsAnEdit
 TEST_F(ColourSelectorTest, AColourByHandHasAnUndoLevelOfItsOwn)
 {
     t.pressKeys(pane(), "BTN");
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     pane().setSelStart(0);
     pane().setSelLength(3);
     t.settings().SlashColour = 255;
     Picture1_Click(editor);
     editor.ColourSelector.Command1[4].Click();
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     mnuEditUndo_Click(editor);
     EXPECT_EQ(pane().Text(), "BTN");
     EXPECT_EQ(pane().formatAt(0).colour, 0);

@@ -357,12 +357,12 @@ TEST_F(ColourTest, TheColouredTextGoesToTheUndoLevelThatIsShowing)
     t.typeJoystick("BTN S1 x");
     t.pressKeys(joystick(), " y");
     t.menus().mnuEditUndo.Click();
-    const std::size_t levels = t.editor().JoystickUndo.Text.size();
+    const std::size_t levels = t.editor().JoystickUndo.Levels.size();
     ASSERT_EQ(t.editor().JoystickUndo.Position, 2U);
     t.menus().mnuViewColourJoystick.Click();
-    EXPECT_EQ(t.editor().JoystickUndo.Text.size(), levels);
-    EXPECT_EQ(t.editor().JoystickUndo.Text[1], joystick().TextRTF());
-    EXPECT_NE(t.editor().JoystickUndo.Text[0], joystick().TextRTF());
+    EXPECT_EQ(t.editor().JoystickUndo.Levels.size(), levels);
+    EXPECT_EQ(t.editor().JoystickUndo.Levels[1].Text, joystick().TextRTF());
+    EXPECT_NE(t.editor().JoystickUndo.Levels[0].Text, joystick().TextRTF());
 }
 
 TEST_F(ColourTest, TheColouredTextIsSavedAsTheShadow)

@@ -135,7 +135,7 @@ TEST_F(InsertionTest, InsertCarriageReturnWritesOneLineEndAndLeavesASelectionAlo
 TEST_F(InsertionTest, AWholeInsertionIsOneEditAndOneUndoStep)
 {
     typeAt("ab\r\n", 4);
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     BeginColInsert(editor);
     EXPECT_EQ(t.program().shared.IsLoading, 1);
     InsertColouredString(editor, "BTN ", red);
@@ -143,7 +143,7 @@ TEST_F(InsertionTest, AWholeInsertionIsOneEditAndOneUndoStep)
     InsertCarriageReturn(editor);
     EndColInsert(editor);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
     EXPECT_EQ(joystick.Text(), "ab\r\nBTN      \r\n");
     EXPECT_TRUE(t.menus().mnuEditUndo.Enabled);

@@ -73,10 +73,10 @@ TEST_F(LayoutTest, ReformatPutsTheNewStateIntoTheNewestUndoLevel)
 {
     t.typeJoystick("abc");
     paint(joystick, 0, 3);
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     t.menus().mnuViewReformat.Click();
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels);
-    EXPECT_TRUE(editor.JoystickUndo.Text[0] == joystick.TextRTF());
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels);
+    EXPECT_TRUE(editor.JoystickUndo.Levels[0].Text == joystick.TextRTF());
 }
 
 TEST_F(LayoutTest, ReformatWithARecordedCaretBelow0PutsTheCaretTo0AndGoesOn)
@@ -134,14 +134,14 @@ TEST_F(LayoutTest, AlignSlashesRewritesThePaneAsOneEditInThePlainFormat)
     t.settings().ApplyColoursOnFileOpen = 0;
     t.typeJoystick("BTN T2   /I Chaff\r\n/O Flare");
     paint(joystick, 0, 5);
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     editor.pair.JoystickChanged = changed::saved;
     t.menus().mnuViewAlignSlashes.Click();
     EXPECT_EQ(joystick.Text(), "BTN T2 /I Chaff\r\n       /O Flare\r\n");
     EXPECT_EQ(joystick.runs().size(), 1U);
     EXPECT_EQ(joystick.formatAt(0).colour, 0);
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     EXPECT_EQ(t.status(), " OK - done!");
     EXPECT_FALSE(t.files.fileExists("c:\\TXalign.txt"));
     EXPECT_FALSE(t.files.fileExists("c:\\TXalign2.txt"));
@@ -360,13 +360,13 @@ TEST_F(LayoutTest, REMunblockTakesTheCommentWordBeforeWhatIsNoWordCharacter)
 TEST_F(LayoutTest, REMunblockOverLinesWithoutACommentChangesNothing)
 {
     joystick.setText("one\r\nRemark\r\n");
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     editor.pair.JoystickChanged = changed::saved;
     select(5, 6);
     t.menus().mnuEditREMunblock.Click();
     EXPECT_EQ(joystick.Text(), "one\r\nRemark\r\n");
     EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
     EXPECT_EQ(joystick.SelStart(), 5);
     EXPECT_EQ(editor.pair.JoystickCaret, 5);

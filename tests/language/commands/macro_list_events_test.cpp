@@ -303,11 +303,11 @@ TEST_F(ListEventsTest, DoubleClickWritesInColour0AsOneEditOfTheUsers)
     joystick.setSelLength(3);
     joystick.setSelColor(255);
     caretAt("ab ", 3);
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     doubleClickFire();
     EXPECT_EQ(joystick.formatAt(0).colour, 255);
     EXPECT_EQ(joystick.formatAt(3).colour, 0);
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
 }
 
@@ -318,10 +318,10 @@ TEST_F(ListEventsTest, OneUndoAfterDoubleClickOverASelectionBringsTheOldTextWith
     joystick.setSelLength(3);
     joystick.setSelColor(255);
     const RichText before = joystick.TextRTF();
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     doubleClickFire();
     EXPECT_EQ(joystick.formatAt(4).colour, 0);
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "one two three");
     EXPECT_TRUE(joystick.TextRTF() == before);

@@ -106,10 +106,10 @@ TEST_F(TransferTest, ATransferReplacesTheSelectionAsOneEditOfTheUsers)
     t.typeJoystick("one two");
     joystick.setSelStart(4);
     joystick.setSelLength(3);
-    const std::size_t levels = editor.JoystickUndo.Text.size();
+    const std::size_t levels = editor.JoystickUndo.Levels.size();
     SafeinTransferText(editor, "2");
     EXPECT_EQ(joystick.Text(), "one 2");
-    EXPECT_EQ(editor.JoystickUndo.Text.size(), levels + 1);
+    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
     EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "one two");
