@@ -41,24 +41,32 @@ public:
     /// Tagged mode: a failed step is reported under `tag`. `errors` outlives the steps.
     Steps(ErrorRecord& errors, std::string_view tag) : m_errors(&errors), m_tag(tag) {}
 
-    template <std::invocable Step> void operator()(Step&& step) const
+    /// False: the step threw; whyNot() has the reason.
+    template <std::invocable Step> bool operator()(Step&& step) const
     {
         try {
             step();
+            return true;
         } catch (const std::exception& error) {
             fail(error);
+            return false;
         }
     }
 
     /// A statement that is known to fail: dealt with like a step that throws, at the price of a call.
     void fail(const std::exception& error) const
     {
+        m_whyNot = error.what();
         if (m_errors) m_errors->report(m_tag, error);
     }
+
+    /// Why the last step that threw did so, in words; empty while none has.
+    const std::string& whyNot() const { return m_whyNot; }
 
 private:
     ErrorRecord* m_errors = nullptr;
     std::string_view m_tag;
+    mutable std::string m_whyNot; ///< mutable: running a step changes nothing of the procedure
 };
 
 } // namespace tarvex

@@ -28,6 +28,29 @@ TEST(Steps, InResumeNextModeAFailedStepLeavesNoTrace)
     EXPECT_EQ(ran, 1);
 }
 
+TEST(Steps, EachStepSaysWhetherItSucceededAndTheLastFailureKeepsItsReason)
+{
+    ErrorRecord errors;
+    for (const Steps& step : {Steps(), Steps(errors, "ED_AutoSaveFile")}) {
+        EXPECT_EQ(step.whyNot(), "");
+        EXPECT_FALSE(step([] { throw RuntimeError(ErrorCode::DiskFull, "Disk full"); }));
+        EXPECT_TRUE(step([] {}));
+        EXPECT_EQ(step.whyNot(), "Disk full");
+        EXPECT_FALSE(step([] { throw std::logic_error("odd"); }));
+        EXPECT_EQ(step.whyNot(), "odd");
+    }
+}
+
+TEST(Steps, AFailureReportedByAnotherProcedureIsNotTheReasonOfThisOne)
+{
+    ErrorRecord errors;
+    const Steps step(errors, "ED_AutoSaveFile");
+    EXPECT_FALSE(step([] { throw RuntimeError(ErrorCode::DiskFull, "Disk full"); }));
+    Steps(errors, "ED_noteSaved")([] { throw std::logic_error("odd"); });
+    EXPECT_EQ(errors.ErrorDescription, "odd");
+    EXPECT_EQ(step.whyNot(), "Disk full");
+}
+
 TEST(ErrorRecord, AnyExceptionIsReported)
 {
     ErrorRecord errors;

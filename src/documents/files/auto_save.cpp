@@ -18,24 +18,14 @@ void autoSave(Editor& editor, Side& side)
                       "automatically. Save it yourself, and I'll ask you what to do.");
         return;
     }
-    bool written = false;
-    step([&] {
+    const bool written = step([&] {
         if (change == OutsideChange::Unknown) keepOutsideVersion(editor, side); // an untitled text of another day
         writePlain(editor, side, side.FilePath);
-        written = true;
     });
-    if (!written) {
-        editor.status(side.FileName + " couldn't be saved automatically: " + editor.shared.errors.ErrorDescription);
-        return;
-    }
-    bool backedUp = false;
-    step([&] {
-        writeBackup(editor, side);
-        backedUp = true;
-    });
-    const std::string whyNot = editor.shared.errors.ErrorDescription;
+    if (!written) return editor.status(side.FileName + " couldn't be saved automatically: " + step.whyNot());
+    const bool backedUp = step([&] { writeBackup(editor, side); });
     noteSaved(editor, side);
-    if (!backedUp) editor.status(side.FileName + " was saved, but its backup wasn't: " + whyNot);
+    if (!backedUp) editor.status(side.FileName + " was saved, but its backup wasn't: " + step.whyNot());
 }
 
 } // namespace

@@ -51,28 +51,20 @@ bool saveAs(Editor& editor, Side& side);
 bool saveText(Editor& editor, Side& side, bool agreed = false)
 {
     const Steps step(editor.shared.errors, side.tab == 1 ? "ED_SaveJoystickText" : "ED_SaveMacroText");
-    const std::string& whyNot = editor.shared.errors.ErrorDescription;
     auto overwriting = Overwriting::Agreed;
-    bool written = false;
-    step([&] {
+    const bool written = step([&] {
         if (!agreed) overwriting = agreeOnOverwriting(editor, side);
-        if (overwriting != Overwriting::Agreed) return;
-        writePlain(editor, side, side.FilePath);
-        written = true;
+        if (overwriting == Overwriting::Agreed) writePlain(editor, side, side.FilePath);
     });
     if (overwriting == Overwriting::UnderAnotherName) return saveAs(editor, side);
     if (overwriting == Overwriting::Cancelled) return false;
     if (!written) {
-        tellSaveFailed(editor, side.FilePath, whyNot);
+        tellSaveFailed(editor, side.FilePath, step.whyNot());
         return saveAs(editor, side);
     }
 
-    bool backedUp = false;
-    step([&] {
-        writeBackup(editor, side);
-        backedUp = true;
-    });
-    const std::string whyNoBackup = whyNot;
+    const bool backedUp = step([&] { writeBackup(editor, side); });
+    const std::string whyNoBackup = step.whyNot(); // a later step may fail, too
     if (editor.shared.settings.UndoClearOnSave == 1) step([&] { DeleteUndosOnSave(editor, side); });
     noteSaved(editor, side);
     if (!backedUp) reportFailedBackup(editor, side, whyNoBackup);

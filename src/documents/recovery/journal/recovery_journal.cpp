@@ -50,15 +50,14 @@ JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
 }
 
 /// What is on the disk stays there, as far as it is whole.
-void giveUpForNow(Editor& editor, JournalRecord& journal)
+void giveUpForNow(Editor& editor, JournalRecord& journal, const std::string& whyNot)
 {
     closeFile(journal);
     journal.Failed = true;
     editor.TimerJournal.Enabled = true;
     if (editor.ToldJournalFailure) return;
     editor.ToldJournalFailure = true;
-    editor.status("I can't take notes of what you type, so you'd better save it now and then: " +
-                  editor.shared.errors.ErrorDescription);
+    editor.status("I can't take notes of what you type, so you'd better save it now and then: " + whyNot);
 }
 
 void wrote(Editor& editor, JournalRecord& journal, std::size_t size)
@@ -71,13 +70,11 @@ void wrote(Editor& editor, JournalRecord& journal, std::size_t size)
 void append(Editor& editor, JournalRecord& journal, const std::string& bytes)
 {
     const Steps step(editor.shared.errors, tag);
-    bool written = false;
-    step([&] {
+    const bool written = step([&] {
         journal.Out->append(bytes);
         wrote(editor, journal, bytes.size());
-        written = true;
     });
-    if (!written) giveUpForNow(editor, journal);
+    if (!written) giveUpForNow(editor, journal, step.whyNot());
 }
 
 void onEdited(Editor& editor, Side& side, const Pane::Edit& edit)
@@ -115,13 +112,8 @@ bool hasOutgrown(const Side& side)
 void sync(Editor& editor, JournalRecord& journal)
 {
     const Steps step(editor.shared.errors, tag);
-    bool wentWell = false;
     bool isSafe = false;
-    step([&] {
-        isSafe = syncFurther(journal);
-        wentWell = true;
-    });
-    if (!wentWell) return giveUpForNow(editor, journal);
+    if (!step([&] { isSafe = syncFurther(journal); })) return giveUpForNow(editor, journal, step.whyNot());
     if (!isSafe) return;
     editor.ToldJournalFailure = false;
     removeJournal(editor, std::exchange(journal.Replaced, 0));
@@ -219,8 +211,7 @@ void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
     const std::uint64_t kept = keptUntilSafe(journal, replaces);
     const std::uint64_t number = nextNumber(editor);
     std::unique_ptr<AppendFile> out;
-    bool begun = false;
-    step([&] {
+    const bool begun = step([&] {
         journal.Chain = 0;
         const std::string bytes = journalStart(startOf(editor, side, kept), journal.Chain);
         out = editor.platform.files.createAppendFile(journalPath(editor, number));
@@ -228,11 +219,10 @@ void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
         closeFile(journal);
         journal.Size = 0;
         wrote(editor, journal, bytes.size());
-        begun = true;
     });
     if (!begun) {
         if (out) removeJournal(editor, number);
-        return giveUpForNow(editor, journal);
+        return giveUpForNow(editor, journal, step.whyNot());
     }
     journal.Out = std::move(out);
     journal.Number = number;
