@@ -7,6 +7,7 @@
 #include "documents/files/file_questions.h"
 #include "documents/files/text_files.h"
 #include "documents/pair/document_status.h"
+#include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_offer.h"
 #include "documents/window/hardware_changes.h"
@@ -154,18 +155,14 @@ void forgetToolWindowPlaces(Shared& shared)
     shared.SecondToolWindowTop = shared.SecondToolWindowLeft = -1;
 }
 
-} // namespace
-
-void Form_Load(Editor& editor)
+/// The settings, the two empty documents, the lists, and the file to begin with. None of it is the user's edit. Returns
+/// why the command line's file can't be opened, if it can't.
+std::string loadDocuments(Editor& editor, const Steps& step)
 {
-    const Steps step(editor.shared.errors, "ED_Form_Load");
     Shared& shared = editor.shared;
     Settings& settings = shared.settings;
     Menus& menus = editor.menus;
-
-    editor.mum.Toolbar1.Visible = true;
-    editor.status("Loading up the main Tarvex Editor .... hang on ....");
-    shared.IsLoading = 1;
+    const Loading loading(shared);
     forgetToolWindowPlaces(shared);
     menus.mnuRHMouse.Visible = false;
     menus.mnuRHList.Visible = false;
@@ -187,7 +184,21 @@ void Form_Load(Editor& editor)
     step([&] { whyNotOpened = openFirstFile(editor); });
 
     shared.store.read(Access::GetLayoutFonts, "ED_Form_Load");
-    shared.IsLoading = 0;
+    return whyNotOpened;
+}
+
+} // namespace
+
+void Form_Load(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_Form_Load");
+    Shared& shared = editor.shared;
+    Settings& settings = shared.settings;
+    Menus& menus = editor.menus;
+
+    editor.mum.Toolbar1.Visible = true;
+    editor.status("Loading up the main Tarvex Editor .... hang on ....");
+    const std::string whyNotOpened = loadDocuments(editor, step);
     UpdateSavedIcon(editor);
     step([&] { editor.operations.UpdateEditorTooltips(); });
     menus.mnuAppsQuiet.Checked = settings.UseQonDownload == 1;

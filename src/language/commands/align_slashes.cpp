@@ -2,6 +2,7 @@
 
 #include "documents/editing/pane_change.h"
 #include "documents/editing/undo.h"
+#include "documents/pair/loading.h"
 #include "documents/pair/protected_pane.h"
 #include "language/slash_columns.h"
 
@@ -31,11 +32,11 @@ void alignThroughFiles(FileSystem& files, const std::string& text, int indent)
 void loadPlain(Editor& editor, Side& side, const std::string& text)
 {
     Pane& pane = side.pane;
-    const std::int16_t loading = editor.shared.IsLoading;
-    editor.shared.IsLoading = 1;
-    pane.setTextRTF({}); // drops the formats of the old text
-    applyBaseFormat(editor, pane);
-    editor.shared.IsLoading = loading;
+    {
+        const Loading loading(editor.shared);
+        pane.setTextRTF({}); // drops the formats of the old text
+        applyBaseFormat(editor, pane);
+    }
     writeAsOneLevel(side, [&] { pane.setText(text); });
     side.Caret = 0;
     side.SelectionLength = 0;

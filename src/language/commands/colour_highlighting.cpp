@@ -1,6 +1,7 @@
 #include "language/commands/colour_highlighting.h"
 
 #include "documents/files/text_files.h"
+#include "documents/pair/loading.h"
 #include "language/base_format.h"
 #include "language/commands/side_caret.h"
 
@@ -39,7 +40,7 @@ void setBaseFormat(Editor& editor, Side& side)
 /// The carets of both panes and whether their documents are changed: as they were, once the run is over.
 class Kept {
 public:
-    explicit Kept(Editor& editor) : m_editor(editor), m_of{of(editor.joystick), of(editor.macro)} {}
+    explicit Kept(Editor& editor) : m_of{of(editor.joystick), of(editor.macro)} {}
 
     void giveBack(const Steps& step)
     {
@@ -47,7 +48,6 @@ public:
             step([&] { putCaret(*kept.side, kept.caret); });
         }
         for (const OfSide& kept : m_of) kept.side->Changed = kept.changed;
-        m_editor.shared.IsLoading = 0;
     }
 
 private:
@@ -58,7 +58,6 @@ private:
     };
     static OfSide of(Side& side) { return {&side, static_cast<std::int64_t>(side.Caret), side.Changed}; }
 
-    Editor& m_editor;
     std::array<OfSide, 2> m_of;
 };
 
@@ -69,7 +68,7 @@ void apply(Editor& editor, const Highlighter& what, const std::function<void(con
     if (side.pane.TextLength() == 0) return editor.status(editor.tabCaption(side) + " has no text to highlight.");
 
     what.removeColour.Click();
-    editor.shared.IsLoading = 1;
+    const Loading loading(editor.shared);
     Kept kept(editor);
     editor.status("Applying colour highlighting to " + editor.tabCaption(side) + ". Please wait ...");
     const auto selectTab = [&] { step([&] { editor.TabStrip1.Select(side.tab); }); };

@@ -1,5 +1,6 @@
 #include "language/commands/remove_colour.h"
 
+#include "documents/pair/loading.h"
 #include "language/commands/side_caret.h"
 
 namespace tarvex {
@@ -13,7 +14,7 @@ void removeColour(Editor& editor, Side& side, std::string_view tag)
     const Steps step(editor.shared.errors, tag);
     Pane& pane = side.pane;
     editor.status("Removing colour highlighting from " + editor.tabCaption(side) + ". Please wait ...");
-    editor.shared.IsLoading = 1;
+    const Loading loading(editor.shared);
     const auto caret = static_cast<std::int64_t>(side.Caret);
     step([&] {
         pane.setSelStart(0);
@@ -25,7 +26,6 @@ void removeColour(Editor& editor, Side& side, std::string_view tag)
     });
     step([&] { putCaret(side, caret); });
     editor.status("Done");
-    editor.shared.IsLoading = 0;
 }
 
 } // namespace
@@ -38,14 +38,13 @@ void mnuRemoveColourSelectedText_Click(Editor& editor)
     const Steps step(editor.shared.errors, "mnuRemoveColourSelectedText");
     Side& side = editor.selected();
     const std::int16_t before = side.Changed;
-    editor.shared.IsLoading = 1;
+    const Loading loading(editor.shared);
     step([&] {
         side.pane.setSelColor(black);
         side.pane.Refresh();
     });
     side.Changed = before;
     editor.status("Done");
-    editor.shared.IsLoading = 0;
 }
 
 void mnuRHMColoursRemove_Click(Editor& editor)
