@@ -9,7 +9,8 @@ run       fonts-liberation
 wayland   qt6-wayland
 display   xvfb
 picture   openbox wmctrl imagemagick
-test      python3 libgtest-dev libgmock-dev strace dosbox xdotool
+test      python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool
+tidy      clang-tidy-14
 sanitize  clang-14 libclang-rt-14-dev llvm-14
 bench     libbenchmark-dev libx11-dev libxdamage-dev
 peers     geany mousepad featherpad highlight source-highlight python3-pygments bat
