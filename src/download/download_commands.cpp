@@ -1,9 +1,9 @@
 #include "download/download_commands.h"
 
-#include "documents/pair/editor_handler.h"
 #include "download/download_command.h"
 #include "download/game_launch.h"
 #include "download/outside_tools.h"
+#include "shell/handler.h"
 
 #include <memory>
 

@@ -1,20 +1,11 @@
 #include "lists/lists.h"
 
 #include "lists/custom_apps.h"
+#include "shell/handler.h"
 
 namespace tarvex {
 
 namespace {
-
-/// A procedure of a list as a handler.
-template <typename List, typename Work> std::function<void()> on(List& list, Work work)
-{
-    return [&list, work] { work(list); };
-}
-template <typename List, typename Work> std::function<void(int)> onItem(List& list, Work work)
-{
-    return [&list, work](int index) { work(list, index); };
-}
 
 void wirePreviousFiles(PreviousFiles& files)
 {

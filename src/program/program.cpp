@@ -10,7 +10,6 @@
 #include "documents/files/file_open.h"
 #include "documents/files/file_save.h"
 #include "documents/find/find_and_replace.h"
-#include "documents/pair/editor_handler.h"
 #include "documents/pair/editor_layout.h"
 #include "documents/pair/tabs.h"
 #include "documents/recovery/journal/recovery_journal.h"
@@ -22,6 +21,7 @@
 #include "download/own_tools.h"
 #include "language/commands/language_commands.h"
 #include "shell/frame/mum_window.h"
+#include "shell/handler.h"
 
 namespace tarvex {
 

@@ -37,4 +37,20 @@ Mum::Mum()
     Toolbar1.Buttons(preferencesButton).ToolTipText = "Edit Preferences (F9)";
 }
 
+bool showsCompileResult(const Mum& mum)
+{
+    return mum.StatusBar.Panels(panel::progress).Text.get().starts_with("Compile");
+}
+
+bool showsDefinition(const Mum& mum)
+{
+    return mum.StatusBar.Panels(panel::progress).Text.get().find('=') != std::string::npos;
+}
+
+bool showsUnsavedChanges(const Mum& mum)
+{
+    constexpr int modified = 1;
+    return mum.StatusBar.Panels(panel::savedState).Picture == savedStatePicture(modified);
+}
+
 } // namespace tarvex

@@ -39,4 +39,16 @@ struct Mum {
     Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
 };
 
+// What the status bar shows is read back: texts of different commands stay up against each other.
+
+/// Panel 1 has the result of a download; it stays until another command's message replaces it.
+bool showsCompileResult(const Mum& mum);
+/// Panel 1 has the definition of a macro, which holds "=".
+bool showsDefinition(const Mum& mum);
+
+/// Image on panel 2 for a document's changed state, -1 to 1.
+constexpr int savedStatePicture(int changedState) { return changedState + 2; }
+/// Panel 2 says that the document of the selected tab is modified.
+bool showsUnsavedChanges(const Mum& mum);
+
 } // namespace tarvex

@@ -30,7 +30,6 @@ namespace {
 
 constexpr QSize smallestSize(320, 240);
 constexpr QSize firstSize(1000, 700);
-constexpr int modifiedPicture = 3;
 
 /// The place of a window that was last seen elsewhere: on a screen that is there.
 QRect onScreen(QRect place)
@@ -121,7 +120,7 @@ void MumWindow::bindTitle()
         Editor& shown = m_program.editor;
         const QString name = toQt(shown.tabCaption(shown.selected())).replace(u'[', QStringLiteral("[["));
         setWindowTitle(name.isEmpty() ? QStringLiteral("Tarvex") : QStringLiteral("Tarvex - %1[*]").arg(name));
-        setWindowModified(!name.isEmpty() && savedState.Picture == modifiedPicture);
+        setWindowModified(!name.isEmpty() && showsUnsavedChanges(m_program.mum));
     };
     show();
     TabStrip& tabs = m_program.editor.TabStrip1;

@@ -35,8 +35,7 @@ void showEditingText(Editor& editor)
         return;
     }
     progress.Enabled = true;
-    const std::string& text = progress.Text;
-    if (text.starts_with("Compile") || text.find('=') != std::string::npos) return;
+    if (showsCompileResult(editor.mum) || showsDefinition(editor.mum)) return;
     progress.Text = "Editing " + editor.tabCaption(side);
 }
 
@@ -69,7 +68,7 @@ void UpdateSavedIcon(Editor& editor)
     step([&] {
         const Side& side = editor.selected();
         StatusBar::Panel& state = editor.mum.StatusBar.Panels(panel::savedState);
-        state.Picture = side.Changed + 2;
+        state.Picture = savedStatePicture(side.Changed);
         state.ToolTipText = savedStateTip(side.FileName, side.Changed);
     });
 }

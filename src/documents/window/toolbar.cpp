@@ -86,8 +86,7 @@ int buttonAt(ToolBar& bar, float x, float y)
 /// A compile result stays up until another message replaces it, and everything does when help texts aren't wanted.
 bool panelIsFree(const Editor& editor)
 {
-    return editor.shared.settings.ButtonsOnStatusBar != 0 &&
-           !editor.mum.StatusBar.Panels(panel::progress).Text.get().starts_with("Compile");
+    return editor.shared.settings.ButtonsOnStatusBar != 0 && !showsCompileResult(editor.mum);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "language/commands/language_commands.h"
 
-#include "documents/pair/editor_handler.h"
 #include "language/commands/align_slashes.h"
 #include "language/commands/colour_highlighting.h"
 #include "language/commands/find_macro.h"
@@ -13,6 +12,7 @@
 #include "language/commands/remove_colour.h"
 #include "language/commands/slash_buttons.h"
 #include "language/commands/update_macros.h"
+#include "shell/handler.h"
 
 namespace tarvex {
 
