@@ -6,17 +6,20 @@ file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers ${CMAKE_BINARY_DIR}/include)
 # The layers hold by the build: a target finds the headers of what its LINKS name, of what those link publicly, and no
 # others. So each library offers its headers in a folder of its own, as links to the sources:
 #   build/include/TARGET/src/documents/pair/editor.h
-# The folder is set up anew by each configure run, so a header that is gone leaves nothing behind.
+# The folders are set up anew by each configure run, so a header that is gone leaves nothing behind. The few headers of
+# the tests are found by all tests.
 function(tarvex_offer_headers name)
     cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR} OUTPUT_VARIABLE folder)
-    string(REGEX MATCH "^(src|tests)" root ${folder})
-    string(REGEX REPLACE "^(src|tests)/" "" folder ${folder})
-    set(offered ${CMAKE_BINARY_DIR}/include/${name}/${root})
+    if(folder MATCHES "^tests")
+        target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/tests)
+        return()
+    endif()
+    set(offered ${CMAKE_BINARY_DIR}/include/${name})
     file(MAKE_DIRECTORY ${offered}/${folder})
     foreach(header ${ARGN})
         file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${offered}/${folder}/${header} COPY_ON_ERROR SYMBOLIC)
     endforeach()
-    target_include_directories(${name} PUBLIC ${offered})
+    target_include_directories(${name} PUBLIC ${offered}/src)
 endfunction()
 
 # Writes down what a target is made of and what it links, for scripts/check-layers.
@@ -47,6 +50,9 @@ function(tarvex_library name)
     add_library(${name} STATIC ${arg_SOURCES})
     tarvex_offer_headers(${name} ${arg_HEADERS})
     target_link_libraries(${name} PUBLIC tarvex_compile_options ${arg_LINKS})
+    if(TARVEX_FUZZ)
+        target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
+    endif()
     tarvex_note_layers(${name} SOURCES ${arg_SOURCES} HEADERS ${arg_HEADERS} LINKS ${arg_LINKS})
 endfunction()
 
@@ -65,14 +71,16 @@ endfunction()
 # What the tests do themselves is little, and compiling it without optimisation takes half the time.
 set(TARVEX_TEST_OPTIONS -O0)
 
-# Reading the test framework takes longer than compiling most tests: it is read once, for all test programs.
-function(tarvex_test_headers)
-    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/test_headers.cpp CONTENT "")
-    add_library(tarvex_test_headers OBJECT ${CMAKE_BINARY_DIR}/test_headers.cpp)
-    target_link_libraries(tarvex_test_headers PRIVATE tarvex_compile_options GTest::gmock)
-    # Qt asks for -fPIC, and all users of the headers must have the same options.
-    target_compile_options(tarvex_test_headers PRIVATE -fPIC ${TARVEX_TEST_OPTIONS})
-    target_precompile_headers(tarvex_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+# Reading the headers of libraries takes longer than compiling most sources: they are read once, for all targets with the
+# same options. Each source includes what it needs all the same.
+#   tarvex_precompile(NAME HEADERS <a.h> ... LINKS gtest ... [OPTIONS -O0 ...])
+function(tarvex_precompile name)
+    cmake_parse_arguments(arg "" "" "HEADERS;LINKS;OPTIONS" ${ARGN})
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/${name}.cpp CONTENT "")
+    add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/${name}.cpp)
+    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS})
+    target_compile_options(${name} PRIVATE ${arg_OPTIONS})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
 endfunction()
 
 # One test program per folder of the tests, every TEST in it a test of its own for ctest. It links the folder that it
@@ -88,11 +96,11 @@ function(tarvex_test name)
         target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest)
     else()
         target_link_libraries(${name} PRIVATE GTest::gmock GTest::gtest_main)
-        if(NOT TARGET tarvex_test_headers)
-            tarvex_test_headers()
+        if(tarvex_test_program IN_LIST arg_LINKS)
+            target_precompile_headers(${name} REUSE_FROM tarvex_program_test_headers)
+        else()
+            target_precompile_headers(${name} REUSE_FROM tarvex_test_headers)
         endif()
-        target_compile_options(${name} PRIVATE -fPIC)
-        target_precompile_headers(${name} REUSE_FROM tarvex_test_headers)
     endif()
     gtest_discover_tests(${name} TEST_PREFIX "${TARVEX_TEST_PREFIX}" DISCOVERY_TIMEOUT 60)
 endfunction()
@@ -103,6 +111,7 @@ endfunction()
 function(tarvex_fuzz name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
     tarvex_executable(${name} SOURCES ${arg_SOURCES} LINKS ${arg_LINKS})
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer)
     # Seeds by name: libFuzzer would add what it finds to a folder.
     file(GLOB seeds CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}/*)

@@ -14,6 +14,8 @@ public:
         m_work = std::move(work);
         return *this;
     }
+    /// Whether anybody does the work.
+    explicit operator bool() const { return m_work != nullptr; }
     void operator()(Args... args) const
     {
         if (m_work) m_work(args...);
