@@ -39,6 +39,18 @@ function(tarvex_note_layers name)
     file(WRITE ${CMAKE_BINARY_DIR}/layers/${name} "${lines}")
 endfunction()
 
+# Reading the headers of libraries takes longer than compiling most sources: they are read once, for all targets with the
+# same options. Each source includes what it needs all the same.
+#   tarvex_precompile(NAME HEADERS <a.h> ... LINKS gtest ... [OPTIONS -O0 ...])
+function(tarvex_precompile name)
+    cmake_parse_arguments(arg "" "" "HEADERS;LINKS;OPTIONS" ${ARGN})
+    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/${name}.cpp CONTENT "")
+    add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/${name}.cpp)
+    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS})
+    target_compile_options(${name} PRIVATE ${arg_OPTIONS})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+endfunction()
+
 # One library per folder of the sources; its LINKS are what it includes. All headers of the folder are its own, unless
 # HEADERS names some of them.
 #   tarvex_library(NAME SOURCES a.cpp ... [HEADERS a.h ...] LINKS tarvex_platform ...)
@@ -52,6 +64,10 @@ function(tarvex_library name)
     target_link_libraries(${name} PUBLIC tarvex_compile_options ${arg_LINKS})
     if(TARVEX_FUZZ)
         target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
+    endif()
+    # Only here, so that the other build finds a missing include.
+    if(TARVEX_SANITIZE)
+        target_precompile_headers(${name} REUSE_FROM tarvex_standard_headers)
     endif()
     tarvex_note_layers(${name} SOURCES ${arg_SOURCES} HEADERS ${arg_HEADERS} LINKS ${arg_LINKS})
 endfunction()
@@ -70,18 +86,6 @@ endfunction()
 
 # What the tests do themselves is little, and compiling it without optimisation takes half the time.
 set(TARVEX_TEST_OPTIONS -O0)
-
-# Reading the headers of libraries takes longer than compiling most sources: they are read once, for all targets with the
-# same options. Each source includes what it needs all the same.
-#   tarvex_precompile(NAME HEADERS <a.h> ... LINKS gtest ... [OPTIONS -O0 ...])
-function(tarvex_precompile name)
-    cmake_parse_arguments(arg "" "" "HEADERS;LINKS;OPTIONS" ${ARGN})
-    file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/${name}.cpp CONTENT "")
-    add_library(${name} OBJECT ${CMAKE_BINARY_DIR}/${name}.cpp)
-    target_link_libraries(${name} PRIVATE tarvex_compile_options ${arg_LINKS})
-    target_compile_options(${name} PRIVATE ${arg_OPTIONS})
-    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
-endfunction()
 
 # One test program per folder of the tests, every TEST in it a test of its own for ctest. It links the folder that it
 # tests and what else its sources include. OWN_MAIN: main() is among the sources.
