@@ -656,7 +656,6 @@ void goForAWalk(Walk& walk, std::span<const Action> all, unsigned steps)
     }
 }
 
-
 } // namespace
 
 TEST(RandomWalk, AfterAnyActionTheProgramIsAsItHasToBe)
