@@ -87,16 +87,18 @@ MumWindow::MumWindow(Program& program)
     });
 }
 
-/// The document window's menus, and the frame's own while there is no document window.
+/// The document window's menus, and the frame's own while there is no document window. Only one set is in the bar at a
+/// time: the bar grabs the access keys of hidden menus as well, and two menus with one key take turns at it.
 void MumWindow::addMenuBars()
 {
-    fillMenuBar(*menuBar(), tarvex::menuBar(m_program.menus), m_bindings);
-    const QList<QAction*> ofEditor = menuBar()->actions();
-    fillMenuBar(*menuBar(), mumMenuBar(m_program.menus), m_bindings);
-    const QList<QAction*> ofFrame = menuBar()->actions().mid(ofEditor.size());
-    m_bindings.bind(m_program.editor.Visible, [ofEditor, ofFrame](bool on) {
-        for (QAction* action : ofEditor) action->setVisible(on);
-        for (QAction* action : ofFrame) action->setVisible(!on);
+    QMenuBar* bar = menuBar();
+    fillMenuBar(*bar, tarvex::menuBar(m_program.menus), m_bindings);
+    const QList<QAction*> ofEditor = bar->actions();
+    fillMenuBar(*bar, mumMenuBar(m_program.menus), m_bindings);
+    const QList<QAction*> ofFrame = bar->actions().mid(ofEditor.size());
+    m_bindings.bind(m_program.editor.Visible, [bar, ofEditor, ofFrame](bool on) {
+        for (QAction* action : on ? ofFrame : ofEditor) bar->removeAction(action);
+        bar->addActions(on ? ofEditor : ofFrame);
     });
 }
 
