@@ -108,10 +108,9 @@ void PaneView::showPane()
     if (const auto rewritten = m_mirror.update(); rewritten && rewritten->last < top) top += rewritten->added;
     const bool moved = showSelection();
     m_paneMoved = false;
-    if (!moved) {
-        verticalScrollBar()->setValue(top);
-        horizontalScrollBar()->setValue(left);
-    }
+    verticalScrollBar()->setValue(top); // setting the cursor scrolls to the selection's end
+    horizontalScrollBar()->setValue(left);
+    if (moved) revealSelection();
     formatShown(); // text, formats and caret have what they changed repainted themselves
     emit paneShown();
 }
@@ -127,6 +126,40 @@ bool PaneView::showSelection()
     cursor.setPosition(m_mirror.documentPosition(wanted.start + wanted.length), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
     return wanted != before;
+}
+
+/// Scrolls the selected lines into view with some lines around them; lines out of sight come to the middle. More lines
+/// than there is room for stay as they are while one of them is in sight, else the first one is shown.
+void PaneView::revealSelection()
+{
+    constexpr int linesAround = 3;
+    const QTextCursor cursor = textCursor();
+    const int first = document()->findBlock(cursor.selectionStart()).blockNumber();
+    const int behind = std::max(cursor.selectionStart(), cursor.selectionEnd() - 1); // a line includes its end
+    const int last = document()->findBlock(behind).blockNumber();
+    const int shown = std::max(1, viewport()->height() / std::max(1, fontMetrics().lineSpacing()));
+    const int top = verticalScrollBar()->value();
+    const bool inSight = last >= top && first < top + shown;
+    const int spare = shown - (last - first + 1);
+    if (inSight && spare < 0) return;
+    const int around = std::min(std::max(0, spare) / 2, inSight ? linesAround : shown);
+    verticalScrollBar()->setValue(std::min(std::max(top, last + around - shown + 1), first - around));
+    revealColumns(cursor.selectionStart(), cursor.selectionEnd());
+}
+
+/// The same for the columns, without a need for any around them.
+void PaneView::revealColumns(int start, int end)
+{
+    QScrollBar* bar = horizontalScrollBar();
+    const auto place = [this, bar](int position) {
+        QTextCursor cursor(document());
+        cursor.setPosition(position);
+        return cursorRect(cursor).translated(bar->value(), 0);
+    };
+    const QRect first = place(start);
+    const QRect last = document()->findBlock(start) == document()->findBlock(end) ? place(end) : first;
+    const int left = std::max(bar->value(), last.right() + margin - viewport()->width());
+    bar->setValue(std::min(left, first.left() - margin));
 }
 
 void PaneView::formatAll()

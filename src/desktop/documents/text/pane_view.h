@@ -34,7 +34,8 @@ public:
     void takeDrop(const QMimeData& content, int target, bool movesOwnSelection);
 
 signals:
-    void gotFocus();
+    /// The pane has the keyboard now; `returned`: it only comes back from a menu, a box or another window.
+    void gotFocus(bool returned);
     /// The user moved the caret or changed the selection.
     void caretMoved();
     /// The view follows what the program did to the pane.
@@ -57,6 +58,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -76,6 +78,8 @@ private:
     void settleLater();
     void showPane();
     bool showSelection();
+    void revealSelection();
+    void revealColumns(int start, int end);
     void takeSelection();
     void showFont();
     void showColours();
@@ -100,6 +104,7 @@ private:
     bool m_settlesLater = false;
     bool m_showing = false;   ///< the document follows the pane just now
     bool m_userMoved = false; ///< the view's caret is newer than the pane's
+    bool m_stillChosen = false; ///< of the window's widgets, while the keyboard is elsewhere
     bool m_paneMoved = false; ///< the other way round
     Selection m_shown;        ///< the pane's selection when the view last had it
 };

@@ -12,6 +12,8 @@
 #include <QUrl>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace tarvex {
 
 namespace {
@@ -157,10 +159,11 @@ void PaneView::announceEdit()
 bool PaneView::zoomByKey(const QKeyEvent& event)
 {
     constexpr int step = 10;
+    const Qt::KeyboardModifiers ignored = Qt::KeypadModifier | Qt::ShiftModifier; // "+" is Shift+= on many keyboards
+    const bool ctrl = (event.modifiers() & ~ignored) == Qt::ControlModifier;
     if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0) {
         setZoom(100);
-    } else if (event.matches(QKeySequence::ZoomIn) ||
-               (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Equal)) {
+    } else if (ctrl && (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal)) {
         setZoom(m_zoom + step);
     } else if (event.matches(QKeySequence::ZoomOut)) {
         setZoom(m_zoom - step);
@@ -195,7 +198,15 @@ void PaneView::inputMethodEvent(QInputMethodEvent* event)
 void PaneView::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
-    emit gotFocus();
+    emit gotFocus(std::exchange(m_stillChosen, false) || event->reason() == Qt::MenuBarFocusReason);
+}
+
+/// While a box, another window or a pop-up has the keyboard, the pane is still its window's choice. Not every window
+/// system gives a reason for it.
+void PaneView::focusOutEvent(QFocusEvent* event)
+{
+    QPlainTextEdit::focusOutEvent(event);
+    m_stillChosen = window()->focusWidget() == this;
 }
 
 void PaneView::contextMenuEvent(QContextMenuEvent* event)

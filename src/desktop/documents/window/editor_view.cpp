@@ -8,7 +8,8 @@
 #include "documents/pair/tabs.h"
 #include "platform/input.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 namespace tarvex {
@@ -25,6 +26,21 @@ QIcon tabIcon(int image)
     return {};
 }
 
+/// A key that changes a text: a character, or one of the keys that start a line or take characters away.
+bool writesText(const QKeyEvent& event)
+{
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+        return true;
+    default:
+        return !event.text().isEmpty() && event.text().front().isPrint();
+    }
+}
+
 } // namespace
 
 /// The procedures of one pane.
@@ -37,7 +53,7 @@ struct EditorView::PaneEvents {
 };
 
 EditorView::EditorView(Editor& editor, QWidget* parent)
-    : QWidget(parent), m_editor(editor), m_tabs(new QTabBar(this)), m_joystick(new PaneView(editor.JoystickText, this)),
+    : QWidget(parent), m_editor(editor), m_tabs(new DocumentTabs(this)), m_joystick(new PaneView(editor.JoystickText, this)),
       m_macro(new PaneView(editor.MacroText, this)), m_frame(new MacroFrameView(editor, this))
 {
     setObjectName(QStringLiteral("Editor"));
@@ -63,8 +79,7 @@ void EditorView::addTabs()
 {
     m_tabs->setObjectName(QStringLiteral("TabStrip1"));
     m_tabs->setFocusPolicy(Qt::TabFocus);
-    m_tabs->setExpanding(false);
-    m_tabs->setElideMode(Qt::ElideMiddle);
+    m_tabs->installEventFilter(this);
     for (int index = 0; index < m_editor.TabStrip1.Count(); ++index) {
         m_tabs->addTab(QString());
         TabStrip::Tab& tab = m_editor.TabStrip1.Tabs(index + 1);
@@ -86,7 +101,9 @@ void EditorView::addTabs()
 void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
 {
     view.pressKey = [this, keyDown = events.keyDown](std::string_view keys) { return keyDown(m_editor, keys); };
-    connect(&view, &PaneView::gotFocus, this, [this, gotFocus = events.gotFocus] { gotFocus(m_editor); });
+    connect(&view, &PaneView::gotFocus, this, [this, &side, gotFocus = events.gotFocus](bool returned) {
+        if (!returned || m_editor.selected().tab != side.tab) gotFocus(m_editor); // a result in the status bar stays
+    });
     connect(&view, &PaneView::caretMoved, this, [this, &side] {
         if (m_editor.mum.MousePointer != MousePointer::ArrowQuestion) noteCaret(m_editor, side);
     });
@@ -107,6 +124,17 @@ void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
         m_macro->setOverwriteMode(on);
         emit overwriteModeChanged(on);
     });
+}
+
+/// What is typed while the tabs have the keyboard is meant for the text below them.
+bool EditorView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_tabs || event->type() != QEvent::KeyPress || !writesText(*static_cast<QKeyEvent*>(event)))
+        return QWidget::eventFilter(watched, event);
+    PaneView& selected = pane(m_editor.selected());
+    selected.setFocus(Qt::OtherFocusReason);
+    QApplication::sendEvent(&selected, event);
+    return true;
 }
 
 // ---- places ---------------------------------------------------------------------------------------------------------

@@ -2,10 +2,10 @@
 
 #include "desktop/bind.h"
 #include "desktop/documents/text/pane_view.h"
+#include "desktop/documents/window/document_tabs.h"
 #include "desktop/documents/window/macro_frame_view.h"
 #include "documents/pair/editor.h"
 
-#include <QTabBar>
 #include <QWidget>
 
 namespace tarvex {
@@ -17,13 +17,14 @@ public:
     explicit EditorView(Editor& editor, QWidget* parent = nullptr);
 
     PaneView& pane(const Side& side) { return side.tab == 1 ? *m_joystick : *m_macro; }
-    QTabBar& tabs() { return *m_tabs; }
+    DocumentTabs& tabs() { return *m_tabs; }
 
 signals:
     void filesDropped(const QStringList& paths);
     void overwriteModeChanged(bool on);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -38,7 +39,7 @@ private:
     void placeFrame();
 
     Editor& m_editor;
-    QTabBar* m_tabs;
+    DocumentTabs* m_tabs;
     PaneView* m_joystick;
     PaneView* m_macro;
     MacroFrameView* m_frame;
