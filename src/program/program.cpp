@@ -137,6 +137,6 @@ Program::~Program() = default;
 
 bool Program::start() { return MDIForm_Load({platform, shared, mum, operations}); }
 
-bool Program::exit() { return mnuMumFileExit_Click({platform, shared, mum, operations}); }
+bool Program::exit() { return mnuFileExit_Click({platform, shared, mum, operations}); }
 
 } // namespace tarvex

@@ -456,20 +456,34 @@ TEST(Exit, StoresTheTicksOfTheMenus)
     EXPECT_EQ(t.ini("Miscellaneous", "MacroSaveUpdateMacros"), "1");
 }
 
-TEST(Exit, ClosingTheFrameGivesTheGradientBackFirstAndTheMenuCommandWhenTheFrameUnloads)
+TEST(Exit, GivesTheGradientBackWhenTheFrameUnloadsAndTheFramesOwnCommandAlsoBefore)
 {
-    for (const bool byFrame : {true, false}) {
+    enum class By { Frame, Menu, FrameMenu };
+    for (const By way : {By::Frame, By::Menu, By::FrameMenu}) {
         TestProgram t;
         std::string order;
         t.program().operations.ReleaseGradient = [&] { order += "gradient "; };
         t.program().operations.UnloadEditor = [&] { order += "editor "; };
-        if (byFrame)
-            EXPECT_TRUE(t.program().exit());
-        else
-            t.menus().mnuFileExit.Click();
-        EXPECT_EQ(order, byFrame ? "gradient editor gradient " : "editor gradient ");
+        if (way == By::Frame) EXPECT_TRUE(t.program().exit());
+        if (way == By::Menu) t.menus().mnuFileExit.Click();
+        if (way == By::FrameMenu) t.menus().mnuMumFileExit.Click();
+        EXPECT_EQ(order, way == By::FrameMenu ? "gradient editor gradient " : "editor gradient ");
         EXPECT_EQ(t.desktop.quits, 1);
     }
+}
+
+TEST(Exit, AUserWhoStaysKeepsTheGradient)
+{
+    TestProgram t;
+    t.setIni("Miscellaneous", "GradientEffect", "1");
+    t.start();
+    t.editor().JoystickText.setSelText("BTN S1 a");
+    t.dialogues.answers = {Answer::Cancel};
+    EXPECT_FALSE(t.program().exit());
+    EXPECT_TRUE(t.program().mum.Gradient);
+    t.dialogues.answers = {Answer::No};
+    EXPECT_TRUE(t.program().exit());
+    EXPECT_FALSE(t.program().mum.Gradient);
 }
 
 TEST(Exit, TakesTheToolWindowsDownInOrder)
