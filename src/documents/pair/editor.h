@@ -15,6 +15,7 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -34,6 +35,7 @@ struct FrameMacros {
     Property<bool> Visible = false;
     Property<Placement> Place;
     Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
+    std::optional<std::int16_t> WidthBeforeDrag; ///< in pixels; while the edge is dragged
     ComboBox Combo1;                   ///< the headings
     std::deque<CheckListBox> List1{1}; ///< 0: every macro; k: those under heading k
     Signal<> List1Changed;             ///< a list was loaded or unloaded

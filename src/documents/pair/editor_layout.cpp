@@ -1,6 +1,7 @@
 #include "documents/pair/editor_layout.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvex {
 
@@ -34,6 +35,14 @@ Placement placeStrip(Editor& editor)
     editor.FrameMacros.Visible = editor.menus.mnuViewMacros.Checked.get();
     move(editor.FrameMacros.Place, {0, 0, width, editor.ScaleHeight});
     return editor.TabStrip1Place;
+}
+
+/// Once for the whole drag: each write waits for the disk.
+void storeDraggedWidth(Editor& editor)
+{
+    const auto before = std::exchange(editor.FrameMacros.WidthBeforeDrag, std::nullopt);
+    if (before.value_or(editor.shared.settings.MacroFrameWidth) == editor.shared.settings.MacroFrameWidth) return;
+    editor.shared.store.write(Access::SaveMacroFrameWidth, "ED_FrameMacros_MouseMove");
 }
 
 } // namespace
@@ -92,16 +101,20 @@ void mnuViewMacros_Click(Editor& editor)
 void FrameMacros_MouseMove(Editor& editor, bool leftButton, float x, bool overRightEdge)
 {
     FrameMacros& frame = editor.FrameMacros;
-    if (!leftButton) frame.MousePointer = overRightEdge ? MousePointer::SizeWestEast : MousePointer::Default;
-    if (!leftButton || frame.MousePointer != MousePointer::SizeWestEast) return;
+    if (!leftButton) {
+        frame.MousePointer = overRightEdge ? MousePointer::SizeWestEast : MousePointer::Default;
+        storeDraggedWidth(editor);
+        return;
+    }
+    if (frame.MousePointer != MousePointer::SizeWestEast) return;
 
     const float widest = 32767.0F; // the setting is a 16-bit number
     const float pixels = std::clamp(x / static_cast<float>(twipsPerPixel), 0.0F, widest - 1);
     const auto width = static_cast<std::int16_t>(std::max(static_cast<int>(pixels) + 1, smallestMacroFrame));
     if (width == editor.shared.settings.MacroFrameWidth) return;
+    if (!frame.WidthBeforeDrag) frame.WidthBeforeDrag = editor.shared.settings.MacroFrameWidth;
     editor.shared.settings.MacroFrameWidth = width;
     Form_Resize(editor);
-    editor.shared.store.write(Access::SaveMacroFrameWidth, "ED_FrameMacros_MouseMove");
 }
 
 } // namespace tarvex

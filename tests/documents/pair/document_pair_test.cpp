@@ -346,7 +346,7 @@ TEST_F(PairTest, GettingTheFocusShowsTheLineUnlessHelpIsAskedFor)
 
 // ---- the macro frame's edge ----
 
-TEST_F(PairTest, DraggingTheMacroFramesEdgeSetsItsWidthAndWritesItAtOnce)
+TEST_F(PairTest, DraggingTheMacroFramesEdgeSetsItsWidthAndWritesItOnceAtTheEnd)
 {
     resize(1000, 600);
     t.menus().mnuViewMacros.Click();
@@ -356,7 +356,14 @@ TEST_F(PairTest, DraggingTheMacroFramesEdgeSetsItsWidthAndWritesItAtOnce)
     EXPECT_EQ(t.settings().MacroFrameWidth, 250);
     EXPECT_EQ(editor.FrameMacros.Place.get().Width, 250);
     EXPECT_EQ(editor.TabStrip1Place.get().Left, 250);
-    EXPECT_EQ(t.ini("Miscellaneous", "MacroFrameWidth"), "250");
+    t.files.clearWrites();
+    for (int x = 251; x <= 300; ++x) FrameMacros_MouseMove(editor, true, static_cast<float>(x) * 15, false);
+    EXPECT_TRUE(t.files.writes().empty());
+    FrameMacros_MouseMove(editor, false, 300 * 15.0F, true);
+    EXPECT_EQ(t.files.writes().size(), 1U);
+    EXPECT_EQ(t.ini("Miscellaneous", "MacroFrameWidth"), "301");
+    FrameMacros_MouseMove(editor, false, 300 * 15.0F, true);
+    EXPECT_EQ(t.files.writes().size(), 1U);
 }
 
 TEST_F(PairTest, DraggingLeftOf185LeavesItThereAndWritesNothingUnlessTheValueChanges)
@@ -367,11 +374,11 @@ TEST_F(PairTest, DraggingLeftOf185LeavesItThereAndWritesNothingUnlessTheValueCha
     FrameMacros_MouseMove(editor, false, 184 * 15.0F, true);
     FrameMacros_MouseMove(editor, true, 20 * 15.0F, false);
     EXPECT_EQ(t.settings().MacroFrameWidth, 185);
-    EXPECT_TRUE(t.files.writes().empty());
     FrameMacros_MouseMove(editor, true, 300 * 15.0F, false);
     FrameMacros_MouseMove(editor, true, -20 * 15.0F, false);
     EXPECT_EQ(t.settings().MacroFrameWidth, 185);
-    EXPECT_EQ(t.files.writes().size(), 2U);
+    FrameMacros_MouseMove(editor, false, 20 * 15.0F, false);
+    EXPECT_TRUE(t.files.writes().empty());
 }
 
 TEST_F(PairTest, TheWidthOnlyFollowsFromTheEdge)
