@@ -3,21 +3,57 @@
 #include "documents/files/file_save.h"
 #include "documents/pair/document_status.h"
 #include "documents/recovery/offer/recovery_offer.h"
+#include "documents/recovery/recovery_journal.h"
 #include "documents/window/preferences_page.h"
 
 namespace tarvex {
 
 namespace {
 
-/// The marks go whatever became of the saving, since the program is about to end without asking.
-void saveDocuments(Editor& editor)
+std::vector<Side*> modifiedSides(Editor& editor)
 {
-    for (const Side* side : {&editor.joystick, &editor.macro}) {
-        if (side->Changed == changed::modified) saveSide(editor, *side);
-        if (side->Changed == changed::modified) putAside(editor, *side); // nobody will ask about it any more
+    std::vector<Side*> sides;
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        if (side->Changed == changed::modified) sides.push_back(side);
     }
-    for (Side* side : {&editor.joystick, &editor.macro}) side->Changed = changed::saved;
+    return sides;
+}
+
+void markModified(Editor& editor, const std::vector<Side*>& sides)
+{
+    for (Side* side : sides) side->Changed = changed::modified;
     UpdateSavedIcon(editor);
+}
+
+/// Nobody will ask about the text any more once the game runs. False: there is no copy, and the user would rather stay.
+bool keepCopy(Editor& editor, const Side& side)
+{
+    const AsideCopy copy = putAside(editor, side);
+    const std::string unsaved = side.FileName + " isn't saved, and once the game is running I won't be here to ask. ";
+    if (!copy.path.empty()) {
+        editor.platform.dialogues.show({.title = "Just in case ...",
+                                        .text = unsaved + "So I've put a copy of it here:\n\n    " + copy.path,
+                                        .icon = BoxIcon::Information});
+        return true;
+    }
+    const Answer answer = editor.platform.dialogues.show(
+        {.title = "Hang on a minute ...",
+         .text = unsaved + "I tried to put a copy of it into " + journalDirectory(editor) +
+                 ", but that didn't work either: " + copy.reason + "\n\nShall I start the game and lose your text?",
+         .icon = BoxIcon::Exclamation,
+         .buttons = BoxButtons::YesNo,
+         .secondButtonIsDefault = true});
+    return answer == Answer::Yes;
+}
+
+/// What can't be saved is kept as a copy. False: the game isn't to start.
+bool saveDocuments(Editor& editor)
+{
+    for (const Side* side : modifiedSides(editor)) saveSide(editor, *side);
+    for (const Side* side : modifiedSides(editor)) {
+        if (!keepCopy(editor, *side)) return false;
+    }
+    return true;
 }
 
 Game gameAt(const Settings& settings, int index)
@@ -85,10 +121,15 @@ void mnuGameArray_Click(Games& games, int index)
     const Steps step(editor.shared.errors, "ED_mnuGameArray_Click");
     step([&] {
         const Game game = gameAt(editor.shared.settings, index);
-        saveDocuments(editor);
+        if (!saveDocuments(editor)) return;
+        const std::vector<Side*> unsaved = modifiedSides(editor);
+        // The marks go whatever became of the saving, since the program is about to end without asking.
+        for (Side* side : {&editor.joystick, &editor.macro}) side->Changed = changed::saved;
+        UpdateSavedIcon(editor);
         games.current = game;
         UpdateGamesMenu(games);
         games.LaunchGame(games.current);
+        if (editor.Visible) markModified(editor, unsaved); // the game didn't start
     });
 }
 

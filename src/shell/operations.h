@@ -33,6 +33,7 @@ struct Operations {
     Operation<> ExtractMacrosAndTitles;
     Operation<> ClearMacroTicks;
     Operation<> IdentifyMacrosUsed;
+    Operation<> IdentifyMacrosIfAny; ///< without a word where there is nothing to identify: the user didn't ask for it
 
     // lists
     Operation<> GetPreviousFiles;

@@ -34,6 +34,8 @@ struct Play : TestProgram {
         for (int i = 1; i <= array().UBound(); ++i) texts.push_back(array()[i].Caption);
         return texts;
     }
+    /// Where a joystick text goes that couldn't be saved.
+    std::string asideCopy() { return "c:\\tarvex\\Recover\\" + editor().pair.JoystickFileName; }
     std::string stored(const std::string& key) { return ini("Games", key); }
     void add(const Game& game)
     {
@@ -311,19 +313,65 @@ TEST(GameClick, TheMarksAreClearedWhateverBecameOfTheSaving)
     Play t(1);
     t.typeJoystick("Rem");
     t.dialogues.filesToSave = {std::nullopt};
+    int launches = 0;
+    t.games().LaunchGame = [&](const Game&) {
+        ++launches;
+        EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+        EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    };
     t.array()[1].Click();
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
-    EXPECT_THAT(t.launched, ElementsAre("g1"));
+    EXPECT_EQ(launches, 1);
 }
 
-TEST(GameClick, ATextThatCouldNotBeSavedIsPutAside)
+TEST(GameClick, ATextThatCouldNotBeSavedIsPutAsideAndTheUserLearnsWhere)
 {
     Play t(1);
     t.typeJoystick("Rem");
     t.dialogues.filesToSave = {std::nullopt};
     t.array()[1].Click();
-    EXPECT_EQ(t.fileText("c:\\tarvex\\Recover\\" + t.editor().pair.JoystickFileName), "Rem");
+    const std::string copy = t.asideCopy();
+    EXPECT_EQ(t.fileText(copy), "Rem");
+    EXPECT_EQ(t.dialogues.boxes.back().title, "Just in case ...");
+    EXPECT_TRUE(t.dialogues.boxes.back().text.ends_with(copy)) << t.dialogues.boxes.back().text;
+}
+
+TEST(GameClick, ATextThatWasPutAsideIsModifiedAgainWhenTheProgramStaysOpen)
+{
+    Play t(1);
+    t.typeJoystick("Rem");
+    t.typeMacro("Fire = f");
+    t.dialogues.filesToSave = {std::nullopt, "c:\\tm\\kept.m50"};
+    t.array()[1].Click(); // the launch fails
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved) << "this one was saved";
+    EXPECT_EQ(t.program().mum.StatusBar.Panels(panel::savedState).Picture, changed::modified + 2);
+}
+
+TEST(GameClick, WithoutACopyTheUserMayStayAndNothingIsLaunched)
+{
+    Play t(2);
+    t.typeJoystick("Rem");
+    t.dialogues.filesToSave = {std::nullopt};
+    t.files.failWrites(t.asideCopy(), RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    t.dialogues.answers = {Answer::No};
+    t.array()[2].Click();
+    EXPECT_TRUE(t.launched.empty());
+    EXPECT_THAT(t.captions(), ElementsAre("g1", "g2"));
+    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.dialogues.boxes.back().title, "Hang on a minute ...");
+    EXPECT_NE(t.dialogues.boxes.back().text.find("Disk full"), std::string::npos);
+    EXPECT_TRUE(t.dialogues.boxes.back().secondButtonIsDefault);
+}
+
+TEST(GameClick, WithoutACopyTheUserMayStartTheGameAllTheSame)
+{
+    Play t(1);
+    t.typeJoystick("Rem");
+    t.dialogues.filesToSave = {std::nullopt};
+    t.files.failWrites(t.asideCopy(), RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    t.dialogues.answers = {Answer::Yes};
+    t.array()[1].Click();
+    EXPECT_THAT(t.launched, ElementsAre("g1"));
 }
 
 TEST(GameClick, AnItemThatIsNoGameDoesNothing)

@@ -78,4 +78,9 @@ void IdentifyMacrosUsed(Editor& editor)
     editor.platform.desktop.showHourglass(false);
 }
 
+void IdentifyMacrosIfAny(Editor& editor)
+{
+    canIdentify(editor.JoystickText, editor.MacroText) ? IdentifyMacrosUsed(editor) : ClearMacroTicks(editor);
+}
+
 } // namespace tarvex

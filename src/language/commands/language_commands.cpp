@@ -42,6 +42,7 @@ void wireMacros(Editor& editor)
     operations.ExtractMacrosAndTitles = on(editor, ExtractMacrosAndTitles);
     operations.ClearMacroTicks = on(editor, ClearMacroTicks);
     operations.IdentifyMacrosUsed = on(editor, IdentifyMacrosUsed);
+    operations.IdentifyMacrosIfAny = on(editor, IdentifyMacrosIfAny);
 
     Menus& menus = editor.menus;
     menus.mnuEditUpdateMacros.handler = on(editor, mnuEditUpdateMacros_Click);

@@ -188,7 +188,7 @@ std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
     step([&] { editor.TabStrip1.Select(sideOf(editor, offer.wanted.front()).tab); });
     Operations& operations = editor.operations;
     step([&] {
-        editor.shared.settings.CheckIdentifyOK == 1 ? operations.IdentifyMacrosUsed() : operations.ClearMacroTicks();
+        editor.shared.settings.CheckIdentifyOK == 1 ? operations.IdentifyMacrosIfAny() : operations.ClearMacroTicks();
     });
     return open;
 }
@@ -229,14 +229,18 @@ std::vector<std::string> offerRecovery(Editor& editor)
     return open;
 }
 
-void putAside(Editor& editor, const Side& side)
+AsideCopy putAside(Editor& editor, const Side& side)
 {
     const Steps step(editor.shared.errors, tag);
+    AsideCopy copy;
     step([&] {
-        const std::string name = fileNameFor(side.FileName);
-        editor.platform.files.writePrivate(freePath(editor.platform.files, journalDirectory(editor) + "\\", name),
-                                           side.pane.Text());
+        const std::string directory = journalDirectory(editor) + "\\";
+        const std::string path = freePath(editor.platform.files, directory, fileNameFor(side.FileName));
+        editor.platform.files.writePrivate(path, side.pane.Text());
+        copy.path = path;
     });
+    if (copy.path.empty()) copy.reason = editor.shared.errors.ErrorDescription;
+    return copy;
 }
 
 bool isAmong(const std::vector<std::string>& paths, const std::string& path)

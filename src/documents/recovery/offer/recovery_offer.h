@@ -17,8 +17,13 @@ namespace tarvex {
 /// their old and new names; none when nothing was brought back.
 std::vector<std::string> offerRecovery(Editor& editor);
 
-/// Keeps the text of a document that goes without having been saved, like one that isn't wanted back.
-void putAside(Editor& editor, const Side& side);
+/// Writes the text of a document that goes without having been saved into the journals' directory. Gives the path of
+/// the copy, or the reason why there is none.
+struct AsideCopy {
+    std::string path;   ///< empty: it couldn't be written
+    std::string reason; ///< then
+};
+AsideCopy putAside(Editor& editor, const Side& side);
 
 /// Whether the path is one of them, in any case.
 bool isAmong(const std::vector<std::string>& paths, const std::string& path);

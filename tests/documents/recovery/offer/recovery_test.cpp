@@ -121,6 +121,20 @@ TEST(Recovery, AnUntitledDocumentComesBackUntitled)
     EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\new.b50"), "BTN S1 a");
 }
 
+TEST(Recovery, WithNoMacrosToIdentifyNobodyIsScolded)
+{
+    TestProgram t;
+    ASSERT_EQ(t.settings().CheckIdentifyOK, 1);
+    t.typeJoystick("BTN S1 fire");
+    t.dialogues.answers = {Answer::Yes};
+    t.start();
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire");
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U) << t.lastBox().title;
+    EXPECT_EQ(t.lastBox().title, "Phew ... nothing's lost!");
+    t.menus().mnuViewIdentify.Click(); // the user asks for it
+    EXPECT_EQ(t.lastBox().title, "You're kidding me...right?!");
+}
+
 TEST(Recovery, AFileThatHasChangedSinceIsLeftAloneAndTheTextGetsANewName)
 {
     OpenPair t;
