@@ -6,7 +6,10 @@ namespace {
 
 const MenuEntry divider{};
 
-MenuEntry command(MenuItem& item, std::string keys = {}) { return {&item, std::move(keys), {}, nullptr}; }
+MenuEntry command(MenuItem& item, std::string keys = {}, char accessKey = '\0')
+{
+    return {&item, std::move(keys), {}, nullptr, accessKey};
+}
 
 MenuEntry list(MenuArray& array) { return {nullptr, {}, {}, &array}; }
 
@@ -134,8 +137,8 @@ MenuEntry appsMenu(Menus& m)
                                command(m.mnuLauncher),
                                command(m.mnuAppsCandCC),
                                command(m.mnuAppsTMScope),
-                               command(m.mnuAppsProPanel),
-                               command(m.mnuAppsCTFJ),
+                               command(m.mnuAppsProPanel, {}, 'i'),
+                               command(m.mnuAppsCTFJ, {}, 'F'),
                                command(m.mnuAppDivider1),
                                command(m.mnuF22Setup),
                                command(m.mnuF22Clear),

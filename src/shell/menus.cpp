@@ -8,8 +8,8 @@ Menus::Menus()
     mnuEditRedo.Enabled = false;
     mnuViewMacros.Checked = false;
     mnuInsertQuickTip.Enabled = false; // it only tells
-    for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray, &mnuCustomApp}) list->plain = true;
     for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray}) {
+        list->plain = true;
         list->hidesBlanks = true;
         (*list)[0].Enabled = false;
     }

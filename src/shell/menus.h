@@ -89,7 +89,7 @@ struct Menus {
         {"/U  dogfight switch is up", "/M  dogfight switch middle position", "/D  dogfight switch is down",
          "/I  S3 is held in", "/O S3 is out", "/A  force analogue", "/P  press event", "/R  release event",
          "/H  hold down", "/N  no repeat", "/T  toggle modifier", "/Q  ignore initial repeat delay modifier"}};
-    MenuItem mnuInsertWithColour{"mnuInsertWithColour", "Insert with colou&r"};
+    MenuItem mnuInsertWithColour{"mnuInsertWithColour", "&Insert with colour"};
     MenuItem mnuInsertDivider8{"mnuInsertDivider8", "-"};
     MenuItem mnuInsertQuickTip{"mnuInsertQuickTip", "Tip: Esc in a file brings up this menu"};
 
@@ -166,7 +166,7 @@ struct Menus {
     MenuItem mnuRHMDelete{"mnuRHMDelete", "&Delete"};
     MenuItem mnuRHMColour{"mnuRHMColour", "Colou&r this file"};
     MenuItem mnuRHMColoursRemove{"mnuRHMColoursRemove", "Remo&ve colour"};
-    MenuItem mnuRHMColoursSelection{"mnuRHMColoursSelection", "Remove colour from selec&tion"};
+    MenuItem mnuRHMColoursSelection{"mnuRHMColoursSelection", "Remove colour from &selection"};
     MenuItem mnuRHMIdentify{"mnuRHMIdentify", "Identif&y macros used"};
     MenuItem mnuRHMDownload{"mnuRHMDownload", "Do&wnload joystick file to joystick"};
     MenuItem mnuRHMProtect{"mnuRHMProtect", "Pr&otect macro file"};
@@ -183,6 +183,7 @@ struct MenuEntry {
     std::string keys; ///< keys shown beside the caption and obeyed in the whole window, e.g. "Ctrl+S"; or empty
     std::vector<MenuEntry> entries; ///< of a menu
     MenuArray* array = nullptr;     ///< all its visible items, in order
+    char accessKey = '\0'; ///< the letter of the caption to mark, for a caption that marks none itself
 };
 
 /// The document window's menu bar from left to right. A command without a handler isn't there yet; the view greys it.

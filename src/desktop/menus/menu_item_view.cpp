@@ -1,10 +1,37 @@
 #include "desktop/menus/menu_item_view.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QFontMetrics>
+#include <QScreen>
 
 namespace tarvex {
 
 namespace {
+
+/// A tab would part the keys from the caption.
+QString printable(QString text)
+{
+    for (QChar& character : text) {
+        if (!character.isPrint()) character = u' ';
+    }
+    return text;
+}
+
+/// A caption of any length as one that leaves the menu within the screen. File names differ at their ends.
+QString cutInMiddle(const QString& caption)
+{
+    constexpr qsizetype alwaysFits = 40; // characters
+    if (caption.size() <= alwaysFits) return caption;
+    const int widest = QGuiApplication::primaryScreen()->availableSize().width() / 2;
+    return QFontMetrics(QApplication::font("QMenu")).elidedText(caption, Qt::ElideMiddle, widest);
+}
+
+void showWholeInTip(const std::string& caption, const QString& shown, QAction& action)
+{
+    const QString whole = printable(toQt(caption));
+    action.setToolTip(shown == whole ? QString() : wrappingTip(whole));
+}
 
 void bindCommand(MenuItem& item, QAction& action, Bindings& bindings)
 {
@@ -24,11 +51,14 @@ void bindCommand(MenuItem& item, QAction& action, Bindings& bindings)
 
 } // namespace
 
-void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys)
+void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString& shownKeys, char accessKey)
 {
     bindCommand(item, action, bindings);
-    bindings.bind(item.Caption, [&action, shownKeys](const std::string& caption) {
-        action.setText(shownKeys.isEmpty() ? toQt(caption) : toQt(caption) + u'\t' + shownKeys);
+    bindings.bind(item.Caption, [&action, shownKeys, accessKey](const std::string& caption) {
+        const QString shown = cutInMiddle(printable(toQt(caption)));
+        action.setText((accessKey != '\0' ? withAccessKey(shown, accessKey) : withOneAccessKey(shown)) +
+                       (shownKeys.isEmpty() ? QString() : u'\t' + shownKeys));
+        showWholeInTip(caption, shown, action);
     });
 }
 
@@ -36,11 +66,9 @@ void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings)
 {
     bindCommand(item, action, bindings);
     bindings.bind(item.Caption, [&action](const std::string& caption) {
-        QString text = withoutAccessKeys(toQt(caption));
-        for (QChar& character : text) {
-            if (!character.isPrint()) character = u' '; // a tab would part the keys from the caption
-        }
-        action.setText(text);
+        const QString shown = cutInMiddle(printable(toQt(caption)));
+        action.setText(withoutAccessKeys(shown));
+        showWholeInTip(caption, shown, action);
     });
 }
 

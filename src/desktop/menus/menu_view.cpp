@@ -29,9 +29,9 @@ void addCommand(QMenu& menu, const MenuEntry& entry, Bindings& bindings)
     QAction* action = menu.addAction(QString());
     const QKeySequence keys(toQt(entry.keys));
     if (entry.keys.empty() || isPaneKey(entry.keys)) {
-        bindItem(*entry.item, *action, bindings, keys.toString(QKeySequence::NativeText));
+        bindItem(*entry.item, *action, bindings, keys.toString(QKeySequence::NativeText), entry.accessKey);
     } else {
-        bindItem(*entry.item, *action, bindings);
+        bindItem(*entry.item, *action, bindings, {}, entry.accessKey);
         action->setShortcut(keys);
     }
 }
@@ -58,6 +58,7 @@ void addMenu(QMenu& subMenu, const MenuEntry& entry, Bindings& bindings)
 void fillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, Bindings& bindings)
 {
     menu.setSeparatorsCollapsible(true);
+    menu.setToolTipsVisible(true);
     for (const MenuEntry& entry : entries) {
         if (entry.array != nullptr) {
             new MenuArrayView(*entry.array, menu);

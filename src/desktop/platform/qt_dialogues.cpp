@@ -1,5 +1,6 @@
 #include "desktop/platform/qt_dialogues.h"
 
+#include "desktop/icon_theme.h"
 #include "desktop/menus/menu_view.h"
 #include "desktop/text.h"
 #include "platform/errors.h"
@@ -15,7 +16,7 @@
 #include <QGridLayout>
 #include <QMenu>
 #include <QMessageBox>
-#include <QRegularExpression>
+#include <QScreen>
 
 #include <algorithm>
 #include <array>
@@ -82,10 +83,8 @@ QString fittingText(QString text)
 {
     constexpr qsizetype longest = 2'500;
     constexpr qsizetype shown = 1'000; // at either end
-    constexpr qsizetype longestWord = 60;
     if (text.size() > longest) text = text.left(shown) + QStringLiteral(" [...] ") + text.right(shown);
-    static const QRegularExpression longWord(QStringLiteral("(\\S{%1})(?=\\S)").arg(longestWord));
-    return text.replace(longWord, QStringLiteral("\\1\u200B"));
+    return withBreaksInLongWords(std::move(text));
 }
 
 /// Boxes are laid out for their text; the title is to be read too.
@@ -97,6 +96,14 @@ void widenForTitle(QMessageBox& view)
     if (grid == nullptr) return;
     const int width = std::min(widest, view.fontMetrics().horizontalAdvance(view.windowTitle()) + frame);
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+/// Of the screen, where a box stands that comes before any window.
+void moveToMiddle(QMessageBox& view)
+{
+    view.ensurePolished();
+    view.adjustSize();
+    view.move(QGuiApplication::primaryScreen()->availableGeometry().center() - view.rect().center());
 }
 
 } // namespace
@@ -134,6 +141,9 @@ Answer QtDialogues::show(const MessageBox& box)
     QMessageBox view(parentNow());
     fillBox(view, box);
     widenForTitle(view);
+    if (view.parentWidget() == nullptr || view.parentWidget()->windowIcon().isNull())
+        view.setWindowIcon(themeIcon(QStringLiteral("tarvex"))); // while the program comes up
+    if (view.parentWidget() == nullptr) moveToMiddle(view);
     return toAnswer(view.exec());
 }
 

@@ -106,6 +106,39 @@ TEST(QtDialogues, ReturnIsTheDefaultButton)
     EXPECT_EQ(answerTo(BoxButtons::Ok, Qt::Key_Return), Answer::Ok);
 }
 
+TEST(QtDialogues, ABoxBeforeAnyWindowCarriesTheIconAndStandsInTheMiddleOfTheScreen)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    bool seen = false;
+    QTimer::singleShot(0, [&seen] {
+        QWidget* box = QApplication::activeModalWidget();
+        const QPoint off = box->frameGeometry().center() - box->screen()->availableGeometry().center();
+        EXPECT_LE(std::max(std::abs(off.x()), std::abs(off.y())), 40) << "the frame's title bar apart";
+        EXPECT_FALSE(box->windowIcon().isNull());
+        seen = true;
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    dialogues.show(question(BoxButtons::Ok));
+    EXPECT_TRUE(seen);
+}
+
+TEST(QtDialogues, ABoxOfAWindowWithoutItsIconYetCarriesTheIcon)
+{
+    const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});
+    QtDialogues dialogues(drives);
+    QWidget window;
+    window.show();
+    dialogues.setParent(&window);
+    bool hasIcon = false;
+    QTimer::singleShot(0, [&hasIcon] {
+        hasIcon = !QApplication::activeModalWidget()->windowIcon().isNull();
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    });
+    dialogues.show(question(BoxButtons::Ok));
+    EXPECT_TRUE(hasIcon);
+}
+
 TEST(QtDialogues, ABoxThatComesWhileTheWindowIsMinimisedIsNotHiddenWithIt)
 {
     const DriveMap drives({{}, "/tmp", "/tmp", "/tmp"});

@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QProgressBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTest>
 #include <QToolTip>
@@ -105,6 +106,50 @@ TEST(MumWindow, AMenuShowsTheItemsOfAnArrayAsTheyAreWhenItIsOpened)
     files.Unload(1);
     emit menu.aboutToShow();
     EXPECT_EQ(menu.findChild<QAction*>("mnuFiles(1)"), nullptr);
+}
+
+TEST(MumWindow, ALongCaptionIsCutInItsMiddleAndWholeInTheTip)
+{
+    MenuItem item("mnuLong", "&Download " + std::string(300, 'x') + ".b50");
+    QMenu menu;
+    Bindings bindings;
+    fillMenu(menu, {{&item, "F12", {}}}, bindings);
+    const QAction& action = *menu.actions().constFirst();
+    EXPECT_LE(menu.sizeHint().width(), QGuiApplication::primaryScreen()->availableSize().width());
+    EXPECT_TRUE(action.text().startsWith("&Download xx"));
+    EXPECT_TRUE(action.text().endsWith("xx.b50"));
+    EXPECT_TRUE(menu.toolTipsVisible());
+    EXPECT_TRUE(action.toolTip().remove(QChar(0x200B)).contains(QString(300, 'x') + ".b50"));
+    item.Caption = "&Download short.b50";
+    EXPECT_EQ(action.text(), "&Download short.b50");
+    EXPECT_FALSE(action.toolTip().contains("<span>"));
+}
+
+TEST(MumWindow, AnAmpersandInTheFileNameOfACaptionIsShown)
+{
+    MenuItem item("mnuDownload", "&Download a & b&c.b50");
+    QMenu menu;
+    Bindings bindings;
+    fillMenu(menu, {{&item, {}, {}}}, bindings);
+    EXPECT_EQ(menu.actions().constFirst()->text(), "&Download a && b&&c.b50");
+}
+
+TEST(MumWindow, ACustomAppsAmpersandMarksItsAccessKey)
+{
+    Shown shown;
+    shown.menus().mnuCustomApp[0].Caption = "&Notepad";
+    shown.menus().mnuCustomApp[1].Caption = "Cut && dry";
+    emit shown.window.findChild<QMenu*>("mnuApps")->aboutToShow();
+    EXPECT_EQ(shown.action("mnuCustomApp(0)")->text(), "&Notepad");
+    EXPECT_EQ(shown.action("mnuCustomApp(1)")->text(), "Cut && dry");
+}
+
+TEST(MumWindow, ACommandWithoutAMarkInItsCaptionGetsItsAccessKeyInTheMenu)
+{
+    Shown shown;
+    EXPECT_EQ(shown.action("mnuAppsProPanel")->text(), "Cal&ibrate controllers");
+    EXPECT_EQ(shown.action("mnuAppsCTFJ")->text(), "CT&FJ");
+    EXPECT_EQ(shown.menus().mnuAppsCTFJ.Caption.get(), "CTFJ");
 }
 
 TEST(MumWindow, TypedTextMakesTheDocumentModifiedAndTheTitleTellsIt)

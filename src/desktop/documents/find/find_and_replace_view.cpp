@@ -17,14 +17,6 @@ namespace {
 constexpr int longestText = 32767;
 constexpr int charactersShown = 28;
 
-/// The caption with an access key before the first letter that is `key` in its case.
-QString withAccessKey(const QString& caption, char key)
-{
-    QString text = withoutAccessKeys(caption);
-    const qsizetype at = text.indexOf(QLatin1Char(key));
-    return at < 0 ? text : text.insert(at, u'&');
-}
-
 /// A page with its fields on the left and its buttons in a column on the right.
 QWidget* pageOf(QLayout* fields, std::initializer_list<QPushButton*> buttons)
 {
@@ -46,6 +38,12 @@ FindAndReplaceView::FindAndReplaceView(FindAndReplace& window, QWidget* parent)
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
     for (QWidget* page : {findTabPage(), replaceTabPage(), lineTabPage()}) m_tabs->addTab(page, QString());
     m_bindings.tabs(window.SSTab1, *m_tabs);
+    constexpr char tabKeys[] = {'d', 'p', 'o'}; // letters that none of the pages uses
+    for (int tab = 0; tab < m_tabs->count(); ++tab) {
+        m_bindings.bind(window.SSTab1.Tabs(tab + 1).Caption, [this, tab, key = tabKeys[tab]](const std::string& text) {
+            m_tabs->setTabText(tab, withAccessKey(toQt(text), key));
+        });
+    }
     m_bindings.bind(window.SSTab1.SelectedItem, [this](int tab) { showDefaultButton(tab); });
 
     auto* below = new QHBoxLayout;

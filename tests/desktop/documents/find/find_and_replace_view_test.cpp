@@ -291,5 +291,64 @@ TEST_F(FindView, EveryFieldHasAnAccessKeyThatNoOtherOfItsTabHas)
     }
 }
 
+// ---- access keys and what comes into sight --------------------------------------------------------------------------
+
+QString accessKeyOf(const QString& caption) { return QKeySequence::mnemonic(caption).toString(); }
+
+TEST_F(FindView, EveryTabAndControlOfAPageHasAnAccessKeyOfItsOwn)
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    auto* tabs = get<QTabWidget>("SSTab1");
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        events();
+        QStringList captions;
+        for (int tab = 0; tab < tabs->count(); ++tab) captions << tabs->tabText(tab);
+        for (const QLabel* label : form()->findChildren<QLabel*>()) {
+            if (label->isVisible()) captions << label->text();
+        }
+        for (const QAbstractButton* button : form()->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && !button->text().isEmpty()) captions << button->text();
+        }
+        QStringList keys;
+        for (const QString& caption : captions) keys << accessKeyOf(caption);
+        EXPECT_GE(keys.size(), 8);
+        EXPECT_FALSE(keys.contains(QString())) << "page " << page;
+        EXPECT_EQ(keys.removeDuplicates(), 0) << captions.join(u' ').toStdString();
+    }
+}
+
+TEST_F(FindView, AltAndALetterGoesToATab)
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    auto* tabs = get<QTabWidget>("SSTab1");
+    EXPECT_EQ(tabs->tabText(0), "Fin&d");
+    for (const auto& [key, page] : {std::pair{Qt::Key_P, 1}, std::pair{Qt::Key_O, 2}, std::pair{Qt::Key_D, 0}}) {
+        QTest::keyClick(form()->windowHandle(), key, Qt::AltModifier);
+        events();
+        EXPECT_EQ(tabs->currentIndex(), page);
+    }
+}
+
+TEST_F(FindView, GotoShowsTheLineWithLinesAroundItAlsoOnTheWayUp)
+{
+    std::string text;
+    for (int line = 1; line <= 200; ++line) text += "BTN S1 line" + std::to_string(line) + "\r\n";
+    joystick.setText(text);
+    events();
+    press(Qt::Key_G, Qt::ControlModifier);
+    for (const int wanted : {150, 31, 33, 1, 200}) {
+        get<QLineEdit>("LineToFind")->setText(QString::number(wanted));
+        get<QPushButton>("Command7")->click();
+        events();
+        pane().settle();
+        EXPECT_EQ(pane().textCursor().selectionStart(), pane().document()->findBlockByNumber(wanted - 1).position());
+        for (int line = std::max(1, wanted - 3); line <= std::min(200, wanted + 3); ++line) {
+            const QTextCursor start(pane().document()->findBlockByNumber(line - 1));
+            EXPECT_TRUE(pane().viewport()->rect().contains(pane().cursorRect(start))) << line << " around " << wanted;
+        }
+    }
+}
+
 } // namespace
 } // namespace tarvex
