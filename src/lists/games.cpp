@@ -2,8 +2,8 @@
 
 #include "documents/files/file_save.h"
 #include "documents/pair/document_status.h"
-#include "documents/recovery/offer/recovery_offer.h"
 #include "documents/recovery/journal/recovery_journal.h"
+#include "documents/recovery/offer/recovery_offer.h"
 #include "documents/window/preferences_page.h"
 
 namespace tarvex {

@@ -183,7 +183,7 @@ struct MenuEntry {
     std::string keys; ///< keys shown beside the caption and obeyed in the whole window, e.g. "Ctrl+S"; or empty
     std::vector<MenuEntry> entries; ///< of a menu
     MenuArray* array = nullptr;     ///< all its visible items, in order
-    char accessKey = '\0'; ///< the letter of the caption to mark, for a caption that marks none itself
+    char accessKey = '\0';          ///< the letter of the caption to mark, for a caption that marks none itself
 };
 
 /// The document window's menu bar from left to right. A command without a handler isn't there yet; the view greys it.

@@ -36,10 +36,10 @@ struct FrameMacros {
     Property<Placement> Place;
     Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
     std::optional<std::int16_t> WidthBeforeDrag; ///< in pixels; while the edge is dragged
-    ComboBox Combo1;                   ///< the headings
-    std::deque<CheckListBox> List1{1}; ///< 0: every macro; k: those under heading k
-    Signal<> List1Changed;             ///< a list was loaded or unloaded
-    std::array<Button, 13> Command1;   ///< slash modifiers and DLY
+    ComboBox Combo1;                             ///< the headings
+    std::deque<CheckListBox> List1{1};           ///< 0: every macro; k: those under heading k
+    Signal<> List1Changed;                       ///< a list was loaded or unloaded
+    std::array<Button, 13> Command1;             ///< slash modifiers and DLY
 };
 
 /// One of the two documents, for what is done to both alike. Names the members of the record; owns nothing.

@@ -102,11 +102,11 @@ private:
     Bindings m_bindings;
     int m_zoom = 100;
     bool m_settlesLater = false;
-    bool m_showing = false;   ///< the document follows the pane just now
-    bool m_userMoved = false; ///< the view's caret is newer than the pane's
+    bool m_showing = false;     ///< the document follows the pane just now
+    bool m_userMoved = false;   ///< the view's caret is newer than the pane's
     bool m_stillChosen = false; ///< of the window's widgets, while the keyboard is elsewhere
-    bool m_paneMoved = false; ///< the other way round
-    Selection m_shown;        ///< the pane's selection when the view last had it
+    bool m_paneMoved = false;   ///< the other way round
+    Selection m_shown;          ///< the pane's selection when the view last had it
 };
 
 } // namespace tarvex

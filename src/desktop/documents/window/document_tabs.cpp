@@ -38,7 +38,8 @@ bool DocumentTabs::event(QEvent* event)
     if (index < 0 || !isCut(index)) {
         QToolTip::hideText();
     } else {
-        QToolTip::showText(help.globalPos(), wrappingTip(tabText(index).replace(QStringLiteral("&&"), QStringLiteral("&"))), this);
+        QToolTip::showText(help.globalPos(),
+                           wrappingTip(tabText(index).replace(QStringLiteral("&&"), QStringLiteral("&"))), this);
     }
     return true;
 }

@@ -53,8 +53,9 @@ struct EditorView::PaneEvents {
 };
 
 EditorView::EditorView(Editor& editor, QWidget* parent)
-    : QWidget(parent), m_editor(editor), m_tabs(new DocumentTabs(this)), m_joystick(new PaneView(editor.JoystickText, this)),
-      m_macro(new PaneView(editor.MacroText, this)), m_frame(new MacroFrameView(editor, this))
+    : QWidget(parent), m_editor(editor), m_tabs(new DocumentTabs(this)),
+      m_joystick(new PaneView(editor.JoystickText, this)), m_macro(new PaneView(editor.MacroText, this)),
+      m_frame(new MacroFrameView(editor, this))
 {
     setObjectName(QStringLiteral("Editor"));
     addTabs();

@@ -66,7 +66,7 @@ QComboBox* MacroFrameView::makeHeadings()
     headings->installEventFilter(this);
     m_bindings.comboBox(m_editor.FrameMacros.Combo1, *headings);
     m_bindings.bind(m_editor.FrameMacros.Combo1.Text, [headings](const std::string& text) {
-        headings->setToolTip(wrappingTip(toQt(text))); // a long heading has no room in the box
+        headings->setToolTip(wrappingTip(toQt(text)));  // a long heading has no room in the box
         headings->setAccessibleDescription(toQt(text)); // else it would be the tip, with its markup
     });
     return headings;

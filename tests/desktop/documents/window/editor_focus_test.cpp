@@ -175,8 +175,8 @@ TEST_F(EditorFocusTest, CtrlPlusZoomsHoweverTheKeyboardWritesThePlus)
 TEST_F(EditorFocusTest, AltAndALetterOpensItsMenuEveryTime)
 {
     for (int round = 0; round < 3; ++round) {
-        for (const auto& [key, menu] : {std::pair{Qt::Key_F, "mnuFile"}, std::pair{Qt::Key_E, "mnuEdit"},
-                                        std::pair{Qt::Key_H, "mnuHelp"}}) {
+        for (const auto& [key, menu] :
+             {std::pair{Qt::Key_F, "mnuFile"}, std::pair{Qt::Key_E, "mnuEdit"}, std::pair{Qt::Key_H, "mnuHelp"}}) {
             for (int again = 0; again < 2; ++again) {
                 QTest::mouseClick(joystick.viewport(), Qt::LeftButton);
                 press(key, Qt::AltModifier);
