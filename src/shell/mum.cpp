@@ -1,5 +1,7 @@
 #include "shell/mum.h"
 
+#include "shell/toolbar_buttons.h"
+
 namespace tarvex {
 
 namespace {
@@ -22,8 +24,6 @@ constexpr PanelDesign panels[] = {
     {panel::macroFile, "No macrofile analysed", "The macros in the macros list are from this file"},
 };
 
-constexpr int preferencesButton = 46;
-
 } // namespace
 
 Mum::Mum()
@@ -33,8 +33,9 @@ Mum::Mum()
         panel.Text = design.text;
         panel.ToolTipText = design.toolTip;
     }
-    // The table of tips passes this button by.
-    Toolbar1.Buttons(preferencesButton).ToolTipText = "Edit Preferences (F9)";
+    // The bar was drawn with one tip.
+    Toolbar1.Buttons(toolbarButton::preferences).ToolTipText =
+        std::string(toolbarButtonAt(toolbarButton::preferences)->tip);
 }
 
 bool showsCompileResult(const Mum& mum)

@@ -1,13 +1,11 @@
 #include "documents/pair/document_status.h"
 
 #include "platform/dos_path.h"
+#include "shell/toolbar_buttons.h"
 
 namespace tarvex {
 
 namespace {
-
-/// The bar has fewer buttons: the statements that reach for it fail, and the download button stays as it is.
-constexpr int compileButton = 49;
 
 std::string savedStateTip(const std::string& name, std::int16_t state)
 {
@@ -59,7 +57,7 @@ void updateDownload(Editor& editor)
     else if (menus.mnuAppsQuiet.Checked)
         menus.mnuAppsQuiet.Enabled = false;
     menus.mnuSendToJoystick.Caption = fits ? "&Download " + caption : "&Download ";
-    step([&] { editor.mum.Toolbar1.Buttons(compileButton).Enabled = fits; });
+    step([&] { editor.mum.Toolbar1.Buttons(toolbarButton::compile).Enabled = fits; });
 }
 
 void UpdateSavedIcon(Editor& editor)

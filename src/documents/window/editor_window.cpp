@@ -12,12 +12,11 @@
 #include "documents/recovery/offer/recovery_offer.h"
 #include "documents/window/hardware_changes.h"
 #include "platform/windows1252.h"
+#include "shell/toolbar_buttons.h"
 
 namespace tarvex {
 
 namespace {
-
-constexpr int calibrateButton = 37;
 
 constexpr std::string_view firstUseText =
     "Hi there buddy! Tarvex - all modular system checks passed OK.\n\n"
@@ -175,7 +174,7 @@ std::string loadDocuments(Editor& editor, const Steps& step)
     readLists(editor, step);
     const bool calibrate = settings.DisableCalibrateMenu != 1;
     menus.mnuAppsProPanel.Visible = calibrate;
-    step([&] { editor.mum.Toolbar1.Buttons(calibrateButton).Visible = calibrate; });
+    step([&] { editor.mum.Toolbar1.Buttons(toolbarButton::calibrate).Visible = calibrate; });
     editor.JoystickText.setSelStart(0);
     editor.MacroText.setSelStart(0);
     editor.TabStrip1.Select(editor.joystick.tab);

@@ -2,15 +2,13 @@
 
 #include "shell/hardware/hardware_profile.h"
 #include "shell/large_settings.h"
+#include "shell/toolbar_buttons.h"
 
 #include <algorithm>
 
 namespace tarvex {
 
 namespace {
-
-/// Toolbar buttons that are dividing gaps which the user can do without.
-constexpr int hiddenSeparators[] = {17, 19, 22, 39};
 
 std::string programPath(const MumContext& context, const std::string& name)
 {
@@ -37,7 +35,9 @@ void ensureDirectory(FileSystem& files, const std::string& path)
 
 void hideSeparators(ToolBar& bar)
 {
-    for (const int number : hiddenSeparators) bar.Buttons(number).Visible = false;
+    for (const ToolbarButton& button : toolbarButtons()) {
+        if (button.hidesWithSeparators) bar.Buttons(button.number).Visible = false;
+    }
 }
 
 } // namespace

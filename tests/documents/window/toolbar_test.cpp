@@ -24,7 +24,7 @@ struct ToolbarTest : testing::Test {
     void watchAll()
     {
         Menus& menus = t.menus();
-        for (const ToolbarSlot& slot : toolbarSlots()) {
+        for (const ToolbarButton& slot : toolbarButtons()) {
             for (MenuItem Menus::*command : {slot.joystick, slot.macro, slot.both.command}) {
                 if (command != nullptr) watch(menus.*command);
             }

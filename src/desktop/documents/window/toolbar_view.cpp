@@ -1,6 +1,6 @@
 #include "desktop/documents/window/toolbar_view.h"
 
-#include "desktop/documents/window/toolbar_icons.h"
+#include "desktop/documents/window/colour_swatch.h"
 #include "desktop/documents/window/toolbar_separator.h"
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
@@ -20,7 +20,6 @@ namespace tarvex {
 
 namespace {
 
-constexpr int pictureSlot = 29;
 constexpr int smallestIcon = 22; // pixels
 
 QString plainCaption(const MenuItem& item)
@@ -39,12 +38,7 @@ ToolbarView::ToolbarView(Editor& editor, QWidget* parent)
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_layout->setContentsMargins(3, 2, 3, 3);
-    int number = 1;
-    for (const ToolbarSlot& slot : toolbarSlots()) {
-        for (; number < slot.number; ++number) addSeparator(number);
-        addSlot(slot);
-        number = slot.number + 1;
-    }
+    for (const ToolbarButton& slot : toolbarButtons()) slot.isSeparator() ? addSeparator(slot.number) : addSlot(slot);
     m_extension->setObjectName(QStringLiteral("Extension"));
     m_extension->setAccessibleName(QStringLiteral("More buttons"));
     m_extension->setAutoRaise(true);
@@ -72,7 +66,7 @@ void ToolbarView::addSeparator(int number)
     m_bindings.bind(m_editor.mum.Toolbar1.Buttons(number).Visible, [separator](bool on) { separator->setVisible(on); });
 }
 
-void ToolbarView::addSlot(const ToolbarSlot& slot)
+void ToolbarView::addSlot(const ToolbarButton& slot)
 {
     auto* action = new QAction(this);
     action->setObjectName(QStringLiteral("Toolbar1_%1").arg(slot.number));
@@ -83,7 +77,7 @@ void ToolbarView::addSlot(const ToolbarSlot& slot)
         press(slot);
         showSlot(slot); // a click ticks a button that isn't for ticking
     });
-    if (slot.number == pictureSlot) {
+    if (slot.number == toolbarButton::picture) {
         button->setObjectName(QStringLiteral("Picture1"));
         action->setText(QStringLiteral("Colour of text at cursor"));
         m_bindings.follow(m_editor.mum.Picture1PlaceWanted, [this] { reportPicture(); });
@@ -103,7 +97,7 @@ QToolButton* ToolbarView::makeButton(QAction& action)
     return button;
 }
 
-void ToolbarView::followSlot(const ToolbarSlot& slot, QAction& action)
+void ToolbarView::followSlot(const ToolbarButton& slot, QAction& action)
 {
     const auto show = [this, &slot] { showSlot(slot); };
     ToolBar::Slot& state = m_editor.mum.Toolbar1.Buttons(slot.number);
@@ -124,15 +118,15 @@ void ToolbarView::followSlot(const ToolbarSlot& slot, QAction& action)
     }
 }
 
-void ToolbarView::showSlot(const ToolbarSlot& slot)
+void ToolbarView::showSlot(const ToolbarButton& slot)
 {
     Shown& shown = m_slots[slot.number];
     QAction& action = *shown.action;
     action.setEnabled(toolbarOffers(m_editor, slot.number));
-    if (slot.number == pictureSlot) return showPicture(slot);
+    if (slot.number == toolbarButton::picture) return showPicture(slot);
     const MenuItem* command = toolbarCommand(m_editor, slot.number);
-    const bool both = toolbarMeansBoth(m_editor, slot);
-    const QString icon = toolbarIcon(slot.number) + (both ? QStringLiteral("-both") : QString());
+    const bool both = toolbarMeansBoth(slot, m_editor.shared.settings);
+    const QString icon = toQt(slot.icon) + (both ? QStringLiteral("-both") : QString());
     if (icon != shown.icon) action.setIcon(themeIcon(icon));
     shown.icon = icon;
     action.setText(plainCaption(*command));
@@ -140,7 +134,7 @@ void ToolbarView::showSlot(const ToolbarSlot& slot)
     action.setChecked(command->Checked);
 }
 
-void ToolbarView::showPicture(const ToolbarSlot& slot)
+void ToolbarView::showPicture(const ToolbarButton& slot)
 {
     const auto* button = static_cast<QToolButton*>(m_slots[slot.number].widget);
     m_slots[slot.number].action->setIcon(swatch(toQt(m_editor.mum.Picture1.get()), *button));
@@ -148,7 +142,9 @@ void ToolbarView::showPicture(const ToolbarSlot& slot)
 
 void ToolbarView::showAll()
 {
-    for (const ToolbarSlot& slot : toolbarSlots()) showSlot(slot);
+    for (const ToolbarButton& slot : toolbarButtons()) {
+        if (!slot.isSeparator()) showSlot(slot);
+    }
 }
 
 /// With the font, so that the bar stays in proportion.
@@ -164,9 +160,9 @@ void ToolbarView::scaleIcons()
 
 // ---- what the user does ---------------------------------------------------------------------------------------------
 
-void ToolbarView::press(const ToolbarSlot& slot)
+void ToolbarView::press(const ToolbarButton& slot)
 {
-    if (slot.number == pictureSlot) {
+    if (slot.number == toolbarButton::picture) {
         Picture1_Click(m_editor);
     } else {
         Toolbar1_ButtonClick(m_editor, slot.number);
@@ -176,7 +172,7 @@ void ToolbarView::press(const ToolbarSlot& slot)
 /// While the picture has no room, its place is that of the menu where it was chosen.
 void ToolbarView::reportPicture()
 {
-    const QWidget* picture = m_slots[pictureSlot].widget;
+    const QWidget* picture = m_slots[toolbarButton::picture].widget;
     const QWidget* seen = m_layout->isLeftOut(picture) ? m_extension : picture;
     const QPoint corner = seen->mapToGlobal(QPoint(0, 0));
     m_editor.mum.Picture1Place = {corner.x(), corner.y(), seen->width(), seen->height()};
@@ -195,7 +191,7 @@ void ToolbarView::mouseMoveEvent(QMouseEvent* event) { hover(*event, event->posi
 /// `at` is a point of the bar.
 void ToolbarView::hover(const QMouseEvent& event, QPointF at)
 {
-    if (childAt(at.toPoint()) == m_slots[pictureSlot].widget) return Picture1_MouseMove(m_editor);
+    if (childAt(at.toPoint()) == m_slots[toolbarButton::picture].widget) return Picture1_MouseMove(m_editor);
     reportPlaces();
     Toolbar1_MouseMove(m_editor, toLogic(event.buttons()), toLogic(event.modifiers()), static_cast<float>(at.x()),
                        static_cast<float>(at.y()));

@@ -13,7 +13,7 @@ class QToolButton;
 
 namespace tarvex {
 
-struct ToolbarSlot;
+struct ToolbarButton;
 
 /// Toolbar1: all its slots by their numbers, and Picture1 in the place of its own. Slot 3 is the action "Toolbar1_3".
 class ToolbarView : public QWidget {
@@ -33,14 +33,14 @@ private:
         QString icon;
     };
     void addSeparator(int number);
-    void addSlot(const ToolbarSlot& slot);
+    void addSlot(const ToolbarButton& slot);
     QToolButton* makeButton(QAction& action);
-    void followSlot(const ToolbarSlot& slot, QAction& action);
-    void showSlot(const ToolbarSlot& slot);
-    void showPicture(const ToolbarSlot& slot);
+    void followSlot(const ToolbarButton& slot, QAction& action);
+    void showSlot(const ToolbarButton& slot);
+    void showPicture(const ToolbarButton& slot);
     void showAll();
     void scaleIcons();
-    void press(const ToolbarSlot& slot);
+    void press(const ToolbarButton& slot);
     void hover(const QMouseEvent& event, QPointF at);
     void reportPicture();
     void reportPlaces();
