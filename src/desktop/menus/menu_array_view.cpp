@@ -21,9 +21,9 @@ void hideWhileBlank(MenuItem& item, QAction& action, Bindings& bindings)
 } // namespace
 
 MenuArrayView::MenuArrayView(MenuArray& array, QMenu& menu)
-    : QObject(&menu), m_array(array), m_menu(menu), m_end(menu.addAction(QString()))
+    : QObject(&menu), m_array(array), m_menu(menu),
+      m_before(menu.actions().isEmpty() ? nullptr : menu.actions().constLast())
 {
-    m_end->setVisible(false);
     m_bindings.follow(array.changed, [this] { m_filled = false; });
     connect(&menu, &QMenu::aboutToShow, this, &MenuArrayView::fill);
     fill();
@@ -35,11 +35,13 @@ void MenuArrayView::fill()
     m_items = Bindings();
     qDeleteAll(m_actions);
     m_actions.clear();
+    const QList<QAction*> others = m_menu.actions();
+    QAction* behind = others.value(others.indexOf(m_before) + 1); // none: the array ends the menu
     for (int index = 0; index <= m_array.UBound(); ++index) {
         auto* action = new QAction(&m_menu);
         (m_array.plain ? bindPlainItem(m_array[index], *action, m_items) : bindItem(m_array[index], *action, m_items));
         if (m_array.hidesBlanks) hideWhileBlank(m_array[index], *action, m_items);
-        m_menu.insertAction(m_end, action);
+        m_menu.insertAction(behind, action);
         m_actions.append(action);
     }
 }

@@ -22,7 +22,7 @@ private:
 
     MenuArray& m_array;
     QMenu& m_menu;
-    QAction* m_end; ///< unseen; the items stand before it
+    QAction* m_before; ///< the items stand behind it; none: at the top of the menu
     QList<QAction*> m_actions;
     bool m_filled = false;
     Bindings m_items;

@@ -1,5 +1,6 @@
 #include "desktop/documents/window/toolbar_view.h"
 
+#include "desktop/documents/window/accessible_toolbar.h"
 #include "desktop/documents/window/colour_swatch.h"
 #include "desktop/documents/window/toolbar_separator.h"
 #include "desktop/icon_theme.h"
@@ -27,6 +28,12 @@ QString plainCaption(const MenuItem& item)
     return toQt(item.Caption.get()).remove(u'&').remove(QStringLiteral("..."));
 }
 
+QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object)
+{
+    auto* bar = dynamic_cast<ToolbarView*>(object);
+    return bar != nullptr ? new AccessibleToolbar(*bar) : nullptr;
+}
+
 } // namespace
 
 ToolbarView::ToolbarView(Editor& editor, QWidget* parent)
@@ -34,6 +41,7 @@ ToolbarView::ToolbarView(Editor& editor, QWidget* parent)
       m_layout(new ToolbarLayout(m_extension, this))
 {
     ToolBar& bar = editor.mum.Toolbar1;
+    QAccessible::installFactory(makeAccessible);
     setObjectName(QStringLiteral("Toolbar1"));
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
