@@ -16,8 +16,8 @@ constexpr int preferences = 46;
 constexpr int calibrate = 37; ///< can be switched off in the settings
 constexpr int firstExtra = 35;
 constexpr int lastExtra = 42;
-constexpr int compile =
-    49; ///< the bar ends before it: what is done to it fails, and the download button stays as it is
+/// The bar ends before it: what is done to it fails, and the download button stays as it is.
+constexpr int compile = 49;
 } // namespace toolbarButton
 
 /// One place on Toolbar1 and all there is to know of it. A separator has no command and no icon.
