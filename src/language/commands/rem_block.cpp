@@ -148,7 +148,10 @@ void REMunblock(Editor& editor)
         putCaretAlone(side, caret);
         showLineNumber(editor, side, side.pane.SelStart());
     };
-    if (changes.empty()) return step(finish);
+    if (changes.empty()) {
+        step(finish);
+        return;
+    }
 
     BeginColInsert(editor);
     step([&] { write(side.pane, changes); });

@@ -24,11 +24,9 @@ void colourScratch(Editor& editor, std::span<const ColourPass> passes)
     writeBaseFormat(scratch, editor.shared.settings, editor.shared.DefaultTextColour);
     if (!editor.menus.mnuInsertWithColour.Checked) return;
     float position = 0;
-    bool saves = false;
     runPasses(
-        {scratch, editor.shared.settings, position, Steps(), nullptr, holdUntilKey(editor.platform, editor.mum, saves)},
+        {scratch, editor.shared.settings, position, Steps(), nullptr, holdUntilEscape(editor.platform, editor.mum)},
         passes);
-    return saves;
 }
 
 void transfer(Editor& editor)

@@ -216,27 +216,28 @@ TEST_P(AfterAKeyThatChangedNothing, TheCommandStillOpensALevel)
 
 INSTANTIATE_TEST_SUITE_P(
     UndoTest, AfterAKeyThatChangedNothing,
-    testing::Values(WritingCommand{"Cut", [](TestProgram& t) { t.menus().mnuEditCut.Click(); }, "one "},
-                    WritingCommand{"Paste", [](TestProgram& t) { t.menus().mnuEditPaste.Click(); }, "one cut"},
-                    WritingCommand{"Delete", [](TestProgram& t) { t.menus().mnuEditDelete.Click(); }, "one "},
-                    WritingCommand{"DeleteKey",
-                                   [](TestProgram& t) {
-                                       t.editor().JoystickText.EditComing();
-                                       t.editor().JoystickText.userEdit(4, 3, "");
-                                   },
-                                   "one "},
-                    WritingCommand{"Replace",
-                                   [](TestProgram& t) {
-                                       t.program().findAndReplace.ComboTextReplaceWith.Text = "2";
-                                       ReplaceText(t.program().findAndReplace);
-                                   },
-                                   "one 2"},
-                    WritingCommand{"ColourByHand",
-                                   [](TestProgram& t) {
-                                       showColourSelector(t.editor(), ColourTarget::Pane);
-                                       ColourSelector_Command1_Click(t.editor(), 1);
-                                   },
-                                   "one two"}),
+    testing::Values(
+        WritingCommand{"Cut", [](TestProgram& program) { program.menus().mnuEditCut.Click(); }, "one "},
+        WritingCommand{"Paste", [](TestProgram& program) { program.menus().mnuEditPaste.Click(); }, "one cut"},
+        WritingCommand{"Delete", [](TestProgram& program) { program.menus().mnuEditDelete.Click(); }, "one "},
+        WritingCommand{"DeleteKey",
+                       [](TestProgram& program) {
+                           program.editor().JoystickText.EditComing();
+                           program.editor().JoystickText.userEdit(4, 3, "");
+                       },
+                       "one "},
+        WritingCommand{"Replace",
+                       [](TestProgram& program) {
+                           program.program().findAndReplace.ComboTextReplaceWith.Text = "2";
+                           ReplaceText(program.program().findAndReplace);
+                       },
+                       "one 2"},
+        WritingCommand{"ColourByHand",
+                       [](TestProgram& program) {
+                           showColourSelector(program.editor(), ColourTarget::Pane);
+                           ColourSelector_Command1_Click(program.editor(), 1);
+                       },
+                       "one two"}),
     [](const auto& command) { return std::string(command.param.name); });
 
 TEST_F(UndoTest, AProtectedMacroFileIsNotUndone)
