@@ -72,11 +72,10 @@ TEST_F(Accessibility, EveryEntryOfAMenuHasANameUnlessItIsASeparator)
     for (QMenu* menu : window.findChildren<QMenu*>()) {
         emit menu->aboutToShow();
         for (const QAction* action : menu->actions()) {
-            if (!action->isSeparator() && action->isVisible())
-                EXPECT_FALSE(action->text().isEmpty()) << menu->objectName().toStdString();
-            if (!action->isSeparator())
-                EXPECT_FALSE(action->objectName().isEmpty() && action->menu() == nullptr)
-                    << "an entry of no command in " << menu->objectName().toStdString();
+            if (action->isSeparator()) continue;
+            EXPECT_FALSE(action->isVisible() && action->text().isEmpty()) << menu->objectName().toStdString();
+            EXPECT_FALSE(action->objectName().isEmpty() && action->menu() == nullptr)
+                << "an entry of no command in " << menu->objectName().toStdString();
         }
     }
 }

@@ -464,9 +464,17 @@ TEST(Exit, GivesTheGradientBackWhenTheFrameUnloadsAndTheFramesOwnCommandAlsoBefo
         std::string order;
         t.program().operations.ReleaseGradient = [&] { order += "gradient "; };
         t.program().operations.UnloadEditor = [&] { order += "editor "; };
-        if (way == By::Frame) EXPECT_TRUE(t.program().exit());
-        if (way == By::Menu) t.menus().mnuFileExit.Click();
-        if (way == By::FrameMenu) t.menus().mnuMumFileExit.Click();
+        switch (way) {
+        case By::Frame:
+            EXPECT_TRUE(t.program().exit());
+            break;
+        case By::Menu:
+            t.menus().mnuFileExit.Click();
+            break;
+        case By::FrameMenu:
+            t.menus().mnuMumFileExit.Click();
+            break;
+        }
         EXPECT_EQ(order, way == By::FrameMenu ? "gradient editor gradient " : "editor gradient ");
         EXPECT_EQ(t.desktop.quits, 1);
     }

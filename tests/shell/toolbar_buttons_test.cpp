@@ -85,8 +85,9 @@ TEST(ToolbarButtons, TheShortcutOfARowIsThatOfItsCommandInTheMenuBar)
 {
     MenuKeys menu;
     for (const ToolbarButton& button : toolbarButtons()) {
-        if (button.both.command != nullptr && !button.both.shortcut.empty())
+        if (button.both.command != nullptr && !button.both.shortcut.empty()) {
             EXPECT_EQ(menu.of(button.both.command), button.both.shortcut) << button.number;
+        }
         if (button.shortcut.empty() || button.number == helpButton) continue;
         EXPECT_EQ(menu.of(button.joystick), button.shortcut) << button.number;
     }
