@@ -48,7 +48,7 @@ TEST_F(OutsideChangeTest, AFileAsItWasOpenedIsSavedUnasked)
     save();
     t.typeJoystick("y");
     save();
-    EXPECT_EQ(t.fileText(mig), "yxBTN S1 x\r\n") << "what the program itself has written is no outside change";
+    EXPECT_EQ(t.fileText(mig), "xyBTN S1 x\r\n") << "what the program itself has written is no outside change";
     EXPECT_TRUE(t.dialogues.boxes.empty());
     EXPECT_FALSE(t.files.fileExists(keptMig));
 }
@@ -357,9 +357,9 @@ TEST_F(OutsideChangeTest, AnAutomaticSaveOfAnUntitledTextKeepsTheOneOfAnotherDay
     AutoSaveFile(t.editor());
     EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\untitled.b50"), "mine");
     EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\untitled-outside.b50"), "of yesterday");
-    t.typeJoystick("still ");
+    t.typeJoystick(" still");
     AutoSaveFile(t.editor());
-    EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\untitled.b50"), "still mine");
+    EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\untitled.b50"), "mine still");
     EXPECT_FALSE(t.files.fileExists("c:\\tarvex\\Backup\\untitled-outside-2.b50"));
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
