@@ -51,9 +51,9 @@ TEST(Wiring, EveryOperationIsCarriedOutByAUnitOrIsListedAsToCome)
                  UpdateTooltips, ShowExtraButtons, UpdateToolBarOpenSaveTooltips, UpdateEditorTooltips,
                  DamnFontWasChanged, UpdateCCPButtons, HelpKeyword, ApplyColourHighlighting,
                  ApplyMacroColourHighlighting, ClearAllForNewMacroFile, GetEachLineFromMacroFile,
-                 ExtractMacrosAndTitles, ClearMacroTicks, IdentifyMacrosUsed, GetPreviousFiles, GetFavourites, GetGames,
-                 GetCustomApps, UpdateRecentJFMenuList, UpdateRecentMFMenuList, NoteLatestJoystickFile,
-                 NoteLatestMacroFile] = t.program().operations;
+                 ExtractMacrosAndTitles, ClearMacroTicks, IdentifyMacrosUsed, IdentifyMacrosIfAny, GetPreviousFiles,
+                 GetFavourites, GetGames, GetCustomApps, UpdateRecentJFMenuList, UpdateRecentMFMenuList,
+                 NoteLatestJoystickFile, NoteLatestMacroFile] = t.program().operations;
     Names without;
     const auto check = [&](const char* name, const auto& operation) {
         if (!operation) without.insert(name);
@@ -78,6 +78,7 @@ TEST(Wiring, EveryOperationIsCarriedOutByAUnitOrIsListedAsToCome)
     check("ExtractMacrosAndTitles", ExtractMacrosAndTitles);
     check("ClearMacroTicks", ClearMacroTicks);
     check("IdentifyMacrosUsed", IdentifyMacrosUsed);
+    check("IdentifyMacrosIfAny", IdentifyMacrosIfAny);
     check("GetPreviousFiles", GetPreviousFiles);
     check("GetFavourites", GetFavourites);
     check("GetGames", GetGames);
