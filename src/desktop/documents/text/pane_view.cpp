@@ -111,7 +111,8 @@ void PaneView::showPane()
     verticalScrollBar()->setValue(top); // setting the cursor scrolls to the selection's end
     horizontalScrollBar()->setValue(left);
     if (moved) revealSelection();
-    formatShown(); // text, formats and caret have what they changed repainted themselves
+    formatShown();
+    viewport()->update();
     emit paneShown();
 }
 
