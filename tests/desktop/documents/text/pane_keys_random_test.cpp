@@ -60,6 +60,7 @@ public:
         for (QPlainTextEdit* edit : {static_cast<QPlainTextEdit*>(&m_view), &m_plain}) {
             edit->setLineWrapMode(QPlainTextEdit::NoWrap);
             edit->setFont(m_view.font());
+            edit->setTabStopDistance(m_view.tabStopDistance());
             edit->resize(300, 200);
             edit->show();
         }
