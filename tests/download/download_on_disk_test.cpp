@@ -258,13 +258,19 @@ TEST(DownloadOnDisk, AResultWithOtherLineEndsIsRead)
     EXPECT_EQ(r.download(), "Compiler reported an error at line 3: Oops");
 }
 
-TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadToItsEnd)
+TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadUpToTheFirst)
 {
-    Road r;
-    r.script("printf 'WinLoad\\r\\nfine\\r\\n2\\r\\nlong\\r\\n' >winld.dat\n"
-             "truncate -s 100000000 winld.dat\n"
-             "printf 'ERROR' >>winld.dat\n");
-    EXPECT_EQ(r.download(), "Compiler reported an error at line 2: long");
+    for (const bool within : {true, false}) {
+        Road r;
+        r.script("printf 'WinLoad\\r\\nfine\\r\\n2\\r\\nlong\\r\\n' >winld.dat\n"
+                 "truncate -s " +
+                 std::to_string((1 << 20) - (within ? 5 : 4)) +
+                 " winld.dat\n"
+                 "printf 'ERROR' >>winld.dat\n"
+                 "truncate -s 100000000 winld.dat\n");
+        EXPECT_EQ(r.download(), within ? "Compiler reported an error at line 2: long"
+                                       : "Compiled and downloaded successfully! (File size: 2 bytes)");
+    }
 }
 
 TEST(DownloadOnDisk, AResultThatIsNoFileIsNone)

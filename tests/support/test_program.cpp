@@ -20,7 +20,7 @@ void TestMachine::setIni(const std::string& section, const std::string& key, con
 
 std::string TestMachine::ini(const std::string& section, const std::string& key)
 {
-    return ProfileFile(files, iniPath).readString(section, key, "(none)");
+    return ProfileFile(files, iniPath).readString(section, key, "(none)", std::string::npos);
 }
 
 TestProgram::TestProgram(bool startIt)

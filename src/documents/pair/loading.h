@@ -20,4 +20,17 @@ private:
     std::int16_t m_before;
 };
 
+/// While it lives, what the program changes in a pane counts as the user's edit, also inside of a Loading.
+class UserEdit {
+public:
+    explicit UserEdit(Shared& shared) : m_shared(shared), m_before(std::exchange(shared.IsLoading, 0)) {}
+    ~UserEdit() { m_shared.IsLoading = m_before; }
+    UserEdit(const UserEdit&) = delete;
+    UserEdit& operator=(const UserEdit&) = delete;
+
+private:
+    Shared& m_shared;
+    std::int16_t m_before;
+};
+
 } // namespace tarvex

@@ -45,6 +45,7 @@ std::string pathFor(Editor& editor, const LeftJournal& found)
 /// The change from the saved text to the unsaved one, as if the user had made it.
 void putUnsavedText(Editor& editor, Side& side, const std::string& text)
 {
+    const UserEdit counts(editor.shared);
     const TextEdit edit = differenceOf(side.pane.Text(), text);
     side.pane.setSelStart(static_cast<std::int64_t>(edit.position));
     side.pane.setSelLength(static_cast<std::int64_t>(edit.removed));
