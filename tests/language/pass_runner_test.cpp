@@ -243,7 +243,8 @@ TEST_F(HeldProgramTest, OpeningAFileHoldsNothingAndRemarksWhereColouringEnded)
     EXPECT_TRUE(shown.empty());
     EXPECT_EQ(t.status(), "Done. Colouring x.b50 couldn't get past RAW( in line 2. Colouring x.m50 couldn't get past "
                           "RAW( in line 1.");
-    EXPECT_EQ(visibleColoursOf(t.editor().JoystickText, t.settings()), "BBBBBB\r\nRRRR.\r\nRRRR.\r\nCCCCC");
+    EXPECT_EQ(visibleColoursOf(t.editor().JoystickText, t.settings()), "BBBBBB\r\nRRRRB\r\nRRRRB\r\nCCCCC")
+        << "a head goes on to the next blank";
     t.menus().mnuViewColourJoystick.Click();
     EXPECT_EQ(shown.size(), 1U) << "the command still holds";
 }
