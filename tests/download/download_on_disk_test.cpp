@@ -258,7 +258,6 @@ TEST(DownloadOnDisk, AResultWithOtherLineEndsIsRead)
     EXPECT_EQ(r.download(), "Compiler reported an error at line 3: Oops");
 }
 
-<<<<<<< Updated upstream
 TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadUpToTheFirst)
 {
     for (const bool within : {true, false}) {
@@ -272,15 +271,6 @@ TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadUpToTheFirst)
         EXPECT_EQ(r.download(), within ? "Compiler reported an error at line 2: long"
                                        : "Compiled and downloaded successfully! (File size: 2 bytes)");
     }
-=======
-TEST(DownloadOnDisk, OfAResultOfAHundredMegabytesTheFirstOneIsRead)
-{
-    Road r;
-    r.script("printf 'WinLoad\\r\\nfine\\r\\n2\\r\\nlong\\r\\n' >winld.dat\n"
-             "truncate -s 100000000 winld.dat\n"
-             "printf 'ERROR' >>winld.dat\n");
-    EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 2 bytes)");
->>>>>>> Stashed changes
 }
 
 TEST(DownloadOnDisk, AResultThatIsNoFileIsNone)
