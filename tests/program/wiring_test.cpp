@@ -1,5 +1,6 @@
 #include "shell/operations.h"
 
+#include "shell/appearance.h"
 #include "shell/menus.h"
 #include "support/test_program.h"
 
@@ -14,10 +15,37 @@ namespace {
 using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
-const Names commandsToCome = {};
+const Names commandsToCome = {
+    "mnuAppsImageViewer",
+    "mnuAppsJoyAnalyser",
+    "mnuAppsTemplate",
+    "mnuComposerPlugin",
+    "mnuEditTmCFG",
+    "mnuFilePrintJoystick",
+    "mnuFilePrintMacro",
+    "mnuFilePrinterSetup",
+    "mnuHelpAbout",
+    "mnuHelpContents",
+    "mnuHelpTips",
+    "mnuHowDoIArray",
+    "mnuInsertHeading",
+    "mnuInsertQuickTip",
+    "mnuInsertRAW",
+    "mnuInsertRemStatement",
+    "mnuInsertTitle",
+    "mnuPreferencesEdit",
+    "mnuSendToKeyTest",
+    "mnuShowInsertWindow",
+    "mnuTMhelp",
+    "mnuWebTarvex",
+    "mnuWixUnderstandSlash",
+    "mnuWizSpeedy",
+    "mnuhelpWizCreateJoyFile",
+    "mnuhelpWizCreateMacroFile",
+};
 
 /// Operations that nobody carries out yet.
-const Names operationsToCome = {};
+const Names operationsToCome = {"DamnFontWasChanged", "HelpKeyword"};
 
 void collect(const std::vector<MenuEntry>& entries, Names& without)
 {
@@ -36,6 +64,8 @@ TEST(Wiring, EveryCommandOfTheMenusHasAHandlerOrIsListedAsToCome)
 {
     TestProgram t;
     Menus& menus = t.menus();
+    // The program's main() builds it beside the program.
+    const Appearance appearance(t.files, t.program().platform.programDirectory, menus);
     Names without;
     for (const auto& entries :
          {menuBar(menus), mumMenuBar(menus), popUpMenu(menus, menus.mnuRHMouse), popUpMenu(menus, menus.mnuRHList)})
