@@ -4,9 +4,10 @@
 
 # A sum of what the left half of the status bar shows.
 status_sum() {
-    local X Y WIDTH HEIGHT WINDOW SCREEN
-    eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name '^Tarvex - ' | head -n 1)")"
-    import -silent -window root -crop "$((WIDTH / 2))x18+$X+$((Y + HEIGHT - 20))" +repage "$place/status.png"
+    local window X Y WIDTH HEIGHT WINDOW SCREEN
+    window=$(xdotool search --onlyvisible --name '^Tarvex - ' | head -n 1)
+    eval "$(xdotool getwindowgeometry --shell "$window")"
+    import -silent -window "$window" -crop "$((WIDTH / 3))x20+0+$((HEIGHT - 22))" +repage "$place/status.png"
     identify -format '%#' "$place/status.png"
 }
 status_is() { [ "$(status_sum)" = "$1" ]; }
