@@ -3,6 +3,7 @@
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
+#include "documents/pair/loading.h"
 #include "language/base_format.h"
 
 namespace tarvex {
@@ -15,7 +16,7 @@ template <typename LayOut> void refreshLayout(Editor& editor, std::string_view t
     const Steps step(editor.shared.errors, tag);
     Pane& scratch = editor.TempRichTextBox;
     Side& side = editor.selected();
-    editor.shared.IsLoading = 1;
+    const Loading loading(editor.shared);
     editor.status("Reformatting layout. Please wait ...");
     const std::int16_t state = side.Changed;
     step([&] {
@@ -33,7 +34,6 @@ template <typename LayOut> void refreshLayout(Editor& editor, std::string_view t
     // BeginColInsert's part: a protected pane is laid out too, though it takes no insertion.
     endBlinking(editor);
     step([&] { storeStateBeforeWrite(editor, side); });
-    editor.shared.IsLoading = 0;
 }
 
 } // namespace

@@ -34,7 +34,7 @@ TEST(Loading, AFailureEndsTheGuard)
     EXPECT_EQ(shared.IsLoading, 0);
 }
 
-TEST(Loading, ColouringATextWhileAFileIsLoadedDoesNotEndTheLoading)
+TEST(Loading, ColouringOrLayingOutATextWhileAFileIsLoadedDoesNotEndTheLoading)
 {
     TestProgram t;
     Editor& editor = t.editor();
@@ -43,6 +43,8 @@ TEST(Loading, ColouringATextWhileAFileIsLoadedDoesNotEndTheLoading)
     editor.operations.ApplyColourHighlighting();
     EXPECT_EQ(t.program().shared.IsLoading, 1);
     t.menus().mnuRemoveColourJoystick.Click();
+    EXPECT_EQ(t.program().shared.IsLoading, 1);
+    t.menus().mnuViewReformat.Click();
     EXPECT_EQ(t.program().shared.IsLoading, 1);
 }
 
