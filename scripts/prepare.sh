@@ -36,7 +36,7 @@ need() {
     wanted=$(package_table | awk -v asked=" $* " 'index(asked, " " $1 " ") { for (i = 2; i <= NF; i++) print $i }')
     command -v apt-get >/dev/null && command -v dpkg-query >/dev/null || die "This script installs what it needs" \
         "with apt-get, which isn't here. Install what matches these Debian packages and build with cmake, as" \
-        "README.md tells:" $wanted
+        "README.md says:" $wanted
     missing=$(LC_ALL=C comm -23 <(LC_ALL=C sort <<<"$wanted") \
         <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' $wanted 2>/dev/null | sed -n 's/^installed //p' |
             LC_ALL=C sort -u))
