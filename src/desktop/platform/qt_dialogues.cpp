@@ -118,7 +118,10 @@ void fillBox(QMessageBox& view, const MessageBox& box)
     view.setStandardButtons(toQt(box.buttons));
     constexpr std::array order{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
     for (std::size_t i = 0; i < std::min(box.captions.size(), order.size()); ++i) {
-        if (QAbstractButton* const button = view.button(order[i])) button->setText(toQt(box.captions[i]));
+        QAbstractButton* const button = view.button(order[i]);
+        if (button == nullptr) continue;
+        button->setText(toQt(box.captions[i]));
+        button->setIcon({}); // the one of Yes or No says something else
     }
     const bool twoButtons = box.buttons != BoxButtons::Ok;
     const auto first = twoButtons ? QMessageBox::Yes : QMessageBox::Ok;
