@@ -13,7 +13,7 @@ namespace {
 char accessKeyOf(const MenuEntry& entry)
 {
     const std::string& caption = entry.item->Caption;
-    for (std::size_t at = caption.find('&'); at + 1 < caption.size(); at = caption.find('&', at + 2)) {
+    for (std::size_t at = 0; (at = caption.find('&', at)) != std::string::npos && at + 1 < caption.size(); at += 2) {
         if (caption[at + 1] != '&') return static_cast<char>(std::tolower(caption[at + 1]));
     }
     if (entry.accessKey == '\0' || caption.find(entry.accessKey) == std::string::npos) return '\0';

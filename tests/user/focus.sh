@@ -34,8 +34,7 @@ saved=$(status_sum)
 open_menu e
 close_menu
 status_is "$saved" || fail "the menu took the status text"
-open_menu o
-press a
+choose o a
 expect_title "Enter a name to add to favourites"
 press Escape
 expect_no_title "Enter a name to add to favourites"
@@ -62,5 +61,5 @@ type_text "still here "
 press ctrl+s
 expect_in_file "$place/walk.b50" "unsaved still here"
 
-press alt+f x
+choose f x
 expect_gone

@@ -10,28 +10,28 @@ for key in f e v i w a g o p h; do
     close_menu
 done
 
-press alt+e a # select all
-press alt+e d # delete
+choose e a # select all
+choose e d # delete
 press ctrl+s
 emptied() { [ ! -s "$place/walk.b50" ]; }
 until_true 20 emptied || fail "the file still holds its text"
 
-press alt+e u # undo
-press alt+f s # save
+choose e u # undo
+choose f s # save
 expect_in_file "$place/walk.b50" "BTN S2 second"
 
-press alt+p p # protect the macro file
+choose p p # protect the macro file
 press ctrl+Tab
 expect_title "Tarvex - walk.m50"
 press ctrl+End
 type_text "third"
 press ctrl+s
-press alt+p p
+choose p p
 press ctrl+Home
 type_text "rem "
 press ctrl+s
 expect_in_file "$place/walk.m50" "rem first = a"
 expect_not_in_file "$place/walk.m50" "third"
 
-press alt+f x
+choose f x
 expect_gone

@@ -50,6 +50,12 @@ open_menu() {
     press "alt+$1"
     until_true 10 more || fail "Alt+$1 opened no menu"
 }
+# choose MENU ITEM...: a command by the keys of its menu, which is open before the next key comes.
+choose() {
+    open_menu "$1"
+    shift
+    press "$@"
+}
 close_menu() {
     local before
     before=$(menus_open)

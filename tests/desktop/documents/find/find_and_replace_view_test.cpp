@@ -201,9 +201,9 @@ TEST_F(FindView, TabsBringTheirFieldsAndTheirDefaultButtons)
 {
     press(Qt::Key_F, Qt::ControlModifier);
     auto* tabs = get<QTabWidget>("SSTab1");
-    EXPECT_EQ(tabs->tabText(0), "Find");
-    EXPECT_EQ(tabs->tabText(1), "Replace");
-    EXPECT_EQ(tabs->tabText(2), "Go to line");
+    EXPECT_EQ(tabs->tabText(0), "Fin&d");
+    EXPECT_EQ(tabs->tabText(1), "Re&place");
+    EXPECT_EQ(tabs->tabText(2), "G&o to line");
     type("fire");
     QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
     EXPECT_EQ(t.program().findAndReplace.SSTab1.SelectedItem, findTab::replace);
