@@ -106,7 +106,7 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor), lists(editor)
+      findAndReplace(editor), lists(editor), preferences(editor, lists)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -118,6 +118,7 @@ Program::Program(Platform& thePlatform)
     wireLanguage(editor);
     wireDownload(editor, lists.games);
     wireOwnTools(editor);
+    wirePreferences(preferences);
     wirePreferencesPages(editor);
     followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };

@@ -4,6 +4,7 @@
 #include "documents/pair/editor.h"
 #include "lists/lists.h"
 #include "platform/platform.h"
+#include "preferences/preferences.h"
 #include "shell/menus.h"
 #include "shell/mum.h"
 #include "shell/operations.h"
@@ -33,6 +34,7 @@ public:
     Editor editor;
     FindAndReplace findAndReplace;
     Lists lists;
+    Preferences preferences;
 };
 
 } // namespace tarvex

@@ -33,7 +33,6 @@ const Names commandsToCome = {
     "mnuInsertRAW",
     "mnuInsertRemStatement",
     "mnuInsertTitle",
-    "mnuPreferencesEdit",
     "mnuSendToKeyTest",
     "mnuShowInsertWindow",
     "mnuTMhelp",
@@ -45,7 +44,7 @@ const Names commandsToCome = {
 };
 
 /// Operations that nobody carries out yet.
-const Names operationsToCome = {"DamnFontWasChanged", "HelpKeyword"};
+const Names operationsToCome = {"HelpKeyword"};
 
 void collect(const std::vector<MenuEntry>& entries, Names& without)
 {

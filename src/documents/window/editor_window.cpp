@@ -141,11 +141,7 @@ void firstUse(Editor& editor)
     editor.platform.dialogues.show(
         {.title = "Tarvex initialising ...", .text = std::string(firstUseText), .icon = BoxIcon::Information});
     editor.shared.store.SaveOptions();
-    if (!editor.platform.dialogues.showModal("Preferences")) {
-        editor.shared.settings.FirstTimeUsed = 0; // else it is the preferences that note it
-        editor.shared.store.SaveOptions();
-    }
-    if (editor.shared.FontChanged == 1) editor.operations.DamnFontWasChanged();
+    editor.menus.mnuPreferencesEdit.Click();
 }
 
 void forgetToolWindowPlaces(Shared& shared)

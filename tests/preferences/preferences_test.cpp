@@ -1,0 +1,401 @@
+#include "preferences_fixture.h"
+
+#include "documents/window/preferences_page.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+using testing::ElementsAre;
+
+struct PreferencesTest : testing::Test, PreferencesProgram {};
+
+// ---- opening and pages
+// --------------------------------------------------------------------------------------------------
+
+TEST_F(PreferencesTest, CommandsLeadToTheirPages)
+{
+    const std::pair<MenuItem*, int> commands[] = {{&menus().mnuPreferencesEdit, Preferences::fileLocations},
+                                                  {&menus().mnuViewEditColours, Preferences::colours},
+                                                  {&menus().mnuAppsEdit, Preferences::apps},
+                                                  {&menus().mnuFavsEdit, Preferences::favourites},
+                                                  {&menus().mnuGamesEdit, Preferences::games},
+                                                  {&menus().mnuPreferencesEdit, Preferences::fileLocations}};
+    for (const auto& [item, page] : commands) {
+        int shown = -1;
+        dialogues.whileModal = [&] { shown = preferences().SSTab1.Tab; };
+        EXPECT_TRUE(item->Enabled) << item->Name;
+        item->Click();
+        EXPECT_EQ(shown, page) << item->Name;
+    }
+    EXPECT_THAT(dialogues.modalForms, testing::Each("Preferences"));
+}
+
+TEST_F(PreferencesTest, APageGivesTheKeyboardToItsFirstBox)
+{
+    inPreferences([this] {
+        const std::pair<int, Focusable*> boxes[] = {
+            {Preferences::fileLocations, &preferences().fileLocationsPage.Text1},
+            {Preferences::favourites, &preferences().favouritesPage.Text7},
+            {Preferences::apps, &preferences().appsPage.Text5},
+            {Preferences::saving, &preferences().savingPage.Text3},
+            {Preferences::games, &preferences().gamesPage.Text12}};
+        for (const auto& [page, box] : boxes) {
+            int focused = 0;
+            const Connection wanted = box->focusWanted.connect([&] { ++focused; });
+            preferences().SSTab1.Tab = page;
+            preferences().SSTab1.Click();
+            EXPECT_EQ(focused, 1) << page;
+        }
+    });
+}
+
+TEST_F(PreferencesTest, FirstUseLeadsToThemAndIsOverWhenTheyClose)
+{
+    setIni("FileLocations", "FirstTimeUsed", "1");
+    int opened = 0;
+    dialogues.whileModal = [&] { ++opened; };
+    start();
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(ini("FileLocations", "FirstTimeUsed"), "0");
+    start();
+    EXPECT_EQ(opened, 1);
+}
+
+// ---- what closing does
+// --------------------------------------------------------------------------------------------------
+
+TEST_F(PreferencesTest, AllPathsAreInLowerCaseAfterTheDialogueCloses)
+{
+    inPreferences([this] {
+        preferences().fileLocationsPage.Text1.Text = "C:\\TM\\B50Load.exe";
+        preferences().fileLocationsPage.Text2.Text = "C:\\TM\\B50Progs";
+        preferences().fileLocationsPage.Text15.Text = "C:\\TM\\CTFJ.exe";
+        preferences().fileLocationsPage.Text10.Text = "C:\\TM\\TM.bat";
+        preferences().appsPage.Text5.Text = "C:\\Pictures\\Stick.bmp";
+        preferences().appsPage.Text6.Text = "C:\\Texts\\Notes.txt";
+        preferences().appsPage.CustomAppPathText[1].Text = "C:\\Tools\\Tool.exe";
+        preferences().appsPage.CustomAppNameText[1].Text = "My Tool";
+    });
+    EXPECT_EQ(ini("FileLocations", "B50LoadPath"), "c:\\tm\\b50load.exe");
+    EXPECT_EQ(ini("FileLocations", "ProgramFilesPath"), "c:\\tm\\b50progs");
+    EXPECT_EQ(ini("FileLocations", "CTFJPath"), "c:\\tm\\ctfj.exe");
+    EXPECT_EQ(ini("FileLocations", "CandCCPath"), "c:\\tm\\tm.bat");
+    EXPECT_EQ(ini("Apps", "ImageFilePath"), "c:\\pictures\\stick.bmp");
+    EXPECT_EQ(ini("Apps", "TextFilePath"), "c:\\texts\\notes.txt");
+    EXPECT_EQ(ini("Apps", "CustomAppPath2"), "c:\\tools\\tool.exe");
+    EXPECT_EQ(ini("Apps", "CustomAppName2"), "My Tool");
+    EXPECT_EQ(ini("Launcher", "FilesDirectory"), "c:\\tm\\b50progs");
+}
+
+TEST_F(PreferencesTest, ClosingByTheFrameSavesToo)
+{
+    dialogues.whileModal = [this] {
+        preferences().miscellaneousPage.CheckMinimiseAll.Value = true;
+        preferences().Form.Close();
+    };
+    menus().mnuPreferencesEdit.Click();
+    EXPECT_EQ(ini("Miscellaneous", "MinimiseAll"), "1");
+}
+
+TEST_F(PreferencesTest, AnotherJoystickRenamesUntitledFilesOnce)
+{
+    menus().mnuFileNewBoth.Click();
+    inPreferences([this] {
+        ComboBox& combo = preferences().fileLocationsPage.ComboJoystick;
+        EXPECT_EQ(combo.Text.get(), "F16 FLCS");
+        combo.Text = "FCS";
+        combo.Click();
+        EXPECT_EQ(program().shared.HardwareChangedMark, 1);
+    });
+    EXPECT_EQ(program().shared.HardwareChangedMark, 0);
+    EXPECT_EQ(editor().pair.JoystickFileName, "untitled.adv");
+    EXPECT_EQ(editor().pair.MacroFileName, "untitled.mdf");
+    EXPECT_EQ(ini("FileLocations", "JoyName"), "4");
+}
+
+TEST_F(PreferencesTest, ThrottleAndRuddersAreKeptByTheirPlaceInTheList)
+{
+    inPreferences([this] {
+        preferences().fileLocationsPage.ComboThrottle.Text = "WCS MkII";
+        preferences().fileLocationsPage.ComboThrottle.Click();
+        preferences().fileLocationsPage.ComboRudders.Text = "RCS";
+        preferences().fileLocationsPage.ComboRudders.Click();
+    });
+    EXPECT_EQ(ini("FileLocations", "ThrottleName"), "2");
+    EXPECT_EQ(ini("FileLocations", "RudderName"), "2");
+}
+
+TEST_F(PreferencesTest, AnEmptyGamesCaptionBecomesGames)
+{
+    inPreferences([this] { preferences().miscellaneousPage.ComboGamesCaption.Text = "Eat thi&s!"; });
+    EXPECT_EQ(menus().mnuGames.Caption.get(), "Eat thi&s!");
+    inPreferences([this] { preferences().miscellaneousPage.ComboGamesCaption.Text = ""; });
+    EXPECT_EQ(menus().mnuGames.Caption.get(), "&Games");
+    EXPECT_EQ(ini("FileLocations", "GamesCaption"), "&Games");
+}
+
+TEST_F(PreferencesTest, TheSoundCanOnlyBeChosenWhenThereIsOne)
+{
+    setIni("Miscellaneous", "PlayWavOnStartup", "1");
+    start();
+    inPreferences([this] {
+        EXPECT_FALSE(preferences().miscellaneousPage.WavPlay.Enabled);
+        EXPECT_FALSE(preferences().miscellaneousPage.WavPlay.Value);
+    });
+    EXPECT_EQ(ini("Miscellaneous", "PlayWavOnStartup"), "1") << "a choice that wasn't offered stays";
+    files.write("c:\\tarvex\\tarvexbig.wav", "RIFF");
+    start();
+    inPreferences([this] {
+        EXPECT_TRUE(preferences().miscellaneousPage.WavPlay.Enabled);
+        preferences().miscellaneousPage.WavPlay.Value = false;
+    });
+    EXPECT_EQ(ini("Miscellaneous", "PlayWavOnStartup"), "0");
+}
+
+TEST_F(PreferencesTest, ToolbarTipsAndCalibrationFollowAtOnce)
+{
+    inPreferences([this] {
+        MiscellaneousPage& page = preferences().miscellaneousPage;
+        page.CheckFlattenToolbar[0].Value = false;
+        page.CheckFlattenToolbar[1].Value = true;
+        page.CheckFlattenToolbar[2].Value = true;
+        page.CheckDisableCalibrate.Value = true;
+        page.CheckShowTooltips.Value = false;
+        page.CheckShowTooltips.Click();
+        preferences().savingPage.SaveBothChk.Value = true;
+    });
+    Mum& mum = program().mum;
+    EXPECT_FALSE(mum.Toolbar1.Flat);
+    EXPECT_TRUE(mum.Toolbar1.Wrappable);
+    EXPECT_TRUE(mum.Gradient);
+    EXPECT_FALSE(menus().mnuAppsProPanel.Visible);
+    EXPECT_FALSE(mum.Toolbar1.Buttons(37).Visible);
+    EXPECT_EQ(mum.Toolbar1.Buttons(1).ToolTipText.get(), "");
+    EXPECT_EQ(settings().SaveBothOnToolbar, 1);
+}
+
+TEST_F(PreferencesTest, TheDelayTakesWholeNumbersOnly)
+{
+    inPreferences([this] {
+        TextBox& box = preferences().miscellaneousPage.DLYText;
+        EXPECT_EQ(box.Text.get(), "60");
+        box.Text = "8x0";
+        EXPECT_EQ(box.Text.get(), "80");
+        EXPECT_EQ(settings().DefaultDLYvalue, 80);
+        box.Text = "";
+        box.Text = "99999";
+        EXPECT_EQ(settings().DefaultDLYvalue, 80) << "16 bits are all that it has";
+    });
+    EXPECT_EQ(ini("Miscellaneous", "DefaultDLYvalue"), "80");
+}
+
+TEST_F(PreferencesTest, EachIniFileIsWrittenOnceAtMost)
+{
+    inPreferences([this] {
+        preferences().fileLocationsPage.Text2.Text = "c:\\other";
+        preferences().fileLocationsPage.Text1.Text = "c:\\tm\\winld.exe";
+        files.clearWrites();
+    });
+    EXPECT_LE(files.writes().size(), 2U);
+}
+
+// ---- colours and fonts
+// --------------------------------------------------------------------------------------------------
+
+TEST_F(PreferencesTest, TheSamplesArePaintedInTheColoursOfTheSettings)
+{
+    inPreferences([this] {
+        const Pane& sample = preferences().coloursPage.ExampleJoystickText;
+        const auto colourAt = [&](const char* text) { return sample.formatAt(sample.Text().find(text)).colour; };
+        EXPECT_EQ(colourAt("Rem ---"), settings().RemStatements);
+        EXPECT_EQ(colourAt("BTN T4"), settings().BTNColour);
+        EXPECT_EQ(colourAt("/P RAW"), settings().SlashColour);
+        EXPECT_EQ(colourAt("RAW (#5B)"), settings().RAWColour);
+        EXPECT_EQ(sample.BackColor.get(), settings().BackgroundColour);
+        EXPECT_EQ(preferences().coloursPage.ExampleMacroText.BackColor.get(), settings().MacroBackgroundColour);
+    });
+}
+
+TEST_F(PreferencesTest, AChosenColourIsStoredShownAndWritten)
+{
+    static constexpr Colour green = 0x00AA00;
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        dialogues.colours.emplace_back(green);
+        page.List1.ListIndex = 3;
+        page.List1.Click();
+        EXPECT_EQ(settings().SlashColour, green) << "at once";
+        const Pane& sample = page.ExampleJoystickText;
+        EXPECT_EQ(sample.formatAt(sample.Text().find("/P RAW")).colour, green);
+        EXPECT_EQ(sample.formatAt(sample.Text().find("BTN T4")).colour, settings().BTNColour);
+    });
+    EXPECT_EQ(ini("Colours", "SlashColour"), std::to_string(green));
+}
+
+TEST_F(PreferencesTest, ACancelledColourChangesNothing)
+{
+    const Colour before = settings().RAWColour;
+    inPreferences([this] {
+        dialogues.colours.emplace_back(std::nullopt);
+        preferences().coloursPage.List1.ListIndex = 4;
+        preferences().coloursPage.List1.Click();
+        EXPECT_EQ(dialogues.coloursShown.back(), settings().RAWColour);
+    });
+    EXPECT_EQ(settings().RAWColour, before);
+}
+
+TEST_F(PreferencesTest, AMacroItemBringsTheMacroSampleAndItsTextStaysBlack)
+{
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        dialogues.colours.emplace_back(0x0000FF);
+        page.List1.ListIndex = 8;
+        page.List1.Click();
+        EXPECT_EQ(page.SSTab2.Tab, 1);
+        EXPECT_EQ(dialogues.coloursShown.back(), 0);
+        const Pane& sample = page.ExampleMacroText;
+        EXPECT_EQ(sample.formatAt(sample.Text().find("Yes")).colour, 0);
+    });
+}
+
+TEST_F(PreferencesTest, NewColoursAreOnBothPanesWhenTheDialogueCloses)
+{
+    typeJoystick("BTN S1 a");
+    menus().mnuViewColourJoystick.Click();
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        ApplyColour(page, 0, 0x00FFFF);
+        ApplyColour(page, 2, 0x123456);
+        ApplyColour(page, 7, 0xFFFF00);
+    });
+    EXPECT_EQ(editor().JoystickText.BackColor.get(), 0x00FFFF);
+    EXPECT_EQ(editor().MacroText.BackColor.get(), 0xFFFF00);
+    EXPECT_EQ(editor().JoystickText.formatAt(0).colour, 0x123456);
+}
+
+TEST_F(PreferencesTest, ANewFontIsOnBothPanesWithTheColoursKept)
+{
+    typeJoystick("BTN S1 a");
+    menus().mnuViewColourJoystick.Click();
+    const Colour before = editor().JoystickText.formatAt(0).colour;
+    const std::int16_t state = editor().pair.JoystickChanged;
+    inPreferences([this] {
+        preferences().coloursPage.CheckFixedPitch.Value = true;
+        dialogues.fonts.emplace_back(FontChoice{"Courier New", 11.7F, true});
+        preferences().coloursPage.Command18.Click();
+        EXPECT_TRUE(dialogues.fixedPitchWanted);
+        EXPECT_EQ(program().shared.FontChanged, 1);
+    });
+    EXPECT_EQ(settings().TextFontSize, 11) << "cut to a whole number";
+    EXPECT_EQ(ini("Colours", "TextFontName"), "Courier New");
+    EXPECT_EQ(editor().JoystickText.Font(), (PaneFont{"Courier New", 11, true}));
+    EXPECT_EQ(editor().JoystickText.formatAt(0).colour, before);
+    EXPECT_EQ(editor().pair.JoystickChanged, state) << "a font is no edit";
+    EXPECT_EQ(program().shared.FontChanged, 0);
+}
+
+// ---- lists
+// --------------------------------------------------------------------------------------------------------------
+
+struct PreferencesLists : PreferencesTest {
+    PreferencesLists()
+    {
+        setIni("Favourites", "FavArrayNum", "2");
+        for (const char* number : {"1", "2"}) {
+            setIni("Favourites", std::string("FavName") + number, std::string("fav") + number);
+            setIni("Favourites", std::string("FavJFPath") + number, std::string("c:\\f") + number + ".b50");
+            setIni("Favourites", std::string("FavMFPath") + number, std::string("c:\\f") + number + ".m50");
+            setIni("Games", std::string("GameName") + number, std::string("game") + number);
+            setIni("Games", std::string("GamePath") + number, std::string("d:\\g") + number + ".exe +Fast");
+        }
+        setIni("Games", "GameArrayNum", "2");
+        start();
+    }
+    FavouritesPage& favourites() { return preferences().favouritesPage; }
+    GamesPage& games() { return preferences().gamesPage; }
+};
+
+TEST_F(PreferencesLists, ApplyTakesTheBoxesIntoTheChosenFavourite)
+{
+    inPreferences([this] {
+        favourites().List2.ListIndex = 1;
+        favourites().List2.Click();
+        EXPECT_EQ(favourites().Text7.Text.get(), "fav2");
+        favourites().Text7.Text = "Night";
+        favourites().Text8.Text = "C:\\Night.B50";
+        favourites().Command14.Click();
+        EXPECT_THAT(favourites().List2.Items.get(), ElementsAre("fav1", "Night"));
+    });
+    EXPECT_EQ(menus().mnuFavArray[2].Caption.get(), "Night");
+    EXPECT_EQ(ini("Favourites", "FavName2"), "Night");
+    EXPECT_EQ(ini("Favourites", "FavJFPath2"), "c:\\night.b50");
+}
+
+TEST_F(PreferencesLists, BoxesThatWereNotAppliedChangeNothing)
+{
+    inPreferences([this] { favourites().Text7.Text = "Nobody"; });
+    EXPECT_EQ(ini("Favourites", "FavName1"), "fav1");
+}
+
+TEST_F(PreferencesLists, ARemovedFavouriteIsGoneFromMenuAndFile)
+{
+    inPreferences([this] {
+        favourites().Command13.Click();
+        EXPECT_EQ(favourites().Text7.Text.get(), "fav2");
+        favourites().Command13.Click();
+        EXPECT_FALSE(favourites().Text7.Enabled);
+        EXPECT_FALSE(favourites().Command13.Enabled);
+    });
+    EXPECT_EQ(ini("Favourites", "FavArrayNum"), "0");
+    EXPECT_EQ(menus().mnuFavArray.UBound(), 0);
+}
+
+TEST_F(PreferencesLists, TheTickMarksTheFavouriteThatIsOpenedAtStart)
+{
+    inPreferences([this] {
+        favourites().LoadAppCheckBox.Value = true;
+        favourites().LoadAppCheckBox.Click();
+        favourites().List2.ListIndex = 1;
+        favourites().List2.Click();
+        EXPECT_FALSE(favourites().LoadAppCheckBox.Value) << "it is the other one";
+    });
+    EXPECT_EQ(ini("Favourites", "FavLoadOnStart"), "1");
+    EXPECT_EQ(ini("Favourites", "FavNameToLoad"), "fav1");
+}
+
+TEST_F(PreferencesLists, WhatIsWrittenAboutAGameBelongsToItAtOnce)
+{
+    inPreferences([this] {
+        games().List3.ListIndex = 1;
+        games().List3.Click();
+        EXPECT_EQ(games().Text11.Text.get(), "d:\\g2.exe +Fast");
+        games().Text12.Text = "Falcon";
+        games().Text13.Text = "C:\\F.B50";
+        EXPECT_THAT(games().List3.Items.get(), ElementsAre("game1", "Falcon"));
+        games().List3.ListIndex = 0;
+        games().List3.Click();
+        EXPECT_EQ(games().Text12.Text.get(), "game1") << "showing another game writes nothing";
+    });
+    EXPECT_EQ(menus().mnuGameArray[2].Caption.get(), "Falcon");
+    EXPECT_EQ(ini("Games", "GameName2"), "Falcon");
+    EXPECT_EQ(ini("Games", "GameJF2"), "C:\\F.B50");
+    EXPECT_EQ(ini("Games", "GamePath2"), "d:\\g2.exe +Fast") << "switches keep their case";
+}
+
+TEST_F(PreferencesLists, TheLastGameRemovedGreysThePage)
+{
+    inPreferences([this] {
+        games().Command12.Click();
+        games().Command12.Click();
+        EXPECT_FALSE(games().Text12.Enabled);
+        EXPECT_EQ(games().Text12.Text.get(), "");
+    });
+    EXPECT_EQ(ini("Games", "GameArrayNum"), "0");
+    EXPECT_EQ(menus().mnuGameArray.UBound(), 0);
+}
+
+} // namespace
+} // namespace tarvex
