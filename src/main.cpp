@@ -5,6 +5,7 @@
 #include "desktop/platform/qt_dialogues.h"
 #include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
+#include "desktop/preferences/preferences_view.h"
 #include "desktop/program/mum_window.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
@@ -118,6 +119,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
     addListForms(dialogues, program.lists, &window);
+    addPreferencesForm(dialogues, program.preferences, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;

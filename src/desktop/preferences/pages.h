@@ -1,0 +1,22 @@
+#pragma once
+
+#include "preferences/preferences.h"
+
+class QWidget;
+
+namespace tarvex {
+
+class Bindings;
+
+// The pages of the preferences, each with all its controls under their own names. They belong to whoever takes them.
+
+QWidget* fileLocationsPageView(FileLocationsPage& page, Bindings& bindings);
+QWidget* coloursPageView(ColoursPage& page, Bindings& bindings);
+QWidget* appsPageView(AppsPage& page, Bindings& bindings);
+QWidget* favouritesPageView(FavouritesPage& page, Bindings& bindings);
+QWidget* gamesPageView(GamesPage& page, Bindings& bindings);
+QWidget* savingPageView(SavingPage& page, Bindings& bindings);
+QWidget* miscellaneousPageView(MiscellaneousPage& page, Bindings& bindings);
+QWidget* winLoadPageView(WinLoadPage& page, Bindings& bindings);
+
+} // namespace tarvex

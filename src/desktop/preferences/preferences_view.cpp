@@ -1,0 +1,84 @@
+#include "desktop/preferences/preferences_view.h"
+
+#include "desktop/platform/qt_dialogues.h"
+#include "desktop/preferences/pages.h"
+
+#include <QBoxLayout>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include <algorithm>
+
+namespace tarvex {
+
+namespace {
+
+/// Size of a dialogue around the tabs at which all tabs are seen and no page scrolls; `hint` is its own idea.
+QSize roomyDialogue(QTabWidget& tabs, const QSize& hint)
+{
+    QSize pages;
+    for (int i = 0; i < tabs.count(); ++i) {
+        const auto* area = static_cast<const QScrollArea*>(tabs.widget(i));
+        pages = pages.expandedTo(area->widget()->sizeHint());
+    }
+    tabs.setUsesScrollButtons(false); // so that the row of tabs asks for all of its width
+    const QSize row = tabs.tabBar()->sizeHint();
+    tabs.setUsesScrollButtons(true);
+    const int frame = tabs.fontMetrics().height() * 2; // of tabs and pages
+    const QSize others = hint - tabs.sizeHint();
+    const QSize around(std::max(pages.width(), row.width()) + frame, pages.height() + row.height() + frame);
+    return hint.expandedTo(others + around);
+}
+
+} // namespace
+
+PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
+    : FormWindow(preferences.Form, QStringLiteral("Preferences"), parent)
+{
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName(QStringLiteral("SSTab1"));
+    addPage(*tabs, fileLocationsPageView(preferences.fileLocationsPage, m_bindings));
+    addPage(*tabs, coloursPageView(preferences.coloursPage, m_bindings));
+    addPage(*tabs, appsPageView(preferences.appsPage, m_bindings));
+    addPage(*tabs, favouritesPageView(preferences.favouritesPage, m_bindings));
+    addPage(*tabs, gamesPageView(preferences.gamesPage, m_bindings));
+    addPage(*tabs, savingPageView(preferences.savingPage, m_bindings));
+    addPage(*tabs, miscellaneousPageView(preferences.miscellaneousPage, m_bindings));
+    addPage(*tabs, winLoadPageView(preferences.winLoadPage, m_bindings));
+    m_bindings.pages(preferences.SSTab1, *tabs);
+
+    auto* box = new QDialogButtonBox(this);
+    QPushButton* ok = box->addButton(QDialogButtonBox::Ok);
+    QPushButton* help = box->addButton(QDialogButtonBox::Help);
+    ok->setObjectName(QStringLiteral("Command3"));
+    help->setObjectName(QStringLiteral("Command6"));
+    ok->setDefault(true);
+    m_bindings.button(preferences.Command3, *ok);
+    m_bindings.button(preferences.Command6, *help);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(tabs);
+    column->addWidget(box);
+    ensurePolished();
+    resize(roomyDialogue(*tabs, sizeHint()).boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void PreferencesView::addPage(QTabWidget& tabs, QWidget* page)
+{
+    auto* area = new QScrollArea(&tabs);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    tabs.addTab(area, {});
+}
+
+void addPreferencesForm(QtDialogues& dialogues, Preferences& preferences, QWidget* parent)
+{
+    dialogues.addForm("Preferences", [&preferences, parent] { PreferencesView(preferences, parent).showModally(); });
+}
+
+} // namespace tarvex
