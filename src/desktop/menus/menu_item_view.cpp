@@ -27,10 +27,10 @@ QString cutInMiddle(const QString& caption)
     return QFontMetrics(QApplication::font("QMenu")).elidedText(caption, Qt::ElideMiddle, widest);
 }
 
-void showWholeInTip(const std::string& caption, const QString& shown, QAction& action)
+QString withoutMark(QString caption)
 {
-    const QString whole = printable(toQt(caption));
-    action.setToolTip(shown == whole ? QString() : wrappingTip(whole));
+    const qsizetype mark = caption.indexOf(u'&');
+    return mark < 0 ? caption : caption.remove(mark, 1);
 }
 
 void bindCommand(MenuItem& item, QAction& action, Bindings& bindings)
@@ -55,10 +55,11 @@ void bindItem(MenuItem& item, QAction& action, Bindings& bindings, const QString
 {
     bindCommand(item, action, bindings);
     bindings.bind(item.Caption, [&action, shownKeys, accessKey](const std::string& caption) {
-        const QString shown = cutInMiddle(printable(toQt(caption)));
+        const QString whole = printable(toQt(caption));
+        const QString shown = cutInMiddle(whole);
         action.setText((accessKey != '\0' ? withAccessKey(shown, accessKey) : withOneAccessKey(shown)) +
                        (shownKeys.isEmpty() ? QString() : u'\t' + shownKeys));
-        showWholeInTip(caption, shown, action);
+        action.setToolTip(shown == whole ? QString() : wrappingTip(withoutMark(whole)));
     });
 }
 
@@ -66,9 +67,10 @@ void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings)
 {
     bindCommand(item, action, bindings);
     bindings.bind(item.Caption, [&action](const std::string& caption) {
-        const QString shown = cutInMiddle(printable(toQt(caption)));
+        const QString whole = printable(toQt(caption));
+        const QString shown = cutInMiddle(whole);
         action.setText(withoutAccessKeys(shown));
-        showWholeInTip(caption, shown, action);
+        action.setToolTip(shown == whole ? QString() : wrappingTip(whole));
     });
 }
 

@@ -119,7 +119,7 @@ TEST(MumWindow, ALongCaptionIsCutInItsMiddleAndWholeInTheTip)
     EXPECT_TRUE(action.text().startsWith("&Download xx"));
     EXPECT_TRUE(action.text().endsWith("xx.b50"));
     EXPECT_TRUE(menu.toolTipsVisible());
-    EXPECT_TRUE(action.toolTip().remove(QChar(0x200B)).contains(QString(300, 'x') + ".b50"));
+    EXPECT_EQ(action.toolTip().remove(QChar(0x200B)), "<span>Download " + QString(300, 'x') + ".b50</span>");
     item.Caption = "&Download short.b50";
     EXPECT_EQ(action.text(), "&Download short.b50");
     EXPECT_FALSE(action.toolTip().contains("<span>"));
