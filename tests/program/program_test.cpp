@@ -43,7 +43,8 @@ TEST(Start, OnANewMachineSavesTheSettingsDetectsAndLeadsToThePreferences)
     Program program(machine.platform);
     EXPECT_TRUE(program.start());
     EXPECT_EQ(machine.ini("FileLocations", "ProgramFilesPath"), "c:\\tqs\\programs");
-    EXPECT_EQ(machine.ini("Apps", "ImageFilePath"), "c:\\tarvex\\AboutTarvy.bmp");
+    EXPECT_EQ(machine.ini("Apps", "ImageFilePath"), "c:\\tarvex\\abouttarvy.bmp")
+        << "in lower case: the preferences have closed";
     EXPECT_EQ(machine.ini("Apps", "TextFilePath"), "c:\\tarvex\\readme.txt");
     EXPECT_EQ(machine.ini("Colours", "BTNColour"), "16711680");
     ASSERT_EQ(machine.dialogues.boxes.size(), 1U);
@@ -58,14 +59,15 @@ TEST(Start, OnANewMachineSavesTheSettingsDetectsAndLeadsToThePreferences)
         << "the detected folder has no closing backslash";
 }
 
-TEST(Start, WithoutAPreferencesWindowTheFirstUseIsOverAfterItsBox)
+TEST(Start, TheFirstUseIsOverWhenThePreferencesHaveClosed)
 {
-    for (const bool exists : {true, false}) {
-        TestMachine machine;
-        machine.dialogues.modalFormsExist = exists;
-        EXPECT_TRUE(Program(machine.platform).start());
-        EXPECT_EQ(machine.ini("FileLocations", "FirstTimeUsed"), exists ? "1" : "0");
-    }
+    TestMachine machine;
+    machine.dialogues.whileModal = [&] {
+        const bool preferences = machine.dialogues.modalForms.back() == "Preferences"; // the tip follows
+        EXPECT_EQ(machine.ini("FileLocations", "FirstTimeUsed"), preferences ? "1" : "0");
+    };
+    EXPECT_TRUE(Program(machine.platform).start());
+    EXPECT_EQ(machine.ini("FileLocations", "FirstTimeUsed"), "0");
 }
 
 TEST(Start, DetectsNothingOnceAProgramsFolderIsSet)
