@@ -158,7 +158,7 @@ bool follow(Journal& journal, const Record& record)
     Contents contents(record.contents);
     if (record.kind == journalKind::edit) {
         const TextEdit edit = contents.edit();
-        return contents.wereWhole() && apply(journal.text, edit);
+        return contents.wereWhole() && tarvex::apply(journal.text, edit);
     }
     if (record.kind != journalKind::partner) return false;
     const std::string path = contents.text();
@@ -254,7 +254,7 @@ JournalState readJournal(std::string_view bytes, Journal& journal)
     const auto first = takeRecord(rest, chain); // its sum says more than the mark, which may be damaged
     auto start = first ? readStart(*first) : std::nullopt;
     std::string text = start ? start->base : std::string();
-    if (!start || !apply(text, start->edit))
+    if (!start || !tarvex::apply(text, start->edit))
         return isOtherVersion(bytes) ? JournalState::OtherVersion : JournalState::Damaged;
     journal = {std::move(*start), std::move(text), !isMarked};
     while (!rest.empty()) {
