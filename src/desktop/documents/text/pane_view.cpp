@@ -49,7 +49,10 @@ void PaneView::bindPane()
     });
     m_bindings.bind(m_pane.BackColor, [this](Colour) { showColours(); });
     m_bindings.follow(m_pane.fontChanged, [this] { showFont(); });
-    m_bindings.follow(m_pane.focusWanted, [this] { setFocus(Qt::OtherFocusReason); });
+    m_bindings.follow(m_pane.focusWanted, [this] {
+        setFocus(Qt::OtherFocusReason);
+        if (!hasFocus()) m_stillChosen = true; // the keyboard comes with the window, as at the start
+    });
     m_bindings.follow(m_pane.refreshWanted, [this] { viewport()->update(); });
     showFont();
 }

@@ -66,6 +66,18 @@ struct EditorFocusTest : testing::Test {
     }
 };
 
+TEST(EditorFocus, TheWelcomeOutlivesTheFirstActivationOfTheWindow)
+{
+    TestProgram t;
+    MumWindow window(t.program());
+    FocusCounter comes(window.editor().pane(t.editor().joystick));
+    t.editor().JoystickText.SetFocus(); // as the start does, before the window is there
+    window.showNormal();
+    EditorFocusTest::activate(window);
+    EXPECT_GE(comes.count, 1);
+    EXPECT_EQ(t.status(), "Ready! Welcome to Tarvex!");
+}
+
 TEST_F(EditorFocusTest, AStatusTextOutlivesABox)
 {
     QTimer::singleShot(0, [] {
