@@ -1,4 +1,4 @@
-// Tells how soon a program shows its first window, and what it costs in memory.
+// Measures how soon a program shows its first window, and what it costs in memory.
 //
 //   window_start --heading
 //   window_start [--runs N] [--name NAME] COMMAND [ARGUMENT...]
@@ -157,7 +157,7 @@ public:
     Screen& operator=(const Screen&) = delete;
     ~Screen() { XCloseDisplay(m_display); }
 
-    /// Waits a little for events and enters what they tell in `start`. Times count from `begin`.
+    /// Waits a little for events and enters what they report in `start`. Times count from `begin`.
     void watch(Clock::time_point begin, Start& start)
     {
         pollfd ready{ConnectionNumber(m_display), POLLIN, 0};

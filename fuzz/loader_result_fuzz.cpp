@@ -1,4 +1,4 @@
-// Any bytes as a loader's result file: it reads the same in pieces of any size, and as the whole text tells.
+// Any bytes as a loader's result file: it reads the same in pieces of any size, and as the whole text says.
 // The first byte is the size of the pieces.
 
 #include "download/loader_result.h"

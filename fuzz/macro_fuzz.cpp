@@ -18,7 +18,7 @@ void require(bool holds)
     if (!holds) std::abort();
 }
 
-/// The lists tell the macros of the lines, and each of them under the last heading above it.
+/// The lists hold the macros of the lines, and each of them under the last heading above it.
 void checkMacroList(std::string_view file)
 {
     MacroRecord record;

@@ -19,7 +19,7 @@ struct ColourOptions {
     ColourForm form = ColourForm::Default; ///< ANSI on a terminal, else JSON
 };
 
-/// Prints the coloured text. Returns the exit status; what was held is told on standard error, too.
+/// Prints the coloured text. Returns the exit status; what was held is reported on standard error, too.
 int colourCommand(const ColourOptions& options);
 
 } // namespace tarvex::cli

@@ -9,7 +9,7 @@ struct StatementOptions {
     std::string head; ///< UTF-8, e.g. "S1"
     bool json = false;
 };
-/// Prints the statement with that head. Returns the exit status; a statement that isn't there is told on standard
+/// Prints the statement with that head. Returns the exit status; a missing statement is reported on standard
 /// error.
 int statementCommand(const StatementOptions& options);
 

@@ -82,7 +82,7 @@ bool nameFits(Editor& editor)
     return false;
 }
 
-/// WinLoad's result file of a run, told apart from one that an earlier run has left.
+/// WinLoad's result file of a run, as distinct from one that an earlier run has left.
 class ResultFile {
 public:
     ResultFile(Editor& editor, const Steps& step)

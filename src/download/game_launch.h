@@ -6,7 +6,7 @@
 namespace tarvex {
 
 /// Downloads the game's joystick file if the user wants that first, starts the game in its working directory, and ends
-/// the program. What fails is told, and the program stays.
+/// the program. A failure is reported, and the program stays.
 void launchGame(Editor& editor, const Game& game);
 
 } // namespace tarvex

@@ -44,8 +44,8 @@ std::string pathNeededFor(std::string_view tool)
                 "rather be on a beach somewhere than running this Tarvex rubbish.");
 }
 
-/// The beginning of the common road: changes to the Control Centre's folder. False: it isn't known, and the user was
-/// told so.
+/// The common beginning: changes to the Control Centre's folder. False: it isn't known, and the user was
+/// informed.
 bool enterControlCentre(Editor& editor, std::string_view mentioned, const Steps& step)
 {
     const std::string& path = editor.shared.settings.CandCCPath.whole();

@@ -12,7 +12,7 @@ enum class FileKind { Joystick, Macro, Other };
 FileKind kindOfFile(const std::string& name);
 
 /// Path of the partner by name alone: same base, the extension of the same controller family. Extensions of no family
-/// give the one that the settings tell.
+/// give the one of the settings.
 std::string associatedJoystickFile(const std::string& macroPath, const Settings& settings);
 std::string associatedMacroFile(const std::string& joystickPath, const Settings& settings);
 

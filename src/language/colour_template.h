@@ -22,8 +22,8 @@ struct TemplateColouring {
     std::function<void(const Hold&)> held;
 };
 
-/// Colours a template by the joystick file's rules, with the differences that its list of passes tells. The caret
-/// stays. An empty template is only told.
+/// Colours a template by the joystick file's rules, with the differences in its list of passes. The caret
+/// stays. An empty template is only reported.
 void ColourTemplateText(const TemplateColouring& work);
 
 } // namespace tarvex

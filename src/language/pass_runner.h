@@ -20,7 +20,7 @@ struct Hold {
     bool isFirstOfRun = false; ///< only the first one asks for the user's patience
 };
 
-/// What a run works on and whom it tells. All that it refers to outlives the run.
+/// What a run works on and reports to. All that it refers to outlives the run.
 struct PassRun {
     Pane& pane;
     const Settings& settings;              ///< the colours

@@ -4,7 +4,7 @@
 
 namespace tarvex {
 
-/// Reads the programs of the user's own choice, and the files of the viewers, and brings the menu up to date.
+/// Reads the user's own programs, and the files of the viewers, and brings the menu up to date.
 void GetCustomApps(Editor& editor);
 /// Names the four items and shows those in use; with none in use their dividing line goes too.
 void UpdateMnuCustomApps(Editor& editor);

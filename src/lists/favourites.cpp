@@ -9,7 +9,7 @@ namespace tarvex {
 
 namespace {
 
-/// False: there is nothing to add yet, and the user was told why.
+/// False: there is nothing to add yet, and the user knows why.
 bool areSaved(Editor& editor)
 {
     const auto refuse = [&](const char* title, const char* text) {

@@ -35,7 +35,7 @@ void SaveFavourites(Favourites& favourites);
 /// Makes the three arrays as long as the count says.
 void FavsRedim(Favourites& favourites);
 
-/// Opens one file of a pair without asking for its name. Extensions are told apart with regard to case.
+/// Opens one file of a pair without asking for its name. Extensions are compared with regard to case.
 void OpenFavouriteFile(Favourites& favourites, const std::string& path);
 /// The macro file is opened first, so that the joystick file is the one that is seen.
 void mnuFavArray_Click(Favourites& favourites, int index);

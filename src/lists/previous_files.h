@@ -47,7 +47,7 @@ std::int16_t IsMFonMenuAlready(PreviousFiles& files, const std::string& path);
 void UpdateRecentJFMenuList(PreviousFiles& files);
 void UpdateRecentMFMenuList(PreviousFiles& files);
 
-/// Opens the file that the item names; one that is gone is told and stays in the list.
+/// Opens the file that the item names; a missing one is reported and stays in the list.
 void mnuJFArray_Click(PreviousFiles& files, int index);
 void mnuMFArray_Click(PreviousFiles& files, int index);
 void mnuPreviousClearAllJ_Click(PreviousFiles& files);

@@ -12,9 +12,9 @@
 #include <string_view>
 #include <vector>
 
-// Windows are told as state: the logic reads and sets the members below, a view shows them and reports what the user
+// Windows are state: the logic reads and sets the members below, a view shows them and reports what the user
 // does. Property and control names are the ones that the program's texts, settings and tests use. Texts are UTF-8;
-// "&" in a caption marks the access key. Positions and sizes are in twips (1/1440 inch) unless told otherwise.
+// "&" in a caption marks the access key. Positions and sizes are in twips (1/1440 inch) unless stated otherwise.
 
 namespace tarvex {
 
@@ -43,7 +43,7 @@ struct MenuItem {
     Property<bool> Enabled = true;
     Property<bool> Visible = true;
     Property<bool> Checked = false;
-    std::function<void()> handler; ///< set by whoever owns the command; none while the command isn't there
+    std::function<void()> handler; ///< set by the owner of the command; none while the command isn't there
 
     /// Runs the command as a call of the program does, whatever Enabled says. No handler: nothing happens.
     void Click() const
@@ -52,7 +52,7 @@ struct MenuItem {
     }
 };
 
-/// Items of one name, told apart by their index from 0. Lists of the user's have a pattern at 0, which stands in for
+/// Items of one name, distinguished by their index from 0. User lists have a pattern at 0, which stands in for
 /// an empty list, and their entries from 1.
 class MenuArray {
 public:
@@ -134,7 +134,7 @@ struct Label {
     Property<std::string> Caption;
 };
 
-/// A tick of the user's is in Value when Click runs.
+/// The user's tick is in Value when Click runs.
 struct CheckBox {
     Property<std::string> Caption;
     Property<bool> Value = false;
@@ -259,7 +259,7 @@ struct ProgressBar {
 class ToolBar {
 public:
     struct Slot : Button {
-        Placement Place; ///< inside the bar, told by the view; empty while the button isn't to be seen
+        Placement Place; ///< inside the bar, set by the view; empty while the button isn't to be seen
     };
     explicit ToolBar(int count) : m_buttons(static_cast<std::size_t>(count)) {}
 

@@ -13,7 +13,7 @@ std::string fileNameOf(std::string_view path);
 std::string directoryOf(std::string_view path);
 /// Drive and root of a path that has a drive ("c:\"), else empty.
 std::string rootOf(std::string_view path);
-/// The last three characters, lower-cased: how the program tells kinds of files apart.
+/// The last three characters, lower-cased: how the program distinguishes kinds of files.
 std::string lastThree(std::string_view path);
 /// The path without its last three characters, followed by `extension`.
 std::string withLastThree(std::string_view path, std::string_view extension);

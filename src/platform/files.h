@@ -11,7 +11,8 @@
 
 namespace tarvex {
 
-/// Tells two states of a file apart; equal stamps mean that the file hasn't changed. A missing file has its own stamp.
+/// Distinguishes two states of a file; equal stamps mean that the file hasn't changed. A missing file has its own
+/// stamp.
 struct FileStamp {
     std::uint64_t size = 0;
     std::int64_t modifiedNanoseconds = 0;
@@ -30,7 +31,7 @@ public:
     /// an earlier call, ask again. Throws RuntimeError when the disk didn't take what an earlier call gave it.
     virtual bool sync() = 0;
     /// The disk has all that the calls of sync gave it. False: it is still busy. Throws as sync does; each failure is
-    /// told once.
+    /// reported once.
     virtual bool isSynced() = 0;
 };
 
@@ -56,7 +57,7 @@ public:
     }
     /// Replaces or creates the whole file: afterwards, whatever happens, the old or the new contents are there.
     virtual void write(const std::string& path, const std::string& bytes) = 0;
-    /// As write, for contents that nobody but the owner may access, whoever could access the file before.
+    /// As write, for contents that nobody but the owner may access, whatever rights the file had before.
     virtual void writePrivate(const std::string& path, const std::string& bytes) { write(path, bytes); }
     /// Copies a file of any size; nobody but the owner may access the copy. An existing file `to` is an error.
     virtual void copyPrivate(const std::string& from, const std::string& to)

@@ -1,6 +1,6 @@
 #pragma once
 
-// How mouse and keyboard events tell what was held: sums of the values below.
+// How mouse and keyboard events report what was held: sums of the values below.
 
 namespace tarvex {
 

@@ -29,7 +29,7 @@ public:
     /// Size of the screen in twips.
     virtual float screenWidth() const = 0;
     virtual float screenHeight() const = 0;
-    /// The pointer that tells the user to wait, on or off.
+    /// The pointer that asks the user to wait, on or off.
     virtual void showHourglass(bool on) = 0;
     /// Ends the message loop; the process ends in good order.
     virtual void quit() = 0;
@@ -48,7 +48,7 @@ public:
     virtual ClipboardContent get() const = 0;
     /// There is a text to get, plain or as RTF. Cheap enough for every key.
     virtual bool holdsText() const = 0;
-    Signal<> changed; ///< it may hold something else than before, by whoever
+    Signal<> changed; ///< the contents may have changed, in this program or another
 };
 
 /// The world as the program sees it. All members outlive the program.

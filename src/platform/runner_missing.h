@@ -4,8 +4,8 @@
 
 namespace tarvex {
 
-/// A program wasn't started since what runs programs of its kind isn't there. The user was told so, with what to do
-/// about it: nobody tells it again.
+/// A program wasn't started since what runs programs of its kind isn't there. A box has said so, with what to do
+/// about it: nobody reports it again.
 struct RunnerMissing : RuntimeError {
     RunnerMissing() : RuntimeError(ErrorCode::FileNotFound, "File not found") {}
 };

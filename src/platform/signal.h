@@ -20,8 +20,8 @@ private:
     std::shared_ptr<void> m_listener;
 };
 
-/// Tells any number of listeners, in the order in which they were connected. Listeners may connect, disconnect and
-/// emit again while they are told; one that is connected meanwhile is told from the next time on. The signal itself
+/// Notifies any number of listeners, in the order in which they were connected. Listeners may connect, disconnect and
+/// emit again while they run; one that is connected meanwhile runs from the next emission on. The signal itself
 /// must live until its emission returns. Costs one pointer while nobody listens.
 template <typename... Args> class Signal {
 public:
@@ -50,7 +50,7 @@ private:
     std::unique_ptr<List> m_listeners;
 };
 
-/// A value that tells when it changes. Assigning an equal value tells nobody.
+/// A value that reports its changes. Assigning an equal value notifies nobody.
 template <typename T> class Property {
 public:
     Property() = default;

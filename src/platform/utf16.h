@@ -10,7 +10,7 @@ namespace tarvex {
 
 enum class Utf16Order { LittleEndian, BigEndian };
 
-/// The order that a file's mark (FF FE or FE FF) tells; nothing where the bytes begin with none.
+/// The order that a file's mark (FF FE or FE FF) states; nothing where the bytes begin with none.
 std::optional<Utf16Order> utf16OrderOf(std::string_view bytes);
 
 /// The mark becomes that of UTF-8. Half of a surrogate pair that stands alone becomes three bytes that are no valid

@@ -32,7 +32,7 @@ void loadSaving(SavingPage& page);
 void takeSaving(SavingPage& page);
 
 /// The minutes as they are typed: empty turns the automatic save off, less than 1 becomes 1, and what is no number, a
-/// negative one or one beyond 16 bits becomes 10, which the user is told.
+/// negative one or one beyond 16 bits becomes 10, with a box that says so.
 void Text3_Change(SavingPage& page);
 void Text3_LostFocus(SavingPage& page);
 /// The undo levels as they are typed, kept in 10 to 30000; the box follows when it is left.

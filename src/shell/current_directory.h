@@ -18,7 +18,7 @@ public:
 
     /// The current directory of the current drive; "\" at the end of a root only.
     const std::string& path() const { return m_directories.at(m_drive); }
-    /// A path as seen from here, as a full one. "." and ".." are left to whoever opens it.
+    /// A path as seen from here, as a full one. "." and ".." are left to the file system.
     std::string fullPath(std::string_view path) const;
 
     /// Makes the letter that the text begins with the current drive. Throws RuntimeError: InvalidCall when it begins

@@ -26,7 +26,7 @@ public:
 
     /// Stores the four values and calls ReportError.
     void report(std::string_view tag, const std::exception& error);
-    /// Shows nothing: there is no report window to ask. Clears ExitRequestedByError and acts on it as told above.
+    /// Shows nothing: there is no report window to ask. Clears ExitRequestedByError and acts on it as described above.
     void ReportError();
 
     /// Lets a report window set ExitRequestedByError while it is asked.

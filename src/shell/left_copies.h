@@ -7,7 +7,7 @@
 
 namespace tarvex {
 
-/// Tells the user of copies that a save, cut off in the midst, has left: the files they belong to may be half written.
+/// Informs the user of copies that an interrupted save has left: the files they belong to may be half written.
 /// No copies, no box.
 void tellLeftCopies(Dialogues& dialogues, const std::vector<std::string>& paths);
 

@@ -32,7 +32,7 @@ struct Mum {
     ProgressBar ProgressBar1;
     /// Colour of the text at the caret, shown over toolbar button 29.
     Property<Colour> Picture1 = 0;
-    Placement Picture1Place; ///< on the screen, in pixels; told by the view when it is wanted
+    Placement Picture1Place; ///< on the screen, in pixels; set by the view when it is wanted
     Signal<> Picture1PlaceWanted;
     Property<bool> Gradient = false; ///< the area behind the document window is painted in steps of a colour
     ToolWindows toolWindows;

@@ -23,7 +23,7 @@ struct Operations {
 
     Operation<> UpdateCCPButtons; ///< Cut, Copy and Paste follow selection and clipboard
 
-    Operation<const std::string&> HelpKeyword; ///< shows the help on a word of the user's, UTF-8
+    Operation<const std::string&> HelpKeyword; ///< shows the help on a word in the text, UTF-8
 
     // language
     Operation<> ApplyColourHighlighting;

@@ -31,7 +31,7 @@ struct Shared {
     std::string RtfDirectory;               ///< with "\" at the end
     std::string CommandLineFile;            ///< one path or nothing; no quotes are removed
     std::int16_t StartupSoundAvailable = 0; ///< 1: a start-up sound file exists
-    std::int16_t IsLoading = 0;             ///< 1: the program itself changes pane text; no edit of the user's
+    std::int16_t IsLoading = 0;             ///< 1: the program itself changes pane text; no user edit
     std::int16_t HardwareChangedMark = 0;   ///< 1: another joystick was chosen in the preferences
     std::int16_t PreferencesPage = 0;       ///< the page at which the preferences are to open, from 0
     std::int16_t FontChanged = 0;           ///< 1: the pane font was changed in the preferences

@@ -1,4 +1,4 @@
-// The whole road with real loaders: the stand-in, and such as nobody would like to have.
+// A whole download with real loaders: the stand-in, and such as nobody would like to have.
 
 #include "dos_loader.h"
 #include "platform/posix/processes/runners.h"
@@ -27,7 +27,7 @@ struct Road {
         EXPECT_TRUE(t->start());
         t->program->shared.settings.B50LoadPath = loaderPath;
         t->program->editor.status("old text");
-        t->dialogues.boxes.clear(); // what the opening told
+        t->dialogues.boxes.clear(); // what the opening reported
     }
     void standIn(const std::string& name) const
     {

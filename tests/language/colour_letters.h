@@ -7,7 +7,7 @@
 
 namespace tarvex {
 
-/// A scheme whose colours can be told apart.
+/// A scheme whose colours all differ.
 inline void setTestScheme(Settings& settings)
 {
     settings.BTNColour = 0x0000B1;

@@ -9,7 +9,7 @@
 
 namespace tarvex {
 
-/// The colouring told a second time, with nothing in mind but to be plain: a text, a colour for each character, and no
+/// The colouring a second time, written to be plain: a text, a colour for each character, and no
 /// pane.
 struct NaiveColouring {
     struct HeldAt {

@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// What tells the two lists apart.
+/// What differs between the two lists.
 struct Kind {
     const char* section;
     const char* countKey;

@@ -44,7 +44,7 @@ TEST_F(ToolWindowsTest, TheyComeBackAsTheyWereWhateverTheFrameIs)
 {
     open.State = WindowState::Maximised;
     setFrame(WindowState::Minimised);
-    setFrame(WindowState::Minimised); // told twice
+    setFrame(WindowState::Minimised); // reported twice
     setFrame(WindowState::Maximised);
     EXPECT_EQ(open.State, WindowState::Maximised);
 }

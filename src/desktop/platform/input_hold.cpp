@@ -67,7 +67,7 @@ void InputHold::hold()
     m_lostFocus = m_gotFocus = nullptr;
 }
 
-/// Who has the keyboard now is told when the work is done, and only if it isn't who had it before.
+/// The new keyboard owner is reported when the work is done, and only if it has changed.
 void InputHold::keepFocus(QWidget* widget, bool in)
 {
     QPointer<QWidget>& opposite = in ? m_lostFocus : m_gotFocus;

@@ -10,7 +10,7 @@ class QKeyEvent;
 namespace tarvex {
 
 /// Runs an event loop that lets the windows be drawn and nothing else happen: nothing is taken from the user, and no
-/// timer of the logic ticks. Who has the keyboard afterwards is told when the loop has ended.
+/// timer of the logic ticks. The keyboard owner is reported when the loop has ended.
 class InputHold : public QObject {
     Q_OBJECT
 public:

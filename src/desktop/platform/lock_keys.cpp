@@ -53,7 +53,7 @@ bool hasExtension(xcb_connection_t* display)
 
 } // namespace
 
-/// Follows the keyboard's lights, which are the same for all programs, whoever has the keyboard.
+/// Follows the keyboard's lights, which are the same for all programs, with or without the keyboard.
 class LockKeys::Watch : public QAbstractNativeEventFilter {
 public:
     Watch(xcb_connection_t* display, std::function<void(LockKeyState)> changed)

@@ -10,8 +10,8 @@ struct LockKeyState {
     bool numLock = false;
 };
 
-/// Tells the state of the keyboard's lock keys: once at the start and after each change. Where the window system
-/// doesn't say, it tells nothing.
+/// Reports the state of the keyboard's lock keys: once at the start and after each change. Where the window system
+/// doesn't say, it reports nothing.
 class LockKeys {
 public:
     /// There is a QGuiApplication, which outlives this.

@@ -9,7 +9,7 @@ namespace tarvex {
 
 class QtDesktop final : public Desktop {
 public:
-    /// `programDirectory` is a native path; the lock that tells one copy of the program from a second lies there.
+    /// `programDirectory` is a native path; the lock of the single instance lies there.
     explicit QtDesktop(std::string programDirectory) : m_programDirectory(std::move(programDirectory)) {}
 
     bool anotherInstanceRuns() override;

@@ -23,7 +23,7 @@ public:
     /// The drives outlive this.
     explicit QtDialogues(const DriveMap& drives) : m_drives(drives) {}
 
-    /// The window that the boxes belong to, and the menus that can pop up; none before they are told.
+    /// The window that the boxes belong to, and the menus that can pop up; none before they are set.
     void setParent(QWidget* parent) { m_parent = parent; }
     void setMenus(Menus* menus) { m_menus = menus; }
     /// What showModal of that name runs.

@@ -8,7 +8,7 @@
 
 namespace tarvex {
 
-/// Tells the end of a program from the message loop, or that it is time to look.
+/// Reports the end of a program from the message loop, or that it is time to look.
 std::unique_ptr<QObject> QtProcesses::teller(const Running& program, const QObject& context, std::function<void()> tell)
 {
     if (program.file >= 0) {
@@ -38,7 +38,7 @@ bool QtProcesses::waitForEnd(const Running& program, int timeout)
     return hasEnded(program);
 }
 
-/// What tells isn't destroyed while it tells, but once that is over.
+/// Queued, because `reap` may destroy the notifier that fired.
 void QtProcesses::watch(const Running& program)
 {
     m_watched[program.process] = teller(program, m_context, [this] { reap(); });

@@ -11,7 +11,7 @@
 namespace tarvex {
 
 /// Programs beside a message loop: while one is waited for, the windows are drawn and take nothing from the user; those
-/// that nobody waits for are taken leave of when they end.
+/// that nobody waits for are reaped when they exit.
 class QtProcesses : public PosixProcesses {
 public:
     using PosixProcesses::PosixProcesses;
@@ -24,7 +24,7 @@ protected:
 private:
     static std::unique_ptr<QObject> teller(const Running& program, const QObject& context, std::function<void()> tell);
 
-    QObject m_context;                                   ///< what ends later isn't told any more
+    QObject m_context;                                   ///< later exits are no longer reported
     std::map<pid_t, std::unique_ptr<QObject>> m_watched; ///< by process
 };
 

@@ -8,7 +8,7 @@ namespace tarvex {
 
 class Bindings;
 
-// The pages of the preferences, each with all its controls under their own names. They belong to whoever takes them.
+// The pages of the preferences, each with all its controls under their own names. The caller owns them.
 
 QWidget* fileLocationsPageView(FileLocationsPage& page, Bindings& bindings);
 QWidget* coloursPageView(ColoursPage& page, Bindings& bindings);

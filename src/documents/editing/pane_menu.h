@@ -8,7 +8,7 @@ namespace tarvex {
 
 /// mnuRHMouse for what the pane has selected and the clipboard holds, at the mouse or at the caret.
 void popUpPaneMenu(Editor& editor, const Side& side, bool atCaret);
-/// mnuInsert at the caret, without the tip that tells of this way to it.
+/// mnuInsert at the caret, without the tip about this way to it.
 void popUpInsertMenu(Editor& editor, const Steps& step);
 
 /// Gives the items of mnuRHMouse that stand for commands of other menus their handlers.

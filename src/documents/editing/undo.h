@@ -7,7 +7,7 @@
 namespace tarvex {
 
 // Undo keeps whole formatted snapshots of a pane, so that it brings the colours back too. Level 1 is the newest; the
-// position tells which one is showing. Levels that were undone stay below a new one and can still be reached.
+// position says which one is showing. Levels that were undone stay below a new one and can still be reached.
 
 /// A character key of the pane is about to change its text: groups typing into levels. `key` is the character's code,
 /// 8 for Backspace, 13 for Return.

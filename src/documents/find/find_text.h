@@ -13,9 +13,9 @@ void Command3_Click(FindAndReplace& window);
 
 /// The document that the page's option buttons choose.
 Side& chosenSide(FindAndReplace& window, const FindPage& page);
-/// Takes SearchText from the page. False: there is none, and the user was told.
+/// Takes SearchText from the page. False: there is none, and the user was informed.
 bool takeSearchText(FindAndReplace& window, const FindPage& page);
-/// False: there is nothing to search in, and the user was told.
+/// False: there is nothing to search in, and the user was informed.
 bool holdsText(FindAndReplace& window, Side& side);
 void takeFindOptions(FindAndReplace& window, const FindPage& page);
 /// The end of a search. A match at a position whose lower 16 bits are those of -1 ends it like none.

@@ -15,7 +15,7 @@ void Form_Resize(Editor& editor);
 void mnuViewTileVertically_Click(Editor& editor);
 void mnuViewMacros_Click(Editor& editor);
 
-/// The mouse moved over the macro frame. `x` is in twips from the frame's left edge; `overRightEdge` tells whether it
+/// The mouse moved over the macro frame. `x` is in twips from the frame's left edge; `overRightEdge` says whether it
 /// is where the frame can be dragged. The width follows the drag, and is stored when the button is up again.
 void FrameMacros_MouseMove(Editor& editor, bool leftButton, float x, bool overRightEdge);
 

@@ -8,14 +8,14 @@
 // The file that keeps what is typed until it is saved: a mark, a start record with the text as it was saved last and
 // what has become of it, and a record for each edit since, and for each other file in the pane beside it. Each record
 // carries its length and a check sum that also covers all records before it, so that a half-written end, or one of
-// another time, is told from the rest.
+// another time, is told apart from the rest.
 
 namespace tarvex {
 
 /// Quick, and of 64 bits; against accidents, not against malice. `seed` continues an earlier sum.
 std::uint64_t checkSum(std::string_view bytes, std::uint64_t seed = 0);
 
-/// Tells two contents of a file apart.
+/// Distinguishes two contents of a file.
 struct FileSum {
     std::uint64_t size = 0;
     std::uint64_t sum = 0;

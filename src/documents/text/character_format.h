@@ -27,7 +27,7 @@ struct CharacterFormat {
 using FormatId = std::uint16_t;
 
 /// The formats that the panes of one program use, each kept once. A damaged file can't take the memory: there are at
-/// most 65,536, and whoever asks for more gets format 0; a font name is cut to 255 bytes.
+/// most 65,536; beyond that the answer is format 0; a font name is cut to 255 bytes.
 class FormatTable {
 public:
     static constexpr std::size_t maximumSize = 65536;

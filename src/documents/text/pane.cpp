@@ -95,7 +95,7 @@ void Pane::replace(Range range, std::string_view text)
     replace(range, pairs, std::vector<FormatId>(pairs.size(), formatFor(range)));
 }
 
-/// Replaces by text that has only pairs, and tells the views.
+/// Replaces by text that has only pairs, and notifies the views.
 void Pane::replace(Range range, std::string_view text, const std::vector<FormatId>& formats)
 {
     const Edit edit{static_cast<std::int64_t>(range.begin), static_cast<std::int64_t>(range.end - range.begin),

@@ -175,7 +175,7 @@ public:
         std::int64_t inserted = 0;
     };
     Signal<Edit> edited;
-    /// Characters in `position`, `length` changed their format. Not told for characters that an Edit inserted.
+    /// Characters in `position`, `length` changed their format. Not emitted for characters that an Edit inserted.
     Signal<std::int64_t, std::int64_t> reformatted;
     Signal<> selectionChanged;
     Signal<> fontChanged;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-// Writing the whole text: only what differs is written and told.
+// Writing the whole text: only what differs is written and reported.
 
 namespace tarvex {
 namespace {

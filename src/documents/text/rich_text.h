@@ -21,7 +21,7 @@ public:
 
     RichText() = default;
     RichText(std::shared_ptr<FormatTable> formats, std::vector<ChunkPointer> chunks);
-    /// A text of its own, cut into chunks; `runs` tell the format of each character (missing ones have format 0).
+    /// A text of its own, cut into chunks; `runs` give the format of each character (missing ones have format 0).
     RichText(std::shared_ptr<FormatTable> formats, std::string_view text, const std::vector<FormatRun>& runs);
 
     std::size_t size() const { return m_size; } ///< characters
@@ -43,7 +43,7 @@ private:
     std::size_t m_size = 0;
 };
 
-/// The same look, told in the numbers of another table.
+/// The same look in the numbers of another table.
 RichText translated(const RichText& text, const std::shared_ptr<FormatTable>& formats);
 
 /// Whether every CR stands before a LF and every LF behind a CR, when the text stands between `before` and `after`.

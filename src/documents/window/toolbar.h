@@ -12,7 +12,7 @@ bool toolbarOffers(Editor& editor, int button);
 
 /// A number outside the bar does nothing.
 void Toolbar1_ButtonClick(Editor& editor, int button);
-/// The mouse is over the bar, at a point in pixels of the bar: tells on status panel 1 what the button there is for.
+/// The mouse is over the bar, at a point in pixels of the bar: shows on status panel 1 what the button there is for.
 void Toolbar1_MouseMove(Editor& editor, int button, int shift, float x, float y);
 /// The mouse is over the status bar, `x` twips from its left edge.
 void StatusBar_MouseMove(Editor& editor, float x);

@@ -34,7 +34,7 @@ private:
     std::unordered_map<std::string, bool> m_known;
 };
 
-/// Sets all ticks of a list and tells its view once.
+/// Sets all ticks of a list and notifies its view once.
 template <typename Ticked> void tick(CheckListBox& list, Ticked ticked)
 {
     std::vector<CheckListBox::Item> items = list.Items;

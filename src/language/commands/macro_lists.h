@@ -4,7 +4,7 @@
 
 namespace tarvex {
 
-/// Fills Combo1 and List1 from MacroFileLines and tells on the status bar what was found.
+/// Fills Combo1 and List1 from MacroFileLines and shows on the status bar what was found.
 void ExtractMacrosAndTitles(Editor& editor);
 /// Empties the headings and lists.
 void ClearAllForNewMacroFile(Editor& editor);

@@ -56,7 +56,7 @@ void write(Pane& pane, const std::vector<Change>& changes)
     pane.setSelRTF(RichText(pane.formats(), text, runs));
 }
 
-/// The format that text typed at the beginning of a line takes; of the first line the caret tells it.
+/// The format that text typed at the beginning of a line takes; of the first line the caret decides it.
 FormatId formatAtStart(Pane& pane, std::int64_t line)
 {
     const auto start = static_cast<std::size_t>(pane.lineStart(line));

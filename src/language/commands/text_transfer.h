@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-// A block of finished text goes into the pane of the selected tab with its colours, as one edit of the user's. It is
+// A block of finished text goes into the pane of the selected tab with its colours, as one user edit. It is
 // coloured in TempRichTextBox; whatever the file, by the words of the joystick file.
 
 /// Transfers a text (bytes). An empty one does nothing.

@@ -13,7 +13,7 @@ void selectMacroTab(Editor& editor)
     if (editor.TabStrip1.SelectedItem != editor.macro.tab) editor.TabStrip1.Select(editor.macro.tab);
 }
 
-/// False: the list would not show what stands in the pane, and the user was told.
+/// False: the list would not show what stands in the pane, and the user was informed.
 bool isSaved(Editor& editor)
 {
     const std::string& name = editor.pair.MacroFileName;

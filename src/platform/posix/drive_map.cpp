@@ -209,7 +209,7 @@ std::string DriveMap::rootOfDrive(char letter) const
     const Drive* drive = findDrive(letter);
     if (!drive) throw RuntimeError(ErrorCode::PathNotFound, "Path not found", ENOENT);
     std::error_code error;
-    if (drive->makeRoot) fs::create_directory(drive->roots.front(), error); // what needs it tells when it isn't there
+    if (drive->makeRoot) fs::create_directory(drive->roots.front(), error); // its users report it when it is missing
     return drive->roots.front();
 }
 

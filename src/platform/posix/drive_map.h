@@ -9,7 +9,7 @@ namespace tarvex {
 /// What the drives depend on; native paths. Empty: there is no such thing.
 struct DriveEnvironment {
     std::string winePrefix; ///< $WINEPREFIX
-    std::string home;       ///< $HOME; its .wine is the prefix when none is told
+    std::string home;       ///< $HOME; its .wine is the prefix when none is given
     std::string programDirectory;
     std::string workingDirectory;
 };

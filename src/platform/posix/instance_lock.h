@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-/// Tells one copy of the program from a second: the kernel holds a lock on a file that stays, and frees it when the
+/// Keeps a second copy of the program from running: the kernel holds a lock on a file that stays, and frees it when the
 /// process ends, however it ends. The contents of the file don't matter, nor who made it.
 class InstanceLock {
 public:

@@ -39,7 +39,7 @@ bool isReadOnlyFile(const std::string& native, const struct stat& status)
     return nobodyMayWrite || ::faccessat(AT_FDCWD, native.c_str(), W_OK, AT_EACCESS) < 0;
 }
 
-/// Runs a call on a native path; "not found" tells whether the file or its directory is missing.
+/// Runs a call on a native path; "not found" says whether the file or its directory is missing.
 template <typename Call> auto withErrorsOf(const std::string& native, Call call)
 {
     try {

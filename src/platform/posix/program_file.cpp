@@ -38,7 +38,7 @@ std::string bytesAt(const OpenFile& file, std::uint32_t place, std::size_t size)
     return bytes;
 }
 
-/// Programs for Windows begin with one for DOS that says so; the header tells where the real one is.
+/// Programs for Windows begin with one for DOS that says so; the header says where the real one is.
 bool hasWindowsHeader(const OpenFile& file, const std::string& head)
 {
     if (head.size() < dosHeader) return false;

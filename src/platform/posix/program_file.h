@@ -19,7 +19,7 @@ enum class ProgramKind {
 /// or PathNotFound when there is none, or the path isn't a full one; PathFileAccess for a directory and the like.
 std::string findProgram(const DriveMap& drives, const std::string& dosPath);
 
-/// Found by looking into the file, and at its name only where the contents don't tell. Throws RuntimeError
+/// Found by looking into the file, and at its name only where the contents don't decide. Throws RuntimeError
 /// (InvalidCall) for a file that is no program.
 ProgramKind kindOfProgram(const std::string& nativePath);
 

@@ -30,7 +30,7 @@ public:
     /// Throws RuntimeError when the new contents aren't safely there. A directory, device or other special file, and a
     /// file that nobody may write, are refused untouched.
     void save(const std::string& path, std::string_view bytes);
-    /// The same for contents that only the owner may access, whoever could access the old ones.
+    /// The same for contents that only the owner may access, whatever rights the old ones had.
     void savePrivate(const std::string& path, std::string_view bytes);
     /// Copies a regular file of any size to a path that doesn't exist yet, for the owner alone. Throws RuntimeError,
     /// and there is no copy then.

@@ -34,7 +34,7 @@ void setExtensions(Settings& settings)
     settings.MacroExtension = chosen.macroFile;
 }
 
-/// The maker's own configuration file tells throttle and rudders; its lines count only as they stand, whole.
+/// The maker's own configuration file names throttle and rudders; its lines count only as they stand, whole.
 void readTmCfg(const FileSystem& files, const std::string& path, Settings& settings)
 {
     const std::string text = files.read(path);

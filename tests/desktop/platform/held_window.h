@@ -40,7 +40,7 @@ struct HeldWindow : QWidget {
     {
         acts.emplace_back([this, key] { QTest::keyClick(windowHandle(), key); });
     }
-    /// Lets the user act while something waits, for Esc unless told otherwise; true: all acts were done when the wait
+    /// Lets the user act while something waits, for Esc unless stated otherwise; true: all acts were done when the wait
     /// ended.
     bool waitWhileTheUserActs(const std::function<void()>& wait = {})
     {

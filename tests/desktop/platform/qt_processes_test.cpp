@@ -17,7 +17,7 @@
 namespace tarvex {
 namespace {
 
-/// A loader that works until it is told to end, and a window that waits for it.
+/// A loader that works until it is asked to end, and a window that waits for it.
 template <typename Adapter> struct WaitingWith {
     WaitingWith()
     {
@@ -55,7 +55,7 @@ private:
 
 using Waiting = WaitingWith<QtProcesses>;
 
-/// On a system that has no files that tell the end of a program.
+/// On a system that has no files that report the end of a program.
 struct WithoutProcessFiles : QtProcesses {
     using QtProcesses::QtProcesses;
 
@@ -131,7 +131,7 @@ TEST(WaitForLoader, ATimeoutEndsTheWaitAndNotTheLoader)
     EXPECT_TRUE(t.waitWhileTheUserActs());
 }
 
-/// Waits, without taking leave of it, until a child has ended.
+/// Waits until a child has exited, without reaping it.
 void awaitEnd(ProcessId process)
 {
     siginfo_t info{};

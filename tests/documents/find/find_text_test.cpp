@@ -116,7 +116,7 @@ TEST_F(Find_, AnOptionIsRememberedUntilItsOwnCheckClearsIt)
     tick(window.MatchCaseF);
     find("BTN");
     EXPECT_EQ(window.MatchOption, 4);
-    window.MatchCaseF.Value = false; // no click of the user's
+    window.MatchCaseF.Value = false; // not clicked by the user
     window.Command1.Click();
     EXPECT_EQ(window.FindOptions, 4);
     tick(window.MatchCaseF, false);

@@ -24,7 +24,7 @@ struct ProtectedPaneTest : testing::Test {
         editor.pair.MacroChanged = changed::saved;
         macro.setSelLength(14);
     }
-    /// The command does nothing but tell that the pane is protected.
+    /// The command only reports that the pane is protected.
     template <typename Command> void expectRefused(Command command)
     {
         const std::size_t levels = editor.MacroUndo.Levels.size();

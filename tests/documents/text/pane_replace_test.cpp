@@ -9,7 +9,7 @@ namespace {
 
 bool always(std::int64_t) { return true; }
 
-/// The same by turns, as the contract tells it.
+/// The same by turns, as the contract has it.
 Pane::Replaced inTurn(Pane& pane, std::string_view text, std::string_view replacement, std::int64_t start, int options,
                       const std::function<bool(std::int64_t)>& mayReplace)
 {

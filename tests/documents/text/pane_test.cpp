@@ -39,7 +39,7 @@ std::vector<Colour> colours(const Pane& pane)
     return all;
 }
 
-/// Keeps what the pane told, in order.
+/// Keeps what the pane reported, in order.
 struct Told {
     explicit Told(Pane& pane)
     {
@@ -409,7 +409,7 @@ TEST(PaneSelIndent, LineWithoutCharactersKeepsItForTheNextText)
     EXPECT_EQ(pane.formatAt(3).indent, 20);
 }
 
-// ---- what is told ----
+// ---- signals ----
 
 TEST(PaneSignals, EditTellsTextThenSelectionThenChange)
 {

@@ -11,7 +11,7 @@
 
 namespace tarvex {
 
-/// The pane's rules told as plainly as can be, a cell a character, for tests to compare the pane with.
+/// The pane's rules in the plainest form, a cell a character, for tests to compare the pane with.
 class PlainPane {
 public:
     struct Cell {

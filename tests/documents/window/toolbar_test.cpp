@@ -16,7 +16,7 @@ struct ToolbarTest : testing::Test {
     ToolBar& bar = t.program().mum.Toolbar1;
     std::string ran; ///< name of the command that a click ran
 
-    /// Commands only tell that they were run.
+    /// Commands only note that they were run.
     void watch(MenuItem& item)
     {
         item.handler = [this, &item] { ran += item.Name; };

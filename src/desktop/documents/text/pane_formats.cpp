@@ -10,7 +10,7 @@ namespace tarvex {
 
 namespace {
 
-/// Layouts tell the document of their change; this lets it lay them out before it reports anything else.
+/// Layouts notify the document of their change; this lets it lay them out before it reports anything else.
 void relayout(const QTextBlock& block, int from, int to)
 {
     auto* document = const_cast<QTextDocument*>(block.document()); // NOLINT: a block only hands out a constant one

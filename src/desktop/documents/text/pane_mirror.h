@@ -87,7 +87,7 @@ private:
     std::optional<Common> m_typed;       ///< in positions of the document, as it was and is
     std::optional<Common> m_behind;      ///< in positions of the pane
     std::optional<Common> m_unformatted; ///< in positions of the pane
-    std::optional<Pane::Edit> m_echo;    ///< what the pane is going to tell of the edit that is being delivered
+    std::optional<Pane::Edit> m_echo;    ///< what the pane is going to report of the edit that is being delivered
     bool m_writing = false;
     std::vector<Connection> m_connections;
 };

@@ -92,7 +92,7 @@ void PaneView::keyPressEvent(QKeyEvent* event)
 {
     if (zoomByKey(*event)) return;
     if (pressKey && pressKey(commandKeys(*event))) return;
-    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) { // the desktop tells of the Menu key
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) { // the desktop reports the Menu key
         emit popUpWanted(true);
         return;
     }

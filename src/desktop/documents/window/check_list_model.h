@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-/// The items of a list with ticks, for a QListView. A list that changes as a whole is told as a whole.
+/// The items of a list with ticks, for a QListView. A list that changes as a whole is reported as a whole.
 class CheckListModel : public QAbstractListModel {
     Q_OBJECT
 public:

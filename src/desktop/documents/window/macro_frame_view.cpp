@@ -103,7 +103,7 @@ QWidget* MacroFrameView::makeButton(std::size_t index)
     return view;
 }
 
-/// The combo box and the buttons tell when they have the mouse or the keyboard.
+/// The combo box and the buttons report when they have the mouse or the keyboard.
 bool MacroFrameView::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isHeadings = watched->objectName() == QLatin1String("Combo1");

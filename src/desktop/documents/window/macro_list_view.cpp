@@ -182,7 +182,7 @@ bool MacroListView::isOnTick(const QPoint& position) const
     return MacroDelegate::tickRect(option).contains(position);
 }
 
-/// The mouse's right button has told itself already.
+/// The mouse's right button has reported itself already.
 void MacroListView::contextMenuEvent(QContextMenuEvent* event)
 {
     event->accept();

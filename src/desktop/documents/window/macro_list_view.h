@@ -10,7 +10,7 @@
 
 namespace tarvex {
 
-/// List1: of all the lists of macros the one that is visible, whose events it tells by its index.
+/// List1: of all the lists of macros the one that is visible, whose events it reports by its index.
 class MacroListView : public QListView {
 public:
     explicit MacroListView(Editor& editor, QWidget* frame);

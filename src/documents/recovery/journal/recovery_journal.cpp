@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view tag = "ED_RecoveryJournal";
 constexpr std::uint64_t ample = 1 << 20;
 
-/// Numbers grow, so that they tell which of two journals is the later one.
+/// Numbers grow, so the later of two journals has the larger one.
 std::uint64_t nextNumber(Editor& editor)
 {
     std::uint64_t& last = editor.LastJournal;

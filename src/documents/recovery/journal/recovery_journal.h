@@ -18,7 +18,7 @@ constexpr std::string_view damagedNameEnd = ".damaged";
 /// From now on what happens to the panes is written down.
 void followEdits(Editor& editor);
 
-/// The pane's text is where it belongs, in a file (`file` tells its contents) or nowhere: there is nothing to keep of
+/// The pane's text is where it belongs, in a file (`file` sums its contents) or nowhere: there is nothing to keep of
 /// what went before.
 void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& file);
 /// Writes down what has changed while IsLoading was 1, for a change that counts as the user's after all.

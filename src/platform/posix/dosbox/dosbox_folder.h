@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-/// A private folder for one run of DOSBox, made with the program's own choice of names, so that its path can be told
+/// A private folder for one run of DOSBox, made with the program's own choice of names, so that its path can be given
 /// DOSBox in a command. It is locked for as long as somebody uses it, and gone when this is destroyed.
 class DosboxFolder {
 public:

@@ -9,13 +9,13 @@
 
 namespace tarvex {
 
-/// One run of a DOS program in DOSBox, which ends when the program does. Everything that DOSBox is told in words is of
+/// One run of a DOS program in DOSBox, which ends when the program does. Everything that DOSBox reads as text is of
 /// our own making; paths reach it as links, and the program's name and command line as data of a small program that
 /// runs it.
 class DosboxRun {
 public:
     /// Paths are DOS paths; `tail` is what follows the program's name. Throws RuntimeError when the program can't be
-    /// told what it is to be told.
+    /// given its commands.
     DosboxRun(const DriveMap& drives, ProgramKind kind, const std::string& program, const std::string& tail,
               const std::string& directory);
 

@@ -128,7 +128,7 @@ std::string PosixProcesses::fileArgument(const std::string& file) const
     return native.starts_with('-') ? "./" + native : native;
 }
 
-/// How Wine is told a native path. As long as it has no prefix, its drives, which it will make at its start, aren't
+/// How Wine is given a native path. As long as it has no prefix, its drives, which it will make at its start, aren't
 /// ours: it will know "/" as z:.
 std::string PosixProcesses::winePath(std::string native) const
 {
@@ -216,7 +216,7 @@ std::int32_t PosixProcesses::wait(ProcessId process, std::int32_t timeout)
 
 int PosixProcesses::openProcess(pid_t process) { return tarvex::openProcess(process); }
 
-/// Doesn't take leave of it.
+/// Doesn't reap it.
 bool PosixProcesses::hasEnded(const Running& program)
 {
     siginfo_t end{};

@@ -14,17 +14,17 @@
 
 namespace tarvex {
 
-/// Programs of three worlds, told apart by looking into their files. Those of this system run as they are; what follows
-/// the program's name becomes the arguments that a program of Windows would see, DOS paths among them native, and the
-/// command's file is one argument of its own. Those of
-/// Windows run in Wine, which puts the same arguments together again, with quotes of its own. Those of DOS run in
-/// DOSBox and get it as it stands, but for paths that are called otherwise there; one too long for DOS, or for a batch
-/// file one that its interpreter would make something of, is refused. Which Wine and which DOSBox is set in
-/// Platform.ini; else they are looked for where PATH says, but never in the current folder.
+/// Programs of three worlds, distinguished by the contents of their files. Those of this system run as they are; what
+/// follows the program's name becomes the arguments that a program of Windows would see, DOS paths among them native,
+/// and the command's file is one argument of its own. Those of Windows run in Wine, which puts the same arguments
+/// together again, with quotes of its own. Those of DOS run in DOSBox and get it as it stands, but for paths that are
+/// called otherwise there; one too long for DOS, or for a batch file one that its interpreter would make something of,
+/// is refused. Which Wine and which DOSBox is set in Platform.ini; else they are looked for where PATH says, but never
+/// in the current folder.
 class PosixProcesses : public Processes {
 public:
-    /// All outlive this. `programDirectory` is the DOS path of the folder with Platform.ini. The user is told in a box
-    /// when Wine or DOSBox is missing.
+    /// All outlive this. `programDirectory` is the DOS path of the folder with Platform.ini. The user is informed in a
+    /// box when Wine or DOSBox is missing.
     PosixProcesses(const DriveMap& drives, FileSystem& files, Dialogues& dialogues, std::string programDirectory);
     /// Programs that still run go on.
     ~PosixProcesses() override;
@@ -35,7 +35,7 @@ public:
     std::int32_t wait(ProcessId process, std::int32_t timeout) override;
     std::string windowsDirectory() const override { return "c:\\windows"; }
 
-    /// Takes leave of the programs that have ended and that nobody waits for.
+    /// Reaps the exited programs that nobody waits for.
     void reap();
 
 protected:
@@ -61,7 +61,7 @@ private:
         Running program;
         FileDescriptor file;            ///< the one of `program`
         std::unique_ptr<DosboxRun> dos; ///< of a DOS program
-        int waits = 0;                  ///< that go on: its file is theirs, and so is taking leave of it
+        int waits = 0;                  ///< in progress: its file is theirs, and so is reaping it
     };
     ProcessId adopt(pid_t process, std::unique_ptr<DosboxRun> dos);
     std::vector<Child>::iterator find(ProcessId process);

@@ -16,7 +16,7 @@ struct RunnerRow {
     const char* key; ///< in section Programs of Platform.ini
     const char* command;
     const char* package;
-    const char* programs; ///< what it runs, as the user is told
+    const char* programs; ///< what it runs, as the box names it
 };
 
 const RunnerRow& rowOf(Runner which)

@@ -11,7 +11,7 @@ namespace tarvex {
 enum class Runner { Wine, DosBox };
 
 /// The absolute native path of a runner: what Platform.ini in the program directory says, else where PATH has it.
-/// When it isn't there, tells the user what to do about it, with the program that wants it, and throws RunnerMissing.
+/// When it isn't there, a box says what to do about it, with the program that wants it, and throws RunnerMissing.
 std::string findRunner(FileSystem& files, Dialogues& dialogues, const std::string& programDirectory, Runner which,
                        const std::string& program);
 

@@ -6,9 +6,9 @@
 
 namespace tarvex {
 
-/// A DOS program that writes what it was told into SEEN.TXT of its current directory: its command line up to the length
-/// that DOS tells, a line with its current directory, and the first 64 bytes of the file that the first word of the
-/// command line names.
+/// A DOS program that writes what it was given into SEEN.TXT of its current directory: its command line up to the
+/// length that DOS reports, a line with its current directory, and the first 64 bytes of the file that the first word
+/// of the command line names.
 inline std::string dosShow()
 {
     DosCode code;

@@ -244,7 +244,7 @@ TEST(WaitForProgram, LeavesNoDeadProcessBehind)
     EXPECT_EQ(::waitpid(second, nullptr, WNOHANG), -1);
 }
 
-/// On a system that has no files that tell the end of a program.
+/// On a system that has no files that report the end of a program.
 struct WithoutProcessFiles : PosixProcesses {
     using PosixProcesses::PosixProcesses;
 
@@ -322,7 +322,7 @@ TEST(Runner, OfWindowsProgramsGetsTheLineWithTheFileAsItStands)
     EXPECT_EQ(w.contents("seen"), "<" + w.driveC + "/load.exe><q:\\my><file.b50 Q>");
 }
 
-/// A Wine prefix whose c: is drive_c, and a runner that notes what Wine would be told.
+/// A Wine prefix whose c: is drive_c, and a runner that notes what Wine would be given.
 struct Prefix : Settable {
     explicit Prefix(bool withRoot) : Settable("Wine")
     {
