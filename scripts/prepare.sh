@@ -4,7 +4,7 @@
 # One row per purpose; a package stands in one row only.
 package_table() {
     cat <<'TABLE'
-build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev libxcb1-dev libxcb-xkb-dev
+build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev libxcb1-dev libxcb-xkb-dev libxkbcommon-dev
 run       fonts-liberation
 wayland   qt6-wayland
 display   xvfb

@@ -118,6 +118,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     MumWindow window(program);
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
+    dialogues.addPopUp(program.safein.mnuDelay, program.safein.delayMenu());
     addListForms(dialogues, program.lists, &window);
     addPreferencesForm(dialogues, program.preferences, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,

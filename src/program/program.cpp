@@ -20,6 +20,7 @@
 #include "download/download_commands.h"
 #include "download/own_tools.h"
 #include "language/commands/language_commands.h"
+#include "safein/safein.h"
 #include "shell/frame/mum_window.h"
 #include "shell/handler.h"
 
@@ -106,7 +107,7 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor), lists(editor), preferences(editor, lists)
+      findAndReplace(editor), safein(editor), lists(editor), preferences(editor, lists)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -114,6 +115,7 @@ Program::Program(Platform& thePlatform)
     wirePanes(editor);
     wirePaneMenu(editor);
     wireFindAndReplace(findAndReplace);
+    wireSafein(safein);
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor, lists.games);

@@ -5,6 +5,7 @@
 #include "lists/lists.h"
 #include "platform/platform.h"
 #include "preferences/preferences.h"
+#include "safein/raw_form.h"
 #include "shell/menus.h"
 #include "shell/mum.h"
 #include "shell/operations.h"
@@ -33,6 +34,7 @@ public:
     Operations operations;
     Editor editor;
     FindAndReplace findAndReplace;
+    RAWform safein;
     Lists lists;
     Preferences preferences;
 };

@@ -50,6 +50,7 @@ std::string textOf(int value) { return std::to_string(value); }
 int numberOf(std::string_view text)
 {
     int number = 0;
+    while (text.starts_with(' ')) text.remove_prefix(1);
     std::from_chars(text.data(), text.data() + text.size(), number);
     return number;
 }
@@ -101,7 +102,9 @@ struct Key {
     /// A number that the file spells in its own way keeps its spelling.
     template <typename Number> void write(Number value) const
     {
-        file.writeString(row.section, name, textOf(value),
+        const std::string text = textOf(value);
+        const bool blank = row.readDefault.starts_with(' ') && !text.starts_with('-'); // in the place of the sign
+        file.writeString(row.section, name, blank ? " " + text : text,
                          [&](const std::string& stored) { return says(stored, value); });
     }
 

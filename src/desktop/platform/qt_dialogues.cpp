@@ -248,7 +248,8 @@ void QtDialogues::popUpAt(const MenuItem& root, const QPoint& place)
     if (m_menus == nullptr) return;
     Bindings bindings;
     QMenu menu(m_parent);
-    fillMenu(menu, popUpMenu(*m_menus, root), bindings);
+    const auto added = m_popUps.find(&root);
+    fillMenu(menu, added != m_popUps.end() ? added->second : popUpMenu(*m_menus, root), bindings);
     if (!menu.isEmpty()) menu.exec(place);
 }
 

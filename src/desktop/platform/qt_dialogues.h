@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 class QMessageBox;
 class QPoint;
@@ -26,6 +27,8 @@ public:
     /// The window that the boxes belong to, and the menus that can pop up; none before they are set.
     void setParent(QWidget* parent) { m_parent = parent; }
     void setMenus(Menus* menus) { m_menus = menus; }
+    /// What pops up for a menu that isn't one of the program's own; root and items outlive this.
+    void addPopUp(const MenuItem& root, std::vector<MenuEntry> entries) { m_popUps[&root] = std::move(entries); }
     /// What showModal of that name runs.
     void addForm(const std::string& name, std::function<void()> show) { m_forms[name] = std::move(show); }
 
@@ -48,6 +51,7 @@ private:
     const DriveMap& m_drives;
     QWidget* m_parent = nullptr;
     Menus* m_menus = nullptr;
+    std::map<const MenuItem*, std::vector<MenuEntry>> m_popUps;
     std::map<std::string, std::function<void()>> m_forms;
 };
 

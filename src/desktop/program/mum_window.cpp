@@ -6,6 +6,7 @@
 #include "desktop/icon_theme.h"
 #include "desktop/menus/menu_view.h"
 #include "desktop/minimise.h"
+#include "desktop/safein/safein_view.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/status_bar_view.h"
 #include "documents/editing/pane_keys.h"
@@ -64,6 +65,11 @@ MumWindow::MumWindow(Program& program)
     bindTitle();
     makeWhenShown(program.findAndReplace.form, m_bindings,
                   [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
+    makeWhenShown(program.safein.form, m_bindings, [this] { return new SafeinView(m_program.safein, this); });
+    m_bindings.follow(program.mum.form.frontWanted, [this] {
+        raise();
+        activateWindow();
+    });
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive) m_wasElsewhere = true;

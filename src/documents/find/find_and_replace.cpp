@@ -8,8 +8,6 @@ namespace tarvex {
 
 namespace {
 
-constexpr char formName[] = "FindAndReplace";
-
 /// What a control runs, in resume-next mode: the small handlers report nothing.
 template <typename Work> std::function<void()> quietly(Work work)
 {
@@ -77,7 +75,7 @@ void wireButtons(FindAndReplace& window)
     window.Command10.handler = [&window] { window.editor.menus.mnuHelpContents.Click(); };
     for (Button* close : {&window.Command2, &window.Command4, &window.Command8, &window.Command9}) {
         close->Caption = "Close";
-        close->handler = [&window] { Form_Unload(window); };
+        close->handler = [&window] { window.form.unload(); };
     }
 }
 
@@ -117,8 +115,7 @@ void selectReplaceTab(FindAndReplace& window)
 /// Shows a tab of the window, for the document in front.
 void open(FindAndReplace& window, int tab)
 {
-    if (window.editor.shared.FindWindowOpen != 1) Form_Load(window);
-    window.form.Show(); // first, because only what is shown can take the keyboard
+    window.form.open(); // first, because only what is shown can take the keyboard
     const int document = window.editor.TabStrip1.SelectedItem;
     for (const FindPage& page : {findPage(window), replacePage(window)}) chooseFile(window, page, document);
     if (window.SSTab1.SelectedItem != tab) {
@@ -134,7 +131,8 @@ void open(FindAndReplace& window, int tab)
 void wireControls(FindAndReplace& window)
 {
     window.form.Caption = "Find and replace";
-    window.form.Close = [&window] { Form_Unload(window); };
+    window.form.Load = [&window] { Form_Load(window); };
+    window.form.Unload = [&window] { Form_Unload(window); };
     window.SSTab1.Tabs(findTab::find).Caption = "Find";
     window.SSTab1.Tabs(findTab::replace).Caption = "Replace";
     window.SSTab1.Tabs(findTab::line).Caption = "Go to line";
@@ -157,10 +155,7 @@ void wireFindAndReplace(FindAndReplace& window)
     menus.mnuEditFind.handler = [&window] { mnuEditFind_Click(window); };
     menus.mnuEditReplace.handler = [&window] { mnuEditReplace_Click(window); };
     menus.mnuEditGoto.handler = [&window] { mnuEditGoto_Click(window); };
-    window.editor.mum.toolWindows.add(
-        {.name = formName, .form = &window.form, .openFlag = &window.editor.shared.FindWindowOpen, .unload = [&window] {
-             Form_Unload(window);
-         }});
+    window.form.join(window.editor.mum.toolWindows);
 }
 
 void Form_Load(FindAndReplace& window)
@@ -172,17 +167,14 @@ void Form_Load(FindAndReplace& window)
         window.Command5.Enabled = false;
         window.Command6.Enabled = false;
         window.Command10.Enabled = window.editor.menus.mnuHelpContents.handler != nullptr;
-        window.editor.shared.FindWindowOpen = 1;
+        window.form.markLoaded();
     });
 }
 
 void Form_Unload(FindAndReplace& window)
 {
     const Steps step(window.editor.shared.errors, "FIND Form_Unload");
-    step([&] {
-        window.editor.shared.FindWindowOpen = 0;
-        window.form.Visible = false;
-    });
+    step([&] { window.form.markUnloaded(); });
 }
 
 void SSTab1_Click(FindAndReplace& window)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/pair/editor.h"
+#include "shell/tool_form.h"
 
 namespace tarvex {
 
@@ -14,12 +15,15 @@ constexpr int line = 3;
 /// The window that finds and replaces text in the panes and goes to a line. It stays open while the user works in the
 /// panes. What was written and chosen in it is there again when it is opened the next time.
 struct FindAndReplace {
-    explicit FindAndReplace(Editor& theEditor) : editor(theEditor) {}
+    explicit FindAndReplace(Editor& theEditor)
+        : editor(theEditor), form("FindAndReplace", &theEditor.shared.FindWindowOpen)
+    {
+    }
     FindAndReplace(const FindAndReplace&) = delete;
     FindAndReplace& operator=(const FindAndReplace&) = delete;
 
     Editor& editor;
-    Form form;
+    ToolForm form;
     TabStrip SSTab1{3};
 
     ComboBox ComboTextFind; ///< with the history of what was sought

@@ -188,6 +188,13 @@ std::string breakCode(const Key& key)
     return code;
 }
 
+std::string_view secondSign(const Key& key, bool shiftHeld, std::string_view layoutSign)
+{
+    if (key.shifted.empty()) return {};
+    const std::string_view label = key.labelWith(shiftHeld);
+    return layoutSign == label.substr(0, 1) && !label.empty() ? std::string_view() : layoutSign;
+}
+
 const Key* keyOfCode(std::uint8_t byte, bool extended)
 {
     const std::uint8_t row = byCode.rows[extended][byte];

@@ -160,6 +160,17 @@ TEST(KeyTable, ShiftChangesTheLabelsOfThe47TypewriterKeys)
     EXPECT_EQ(keyAt(64)->labelWith(true), "Enter");
 }
 
+TEST(SecondSign, IsTheLayoutsSignWhereItIsAnotherOne)
+{
+    EXPECT_EQ(secondSign(*keyAt(44), false, "z"), "z");
+    EXPECT_EQ(secondSign(*keyAt(44), false, "y"), "");
+    EXPECT_EQ(secondSign(*keyAt(44), true, "Z"), "Z");
+    EXPECT_EQ(secondSign(*keyAt(7), true, "&"), "") << "the caption doubles it";
+    EXPECT_EQ(secondSign(*keyAt(7), true, "/"), "/");
+    EXPECT_EQ(secondSign(*keyAt(92), false, "x"), "") << "the spacebar writes no sign";
+    EXPECT_EQ(secondSign(*keyAt(44), false, ""), "");
+}
+
 TEST(BreakCode, PutsF0BeforeTheLastByte)
 {
     EXPECT_EQ(breakCode(*keyAt(20)), "#F0 #1C");

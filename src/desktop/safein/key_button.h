@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QPushButton>
+
+#include <functional>
+
+namespace tarvex {
+
+/// A drawn key: a button whose cap takes as much room as it has, with the sign of the user's own layout small in its
+/// corner where that is another one.
+class KeyButton : public QPushButton {
+    Q_OBJECT
+public:
+    KeyButton(int index, QWidget* parent);
+
+    int index() const { return m_index; }
+    void setSecondSign(const QString& sign);
+    QString secondSign() const { return m_secondSign; }
+    /// Shows the key as one that is pressed on the real keyboard.
+    void setLit(bool on);
+    bool isLit() const { return m_lit; }
+
+    std::function<void(int key)> arrowPressed; ///< Qt::Key_Left and the others
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    int m_index;
+    QString m_secondSign;
+    bool m_lit = false;
+};
+
+} // namespace tarvex

@@ -1,0 +1,81 @@
+#include "desktop/tool_form_window.h"
+
+#include "desktop/input.h"
+#include "platform/key_codes.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+namespace tarvex {
+
+namespace {
+
+int toKeyCode(int key)
+{
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return keyCode::f1 + key - Qt::Key_F1;
+    if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9)) return key; // as in ASCII
+    return key == Qt::Key_Escape ? keyCode::escape : keyCode::none;
+}
+
+/// Shows the window its keys before the control with the keyboard gets them.
+class KeyFilter : public QObject {
+public:
+    explicit KeyFilter(ToolFormWindow& window) : QObject(&window), m_window(window) { qApp->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                           event->type() == QEvent::ShortcutOverride;
+        if (!isKey || !m_window.isActiveWindow()) return false;
+        const QObject* control = m_window.focusWidget();
+        if (watched != (control != nullptr ? control : &m_window)) return false; // handed on to the parents
+        return m_window.filterKey(*static_cast<QKeyEvent*>(event));
+    }
+
+private:
+    ToolFormWindow& m_window;
+};
+
+} // namespace
+
+ToolFormWindow::ToolFormWindow(ToolForm& form, QWidget* parent)
+    : FormWindow(form, toQt(form.Name), parent), m_tool(form)
+{
+    if (form.KeyDown) new KeyFilter(*this);
+}
+
+bool ToolFormWindow::filterKey(QKeyEvent& event)
+{
+    if (takesKey(event)) {
+        event.accept();
+        return true;
+    }
+    if (event.type() != QEvent::KeyPress || keepsKey(event)) return false;
+    return m_tool.KeyDown(toKeyCode(event.key()), toLogic(event.modifiers()));
+}
+
+/// Esc comes here, and so does the frame's close button.
+void ToolFormWindow::reject()
+{
+    if (m_tool.Escape && !m_closing) {
+        m_tool.Escape();
+    } else {
+        FormWindow::reject();
+    }
+}
+
+void ToolFormWindow::closeEvent(QCloseEvent* event)
+{
+    const QScopedValueRollback<bool> closing(m_closing, true);
+    FormWindow::closeEvent(event);
+}
+
+void ToolFormWindow::changeEvent(QEvent* event)
+{
+    FormWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_tool.Activate) m_tool.Activate();
+}
+
+} // namespace tarvex

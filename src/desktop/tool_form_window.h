@@ -1,0 +1,33 @@
+#pragma once
+
+#include "desktop/form_window.h"
+#include "shell/tool_form.h"
+
+class QKeyEvent;
+
+namespace tarvex {
+
+/// The window of a tool form: its keys, Esc and activation reach the form. It comes up in the size that the form has.
+class ToolFormWindow : public FormWindow {
+    Q_OBJECT
+public:
+    ToolFormWindow(ToolForm& form, QWidget* parent);
+
+    void reject() override;
+    /// What the window does with a key before its controls get it. True: they don't get it.
+    bool filterKey(QKeyEvent& event);
+
+protected:
+    /// Keys that the window takes off its controls, pressed or released, shortcuts among them.
+    virtual bool takesKey(const QKeyEvent&) { return false; }
+    /// Keys that belong to the control with the keyboard, whatever the form's KeyDown would do with them.
+    virtual bool keepsKey(const QKeyEvent&) const { return false; }
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    ToolForm& m_tool;
+    bool m_closing = false; ///< by the frame's button
+};
+
+} // namespace tarvex
