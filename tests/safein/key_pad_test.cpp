@@ -1,6 +1,7 @@
 #include "safein_fixture.h"
 
 #include "platform/input.h"
+#include "safein/keys/key_table.h"
 
 namespace tarvex {
 namespace {

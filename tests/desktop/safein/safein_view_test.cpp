@@ -4,6 +4,7 @@
 #include "desktop/program/mum_window.h"
 #include "desktop/safein/key_button.h"
 #include "desktop/safein/key_pad_view.h"
+#include "safein/keys/key_table.h"
 #include "support/test_program.h"
 
 #include <QAction>
