@@ -28,7 +28,11 @@ void ToolForm::open()
     Show();
 }
 
-void ToolForm::unload() { Unload ? Unload() : markUnloaded(); }
+void ToolForm::unload()
+{
+    const bool holdsSomething = m_openFlag == nullptr || isLoaded();
+    Unload&& holdsSomething ? Unload() : markUnloaded();
+}
 
 void ToolForm::join(ToolWindows& windows, bool openedByName)
 {

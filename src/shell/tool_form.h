@@ -36,6 +36,7 @@ struct ToolForm : Form {
     /// Loads it if it isn't, and shows it before the other windows with the keyboard.
     void open();
     void hide() { Visible = false; }
+    /// Runs Unload, unless it isn't loaded: an exit unloads every window, opened or not.
     void unload();
 
     /// Adds it to the windows that go with the frame. With `openedByName` other units may open it by its name.

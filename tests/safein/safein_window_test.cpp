@@ -81,6 +81,16 @@ TEST_F(SafeinWindow, UnloadingSavesTheOptions)
     EXPECT_EQ(ini("ApplyRAWTMnotes"), "1");
 }
 
+TEST(SafeinAtExit, AProgramThatNeverOpenedItLeavesItsSettingsAlone)
+{
+    TestProgram t;
+    t.setIni("Miscellaneous", "UseShfKey", "0");
+    t.program().exit();
+    EXPECT_EQ(t.ini("Miscellaneous", "UseShfKey"), "0");
+    EXPECT_EQ(t.ini("Miscellaneous", "AddSafeinCR"), "(none)");
+    EXPECT_EQ(t.ini("Miscellaneous", "SafeinTop"), "(none)");
+}
+
 TEST_F(SafeinWindow, OtherUnitsShowAndUnloadItByName)
 {
     t.program().operations.UnloadForm("RAWform");

@@ -47,6 +47,12 @@ TEST_F(ToolFormTest, ClosingUnloadsItAndTheNextOpeningLoadsItAgain)
     EXPECT_EQ(loads, 2);
 }
 
+TEST_F(ToolFormTest, UnloadingOneThatIsNotLoadedRunsNothing)
+{
+    form.unload();
+    EXPECT_EQ(unloads, 0);
+}
+
 TEST_F(ToolFormTest, OpeningBringsAMinimisedWindowBack)
 {
     form.open();
