@@ -198,6 +198,7 @@ TEST_F(SafeinWindow, FunctionKeysRunTheirCommandsWhateverIsHeld)
         {2, &t.menus().mnuShowInsertWindow},   {3, &t.menus().mnuComposerPlugin},   {5, &t.menus().mnuInsertHeading},
         {6, &t.menus().mnuInsertRemStatement}, {7, &t.menus().mnuViewIdentify},     {8, &t.menus().mnuFileOpen},
         {9, &t.menus().mnuPreferencesEdit},    {11, &t.menus().mnuAppsJoyAnalyser}, {12, &t.menus().mnuSendToJoystick}};
+    t.menus().mnuFileSaveBoth.Enabled = false; // it is Ctrl+F8
     for (const auto& [number, item] : rows) {
         int runs = 0;
         item->handler = [&runs] { ++runs; };
@@ -205,7 +206,7 @@ TEST_F(SafeinWindow, FunctionKeysRunTheirCommandsWhateverIsHeld)
         for (const int held : {shiftKey::none, shiftKey::shift, shiftKey::shift | shiftKey::ctrl})
             EXPECT_FALSE(window.form.KeyDown(functionKey(number), held));
         EXPECT_EQ(runs, 3) << number;
-        EXPECT_FALSE(window.form.KeyDown(functionKey(number), shiftKey::ctrl) && number != 8);
+        EXPECT_FALSE(window.form.KeyDown(functionKey(number), shiftKey::ctrl));
         EXPECT_EQ(runs, 3) << number;
         item->handler = nullptr;
     }
