@@ -214,6 +214,8 @@ TEST_F(SafeinViewTest, CtrlEscEndsCapturing)
 
 TEST_F(SafeinViewTest, SignsOfTheUsersLayoutStandBesideOtherLabels)
 {
+    ASSERT_TRUE(form()->isActiveWindow());
+    events(); // the display's own signs, which are read when the window becomes active
     KeyboardSigns german;
     const auto at = [](const char* name) { return static_cast<std::size_t>(keyNamed(name)->index); };
     german.plain[at("y")] = "z";
