@@ -1,0 +1,220 @@
+"""The joysticks, seen from behind and a little from the left: front and left side, trigger and palm are all in view."""
+
+from hardware.parts import *
+
+FORWARD, RIGHT, UP = (-0.57, -0.28), (0.82, -0.195), (0, -0.94)
+FLOOR_BACK = (0.57, 0.28)
+
+
+def floor(x, y):
+    """The ground under a stick: to the right, towards the pilot, up."""
+    return Plane((x, y), RIGHT, FLOOR_BACK, UP)
+
+
+def base(d, ground, size, height):
+    """The box a stick stands on."""
+    d.shadow(ground.at(8, 4), size * 0.92, size * 0.36)
+    half = size / 2 - 12
+    corners = [(x * half, y * half) for x, y in ((-1, -1), (1, -1), (1, 1), (-1, 1))]
+    top = hull([p for a, b in corners for p in ground.ring(a, b, 12, height)])
+    lower = hull([p for a, b in corners for p in ground.ring(a, b, 12)])
+    whole = hull(top + lower)
+    left, right = min(whole)[0], max(whole)[0]
+    edge = ground.at(-half, half)[0]
+    near = (edge - left) / (right - left)
+    stops = ((0, "#50575f"), (near - 0.05, "#343940"), (near + 0.03, "#2b2f35"), (1, "#16181b"))
+    d.fill(path(whole), d.shades((left, 0), (right, 0), stops))
+    d.fill(path(top), d.gradient(ground.at(-half, -half, height), ground.at(half, half, height), "#737b87", "#454b54"))
+    d.line(path(top), "#fff", 1, 0.28)
+    d.rim(path(whole))
+
+
+def boot(d, ground, radius, height):
+    """The rubber folds around the foot of the grip."""
+    for i in range(4):
+        h = height + i * 7
+        r = radius * (1 - i * 0.13)
+        raised(d, ground.ring(0, 0, r, h), ground.ring(0, 0, r * 0.95, h + 6), DARK)
+
+
+# How the surfaces of a grip lie: the face below the thumb looks back and up, the side looks left.
+FACE = ((0.82, -0.195), (0.327, 0.93), (0.467, -0.31))
+SIDE = ((0.57, 0.28), (0.03, 0.94), (-0.82, 0.195))
+
+
+def arrows(d, ground, size):
+    """The two axes of the stick, on the floor beside its base."""
+    with d.control("ROTARY(3)"):
+        ribbon(d, ground, 4, size / 2 + 42, size - 30, along=0)
+    with d.control("ROTARY(6)"):
+        ribbon(d, ground, -size / 2 - 34, 4, size - 30, along=1)
+    x, y = ground.at(size / 2 - 8, size / 2 + 42)
+    d.label("ROTARY(3)", "JSX", (x + 12, y + 10))
+    x, y = ground.at(-size / 2 - 34, -size / 2 + 12)
+    d.label("ROTARY(6)", "JSY", (x - 8, y + 2), "end")
+
+
+def f22_f16_trigger(d):
+    """Both stages: the first is light, the mark on the blade is where the second begins."""
+    blade = [(206, 172), (188, 176), (172, 190), (163, 212), (163, 236), (171, 250), (180, 247), (182, 232), (187, 218),
+             (200, 208), (212, 204)]
+    with d.control("TRIG"):
+        d.fill(smooth(blade), d.gradient((160, 175), (204, 240), *CAP))
+        d.line(smooth(blade), "#0e1012", 1, 0.7)
+        d.line(smooth([(190, 181), (177, 194), (170, 213), (170, 236)], close=False), "#fff", 2, 0.5)
+        d.line(path([(166, 205), (184, 214)], close=False), DARK[1], 2)
+        d.line(path([(164, 216), (182, 223)], close=False), DARK[1], 2)
+
+
+def f22_f16_grip(d):
+    outline = [(161, 88), (168, 62), (190, 45), (228, 31), (260, 24), (287, 30), (303, 50), (316, 90), (328, 136),
+               (333, 164), (327, 182), (316, 206), (309, 236), (307, 266), (311, 300), (321, 328), (336, 344),
+               (340, 358), (318, 375), (284, 387), (240, 389), (204, 377), (200, 350), (199, 320), (202, 292),
+               (207, 264), (206, 238), (211, 216), (208, 197), (192, 178), (176, 152), (164, 118)]
+    d.fill(smooth(outline), d.shades((160, 0), (340, 0), ((0, "#5b626c"), (0.3, "#5f6771"), (0.46, "#58606a"),
+                                                        (0.62, "#41474f"), (0.85, "#2b2f35"), (1, "#1e2125"))))
+    # the front below the head lies in its shadow, and the side turns into the back along a soft ridge
+    chin = [(164, 118), (176, 152), (192, 178), (208, 197), (214, 226), (240, 222), (262, 202), (238, 192), (206, 172)]
+    d.fill(smooth(chin), d.gradient((190, 150), (232, 226), ("#101214", 0), ("#101214", 0.42), ("#101214", 0)))
+    d.line(smooth([(258, 214), (253, 250), (252, 300), (246, 352)], close=False), "#fff", 7, 0.06)
+    d.line(smooth([(330, 340), (322, 354), (292, 368), (254, 374), (214, 368)], close=False), "#fff", 1.6, 0.2)
+    for y in (270, 296, 322):
+        d.line(smooth([(206, y), (216, y + 6), (234, y + 9)], close=False), "#0e1012", 2, 0.3)
+    d.rim(smooth(outline))
+
+
+def f22_f16_face(d):
+    """Where the thumb works: a plate on the back of the head."""
+    plate = [(203, 70), (297, 45), (332, 168), (264, 200)]
+    d.fill(rounded(plate, 26), d.gradient((215, 56), (320, 196), "#6b737e", "#484f58", "#2f343a"))
+    d.line(rounded(plate, 26), "#0e1012", 1, 0.5)
+    d.line(smooth([(208, 84), (214, 72), (236, 62), (280, 51)], close=False), "#fff", 1.4, 0.45)
+    d.line(smooth([(170, 70), (190, 54), (228, 40), (262, 32), (284, 37)], close=False), "#fff", 2.2, 0.3)
+
+
+def swap(d, x, y):
+    """Two arrows past each other."""
+    with d.control("ROTARY(4)"):
+        disc = Plane((x, y), (1, 0), (0, 1), (0, 0)).ring(0, 0, 17)
+        d.fill(path(disc), d.gradient(*across(disc), BLUE[1], BLUE[2]))
+        d.line(path(disc), BLUE[0], 1, 0.8)
+        for side in (-1, 1):
+            arrow = [(-9, -2), (3, -2), (3, -6), (10, 0), (3, 6), (3, 2), (-9, 2)]
+            d.fill(path([(x + side * px, y + side * (py - 5)) for px, py in arrow]), "#fff")
+
+
+def plug(d, x, y):
+    """The plug of the game port, at the end of the cable."""
+    with d.control("ROTARY(7)"):
+        shell = [(x, y), (x + 30, y - 7), (x + 30, y + 45), (x, y + 38)]
+        d.fill(rounded(shell, 6), d.gradient((x, y), (x, y + 45), BODY[0], BODY[1], BODY[2]))
+        d.rim(rounded(shell, 6))
+        for i in range(3):
+            d.line(path([(x + 6 + i * 6, y + 6), (x + 6 + i * 6, y + 32)], close=False), "#0e1012", 2, 0.5)
+        face = [(x + 32, y - 12), (x + 50, y - 6), (x + 50, y + 44), (x + 32, y + 50)]
+        d.fill(rounded(face, 5), d.gradient((x + 32, y), (x + 50, y + 45), *CAP))
+        d.line(rounded(face, 5), "#0e1012", 1, 0.6)
+        for column, count in ((38, 8), (45, 7)):
+            for i in range(count):
+                cy = y + 19 + (i - (count - 1) / 2) * 6
+                d.add(f'<circle cx="{x + column}" cy="{number(cy)}" r="1.5" fill="#22262b"/>')
+
+
+def f22_f16_stick():
+    d = Drawing(580, 480, "F-22 Pro or F-16 FLCS joystick")
+    ground = floor(262, 404)
+    cable = smooth([(330, 380), (380, 356), (420, 322), (430, 280), (470, 256)], close=False)
+    base(d, ground, 186, 34)
+    with d.beside("ROTARY(7)"):
+        d.line(cable, "currentColor", 7, 0.45)
+        d.line(cable, "#30353b", 5)
+    boot(d, ground, 64, 34)
+    f22_f16_trigger(d)
+    with d.control("BTN(3)"):
+        lever = [(206, 318), (186, 324), (169, 340), (160, 362), (166, 378), (180, 374), (190, 360), (206, 352)]
+        d.fill(smooth(lever), d.gradient((164, 322), (200, 374), *CAP))
+        d.line(smooth(lever), "#0e1012", 1, 0.7)
+        d.line(smooth([(190, 329), (175, 344), (167, 364)], close=False), "#fff", 2, 0.5)
+    with d.control("BTN(2)"):
+        stub = Plane((208, 290), SIDE[0], SIDE[1], (-0.92, -0.26))
+        raised(d, stub.ring(0, 0, 13), stub.ring(0, 0, 11, 20), CAP)
+    f22_f16_grip(d)
+    f22_f16_face(d)
+    face = Plane((270, 118), *FACE)
+    side = Plane((212, 130), *SIDE)
+    low = Plane((234, 240), *SIDE)
+    with d.control("BTN(1)"):
+        button(d, face, -27, -34, 14, RED)
+    with d.control("HAT(0)"):
+        hat(d, face, 19, -36, 17)
+    with d.control("HAT(2)"):
+        hat(d, face, -20, 29, 16)
+    with d.control("HAT(1)"):
+        hat(d, face, 30, 20, 16)
+    with d.control("BTN(0)"):
+        button(d, side, -22, 2, 14)
+    with d.control("HAT(3)"):
+        hat(d, low, 0, 0, 18)
+    arrows(d, ground, 186)
+    swap(d, 76, 226)
+    plug(d, 468, 236)
+    pedals(d, "ROTARY(2)", 492, 390)
+    for name, text, y, start in (("BTN(1)", "S2", 44, (231, 84)), ("BTN(0)", "S1", 124, (190, 124)),
+                                 ("TRIG", "TG1 TG2", 186, (170, 198)), ("BTN(2)", "S3", 286, (188, 286)),
+                                 ("BTN(3)", "S4", 346, (170, 346))):
+        d.label(name, text, (112, y + 5), "end", [start, (start[0] - abs(start[1] - y), y), (118, y)])
+    for name, text, y, start in (("HAT(0)", "H1", 60, (286, 72)), ("HAT(1)", "H2", 130, (312, 130)),
+                                 ("HAT(2)", "H3", 184, (268, 158)), ("HAT(3)", "H4", 240, (238, 240))):
+        d.label(name, text, (376, y + 5), "start", [start, (start[0] + abs(start[1] - y), y), (370, y)])
+    d.label("ROTARY(4)", "SWAPTG", (76, 262), "middle")
+    d.label("ROTARY(7)", "PORT", (494, 222), "middle")
+    d.label("ROTARY(2)", "Rudder", (486, 464), "middle")
+    return d
+
+
+def older_grip(d):
+    outline = [(174, 92), (182, 64), (206, 44), (240, 34), (272, 40), (296, 62), (311, 98), (319, 136), (314, 166),
+               (302, 190), (294, 222), (294, 256), (300, 292), (310, 326), (314, 352), (296, 370), (258, 378), (220, 374),
+               (200, 360), (199, 340), (208, 326), (200, 308), (199, 292), (208, 276), (200, 258), (200, 242), (210, 224),
+               (208, 206), (196, 186), (184, 160), (176, 126)]
+    d.fill(smooth(outline), d.shades((174, 0), (320, 0), ((0, "#565d66"), (0.28, "#626a74"), (0.5, "#535a64"),
+                                                        (0.7, "#3a4048"), (1, "#1e2125"))))
+    chin = [(176, 126), (184, 160), (196, 186), (208, 206), (212, 226), (238, 220), (250, 206), (226, 194), (202, 170)]
+    d.fill(smooth(chin), d.gradient((186, 160), (228, 222), ("#101214", 0), ("#101214", 0.4), ("#101214", 0)))
+    d.line(smooth([(262, 214), (258, 260), (260, 310), (258, 356)], close=False), "#fff", 7, 0.06)
+    d.line(smooth([(184, 74), (208, 55), (240, 45), (268, 50)], close=False), "#fff", 2.2, 0.3)
+    d.rim(smooth(outline))
+    plate = smooth([(214, 84), (234, 60), (264, 54), (288, 74), (302, 112), (306, 146), (288, 168), (262, 172), (238, 150),
+                    (222, 118)])
+    d.fill(plate, d.gradient((222, 62), (306, 170), "#6b737e", "#484f58", "#2f343a"))
+    d.line(plate, "#0e1012", 1, 0.5)
+
+
+def older_trigger(d):
+    blade = [(214, 186), (196, 186), (180, 196), (170, 214), (168, 236), (174, 250), (183, 246), (186, 232), (194, 218),
+             (214, 212)]
+    with d.control("BTN(6)"):
+        d.fill(smooth(blade), d.gradient((166, 186), (208, 246), *RED))
+        d.line(smooth(blade), "#0e1012", 1, 0.7)
+        d.line(smooth([(196, 191), (184, 200), (176, 216), (174, 234)], close=False), "#fff", 2, 0.45)
+
+
+def older_stick():
+    d = Drawing(580, 480, "P FCS, Top Gun or FCS joystick")
+    ground = floor(258, 404)
+    base(d, ground, 206, 40)
+    boot(d, ground, 72, 40)
+    older_trigger(d)
+    older_grip(d)
+    with d.control("HAT(4)"):
+        hat(d, Plane((264, 108), *FACE), 0, 0, 24, 12)
+    for name, at, size in (("BTN(5)", (204, 108), 15), ("BTN(7)", (222, 168), 15), ("BTN(8)", (236, 262), 15)):
+        with d.control(name):
+            button(d, Plane(at, *SIDE), 0, 0, size)
+    pedals(d, "ROTARY(8)", 492, 390)
+    for name, text, y, start in (("BTN(5)", "UB", 76, (196, 100)), ("BTN(7)", "MB", 150, (206, 164)),
+                                 ("BTN(6)", "TG", 204, (176, 210)), ("BTN(8)", "LB", 262, (222, 262))):
+        d.label(name, text, (124, y + 5), "end", [start, (start[0] - abs(start[1] - y), y), (130, y)])
+    d.label("HAT(4)", "H", (376, 85), "start", [(288, 92), (300, 80), (370, 80)])
+    d.label("ROTARY(8)", "Rudder", (486, 464), "middle")
+    return d
