@@ -10,6 +10,7 @@
 #include "desktop/text.h"
 #include "desktop/theme.h"
 #include "documents/files/file_open.h"
+#include "platform/posix/command_line.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/processes/spawn.h"
@@ -24,19 +25,21 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace {
 
-constexpr std::string_view help = "Usage: tarvex [FILE]\n"
-                                  "A programming environment for Thrustmaster game controllers.\n"
-                                  "\n"
-                                  "FILE is a joystick or macro file, as a path of this system or a DOS path.\n"
-                                  "\n"
-                                  "  --help     show this text and end\n"
-                                  "  --version  show the version and end\n";
+constexpr std::string_view help =
+    "Usage: tarvex [FILE]\n"
+    "A programming environment for Thrustmaster game controllers.\n"
+    "\n"
+    "FILE is a joystick or macro file, as a path of this system or a DOS path. Blanks in\n"
+    "it need no quotes: all arguments together are the one path.\n"
+    "\n"
+    "  -h, --help  show this text and end\n"
+    "  --version   show the version and end\n";
 
 std::string fromEnvironment(const char* name)
 {
@@ -44,41 +47,11 @@ std::string fromEnvironment(const char* name)
     return value != nullptr ? value : "";
 }
 
-struct Arguments {
-    std::string file;
-    std::optional<int> exitStatus; ///< the process has nothing more to do than to say `text`
-    std::string text;
-};
-
-/// The bytes as they are given: a file's name needn't be text of the locale.
-Arguments readArguments(int count, char** values)
+/// Prints the text; the process's exit status.
+int print(std::string_view text)
 {
-    Arguments arguments;
-    bool options = true;
-    for (int i = 1; i < count; ++i) {
-        const std::string argument = values[i];
-        if (options && argument == "--") {
-            options = false;
-        } else if (options && argument == "--help") {
-            return {{}, EXIT_SUCCESS, std::string(help)};
-        } else if (options && argument == "--version") {
-            return {{}, EXIT_SUCCESS, "Tarvex " TARVEX_VERSION "\n"};
-        } else if (options && argument.starts_with('-')) {
-            return {{}, EXIT_FAILURE, "tarvex: unknown option " + argument + "\n" + std::string(help)};
-        } else if (arguments.file.empty()) {
-            arguments.file = argument;
-        } else {
-            return {{}, EXIT_FAILURE, "tarvex: one file at most\n" + std::string(help)};
-        }
-    }
-    return arguments;
-}
-
-/// Says what there is to say; the process's exit status.
-int leave(const Arguments& arguments)
-{
-    (arguments.exitStatus == EXIT_SUCCESS ? std::cout : std::cerr) << arguments.text;
-    return *arguments.exitStatus;
+    std::cout << text << std::flush;
+    return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 void openDropped(tarvex::Program& program, const tarvex::DriveMap& drives, const QStringList& paths)
@@ -137,13 +110,15 @@ int runProgram(tarvex::Application& application, const std::string& file)
 
 int main(int argumentCount, char** argumentValues)
 {
-    tarvex::fillStandardFiles();
-    const Arguments early = readArguments(argumentCount, argumentValues); // needs no window system
-    if (early.exitStatus == EXIT_SUCCESS) return leave(early);
-    tarvex::Application application(argumentCount, argumentValues);
+    using namespace tarvex;
+    fillStandardFiles();
+    const CommandLine line = readCommandLine(std::span(argumentValues, argumentCount).subspan(1));
+    if (line.wish == CommandLine::Wish::ShowHelp) return print(help);
+    if (line.wish == CommandLine::Wish::ShowVersion) return print("Tarvex " TARVEX_VERSION "\n");
+    int ownName = 1; // any other argument is part of the path, and none of it is Qt's
+    Application application(ownName, argumentValues);
     QApplication::setApplicationName(QStringLiteral("Tarvex"));
     QApplication::setDesktopFileName(QStringLiteral("tarvex"));
     QApplication::setQuitOnLastWindowClosed(false);
-    const Arguments arguments = readArguments(argumentCount, argumentValues); // without Qt's own
-    return arguments.exitStatus ? leave(arguments) : runProgram(application, arguments.file);
+    return runProgram(application, line.path);
 }
