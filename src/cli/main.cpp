@@ -3,6 +3,7 @@
 #include "cli/key_commands.h"
 #include "cli/layout_command.h"
 #include "cli/macro_commands.h"
+#include "cli/previous_command.h"
 #include "cli/statement_command.h"
 
 #include <CLI/CLI.hpp>
@@ -29,11 +30,12 @@ constexpr const char* teaching = R"(Examples:
   tarvexctl statement mig.b50 H1U             what the hat does when pushed up
   tarvexctl key DEL --ctrl                    what Ctrl+Delete is called, and its codes
   tarvexctl raw '#12 #1C #F0 #1C #F0 #12'     which keys raw codes press and release
+  tarvexctl previous                          the joystick files opened last
 
 Exit status: 0 done; 2 a wrong call, or a file that can't be read; 3 a search
 would never have ended (an unclosed bracket), or raw codes are no key's, the result
 is printed all the same; 4 there is nothing to analyse, no such statement or key.
-'tarvexctl COMMAND --help' tells more about a command; so does man tarvexctl.)";
+'tarvexctl COMMAND --help' says more about a command; so does man tarvexctl.)";
 
 constexpr const char* colourTeaching =
     R"(The text is searched for the words of the language, one word after the other, and
@@ -91,6 +93,12 @@ JSON: {"events": [{"key": "LSFT", "down": true}, ...], "left_down": ["...", ...]
        "unknown": [{"position": n, "text": "..."}, ...]}
 "left_down" names the keys that are never released; positions count bytes from 0.)";
 
+constexpr const char* previousTeaching =
+    R"(The newest comes first. Paths are DOS paths, as in the settings; tarvex opens them as
+they are.
+
+JSON: ["path", ...])";
+
 /// Called once the command line is known to be right; returns the exit status.
 using Work = std::function<int()>;
 
@@ -139,7 +147,7 @@ void addMacros(CLI::App& app, Work& work)
 void addUsed(CLI::App& app, Work& work)
 {
     const auto [command, options] =
-        newCommand(app, work, usedCommand, "used", "Tell which macros a joystick file uses", usedTeaching);
+        newCommand(app, work, usedCommand, "used", "List which macros a joystick file uses", usedTeaching);
     command->add_option("JOYSTICKFILE", options->joystickFile, "joystick file; - reads standard input")->required();
     command->add_option("MACROFILE", options->macroFile, "macro file; - reads standard input")->required();
     command->add_flag("--json", options->json, "as JSON");
@@ -191,6 +199,14 @@ void addRaw(CLI::App& app, Work& work)
     command->add_flag("--json", options->json, "as JSON");
 }
 
+void addPrevious(CLI::App& app, Work& work)
+{
+    const auto [command, options] = newCommand(app, work, previousCommand, "previous",
+                                               "List the joystick files that Tarvex opened last", previousTeaching);
+    command->add_option("--ini", options->ini, "read this settings file instead of the program's own");
+    command->add_flag("--json", options->json, "as JSON");
+}
+
 int fail(const std::string& text)
 {
     std::fprintf(stderr, "tarvexctl: %s\n", text.c_str());
@@ -201,7 +217,7 @@ int fail(const std::string& text)
 std::string complaint(const CLI::App& app, const CLI::ParseError& error, int argc, char** argv)
 {
     const bool hasCommand = !app.get_subcommands().empty();
-    if (!hasCommand && argc < 2) return "tell me what to do";
+    if (!hasCommand && argc < 2) return "no command says what to do";
     if (!hasCommand && argv[1][0] != '-') return "there is no command " + std::string(argv[1]);
     const std::string text = error.what();
     return text.substr(0, text.find('\n'));
@@ -221,6 +237,7 @@ int run(int argc, char** argv)
     addStatement(app, work);
     addKey(app, work);
     addRaw(app, work);
+    addPrevious(app, work);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
@@ -230,7 +247,7 @@ int run(int argc, char** argv)
         print(std::string(version.what()) + "\n");
         return exitStatus::done;
     } catch (const CLI::ParseError& error) {
-        return fail(complaint(app, error, argc, argv) + " (tarvexctl --help tells how it is called)");
+        return fail(complaint(app, error, argc, argv) + " (see tarvexctl --help)");
     }
     return work();
 }

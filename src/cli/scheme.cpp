@@ -42,4 +42,15 @@ Settings readScheme(const std::string& iniPath)
     return settings;
 }
 
+std::vector<std::string> readPreviousFiles(const std::string& iniPath)
+{
+    Settings settings;
+    ErrorRecord errors;
+    OneFile files(readInput(iniPath));
+    SettingsStore(files, "c:", settings, errors).read(Access::GetPreviousFiles, "");
+    std::vector<std::string> paths;
+    for (const SettingText& path : settings.JFPath) paths.push_back(path.whole());
+    return paths;
+}
+
 } // namespace tarvex::cli

@@ -31,7 +31,7 @@ TEST_F(WrongCallTest, AMissingSettingsFile)
     expectRefused({"colour", "-", "--ini", directory / "none.ini"}, "none.ini: No such file or directory");
 }
 
-TEST_F(WrongCallTest, AResultThatCantBeWrittenIsTold)
+TEST_F(WrongCallTest, AResultThatCantBeWrittenIsReported)
 {
     const CliResult result = tarvexctl({"colour", "-"}, "x", "/dev/full");
     EXPECT_EQ(result.status, 2);
