@@ -1,6 +1,7 @@
 # Choices of the build and the compiler settings that every target shares.
 
 option(TARVEX_DESKTOP "Build the desktop program (needs Qt 6)" ON)
+option(TARVEX_CLI "Build tarvexctl (needs CLI11 and JSON for Modern C++)" ON)
 option(TARVEX_TESTS "Build the tests" OFF)
 option(TARVEX_BENCHMARKS "Build the benchmarks" OFF)
 option(TARVEX_FUZZ "Build the fuzz targets (needs clang and its libFuzzer)" OFF)
