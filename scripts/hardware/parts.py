@@ -48,6 +48,16 @@ def curve(points, steps=8):
     return found
 
 
+def along(outline, start, end):
+    """The part of the curve through an outline that lies between two points near it, the shorter way."""
+    points = curve(outline, 16)
+    first, last = (min(range(len(points)), key=lambda i: hypot(points[i][0] - p[0], points[i][1] - p[1]))
+                   for p in (start, end))
+    there = points[first:last + 1] if first <= last else points[first:] + points[:last + 1]
+    back = points[last:first + 1] if last <= first else points[last:] + points[:first + 1]
+    return there if len(there) <= len(back) else back[::-1]
+
+
 def rounded(points, radius):
     """A polygon with round corners."""
     text = ""

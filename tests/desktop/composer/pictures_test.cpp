@@ -125,6 +125,27 @@ TEST_P(Drawing, HasNoTwoHotSpotsInOnePlace)
     EXPECT_THAT(shared, testing::IsEmpty());
 }
 
+TEST_P(Drawing, HidesNothingOfAControl)
+{
+    const QImage whole = draw();
+    for (const PictureControl& control : GetParam().controls) {
+        const QImage alone = draw(control.id);
+        const QImage label = draw("label:" + std::string(control.id)); // is drawn on top
+        int solid = 0;
+        int covered = 0;
+        for (int y = 0; y < whole.height(); ++y) {
+            for (int x = 0; x < whole.width(); ++x) {
+                if (qAlpha(alone.pixel(x, y)) < 255 || qAlpha(label.pixel(x, y)) > 0) continue;
+                const QColor shown = whole.pixelColor(x, y);
+                const QColor own = alone.pixelColor(x, y);
+                ++solid;
+                covered += std::abs(shown.lightness() - own.lightness()) > 16;
+            }
+        }
+        EXPECT_LT(covered, solid / 25) << control.id;
+    }
+}
+
 TEST_P(Drawing, NamesOnlyControlsOfTheTable)
 {
     static const QRegularExpression control(QStringLiteral("^(label:|beside:)?([A-Z]+(\\(\\d+\\))?)$"));

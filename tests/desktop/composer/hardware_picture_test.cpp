@@ -1,0 +1,336 @@
+#include "desktop/composer/hardware_picture.h"
+
+#include "desktop/text.h"
+#include "desktop/theme.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QPainter>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+/// A window with one picture; the mouse and the keys arrive as they do from the window system.
+struct Shown {
+    QWidget window;
+    HardwarePicture* picture;
+    std::vector<std::string> clicked;
+    std::vector<std::string> menus;
+    std::string attended = "nothing yet";
+
+    explicit Shown(const Picture& what, QSize size = {580, 480}) : picture(new HardwarePicture(what, &window))
+    {
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(picture);
+        QObject::connect(picture, &HardwarePicture::clicked,
+                         [this](const QString& id) { clicked.push_back(fromQt(id)); });
+        QObject::connect(picture, &HardwarePicture::menuWanted,
+                         [this](const QString& id, QPoint) { menus.push_back(fromQt(id)); });
+        QObject::connect(picture, &HardwarePicture::attended, [this](const QString& id) { attended = fromQt(id); });
+        window.resize(size);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        settle();
+    }
+    explicit Shown(PictureOf what, QSize size = {580, 480}) : Shown(tarvex::picture(what), size) {}
+
+    static void settle() { QApplication::processEvents(); }
+    HardwareControl& control(std::string_view id) const { return *picture->control(id); }
+    void click(QPoint at) { QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at); }
+    void move(QPoint at)
+    {
+        QTest::mouseMove(window.windowHandle(), at);
+        settle();
+    }
+    void key(Qt::Key key) { QTest::keyClick(window.windowHandle(), key); }
+    std::string focused() const
+    {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget != nullptr ? fromQt(widget->objectName()) : "";
+    }
+    QImage image() { return picture->grab().toImage(); }
+};
+
+/// Where a control is drawn when the picture has this size, by the drawing's file: not by the widget.
+struct Drawn {
+    QImage alone;
+
+    Drawn(const Picture& picture, std::string_view id, QSize size) : alone(size, QImage::Format_ARGB32_Premultiplied)
+    {
+        QSvgRenderer renderer(QStringLiteral(":/hardware/%1.svg").arg(toQt(picture.file)));
+        const QSizeF drawing = renderer.viewBoxF().size();
+        const qreal scale = std::min(size.width() / drawing.width(), size.height() / drawing.height());
+        alone.fill(Qt::transparent);
+        QPainter painter(&alone);
+        painter.translate((size.width() - drawing.width() * scale) / 2, (size.height() - drawing.height() * scale) / 2);
+        painter.scale(scale, scale);
+        const QString element = toQt(id);
+        renderer.render(&painter, element,
+                        renderer.transformForElement(element).mapRect(renderer.boundsOnElement(element)));
+    }
+    bool solid(int x, int y) const { return alone.valid(x, y) && qAlpha(alone.pixel(x, y)) > 200; }
+    /// Points well inside, all over it.
+    std::vector<QPoint> inside() const
+    {
+        std::vector<QPoint> points;
+        for (int y = 3; y < alone.height(); y += 4) {
+            for (int x = 3; x < alone.width(); x += 4) {
+                if (solid(x, y) && solid(x - 3, y) && solid(x + 3, y) && solid(x, y - 3) && solid(x, y + 3))
+                    points.emplace_back(x, y);
+            }
+        }
+        return points;
+    }
+};
+
+struct HardwarePictures : testing::TestWithParam<std::tuple<Picture, QSize>> {
+    const Picture& what() const { return std::get<0>(GetParam()); }
+    QSize size() const { return std::get<1>(GetParam()); }
+};
+
+std::string caseName(const testing::TestParamInfo<std::tuple<Picture, QSize>>& info)
+{
+    const auto& [picture, size] = info.param;
+    std::string name(picture.file);
+    std::ranges::replace(name, '-', '_');
+    return name + "_" + std::to_string(size.width()) + "x" + std::to_string(size.height());
+}
+
+INSTANTIATE_TEST_SUITE_P(AtItsSizeSmallAndWide, HardwarePictures,
+                         testing::Combine(testing::ValuesIn(allPictures().begin(), allPictures().end()),
+                                          testing::Values(QSize(580, 480), QSize(435, 360), QSize(1000, 620))),
+                         caseName);
+
+TEST_P(HardwarePictures, EveryControlIsClickedWhereItIsDrawn)
+{
+    Shown t(what(), size());
+    for (const PictureControl& control : what().controls) {
+        const std::vector<QPoint> points = Drawn(what(), control.id, size()).inside();
+        ASSERT_FALSE(points.empty()) << control.id;
+        for (std::size_t i = 0; i < points.size(); i += std::max<std::size_t>(1, points.size() / 8)) {
+            t.clicked.clear();
+            t.click(points[i]);
+            EXPECT_THAT(t.clicked, testing::ElementsAre(std::string(control.id)))
+                << points[i].x() << ',' << points[i].y();
+        }
+    }
+}
+
+TEST_P(HardwarePictures, NothingIsClickedWhereNoControlIsDrawn)
+{
+    Shown t(what(), size());
+    std::vector<Drawn> drawn;
+    for (const PictureControl& control : what().controls) drawn.emplace_back(what(), control.id, size());
+    int beside = 0;
+    for (int y = 2; y < size().height(); y += 23) {
+        for (int x = 2; x < size().width(); x += 23) {
+            const bool near = std::ranges::any_of(drawn, [&](const Drawn& control) {
+                for (int dy = -3; dy <= 3; ++dy) {
+                    for (int dx = -3; dx <= 3; ++dx) {
+                        if (control.alone.valid(x + dx, y + dy) && qAlpha(control.alone.pixel(x + dx, y + dy)) > 0)
+                            return true;
+                    }
+                }
+                return false;
+            });
+            if (near) continue;
+            ++beside;
+            t.click(QPoint(x, y));
+        }
+    }
+    EXPECT_GT(beside, 50);
+    EXPECT_THAT(t.clicked, testing::IsEmpty());
+}
+
+TEST_P(HardwarePictures, TabAndTheArrowsReachEveryControlInItsOrder)
+{
+    Shown t(what(), size());
+    t.picture->controls().front()->setFocus();
+    for (const PictureControl& control : what().controls) {
+        EXPECT_EQ(t.focused(), control.id);
+        t.key(Qt::Key_Tab);
+    }
+    t.picture->controls().front()->setFocus();
+    for (std::size_t i = 0; i < what().controls.size(); ++i) {
+        EXPECT_EQ(t.focused(), what().controls[i].id);
+        t.key(i % 2 == 0 ? Qt::Key_Right : Qt::Key_Down);
+    }
+    EXPECT_EQ(t.focused(), what().controls.front().id) << "behind the last comes the first";
+    t.key(Qt::Key_Left);
+    EXPECT_EQ(t.focused(), what().controls.back().id);
+    t.key(Qt::Key_Up);
+    EXPECT_EQ(t.focused(), what().controls[what().controls.size() - 2].id);
+}
+
+TEST_P(HardwarePictures, AScreenReaderFindsANamedButtonForEachControl)
+{
+    Shown t(what(), size());
+    QAccessibleInterface& whole = *QAccessible::queryAccessibleInterface(t.picture);
+    EXPECT_EQ(fromQt(whole.text(QAccessible::Name)), what().description);
+    ASSERT_EQ(whole.childCount(), static_cast<int>(what().controls.size()));
+    for (int i = 0; i < whole.childCount(); ++i) {
+        EXPECT_EQ(fromQt(whole.child(i)->text(QAccessible::Name)),
+                  accessibleName(what().controls[static_cast<std::size_t>(i)]));
+        EXPECT_EQ(whole.child(i)->role(), QAccessible::PushButton);
+        EXPECT_TRUE(whole.child(i)->state().focusable);
+    }
+}
+
+TEST(HardwarePicture, SpaceAndReturnClickTheFocusedControl)
+{
+    Shown t(PictureOf::Tqs);
+    t.control("BTN(32)").setFocus();
+    t.key(Qt::Key_Space);
+    t.key(Qt::Key_Return);
+    EXPECT_THAT(t.clicked, testing::ElementsAre("BTN(32)", "BTN(32)"));
+}
+
+TEST(HardwarePicture, ArrowsPassOverWhatIsHiddenOrDisabled)
+{
+    Shown t(PictureOf::OlderStick); // H, UB, TG, MB, LB
+    t.control("BTN(5)").hide();
+    t.control("BTN(6)").setEnabled(false);
+    t.settle();
+    t.control("HAT(4)").setFocus();
+    t.key(Qt::Key_Right);
+    EXPECT_EQ(t.focused(), "BTN(7)");
+    t.key(Qt::Key_Left);
+    EXPECT_EQ(t.focused(), "HAT(4)");
+}
+
+TEST(HardwarePicture, TheMenuKeyAndTheRightButtonAskForTheControlsMenu)
+{
+    Shown t(PictureOf::OlderStick);
+    const QPoint hat = Drawn(t.picture->picture(), "HAT(4)", {580, 480}).inside().front();
+    QContextMenuEvent right(QContextMenuEvent::Mouse, hat - t.control("HAT(4)").pos(), t.picture->mapToGlobal(hat));
+    QApplication::sendEvent(&t.control("HAT(4)"), &right);
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&t.control("BTN(6)"), &key);
+    EXPECT_THAT(t.menus, testing::ElementsAre("HAT(4)", "BTN(6)"));
+    EXPECT_THAT(t.clicked, testing::IsEmpty());
+}
+
+TEST(HardwarePicture, AttentionFollowsTheMouseAndThenTheFocus)
+{
+    Shown t(PictureOf::Wcs);
+    const Picture& what = t.picture->picture();
+    t.control("BTN(18)").setFocus();
+    EXPECT_EQ(t.attended, "BTN(18)");
+    t.move(Drawn(what, "BTN(21)", {580, 480}).inside().front());
+    EXPECT_EQ(t.attended, "BTN(21)");
+    t.move(QPoint(3, 3));
+    EXPECT_EQ(t.attended, "BTN(18)");
+    t.control("BTN(18)").clearFocus();
+    EXPECT_EQ(t.attended, "");
+}
+
+TEST(HardwarePicture, AHiddenControlIsNeitherDrawnNorClicked)
+{
+    Shown t(PictureOf::F22AndF16Stick);
+    const std::vector<QPoint> port = Drawn(t.picture->picture(), "ROTARY(7)", {580, 480}).inside();
+    const QPoint middle = port[port.size() / 2];
+    EXPECT_EQ(t.picture->childAt(middle), &t.control("ROTARY(7)"));
+    const QColor ground = t.image().pixelColor(3, 3);
+    EXPECT_NE(t.image().pixelColor(middle), ground);
+    t.control("ROTARY(7)").hide();
+    t.settle();
+    EXPECT_EQ(t.image().pixelColor(middle), ground);
+    t.click(middle);
+    EXPECT_THAT(t.clicked, testing::IsEmpty());
+    t.control("ROTARY(7)").show();
+    t.settle();
+    EXPECT_NE(t.image().pixelColor(middle), ground);
+    t.click(middle);
+    EXPECT_THAT(t.clicked, testing::ElementsAre("ROTARY(7)"));
+}
+
+TEST(HardwarePicture, ADisabledControlIsFaintAndTakesNoClick)
+{
+    Shown t(PictureOf::Wcs);
+    const QPoint inside = Drawn(t.picture->picture(), "BTN(20)", {580, 480}).inside().front();
+    const QImage before = t.image();
+    t.control("BTN(20)").setEnabled(false);
+    t.settle();
+    EXPECT_LT(t.image().pixelColor(inside).lightness(), before.pixelColor(inside).lightness() - 40);
+    t.click(inside);
+    EXPECT_THAT(t.clicked, testing::IsEmpty());
+}
+
+TEST(HardwarePicture, EachStateOfAControlLooksDifferent)
+{
+    Shown t(PictureOf::F22AndF16Stick);
+    HardwareControl& hat = t.control("HAT(0)");
+    const QPoint inside = Drawn(t.picture->picture(), "HAT(0)", {580, 480}).inside().front();
+    t.control("BTN(1)").clearFocus();
+    std::map<std::string, QImage> seen;
+    const auto look = [&](const std::string& state) { seen[state] = t.image(); };
+    look("normal");
+    t.move(inside);
+    look("hovered");
+    QTest::mousePress(t.window.windowHandle(), Qt::LeftButton, {}, inside);
+    look("pressed");
+    QTest::mouseRelease(t.window.windowHandle(), Qt::LeftButton, {}, inside);
+    t.move(QPoint(3, 3));
+    hat.setFocus();
+    look("focused");
+    hat.clearFocus();
+    hat.setAssigned(true);
+    look("assigned");
+    hat.setAssigned(false);
+    hat.setCheckable(true);
+    hat.setChecked(true);
+    look("checked");
+    hat.setChecked(false);
+    hat.setEnabled(false);
+    t.settle();
+    look("disabled");
+    for (auto one = seen.begin(); one != seen.end(); ++one) {
+        for (auto other = std::next(one); other != seen.end(); ++other)
+            EXPECT_NE(one->second, other->second) << one->first << " and " << other->first;
+    }
+    hat.setEnabled(true);
+    t.settle();
+    EXPECT_EQ(t.image(), seen["normal"]);
+}
+
+TEST(HardwarePicture, NamesFollowThePalette)
+{
+    Shown t(PictureOf::Wcs);
+    const auto lightest = [&] {
+        const QImage image = t.image().copy(QRect(480, 130, 60, 30)); // where T7 is written
+        int found = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) found = std::max(found, image.pixelColor(x, y).lightness());
+        }
+        return found;
+    };
+    t.window.setPalette(darkPalette());
+    t.settle();
+    EXPECT_GT(lightest(), 200);
+    EXPECT_LT(t.image().pixelColor(3, 3).lightness(), 80);
+}
+
+TEST(HardwarePicture, AnotherPictureMayBeSetByAClick)
+{
+    Shown t(PictureOf::Wcs);
+    QObject::connect(t.picture, &HardwarePicture::clicked, [&t](const QString&) {
+        if (&t.picture->picture() == &picture(PictureOf::Wcs)) t.picture->setPicture(picture(PictureOf::Tqs));
+    });
+    t.click(Drawn(picture(PictureOf::Wcs), "BTN(21)", {580, 480}).inside().front());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    t.settle();
+    EXPECT_EQ(t.picture->control("BTN(21)"), nullptr);
+    t.clicked.clear();
+    t.click(Drawn(picture(PictureOf::Tqs), "ROTARY(0)", {580, 480}).inside().front());
+    EXPECT_THAT(t.clicked, testing::ElementsAre("ROTARY(0)"));
+}
+
+} // namespace
+} // namespace tarvex
