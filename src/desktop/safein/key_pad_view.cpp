@@ -15,6 +15,7 @@ namespace {
 
 constexpr int usualQuarter = 10; // pixels of a quarter of a usual key
 constexpr int leastQuarter = 6;
+constexpr int quartersOfAKey = 4;
 constexpr int firstTabStop = 83; // Esc
 constexpr int gap = 1;
 
@@ -59,7 +60,13 @@ void KeyPadView::addKey(const Key& key)
 
 QSize KeyPadView::sizeHint() const { return QSize(padWidth, padHeight) * usualQuarter; }
 
-QSize KeyPadView::minimumSizeHint() const { return QSize(padWidth, padHeight) * leastQuarter; }
+/// A key is never lower than a line of the window's other texts, so that large letters don't shrink it.
+QSize KeyPadView::minimumSizeHint() const
+{
+    constexpr int frame = 2 * (2 + gap);
+    const int line = (fontMetrics().height() + frame + quartersOfAKey - 1) / quartersOfAKey;
+    return QSize(padWidth, padHeight) * std::max(leastQuarter, line);
+}
 
 void KeyPadView::resizeEvent(QResizeEvent*)
 {
