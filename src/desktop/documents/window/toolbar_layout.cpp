@@ -51,6 +51,12 @@ int ToolbarLayout::rowHeight() const
     return height;
 }
 
+/// A size hint knows nothing of a fixed width.
+int ToolbarLayout::extensionWidth() const
+{
+    return std::clamp(m_extension->sizeHint().width(), m_extension->minimumWidth(), m_extension->maximumWidth());
+}
+
 /// Of all there is in one row.
 int ToolbarLayout::rowWidth() const
 {
@@ -71,7 +77,7 @@ std::vector<QRect> ToolbarLayout::places(const QRect& area) const
 {
     std::vector<QRect> found(m_entries.size());
     const bool leavesOut = !m_wraps && rowWidth() > area.width();
-    const int end = area.left() + area.width() - (leavesOut ? m_extension->sizeHint().width() : 0);
+    const int end = area.left() + area.width() - (leavesOut ? extensionWidth() : 0);
     const int height = rowHeight();
     QPoint at = area.topLeft();
     std::size_t separator = m_entries.size(); // due before the next widget
@@ -112,7 +118,7 @@ QSize ToolbarLayout::sizeHint() const { return QSize(rowWidth(), rowHeight()).gr
 /// One button and the extension button.
 QSize ToolbarLayout::minimumSize() const
 {
-    return QSize(m_extension->sizeHint().width() + rowHeight(), rowHeight()).grownBy(contentsMargins());
+    return QSize(extensionWidth() + rowHeight(), rowHeight()).grownBy(contentsMargins());
 }
 
 void ToolbarLayout::setGeometry(const QRect& area)
@@ -127,7 +133,7 @@ void ToolbarLayout::setGeometry(const QRect& area)
         entry.item->widget()->setGeometry(found[i].isEmpty() ? QRect(0, 0, 0, 0) : found[i]);
         leftOut = leftOut || (!entry.separator && found[i].isEmpty());
     }
-    const int width = m_extension->sizeHint().width();
+    const int width = extensionWidth();
     m_extension->setGeometry(inner.left() + inner.width() - width, inner.top(), width, rowHeight());
     m_extension->setVisible(leftOut);
 }

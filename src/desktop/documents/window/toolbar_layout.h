@@ -37,6 +37,7 @@ private:
     };
     /// Where an entry goes; empty: it isn't seen.
     std::vector<QRect> places(const QRect& area) const;
+    int extensionWidth() const;
     int rowHeight() const;
     int rowWidth() const;
 

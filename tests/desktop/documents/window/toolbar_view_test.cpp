@@ -193,6 +193,7 @@ TEST(ToolbarView, OnANarrowWindowTheRestStandsBehindTheArrow)
     EXPECT_FALSE(extension.isVisible());
     t.resize(500);
     EXPECT_TRUE(extension.isVisible());
+    EXPECT_TRUE(t.view().rect().contains(extension.geometry()));
     EXPECT_EQ(t.view().height(), oneRow);
     EXPECT_TRUE(t.seen(1));
     EXPECT_FALSE(t.seen(47));
