@@ -2,10 +2,10 @@
 
 #include "faulty_calls.h"
 #include "platform/posix/posix_files.h"
+#include "support/eventually.h"
 #include "support/temporary_directory.h"
 
 #include <gtest/gtest.h>
-#include <thread>
 #include <unistd.h>
 
 namespace tarvex {
@@ -147,7 +147,7 @@ TEST(PosixAppendFile, TellsWhenTheDiskHasIt)
     EXPECT_TRUE(file.isSynced()) << "nothing was given to the disk yet";
     file.append("x");
     EXPECT_TRUE(file.sync());
-    while (!file.isSynced()) std::this_thread::yield();
+    ASSERT_TRUE(eventually([&] { return file.isSynced(); }));
     EXPECT_TRUE(file.sync()) << "not busy any more";
 }
 
@@ -159,7 +159,7 @@ TEST(BackgroundSync, EndsOnceAndTellsItsFailureOnce)
     BackgroundSync sync(calls, ends[1]);
     EXPECT_TRUE(sync.hasEnded()) << "none was started";
     sync.start();
-    EXPECT_THROW(while (!sync.hasEnded()) std::this_thread::yield(), RuntimeError);
+    EXPECT_THROW(eventually([&] { return sync.hasEnded(); }), RuntimeError);
     EXPECT_TRUE(sync.hasEnded());
     ::close(ends[0]);
     ::close(ends[1]);
@@ -172,15 +172,14 @@ TEST(BackgroundSync, TellsTheNextTimeWhatWentWrong)
     SystemCalls calls;
     BackgroundSync sync(calls, ends[1]);
     EXPECT_TRUE(sync.start());
-    bool told = false;
-    while (!told) {
+    EXPECT_TRUE(eventually([&] {
         try {
             sync.start();
         } catch (const RuntimeError&) {
-            told = true;
+            return true;
         }
-    }
-    EXPECT_TRUE(told);
+        return false;
+    }));
     ::close(ends[0]);
     ::close(ends[1]);
 }
