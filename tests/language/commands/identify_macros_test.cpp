@@ -109,6 +109,17 @@ TEST_F(IdentifyTest, EveryListIsTickedAndOldTicksGo)
     EXPECT_THAT(ticked(1), ElementsAre("B"));
 }
 
+TEST_F(IdentifyTest, TheLastNameThatWasLookedAtIsTheSelectedMacro)
+{
+    list({"A", "B"});
+    list({"C", "D"}, 1);
+    list({}, 2);
+    editor.macros.SelectedMacro = "before";
+    editor.JoystickText.setText("e A \r\n");
+    IdentifyMacrosUsed(editor);
+    EXPECT_EQ(editor.macros.SelectedMacro, "D");
+}
+
 TEST_F(IdentifyTest, TheHeadingAllIsShownAgainAndTheStatusSaysSo)
 {
     frame.Combo1.Items = std::vector<std::string>{"All", "Guns"};

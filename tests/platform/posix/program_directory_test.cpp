@@ -75,6 +75,21 @@ TEST_F(ProgramDirectory, OfAnInstalledPackageIsFilledOnceWithItsFiles)
     EXPECT_FALSE(std::filesystem::exists(inHome + "/Tips.txt")) << "what the user removed stays away";
 }
 
+TEST_F(ProgramDirectory, FilledFromFoldersThatNobodyMayWriteIsTheUsersToWrite)
+{
+    install();
+    ::chmod((disk / "share/tarvex/Templates").c_str(), 0555);
+    ::chmod((disk / "share/tarvex").c_str(), 0555);
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    for (const char* folder : {"", "/Templates"}) {
+        struct stat status = {};
+        ASSERT_EQ(::stat((inHome + folder).c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0700U, 0700U) << folder;
+    }
+    ::chmod((disk / "share/tarvex").c_str(), 0755); // to be removed with the rest
+    ::chmod((disk / "share/tarvex/Templates").c_str(), 0755);
+}
+
 TEST_F(ProgramDirectory, WithoutAnyWritablePlaceIsTheExecutables)
 {
     moveToUnwritablePlace();

@@ -303,6 +303,15 @@ TEST_F(SafeWriting, LeftOversAreSweptAtTheFirstSaveWhoeverHasTheirNumber)
     EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
 }
 
+TEST_F(SafeWriting, LeftOversInTheFolderOfCopiesAreSweptAtTheFirstCopy)
+{
+    setOld(disk.put("recovery/.tarvex-save-0123456789abcdef", "half"));
+    disk.put("work/mig.b50", "old");
+    calls.lockedFolder = folder + "/";
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_THAT(namesIn(disk / "recovery"), IsEmpty());
+}
+
 TEST_F(SafeWriting, SweepSparesYoungFilesAndForeignNames)
 {
     const std::vector<std::string> kept = {".tarvex-save-0123456789abcdeF",

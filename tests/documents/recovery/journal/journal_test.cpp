@@ -297,6 +297,21 @@ TEST(Journal, ThatCannotBeWrittenDisturbsNobodyAndIsToldOnce)
     EXPECT_EQ(t.fileText(joystickPath), "abBTN S1 fire\r\n");
 }
 
+TEST(Journal, ThatCannotBeWrittenASecondTimeIsReportedAnew)
+{
+    OpenPair t;
+    const RuntimeError full(ErrorCode::DiskFull, "No space left on device");
+    t.files.failAppends(full);
+    t.typeJoystick("a");
+    t.files.failAppends(std::nullopt);
+    t.diskIsDone();
+    t.editor().status("something else");
+    t.files.failAppends(full);
+    t.typeJoystick("b");
+    EXPECT_EQ(t.status(), "I can't take notes of what you type, so you'd better save it now and then: No space left on "
+                          "device");
+}
+
 TEST(Journal, ThatCouldNotBeWrittenIsTriedAgainLater)
 {
     OpenPair t;

@@ -44,6 +44,34 @@ TEST(Recovery, BringsBackBothPanesModifiedAndUndoable)
     EXPECT_EQ(t.journals(), 0U);
 }
 
+constexpr const char* boxBeginning =
+    "Somebody pulled the plug on me last time, before everything was saved. Don't panic: "
+    "I'd been taking notes all along, and here's what I've got:\n";
+constexpr const char* boxEnd = "\n\nShall I bring it back? It will be just as you left it: not saved yet, and one Undo "
+                               "away from what was saved. If you press No it goes as plain text into\n\n    "
+                               "c:\\tarvex\\Recover\n\nand I won't bother you with it again.";
+
+TEST(Recovery, TheBoxNamesTheFilesAndWhereTheirTextsGo)
+{
+    OpenPair t;
+    t.typeJoystick("1");
+    t.typeMacro("2");
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.lastBox().text, std::string(boxBeginning) + "\n    mig.b50\n    mig.m50" + boxEnd);
+}
+
+TEST(Recovery, TheBoxNamesTheNewNameForAFileThatHasChanged)
+{
+    OpenPair t;
+    t.typeJoystick("mine ");
+    t.files.addFile(joystickPath, "BTN S1 theirs\r\n");
+    t.killAndStart({Answer::Yes});
+    EXPECT_EQ(t.lastBox().text, std::string(boxBeginning) +
+                                    "\n    mig.b50\n\nmig.b50 isn't what it was then, so I'd leave the file alone and "
+                                    "call yours untitled-mig.b50." +
+                                    boxEnd);
+}
+
 TEST(Recovery, TextThatWasBroughtBackIsKeptAsWellAsNew)
 {
     OpenPair t;
@@ -488,6 +516,9 @@ TEST(Recovery, ATextThatThePaneCannotTakeAsItIsStaysInItsJournal)
     EXPECT_EQ(t.dialogues.boxes[1].title, "That's not quite it ...");
     EXPECT_EQ(t.dialogues.boxes[1].icon, BoxIcon::Exclamation);
     EXPECT_NE(t.dialogues.boxes[1].text.find("odd.b50"), std::string::npos);
+    Journal ofThePane;
+    ASSERT_EQ(readJournal(t.fileText("c:\\tarvex\\Recover\\2.journal"), ofThePane), JournalState::Readable);
+    EXPECT_EQ(ofThePane.text, t.editor().JoystickText.Text()) << "what the pane shows has a journal at once";
     for (int i = 0; i < 3; ++i) t.editor().TimerJournal.Tick();
     t.editor().joystick.pane.userEdit(0, 0, "x");
     t.dialogues.answers = {Answer::No};
