@@ -3,10 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-// Windows without a screen, and with the program's own style whatever desktop the tests run on.
+// Windows without a display, on a pretended screen of a usual size, and with the program's own style whatever desktop
+// the tests run on.
 int main(int argumentCount, char** arguments)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TARVEX_SOURCE_DIRECTORY "/tests/desktop/screen.json");
     testing::InitGoogleMock(&argumentCount, arguments);
     QApplication application(argumentCount, arguments);
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -214,6 +215,61 @@ TEST(QtDialogues, OpenedFileComesBackAsADosPath)
     EXPECT_EQ(title, "Opening joystick file");
     ASSERT_TRUE(path);
     EXPECT_EQ(drives.toNative(*path), directory.path() + "/MIG.B50");
+}
+
+/// What a dialogue for saving gives when the user writes the name and presses Return. A dialogue that doesn't take it,
+/// or asks something, fails the test and is closed.
+std::optional<std::string> savedAs(QtDialogues& dialogues, const FileRequest& request, const QString& name)
+{
+    bool written = false;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, &user, [&] {
+        auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (modal == nullptr) return;
+        auto* dialogue = qobject_cast<QFileDialog*>(modal);
+        if (dialogue == nullptr || written) {
+            ADD_FAILURE() << "not taken: " << modal->windowTitle().toStdString();
+            return modal->reject();
+        }
+        written = true;
+        EXPECT_EQ(dialogue->acceptMode(), QFileDialog::AcceptSave);
+        auto* field = dialogue->findChild<QLineEdit*>("fileNameEdit");
+        EXPECT_EQ(field->text().toStdString(), request.suggestedName);
+        field->selectAll();
+        QTest::keyClicks(field, name);
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    user.start(0);
+    return dialogues.saveFile(request);
+}
+
+TEST(QtDialogues, ANewNameToSaveUnderComesBackAsADosPathWithItsExtension)
+{
+    const TemporaryDirectory directory;
+    const DriveMap drives({{}, "/tmp", directory.path(), directory.path()});
+    QtDialogues dialogues(drives);
+    FileRequest request;
+    request.filter = "Joystick file|*.b50";
+    request.directory = drives.toDos(directory.path());
+    request.suggestedName = "untitled.b50";
+    request.defaultExtension = "b50";
+    const auto path = savedAs(dialogues, request, "new");
+    ASSERT_TRUE(path);
+    EXPECT_EQ(drives.toNative(*path), directory.path() + "/new.b50");
+    EXPECT_FALSE(std::ifstream(directory.path() + "/new.b50").is_open()) << "only the name was asked for";
+}
+
+TEST(QtDialogues, TheNameOfAFileThatIsThereIsTakenWithoutAQuestion)
+{
+    const TemporaryDirectory directory;
+    directory.put("mig.b50", "x");
+    const DriveMap drives({{}, "/tmp", directory.path(), directory.path()});
+    QtDialogues dialogues(drives);
+    FileRequest request;
+    request.directory = drives.toDos(directory.path());
+    const auto path = savedAs(dialogues, request, "mig.b50");
+    ASSERT_TRUE(path) << "the program asks about that itself";
+    EXPECT_EQ(drives.toNative(*path), directory.path() + "/mig.b50");
 }
 
 TEST(QtDialogues, ChosenFolderComesBackAsADosPath)

@@ -1,0 +1,49 @@
+#include "desktop_program.h"
+
+#include "documents/files/file_open.h"
+
+#include <QApplication>
+
+namespace tarvex {
+
+namespace {
+
+constexpr const char* joystickPath = "c:\\tm\\b50progs\\mig.b50";
+
+} // namespace
+
+DesktopProgram::DesktopProgram()
+{
+    machine.files.addFile(joystickPath, "BTN S1 /U fire /D gear\r\n");
+    machine.files.addFile("c:\\tm\\b50progs\\mig.m50", "fire = f\r\ngear = g  Rem wheels\r\n");
+    program = std::make_unique<Program>(platform);
+    appearance = std::make_unique<Appearance>(machine.files, TestMachine::programDirectory, program->menus);
+    theme = std::make_unique<ThemeView>(*appearance);
+    window = std::make_unique<MumWindow>(*program);
+    dialogues.setParent(window.get());
+    dialogues.setMenus(&program->menus);
+    addListForms(dialogues, program->lists, window.get());
+    addPreferencesForm(dialogues, program->preferences, window.get());
+    EXPECT_TRUE(program->start());
+    window->showNormal();
+    window->resize(1000, 700);
+    openPair();
+    QApplication::processEvents();
+}
+
+DesktopProgram::~DesktopProgram()
+{
+    appearance->theme = Appearance::Theme::System;
+    window.reset();
+}
+
+void DesktopProgram::openPair()
+{
+    Editor& editor = program->editor;
+    const bool isOpen = editor.pair.JoystickFileName == "mig.b50" && editor.pair.MacroFileName == "mig.m50";
+    if (isOpen) return;
+    editor.OpeningPath = joystickPath;
+    OpenPreviouslySavedFiles(editor);
+}
+
+} // namespace tarvex

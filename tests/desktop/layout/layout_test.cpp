@@ -1,0 +1,290 @@
+// Every window that a command opens has its widgets in place: nothing on top of another, nothing outside, no text cut.
+// A window of the future takes part by itself, or the test says that no command led to it.
+
+#include "desktop_program.h"
+#include "layout_faults.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cxxabi.h>
+#include <map>
+#include <typeinfo>
+
+namespace tarvex {
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+// ---- what the look at a window notices ------------------------------------------------------------------------------
+
+struct Box : QWidget {
+    QWidget* add(QRect place)
+    {
+        auto* child = new QWidget(this);
+        child->setGeometry(place);
+        return child;
+    }
+    std::set<std::string> faults()
+    {
+        resize(200, 100);
+        show();
+        return layoutFaults(*this);
+    }
+};
+
+TEST(LayoutFaults, WidgetsSideBySideAreInOrder)
+{
+    Box box;
+    box.add({0, 0, 50, 50});
+    box.add({50, 0, 150, 50});
+    EXPECT_THAT(box.faults(), IsEmpty());
+}
+
+TEST(LayoutFaults, AWidgetOnTopOfAnotherIsOne)
+{
+    Box box;
+    box.add({0, 0, 50, 50})->setObjectName("low");
+    box.add({49, 49, 50, 50})->setObjectName("high");
+    EXPECT_THAT(box.faults(), testing::ElementsAre("QWidget low and QWidget high overlap"));
+}
+
+TEST(LayoutFaults, AWidgetOutsideItsParentIsOneAndAHiddenOneIsNot)
+{
+    Box box;
+    box.add({151, 0, 50, 50})->setObjectName("far");
+    box.add({300, 0, 50, 50})->hide();
+    EXPECT_THAT(box.faults(), Contains(HasSubstr("QWidget far leaves")));
+    EXPECT_EQ(box.faults().size(), 1U);
+}
+
+TEST(LayoutFaults, AWidgetThatIsInNoLayoutIsOne)
+{
+    Box box;
+    auto* row = new QHBoxLayout(&box);
+    row->addWidget(new QLabel("in the layout"));
+    auto* button = new QPushButton("nowhere", &box);
+    button->show();
+    EXPECT_THAT(box.faults(), testing::Not(IsEmpty()));
+}
+
+TEST(LayoutFaults, ATextWithoutRoomIsOne)
+{
+    Box box;
+    auto* label = new QLabel("a text that is far too long", &box);
+    label->setGeometry(0, 0, 40, 20);
+    auto* button = new QPushButton("a text that is far too long", &box);
+    button->setGeometry(0, 50, 40, 30);
+    EXPECT_THAT(box.faults(), Contains(HasSubstr("QLabel \"a text that is far too long\" is clipped")));
+    EXPECT_THAT(box.faults(), Contains(HasSubstr("QPushButton \"a text that is far too long\" is clipped")));
+    label->setGeometry(0, 0, 200, 40);
+    button->setGeometry(0, 50, 200, 40);
+    EXPECT_THAT(box.faults(), IsEmpty());
+}
+
+TEST(LayoutFaults, APageIsLookedAtThroughItsScrollAreaAndMustNotScrollSideways)
+{
+    QScrollArea area;
+    auto* page = new Box;
+    page->add({0, 0, 50, 50})->setObjectName("low");
+    page->add({49, 49, 50, 50})->setObjectName("high");
+    page->resize(150, 400);
+    area.setWidget(page);
+    area.resize(200, 100);
+    area.show();
+    EXPECT_THAT(layoutFaults(area), testing::ElementsAre("QWidget low and QWidget high overlap"));
+    page->resize(300, 400);
+    EXPECT_THAT(layoutFaults(area), Contains(HasSubstr("scrolls sideways")));
+}
+
+// ---- the walk -------------------------------------------------------------------------------------------------------
+
+/// Commands that end the program, or undo the choice of the walk.
+const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
+
+/// Dialogues of the toolkit's own making.
+bool isToolkits(const QWidget& window) { return qobject_cast<const QFileDialog*>(&window) != nullptr; }
+
+/// Of the object itself; Qt only knows the classes with Q_OBJECT.
+std::string className(const QWidget& window)
+{
+    char* name = abi::__cxa_demangle(typeid(window).name(), nullptr, nullptr, nullptr);
+    const std::string result = name != nullptr ? name : typeid(window).name();
+    std::free(name); // NOLINT(cppcoreguidelines-no-malloc): that is how it is allocated
+    return result;
+}
+
+/// Runs every command of the menus, and looks at each window that comes up.
+class LayoutWalk {
+public:
+    explicit LayoutWalk(Appearance::Theme theme)
+    {
+        m_desktop.appearance->choose(theme);
+        QObject::connect(&m_user, &QTimer::timeout, &m_user, [this] { lookAtModal(); });
+        m_user.start(0);
+    }
+
+    void run()
+    {
+        look(*m_desktop.window);
+        for (const QString& name : commands()) {
+            m_desktop.openPair();
+            m_command = fromQt(name);
+            if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
+            QApplication::processEvents();
+            lookAtOpenWindows();
+        }
+        QList<QPointer<QAbstractButton>> buttons; // some close the window that others are in
+        for (QAbstractButton* button : m_desktop.window->findChildren<QAbstractButton*>()) buttons.append(button);
+        for (const QPointer<QAbstractButton>& button : buttons) {
+            if (!button) continue;
+            m_command = fromQt(button->objectName());
+            if (button->isVisible()) button->click();
+            QApplication::processEvents();
+            lookAtOpenWindows();
+        }
+    }
+
+    std::map<std::string, std::string> faults; ///< and the command after which each was seen first
+    std::set<std::string> seen;                ///< classes of windows
+
+private:
+    QStringList commands() const
+    {
+        QStringList names;
+        for (const QAction* action : m_desktop.window->findChildren<QAction*>()) {
+            const bool isCommand = !action->objectName().isEmpty() && action->menu() == nullptr;
+            if (isCommand && !notWalked.contains(action->objectName())) names.append(action->objectName());
+        }
+        return names;
+    }
+    void look(const QWidget& window)
+    {
+        const std::string name = className(window);
+        seen.insert(name);
+        if (isToolkits(window)) return;
+        for (const std::string& fault : layoutFaults(window)) faults.try_emplace(name + ": " + fault, m_command);
+    }
+    void lookAtAllPages(QWidget& window)
+    {
+        look(window);
+        for (QTabWidget* tabs : window.findChildren<QTabWidget*>()) {
+            for (int page = 0; page < tabs->count(); ++page) {
+                tabs->setCurrentIndex(page);
+                QCoreApplication::sendPostedEvents();
+                look(window);
+            }
+        }
+    }
+    /// As a user who looks at what comes up and closes it.
+    void lookAtModal()
+    {
+        if (QWidget* popUp = QApplication::activePopupWidget()) {
+            if (qobject_cast<QMenu*>(popUp) == nullptr) look(*popUp);
+            popUp->close();
+        } else if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            lookAtAllPages(*modal);
+            modal->reject();
+        }
+    }
+    void lookAtOpenWindows()
+    {
+        look(*m_desktop.window);
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (!window->isVisible() || window == m_desktop.window.get() || !window->isWindow()) continue;
+            if (window->windowType() != Qt::Dialog && window->windowType() != Qt::Window) continue;
+            lookAtAllPages(*window);
+            window->close();
+        }
+    }
+
+    std::string m_command = "the start";
+    DesktopProgram m_desktop;
+    QTimer m_user;
+};
+
+/// Classes that the sources derive from FormWindow, directly or not, but for those that others are derived from.
+std::set<std::string> formClasses()
+{
+    std::set<std::string> classes;
+    const QRegularExpression form("class (\\w+)(?: final)? : public (\\w*FormWindow)");
+    std::set<std::string> bases;
+    QDirIterator files(TARVEX_SOURCE_DIRECTORY "/src/desktop", {"*.h", "*.cpp"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        for (auto found = form.globalMatch(QString::fromUtf8(file.readAll())); found.hasNext();) {
+            const QRegularExpressionMatch match = found.next();
+            classes.insert("tarvex::" + fromQt(match.captured(1)));
+            bases.insert("tarvex::" + fromQt(match.captured(2)));
+        }
+    }
+    for (const std::string& base : bases) classes.erase(base);
+    return classes;
+}
+
+using Theme = Appearance::Theme;
+
+struct Look {
+    int points;
+    Theme theme;
+};
+
+class AllWindows : public testing::TestWithParam<Look> {
+protected:
+    void SetUp() override
+    {
+        QFont font = m_font;
+        font.setPointSize(GetParam().points);
+        QApplication::setFont(font);
+    }
+    void TearDown() override { QApplication::setFont(m_font); }
+
+private:
+    const QFont m_font = QApplication::font();
+};
+
+TEST_P(AllWindows, OfEveryCommandHaveTheirWidgetsInPlace)
+{
+    LayoutWalk walk(GetParam().theme);
+    walk.run();
+    std::string all;
+    for (const auto& [fault, command] : walk.faults) all += fault + ", after " + command + '\n';
+    EXPECT_EQ(all, "");
+    const std::set<std::string> forms = formClasses();
+    EXPECT_GE(forms.size(), 4U) << "the sources were found";
+    for (const std::string& form : forms) EXPECT_THAT(walk.seen, Contains(form)) << "no command led to it";
+}
+
+INSTANTIATE_TEST_SUITE_P(AtThreeSizesOfText, AllWindows,
+                         testing::Values(Look{8, Theme::Light}, Look{11, Theme::Light}, Look{16, Theme::Light},
+                                         Look{8, Theme::Dark}, Look{11, Theme::Dark}, Look{16, Theme::Dark}),
+                         [](const auto& look) {
+                             const std::string theme = look.param.theme == Theme::Dark ? "Dark" : "Light";
+                             return theme + std::to_string(look.param.points) + "Points";
+                         });
+
+} // namespace
+} // namespace tarvex
