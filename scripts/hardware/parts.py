@@ -72,6 +72,17 @@ def rounded(points, radius):
     return text + "z"
 
 
+def soft(points, radius):
+    """The same as points, for shapes that are raised."""
+    found = []
+    for i, corner in enumerate(points):
+        start, end = (tuple(corner[k] + (other[k] - corner[k]) * min(radius / hypot(other[0] - corner[0], other[1] - corner[1]), 0.5)
+                            for k in (0, 1)) for other in (points[i - 1], points[(i + 1) % len(points)]))
+        found += [tuple((1 - t) ** 2 * start[k] + 2 * t * (1 - t) * corner[k] + t * t * end[k] for k in (0, 1))
+                  for t in (j / 4 for j in range(5))]
+    return found
+
+
 def hull(points):
     """The convex outline of points."""
     def half(ordered):
@@ -181,7 +192,7 @@ class Drawing:
         self.add(f'<ellipse cx="{number(x)}" cy="{number(y)}" rx="{number(width)}" ry="{number(height)}" fill="{paint}"/>')
 
     def label(self, name, text, at, anchor="start", leader=()):
-        """The control's name at the end of a thin line that starts on the control."""
+        """The control's name, at the end of a thin line that starts on the control when it doesn't stand beside it."""
         with self.group(f"label:{name}"):
             if leader:
                 self.line(path(leader, close=False), LEADER, 1.2)
@@ -258,6 +269,15 @@ def hat(d, plane, a, b, radius, height=9):
         d.fill(path([tip, *foot]), "#31363d")
     dimple = plane.ring(a, b, radius * 0.36, height)
     d.fill(path(dimple), d.gradient(*across(dimple), "#59616c", "#c9cfd6"))
+
+
+def screws(d, plane, width, length, height):
+    """At the four corners of a top."""
+    for a, b in ((-1, -1), (1, -1), (1, 1), (-1, 1)):
+        head = plane.ring(a * width / 2, b * length / 2, 5, height)
+        d.fill(path(head), d.gradient(*across(head), "#23272c", "#7b8490"))
+        d.line(path([plane.at(a * width / 2 - 2.5, b * length / 2 - 2.5, height),
+                     plane.at(a * width / 2 + 2.5, b * length / 2 + 2.5, height)], close=False), "#14161a", 1.1)
 
 
 def ribbon(d, plane, a, b, length, along, both=True, width=40):

@@ -27,6 +27,7 @@ def base(d, ground, size, height):
     d.fill(path(top), d.gradient(ground.at(-half, -half, height), ground.at(half, half, height), "#737b87", "#454b54"))
     d.line(path(top), "#fff", 1, 0.28)
     d.rim(path(whole))
+    screws(d, ground, size - 30, size - 30, height)
 
 
 def boot(d, ground, radius, height):
@@ -48,6 +49,9 @@ def arrows(d, ground, size):
         ribbon(d, ground, 4, size / 2 + 42, size - 30, along=0)
     with d.control("ROTARY(6)"):
         ribbon(d, ground, -size / 2 - 34, 4, size - 30, along=1)
+
+
+def name_axes(d, ground, size):
     x, y = ground.at(size / 2 - 8, size / 2 + 42)
     d.label("ROTARY(3)", "JSX", (x + 12, y + 10))
     x, y = ground.at(-size / 2 - 34, -size / 2 + 12)
@@ -57,6 +61,7 @@ def arrows(d, ground, size):
 def lever(d, outer, grip, colours, light):
     """What sticks out in front of a grip: its outer line from top to bottom, closed along the grip's contour."""
     edge = along(grip, outer[-1], outer[0])
+    outer = [edge[-1], *outer[1:-1], edge[0]]
     shape = smooth(outer, close=False) + "L" + "L".join(f"{number(x)} {number(y)}" for x, y in edge[1:-1]) + "z"
     d.fill(shape, d.gradient(*across(outer), *colours))
     d.line(shape, "#0e1012", 1, 0.7)
@@ -73,9 +78,8 @@ def f22_f16_grip(d):
     outline = F22_F16_GRIP
     d.fill(smooth(outline), d.shades((160, 0), (340, 0), ((0, "#5b626c"), (0.3, "#5f6771"), (0.46, "#58606a"),
                                                         (0.62, "#41474f"), (0.85, "#2b2f35"), (1, "#1e2125"))))
-    # the front below the head lies in its shadow, and the side turns into the back along a soft ridge
-    chin = [(164, 118), (176, 152), (192, 178), (208, 197), (214, 226), (240, 222), (262, 202), (238, 192), (206, 172)]
-    d.fill(smooth(chin), d.gradient((190, 150), (232, 226), ("#101214", 0), ("#101214", 0.42), ("#101214", 0)))
+    # below the head it is darker, and the side turns into the back along a soft ridge
+    d.fill(smooth(outline), d.glow((204, 196), 52, "#0a0b0d", 0.62))
     d.line(smooth([(258, 214), (253, 250), (252, 300), (246, 352)], close=False), "#fff", 7, 0.06)
     d.line(smooth([(330, 340), (322, 354), (292, 368), (254, 374), (214, 368)], close=False), "#fff", 1.6, 0.2)
     for y in (270, 296, 322):
@@ -168,9 +172,10 @@ def f22_f16_stick():
     for name, text, y, start in (("HAT(0)", "H1", 60, (286, 72)), ("HAT(1)", "H2", 130, (312, 130)),
                                  ("HAT(2)", "H3", 184, (268, 158)), ("HAT(3)", "H4", 240, (238, 240))):
         d.label(name, text, (376, y + 5), "start", [start, (start[0] + abs(start[1] - y), y), (370, y)])
+    name_axes(d, ground, 186)
     d.label("ROTARY(4)", "SWAPTG", (76, 262), "middle")
     d.label("ROTARY(7)", "PORT", (494, 222), "middle")
-    d.label("ROTARY(2)", "Rudder", (486, 464), "middle")
+    d.label("ROTARY(2)", "Rudder", (508, 450), "middle")
     return d
 
 
@@ -184,8 +189,7 @@ def older_grip(d):
     outline = OLDER_GRIP
     d.fill(smooth(outline), d.shades((174, 0), (320, 0), ((0, "#565d66"), (0.28, "#626a74"), (0.5, "#535a64"),
                                                         (0.7, "#3a4048"), (1, "#1e2125"))))
-    chin = [(176, 126), (184, 160), (196, 186), (208, 206), (212, 226), (238, 220), (250, 206), (226, 194), (202, 170)]
-    d.fill(smooth(chin), d.gradient((186, 160), (228, 222), ("#101214", 0), ("#101214", 0.4), ("#101214", 0)))
+    d.fill(smooth(outline), d.glow((206, 204), 46, "#0a0b0d", 0.62))
     d.line(smooth([(262, 214), (258, 260), (260, 310), (258, 356)], close=False), "#fff", 7, 0.06)
     d.line(smooth([(184, 74), (208, 55), (240, 45), (268, 50)], close=False), "#fff", 2.2, 0.3)
     d.rim(smooth(outline))
@@ -214,5 +218,5 @@ def older_stick():
                                  ("BTN(6)", "TG", 204, (176, 210)), ("BTN(8)", "LB", 262, (222, 262))):
         d.label(name, text, (124, y + 5), "end", [start, (start[0] - abs(start[1] - y), y), (130, y)])
     d.label("HAT(4)", "H", (376, 85), "start", [(288, 92), (300, 80), (370, 80)])
-    d.label("ROTARY(8)", "Rudder", (486, 464), "middle")
+    d.label("ROTARY(8)", "Rudder", (494, 450), "middle")
     return d

@@ -29,12 +29,14 @@ def base(d, ground, forward, across_, height, near, dark, slot_along=0):
     d.rim(path(whole))
     slot = rounded(ground.box(0, 0, forward * 0.72, 22, height) if slot_along == 0 else
                    ground.box(0, 0, 22, across_ * 0.72, height), 5)
+    screws(d, ground, forward - 34, across_ - 34, height)
     d.fill(slot, "#0d0f11")
     d.line(slot, "#fff", 1, 0.18)
 
 
 def key(d, outline, lift, text, name, size=12, colours=CAP):
     """A flat key with its name on it, raised by lift pixels."""
+    outline = soft(outline, 5)
     top = [(x + lift[0], y + lift[1]) for x, y in outline]
     with d.control(name):
         raised(d, outline, top, colours)
@@ -122,20 +124,20 @@ def tqs():
         knob(d, top, -62, 4, 25, 26)
     with d.control("BTN(11)"):
         button(d, top, 44, 0, 18, CAP, 9)
-    four_way(d, side, -112, 4, 14, 50, (("BTN(24)", "T2"), ("BTN(27)", "T3"), ("BTN(26)", "T4"), ("BTN(25)", "T5")), 12)
+    four_way(d, side, -109, 3, 14, 50, (("BTN(24)", "T2"), ("BTN(27)", "T3"), ("BTN(26)", "T4"), ("BTN(25)", "T5")), 12)
     rocker(d, side, -33, 0, 30, 92, (("BTN(12)", "T7"), ("BTN(13)", "T8")), 12)
     rocker(d, side, 15, 0, 34, 92, (("BTN(14)", "T9"), ("BTN(15)", "T10")), 12)
-    four_way(d, side, 96, 0, 22, 56, (("BTN(30)", "T11"), ("BTN(29)", "T12"), ("BTN(28)", "T13"), ("BTN(31)", "T14")), 11)
+    four_way(d, side, 98, 0, 22, 55, (("BTN(30)", "T11"), ("BTN(29)", "T12"), ("BTN(28)", "T13"), ("BTN(31)", "T14")), 11)
     with d.control("BTN(32)"):
-        button(d, side, 96, 0, 14)
+        button(d, side, 98, 0, 14)
     with d.control("ROTARY(5)"):
         ribbon(d, ground, 4, 112, 250, along=0)
     x, y = ground.at(134, 116)
     d.label("ROTARY(5)", "Throttle", (x + 10, y + 12))
-    for name, text, y, start in (("ROTARY(0)", "RNG", 34, (196, 102)), ("BTN(11)", "T6", 34, (306, 84))):
+    for name, text, y, start in (("ROTARY(0)", "RNG", 30, (214, 87)), ("BTN(11)", "T6", 30, (304, 78))):
         d.label(name, text, (start[0], y), "middle", [start, (start[0], y + 8)])
     d.label("ROTARY(1)", "ANT", (500, 100), "start", [(474, 104), (483, 95), (494, 95)])
-    d.label("BTN(32)", "T1", (500, 232), "start", [(386, 168), (445, 227), (494, 227)])
+    d.label("BTN(32)", "T1", (500, 232), "start", [(382, 168), (441, 227), (494, 227)])
     return d
 
 
@@ -145,7 +147,7 @@ WCS_BUTTONS = (("BTN(21)", "BTN(22)", "BTN(23)"), ("BTN(19)", "BTN(20)", "BTN(18
 
 def wcs_handle(d, back, side):
     """A block across the arm, round at its edges."""
-    corners = [(-124, -58, 22), (124, -58, 22), (124, 58, 22), (-124, 58, 22)]
+    corners = [(-112, -48, 32), (112, -48, 32), (112, 48, 32), (-112, 48, 32)]
     near = hull([p for a, b, r in corners for p in back.ring(a, b, r)])
     far = hull([p for a, b, r in corners for p in back.ring(a, b, r, -112)])
     whole = hull(near + far)
@@ -153,8 +155,8 @@ def wcs_handle(d, back, side):
     d.rim(path(whole))
     d.fill(path(near), d.gradient(near[0], (near[0][0] + 160, near[0][1] + 150), "#7f8793", "#474d56", "#24272c"))
     plate = back.box(0, 0, 272, 140, 3)
-    d.fill(rounded(plate, 18), d.gradient(*across(plate), "#626a75", "#4a515a", "#353a41"))
-    d.line(rounded(plate, 18), "#fff", 1, 0.18)
+    d.fill(rounded(plate, 26), d.gradient(*across(plate), "#626a75", "#4a515a", "#353a41"))
+    d.line(rounded(plate, 26), "#fff", 1, 0.18)
 
 
 def wcs_picture(title, names, rocker_names):
@@ -169,12 +171,12 @@ def wcs_picture(title, names, rocker_names):
     wcs_handle(d, back, side)
     for row, b in zip(WCS_BUTTONS, (-34, 34)):
         for name, a in zip(row, (-86, 0, 86)):
-            well(d, back.box(a, b, 70, 52, 3))
+            well(d, soft(back.box(a, b, 70, 52, 3), 8))
             lift, zero = back.at(0, 0, 12), back.at(0, 0, 3)
             key(d, back.box(a, b, 62, 44, 3), (lift[0] - zero[0], lift[1] - zero[1]), names[name], name, 17)
-    rocker(d, side, 2, 0, 56, 118, [(name, "") for name in ("BTN(16)", "BTN(4)", "BTN(17)")], 12)
-    for name, text, b in zip(("BTN(16)", "BTN(4)", "BTN(17)"), rocker_names, (-40, 0, 40)):
-        x, y = side.at(12, b, 4)
+    rocker(d, side, -3, 0, 66, 114, [(name, "") for name in ("BTN(16)", "BTN(4)", "BTN(17)")], 12)
+    for name, text, b in zip(("BTN(16)", "BTN(4)", "BTN(17)"), rocker_names, (-38, 0, 38)):
+        x, y = side.at(14, b, 4)
         if text:
             d.label(name, text, (480, y + 5), "start", [(x, y), (474, y)])
     with d.control("ROTARY(9)"):

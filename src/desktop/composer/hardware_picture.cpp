@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace tarvex {
@@ -57,12 +58,22 @@ QImage halo(const QImage& shape, const QColor& colour, qreal width, int margin)
     return around;
 }
 
-/// What a control's shape is covered with; invalid when it shows as drawn.
-QColor tintOf(const HardwareControl& control, bool hovered)
+/// Lightens or colours what is drawn; in a way that keeps a name on the control legible.
+void paintTint(QPainter& painter, const QImage& shape, const HardwareControl& control, bool hovered)
 {
-    if (control.isDown()) return {0, 0, 0, 90};
-    if (control.isChecked()) return {217, 119, 6, 130};
-    return hovered ? QColor(255, 255, 255, 70) : QColor();
+    struct Tint {
+        bool wanted;
+        QPainter::CompositionMode mode;
+        QColor colour;
+    };
+    const std::array tints{Tint{control.isDown(), QPainter::CompositionMode_Multiply, QColor(0xA0, 0xA0, 0xA0)},
+                           Tint{control.isChecked(), QPainter::CompositionMode_Multiply, QColor(0xFF, 0xB7, 0x4D)},
+                           Tint{hovered, QPainter::CompositionMode_Screen, QColor(0x38, 0x3C, 0x42)}};
+    const auto tint = std::ranges::find(tints, true, &Tint::wanted);
+    if (tint == tints.end()) return;
+    painter.setCompositionMode(tint->mode);
+    painter.drawImage(0, 0, filled(shape, tint->colour));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 void paintMark(QPainter& painter, const HardwareControl& control)
@@ -225,7 +236,7 @@ void HardwarePicture::paintState(QPainter& painter, const HardwareControl& contr
         painter.save();
         painter.scale(1 / ratio, 1 / ratio); // pixels of the device, so that the shape lies exactly on the drawing
         painter.translate(m_corner + corner);
-        if (const QColor tint = tintOf(control, hovered); tint.isValid()) painter.drawImage(0, 0, filled(shape, tint));
+        paintTint(painter, shape, control, hovered);
         const int margin = static_cast<int>(haloSpace * ratio);
         const QColor accent = palette().color(QPalette::Highlight);
         if (control.hasFocus()) painter.drawImage(-margin, -margin, halo(shape, Qt::white, 3.5 * ratio, margin));
