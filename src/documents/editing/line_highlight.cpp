@@ -14,11 +14,30 @@ std::int64_t lineLength(const Pane& pane, std::int64_t line)
     return static_cast<std::int64_t>(pane.TextLength()) - pane.lineStart(line);
 }
 
-void caretBackToLineStart(Editor& editor)
+Side& blinkingSide(Editor& editor) { return editor.BlinkTab == editor.joystick.tab ? editor.joystick : editor.macro; }
+
+/// At the line's beginning, or where it was before a flash that keeps it.
+void caretBack(Editor& editor)
 {
-    Side& side = editor.BlinkTab == editor.joystick.tab ? editor.joystick : editor.macro;
+    Side& side = blinkingSide(editor);
     side.pane.setSelStart(static_cast<std::int64_t>(side.Caret));
     editor.HighlightLength = 0;
+}
+
+void highlightAgain(Editor& editor)
+{
+    if (!editor.Flash) return HighlightLineAtIP(editor);
+    Pane& pane = blinkingSide(editor).pane;
+    pane.setSelStart(editor.Flash->start);
+    pane.setSelLength(editor.Flash->length);
+    editor.HighlightLength = editor.Flash->length;
+}
+
+void startBlinking(Editor& editor)
+{
+    editor.BlinkStep = 0;
+    editor.BlinkTab = editor.selected().tab;
+    editor.TimerBlinkLine.Enabled = true;
 }
 
 } // namespace
@@ -41,10 +60,27 @@ void blinkLineAtIP(Editor& editor)
 {
     if (editor.selected().pane.TextLength() == 0) return;
     if (editor.BlinkTab != editor.selected().tab) endBlinking(editor);
+    editor.Flash.reset();
     HighlightLineAtIP(editor);
-    editor.BlinkStep = 0;
-    editor.BlinkTab = editor.selected().tab;
-    editor.TimerBlinkLine.Enabled = true;
+    startBlinking(editor);
+}
+
+void flashText(Editor& editor, std::int64_t start, std::int64_t length)
+{
+    endBlinking(editor);
+    Side& side = editor.selected();
+    side.Caret = static_cast<float>(side.pane.SelStart());
+    editor.Flash = {start, length};
+    startBlinking(editor);
+    highlightAgain(editor);
+}
+
+void flashLine(Editor& editor)
+{
+    const Pane& pane = editor.selected().pane;
+    if (pane.TextLength() == 0) return;
+    const std::int64_t line = pane.GetLineFromChar(pane.SelStart());
+    flashText(editor, pane.lineStart(line), lineLength(pane, line));
 }
 
 void mnuViewHighlightLine_Click(Editor& editor)
@@ -62,11 +98,11 @@ void TimerBlinkLine_Timer(Editor& editor)
         case 0:
         case 2:
             ++editor.BlinkStep;
-            caretBackToLineStart(editor);
+            caretBack(editor);
             break;
         case 1:
             ++editor.BlinkStep;
-            HighlightLineAtIP(editor);
+            highlightAgain(editor);
             break;
         default:
             editor.TimerBlinkLine.Enabled = false;
@@ -78,7 +114,7 @@ void endBlinking(Editor& editor)
 {
     if (!editor.TimerBlinkLine.Enabled) return;
     editor.TimerBlinkLine.Enabled = false;
-    caretBackToLineStart(editor);
+    caretBack(editor);
 }
 
 void stopBlinking(Editor& editor, const Side& side)

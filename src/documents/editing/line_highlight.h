@@ -10,6 +10,9 @@ namespace tarvex {
 void HighlightLineAtIP(Editor& editor);
 /// The same, and the line flashes: off, on, off in 300 ms, ending with a caret at its beginning.
 void blinkLineAtIP(Editor& editor);
+/// The line of the caret, or a piece of the selected tab's text, flashes likewise, and the caret stays where it is.
+void flashLine(Editor& editor);
+void flashText(Editor& editor, std::int64_t start, std::int64_t length);
 void mnuViewHighlightLine_Click(Editor& editor);
 void TimerBlinkLine_Timer(Editor& editor);
 /// The user is about to write: a line that flashes at the moment must not be what he writes over. Ends the flashing

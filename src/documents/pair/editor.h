@@ -62,6 +62,12 @@ struct Side {
     Operation<const std::string&>& UpdateRecentMenuList;
 };
 
+/// A piece of a pane's text, from 0.
+struct FlashedText {
+    std::int64_t start;
+    std::int64_t length;
+};
+
 /// State of the document window: the pair of files, their panes, tabs and views. What is done with it stands in units
 /// of its own that are given the Editor they work on.
 struct Editor {
@@ -109,6 +115,7 @@ struct Editor {
     std::int16_t ExitInProgress = 0;
     int BlinkStep = 0;                       ///< of the line highlight
     int BlinkTab = 1;                        ///< of the pane whose line flashes
+    std::optional<FlashedText> Flash;        ///< what flashes instead of the caret's line; the caret then stays
     std::int64_t HighlightLength = 0;        ///< characters of the line highlighted
     int AutoSaveMinutes = 0;                 ///< since the last automatic save
     std::uint64_t LastJournal = 0;           ///< number of the newest journal; 0: not looked for yet
