@@ -32,25 +32,10 @@ constexpr std::size_t delayButton = 11;
 /// What /A is for the hardware that formats as repeating instead.
 constexpr SlashButton repeating{"/F", "Insert the /F (Format as repeating) slash modifier"};
 
-void insertModifier(Editor& editor, const std::string& caption)
+void insertColouredItem(Editor& editor, std::string_view word, std::string_view value)
 {
     InsertionRecord& insertion = editor.insertion;
-    insertion.InsertText = caption + " ";
-    BeginColInsert(editor);
-    if (editor.shared.settings.InsertWithColour == 1) {
-        insertion.InsertColour = editor.shared.settings.SlashColour;
-        AddSpaceToColouredText(editor);
-        InsertColouredString(editor, insertion.InsertText, insertion.InsertColour);
-    } else {
-        InsertBlackText(editor);
-    }
-    EndColInsert(editor);
-}
-
-void insertColouredDelay(Editor& editor, const std::string& value)
-{
-    InsertionRecord& insertion = editor.insertion;
-    insertion.InsertText = "DLY(";
+    insertion.InsertText = word;
     AddSpaceToColouredText(editor);
     insertion.InsertColour = editor.shared.settings.RAWColour;
     InsertColouredStringNoSpace(editor, insertion.InsertText, insertion.InsertColour);
@@ -62,21 +47,35 @@ void insertColouredDelay(Editor& editor, const std::string& value)
     InsertColouredString(editor, insertion.InsertText, insertion.InsertColour);
 }
 
-void insertDelay(Editor& editor)
+} // namespace
+
+void InsertSlashModifier(Editor& editor, const std::string& modifier)
 {
-    const std::string value = std::to_string(editor.shared.settings.DefaultDLYvalue);
-    editor.insertion.InsertColour = editor.shared.DefaultTextColour;
+    InsertionRecord& insertion = editor.insertion;
+    insertion.InsertText = modifier + " ";
     BeginColInsert(editor);
     if (editor.shared.settings.InsertWithColour == 1) {
-        insertColouredDelay(editor, value);
+        insertion.InsertColour = editor.shared.settings.SlashColour;
+        AddSpaceToColouredText(editor);
+        InsertColouredString(editor, insertion.InsertText, insertion.InsertColour);
     } else {
-        editor.insertion.InsertText = "DLY(" + value + ") ";
         InsertBlackText(editor);
     }
     EndColInsert(editor);
 }
 
-} // namespace
+void InsertTimedItem(Editor& editor, std::string_view word, std::string_view value)
+{
+    editor.insertion.InsertColour = editor.shared.DefaultTextColour;
+    BeginColInsert(editor);
+    if (editor.shared.settings.InsertWithColour == 1) {
+        insertColouredItem(editor, word, value);
+    } else {
+        editor.insertion.InsertText = std::string(word).append(value).append(") ");
+        InsertBlackText(editor);
+    }
+    EndColInsert(editor);
+}
 
 void loadSlashButtons(Editor& editor)
 {
@@ -97,7 +96,10 @@ void Command1_Click(Editor& editor, std::size_t index)
     const Steps step(editor.shared.errors, "ED_Command1_Click");
     step([&] {
         const std::string& caption = editor.FrameMacros.Command1.at(index).Caption;
-        index == delayButton ? insertDelay(editor) : insertModifier(editor, caption);
+        if (index == delayButton)
+            InsertTimedItem(editor, "DLY(", std::to_string(editor.shared.settings.DefaultDLYvalue));
+        else
+            InsertSlashModifier(editor, caption);
     });
 }
 
