@@ -31,6 +31,9 @@ public:
     virtual float screenHeight() const = 0;
     /// The pointer that asks the user to wait, on or off.
     virtual void showHourglass(bool on) = 0;
+    /// Has the system open a file of the program directory, as a double click on it does. Without such a file nothing
+    /// happens.
+    virtual void openProgramFile(const std::string&) {}
     /// Ends the message loop; the process ends in good order.
     virtual void quit() = 0;
 };

@@ -34,6 +34,8 @@ struct FakeDesktop final : Desktop {
     float screenWidth() const override { return 1280.0F * twipsPerPixel; }
     float screenHeight() const override { return 1024.0F * twipsPerPixel; }
     void showHourglass(bool on) override { hourglass = on; }
+    std::vector<std::string> programFilesOpened;
+    void openProgramFile(const std::string& name) override { programFilesOpened.push_back(name); }
     void quit() override { ++quits; }
 };
 

@@ -4,9 +4,12 @@
 #include "desktop/text.h"
 
 #include <QCursor>
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QUrl>
 
 namespace tarvex {
 
@@ -42,6 +45,12 @@ void QtDesktop::showHourglass(bool on)
     } else {
         QGuiApplication::restoreOverrideCursor();
     }
+}
+
+void QtDesktop::openProgramFile(const std::string& name)
+{
+    const QString path = toQt(m_programDirectory + "/" + name);
+    if (QFileInfo::exists(path)) QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 /// Not QCoreApplication::quit, which asks every window once more whether it may close.

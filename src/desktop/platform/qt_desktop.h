@@ -18,6 +18,7 @@ public:
     float screenWidth() const override;
     float screenHeight() const override;
     void showHourglass(bool on) override;
+    void openProgramFile(const std::string& name) override;
     void quit() override;
     /// quit was called, perhaps before the message loop began.
     bool quits() const { return m_quits; }
