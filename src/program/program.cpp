@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "composer/composer.h"
 #include "documents/editing/clipboard_commands.h"
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/pane_change.h"
@@ -107,7 +108,7 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor), safein(editor), lists(editor), preferences(editor, lists)
+      findAndReplace(editor), safein(editor), composer(editor), lists(editor), preferences(editor, lists)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -116,6 +117,7 @@ Program::Program(Platform& thePlatform)
     wirePaneMenu(editor);
     wireFindAndReplace(findAndReplace);
     wireSafein(safein);
+    wireComposer(composer);
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor, lists.games);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "composer/insert_options.h"
 #include "documents/find/find_and_replace.h"
 #include "documents/pair/editor.h"
 #include "lists/lists.h"
@@ -35,6 +36,7 @@ public:
     Editor editor;
     FindAndReplace findAndReplace;
     RAWform safein;
+    InsertOptions composer;
     Lists lists;
     Preferences preferences;
 };

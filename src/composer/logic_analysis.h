@@ -1,0 +1,17 @@
+#pragma once
+
+#include "composer/insert_options.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvex {
+
+/// The lines of a text that begin with "BTN X" or "DEF X", exactly so, in order. Bytes.
+std::vector<std::string> logicalLines(std::string_view text);
+/// Puts the logical statements of the joystick file into the fields of the Flag tab, the first 48 of them. False: there
+/// are none, and the user was informed; an empty file leaves the fields as they are, too.
+bool analyseLogic(InsertOptions& window);
+
+} // namespace tarvex

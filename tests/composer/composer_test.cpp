@@ -1,0 +1,254 @@
+#include "composer/composer.h"
+
+#include "composer/composer_fixture.h"
+#include "platform/input.h"
+#include "platform/key_codes.h"
+
+#include <gmock/gmock.h>
+
+namespace tarvex {
+namespace {
+
+std::string ini(TestProgram& t, const char* key) { return t.ini("Miscellaneous", key); }
+
+/// A program whose settings say something before the Composer is opened.
+struct ComposerStart : testing::Test {
+    TestProgram t{false};
+    InsertOptions& open()
+    {
+        t.start();
+        InsertOptions& window = t.program().composer;
+        window.form.open();
+        window.form.Activate();
+        return window;
+    }
+    void set(const char* key, const char* value) { t.setIni("Miscellaneous", key, value); }
+};
+
+TEST_F(ComposerStart, WithoutSettingsTheWindowHasTheDefaults)
+{
+    InsertOptions& window = open();
+    EXPECT_EQ(window.fields.Text1[valueField::blanks].Text.get(), "5");
+    EXPECT_EQ(window.fields.TextRPT.Text.get(), "2");
+    EXPECT_EQ(window.fields.DLYText.Text.get(), "60");
+    EXPECT_EQ(window.flags.TxtFlag[4].Text.get(), "60");
+    EXPECT_FALSE(window.CheckAlwaysInsert.Value);
+    EXPECT_FALSE(window.macros.CheckAddCR.Value);
+    EXPECT_TRUE(window.Check2FocusThang.Value);
+    EXPECT_FALSE(window.macros.CheckCopyTicks.Value);
+    EXPECT_TRUE(window.Check1.Value);
+    EXPECT_TRUE(window.form.TopMost);
+    EXPECT_FALSE(window.HighlightStatement.Value);
+    EXPECT_TRUE(window.CheckShowAssigned.Value);
+    EXPECT_EQ(window.form.Top.get(), 10);
+    EXPECT_EQ(window.form.Left.get(), 10);
+}
+
+TEST_F(ComposerStart, TheWindowShowsTheSettings)
+{
+    set("NumberOfBlanks", "9");
+    set("DefaultRPTvalue", "4");
+    set("DefaultDLYvalue", "150");
+    set("AlwaysInsert", "1");
+    set("COMPaddCR", "1");
+    set("COMPreturnFocus", "0");
+    set("COMPMacrosTickedCopy", "1");
+    set("CompTabsAddCr", "0");
+    set("CompOnTop", "0");
+    set("HighlightDefinitions", "1");
+    set("ComposerTop", "300");
+    set("ComposerLeft", "400");
+    InsertOptions& window = open();
+    EXPECT_EQ(window.fields.Text1[valueField::blanks].Text.get(), "9");
+    EXPECT_EQ(window.fields.TextRPT.Text.get(), "4");
+    EXPECT_EQ(window.fields.DLYText.Text.get(), "150");
+    EXPECT_TRUE(window.CheckAlwaysInsert.Value);
+    EXPECT_TRUE(window.macros.CheckAddCR.Value);
+    EXPECT_FALSE(window.Check2FocusThang.Value);
+    EXPECT_TRUE(window.macros.CheckCopyTicks.Value);
+    for (CheckBox& box : window.CheckMultiAddCR) EXPECT_FALSE(box.Value);
+    EXPECT_FALSE(window.Check1.Value);
+    EXPECT_FALSE(window.form.TopMost);
+    EXPECT_TRUE(window.HighlightStatement.Value);
+    EXPECT_EQ(window.form.Top.get(), 300);
+    EXPECT_EQ(window.form.Left.get(), 400);
+}
+
+TEST_F(ComposerStart, APlaceOutsideOfTheScreenBecomes200)
+{
+    set("ComposerTop", "-1");
+    set("ComposerLeft", "19201"); // the screen has 19,200 twips
+    InsertOptions& window = open();
+    EXPECT_EQ(window.form.Top.get(), 200);
+    EXPECT_EQ(window.form.Left.get(), 200);
+}
+
+TEST_F(ComposerStart, APlaceAtTheEdgeOfTheScreenStays)
+{
+    set("ComposerTop", "0");
+    set("ComposerLeft", "19200");
+    InsertOptions& window = open();
+    EXPECT_EQ(window.form.Top.get(), 0);
+    EXPECT_EQ(window.form.Left.get(), 19200);
+}
+
+TEST_F(ComposerStart, SettingsOfEveryWrongKindOpenTheWindowAllTheSame)
+{
+    for (const char* key : {"NumberOfBlanks", "DefaultRPTvalue", "DefaultDLYvalue", "AlwaysInsert", "COMPaddCR",
+                            "COMPreturnFocus", "COMPMacrosTickedCopy", "ComposerTop", "ComposerLeft", "ComposerImages"})
+        set(key, "xyzzy");
+    t.setIni("FileLocations", "JoyName", "-7");
+    t.setIni("FileLocations", "ThrottleName", "99999999999");
+    InsertOptions& window = open();
+    EXPECT_TRUE(window.form.Visible);
+    window.BTN[0].Click();
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 ");
+}
+
+TEST_F(ComposerTest, LoadedItIsOpenAndHiddenItStaysLoaded)
+{
+    EXPECT_EQ(window.ComposerOpen, 1);
+    window.fields.RemTextBox.Text = std::string("kept");
+    window.Command6.Click();
+    EXPECT_FALSE(window.form.Visible);
+    EXPECT_EQ(window.ComposerOpen, 1);
+    show();
+    EXPECT_EQ(window.fields.RemTextBox.Text.get(), "kept");
+}
+
+TEST_F(ComposerTest, ClosingUnloadsItAndWritesItsSettings)
+{
+    window.fields.Text1[valueField::blanks].Text = std::string("7");
+    window.fields.TextRPT.Text = std::string("6");
+    window.form.Top = 150;
+    window.form.Left = 90000;
+    window.form.Close();
+    EXPECT_EQ(window.ComposerOpen, 0);
+    EXPECT_FALSE(window.form.Visible);
+    EXPECT_EQ(ini(t, "NumberOfBlanks"), "7");
+    EXPECT_EQ(ini(t, "DefaultRPTvalue"), "6");
+    EXPECT_EQ(ini(t, "DefaultDLYvalue"), "60");
+    EXPECT_EQ(ini(t, "ComposerTop"), "150");
+    EXPECT_EQ(ini(t, "ComposerLeft"), "200");
+}
+
+TEST_F(ComposerTest, AMinimisedWindowKeepsThePlaceThatWasWritten)
+{
+    window.form.Top = 150;
+    SaveSpaces(window);
+    window.form.State = WindowState::Minimised;
+    window.form.Top = 700;
+    window.form.Close();
+    EXPECT_EQ(ini(t, "ComposerTop"), "150");
+}
+
+TEST_F(ComposerTest, WhatIsNoNumberInAFieldLeavesItsSetting)
+{
+    window.fields.Text1[valueField::blanks].Text = std::string("many");
+    window.fields.TextRPT.Text = std::string("99999");
+    window.form.Close();
+    EXPECT_EQ(ini(t, "NumberOfBlanks"), "5");
+    EXPECT_EQ(ini(t, "DefaultRPTvalue"), "2");
+}
+
+TEST_F(ComposerTest, KeepOnTopIsWrittenAtOnce)
+{
+    window.Check1.Value = false;
+    window.Check1.Click();
+    EXPECT_FALSE(window.form.TopMost);
+    EXPECT_EQ(settings.CompOnTop, 0);
+    EXPECT_EQ(ini(t, "CompOnTop"), "0");
+}
+
+TEST_F(ComposerTest, TheOtherTicksAreSettings)
+{
+    const std::pair<CheckBox*, const char*> ticks[] = {{&window.CheckAlwaysInsert, "AlwaysInsert"},
+                                                       {&window.Check2FocusThang, "COMPreturnFocus"},
+                                                       {&window.HighlightStatement, "HighlightDefinitions"}};
+    for (const auto& [box, key] : ticks) {
+        for (const bool on : {true, false}) {
+            box->Value = on;
+            box->Click();
+            EXPECT_EQ(ini(t, key), on ? "1" : "0") << key;
+        }
+    }
+}
+
+TEST_F(ComposerTest, ThePresetOfDelaysComesBackWithTheWindow)
+{
+    window.fields.DLYText.Text = std::string("1");
+    settings.DefaultDLYvalue = 90;
+    window.form.Activate();
+    EXPECT_EQ(window.fields.DLYText.Text.get(), "90");
+    EXPECT_EQ(window.flags.TxtFlag[4].Text.get(), "90");
+}
+
+TEST_F(ComposerTest, TipsFollowTheirSetting)
+{
+    settings.OKtoShowToolTips = 1;
+    window.form.Activate();
+    EXPECT_EQ(window.BTN[0].ToolTipText.get(), "Insert or find this button statement");
+    EXPECT_EQ(window.BTN[6].ToolTipText.get(), "Insert or find this trigger statement");
+    EXPECT_EQ(window.HAT[2].ToolTipText.get(), "Insert or find this hat statement");
+    const char* rotaries[] = {"Insert or find the Range rotary",
+                              "Insert or find the Antenna rotary",
+                              "Setup your rudders",
+                              "Setup for digital joystick x axis",
+                              "Swap the trigger positions around",
+                              "Set up for digital throttle use as opposed to normal analogue",
+                              "Setup for digital joystick y axis",
+                              "Assign a hat or button as an analogue switch",
+                              "Set up your rudders",
+                              "Set up for digital throttle use as opposed to normal analogue"};
+    for (std::size_t i = 0; i < 10; ++i) EXPECT_EQ(window.ROTARY[i].ToolTipText.get(), rotaries[i]);
+    EXPECT_EQ(window.Check1.ToolTipText.get(), "Keep the Composer above the Editor");
+    EXPECT_EQ(window.Command10.ToolTipText.get(), "Clear the text above");
+    settings.OKtoShowToolTips = 0;
+    window.form.Activate();
+    EXPECT_EQ(window.BTN[0].ToolTipText.get(), "");
+    EXPECT_EQ(window.Check1.ToolTipText.get(), "");
+}
+
+TEST_F(ComposerTest, TheFootLeadsToSafeinThePreferencesAndTheInsertionPoint)
+{
+    write("abc");
+    window.Command5[2].Click();
+    EXPECT_TRUE(editor.TimerBlinkLine.Enabled);
+    window.Command5[0].Click();
+    EXPECT_TRUE(t.program().safein.form.Visible);
+    window.Command5[1].Click();
+    EXPECT_THAT(t.dialogues.modalForms, testing::ElementsAre("Preferences"));
+}
+
+TEST_F(ComposerTest, AQuestionMarkSaysWhatHidingIsGoodFor)
+{
+    window.Command14.Click();
+    EXPECT_EQ(t.lastBox().text, "Keep the Composer in memory for increased speed");
+}
+
+TEST_F(ComposerTest, KeysAreThoseOfTheProgram)
+{
+    write("abc");
+    EXPECT_TRUE(window.form.KeyDown('A', shiftKey::ctrl));
+    EXPECT_EQ(joystick.SelLength(), 3);
+    EXPECT_FALSE(window.form.KeyDown('A', shiftKey::none));
+    window.form.KeyDown(keyCode::f4, shiftKey::none);
+    EXPECT_EQ(window.form.State.get(), WindowState::Minimised);
+}
+
+TEST_F(ComposerTest, OthersBringUpAPageAndTheFieldOfRATE)
+{
+    window.form.Close();
+    int asked = 0;
+    const Connection focus = window.fields.Text1[valueField::rate].focusWanted.connect([&asked] { ++asked; });
+    showComposerRate(window, "80");
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(window.SSTab1.Tab.get(), composerPage::setUp);
+    EXPECT_EQ(window.fields.Text1[valueField::rate].Text.get(), "80");
+    EXPECT_EQ(asked, 1);
+    showComposerPage(window, composerPage::hardware);
+    EXPECT_EQ(window.SSTab1.Tab.get(), composerPage::hardware);
+}
+
+} // namespace
+} // namespace tarvex

@@ -1,0 +1,89 @@
+#include "composer/overlay.h"
+
+#include "composer/composer_fixture.h"
+
+namespace tarvex {
+namespace {
+
+struct OverlayTest : ComposerTest {
+    void settle()
+    {
+        if (window.TimerAssigned.Enabled) window.TimerAssigned.Tick();
+    }
+};
+
+TEST_F(OverlayTest, AControlWhoseStatementStandsInTheFileIsMarked)
+{
+    write("BTN S1 Fire\r\nBTN H2UL x\r\nRNG 1 5 a b\r\n");
+    settle();
+    EXPECT_TRUE(isAssigned(window, "BTN(0)"));
+    EXPECT_TRUE(isAssigned(window, "HAT(1)"));
+    EXPECT_TRUE(isAssigned(window, "ROTARY(0)"));
+    EXPECT_FALSE(isAssigned(window, "BTN(1)"));
+    EXPECT_FALSE(isAssigned(window, "HAT(0)"));
+}
+
+TEST_F(OverlayTest, TheMarksFollowTheTextOnceItRests)
+{
+    int changes = 0;
+    const Connection follow = window.AssignedChanged.connect([&changes] { ++changes; });
+    write("BTN S1 ");
+    EXPECT_TRUE(window.TimerAssigned.Enabled);
+    EXPECT_EQ(changes, 0) << "not on the keystroke's path";
+    settle();
+    EXPECT_EQ(changes, 1);
+    EXPECT_FALSE(window.TimerAssigned.Enabled);
+    joystick.setText("");
+    settle();
+    EXPECT_FALSE(isAssigned(window, "BTN(0)"));
+}
+
+TEST_F(OverlayTest, AHiddenWindowWaitsUntilItComesBack)
+{
+    window.Command6.Click();
+    write("BTN S1 ");
+    EXPECT_FALSE(window.TimerAssigned.Enabled);
+    show();
+    EXPECT_TRUE(isAssigned(window, "BTN(0)"));
+}
+
+TEST_F(OverlayTest, WithoutTheTickNothingIsMarkedAndTheChoiceIsKept)
+{
+    write("BTN S1 ");
+    settle();
+    window.CheckShowAssigned.Value = false;
+    window.CheckShowAssigned.Click();
+    EXPECT_FALSE(isAssigned(window, "BTN(0)"));
+    window.form.Close();
+    show();
+    EXPECT_FALSE(window.CheckShowAssigned.Value);
+    window.CheckShowAssigned.Value = true;
+    window.CheckShowAssigned.Click();
+    EXPECT_TRUE(isAssigned(window, "BTN(0)"));
+}
+
+TEST_F(OverlayTest, TheTextHasTheStatementsAndTheKeysOfTheirMacros)
+{
+    t.files.addFile("c:\\tm\\a.b50", "BTN H1U Fire A B\r\n/M Firewall\r\nBTN H1D x\r\n");
+    t.files.addFile("c:\\tm\\a.m50", "Fire = f\r\nA B = CTL b\r\nUnused = u\r\n");
+    t.openBoth("c:\\tm\\a.b50");
+    window.form.Activate();
+    EXPECT_EQ(assignedText(window, "HAT(0)"),
+              "BTN H1U Fire A B\n/M Firewall\n    Fire = f\n    A B = CTL b\nBTN H1D x");
+    EXPECT_EQ(assignedText(window, "BTN(0)"), "");
+    EXPECT_EQ(assignedText(window, "nothing"), "");
+}
+
+TEST_F(OverlayTest, TheLabelsOfTheWcsDecideWhoseStatementItIs)
+{
+    write("BTN T3 a\r\nRKR UP b\r\n");
+    use(0, 2);
+    EXPECT_TRUE(isAssigned(window, "BTN(21)"));
+    EXPECT_FALSE(isAssigned(window, "BTN(16)"));
+    use(2, 2);
+    EXPECT_FALSE(isAssigned(window, "BTN(21)"));
+    EXPECT_TRUE(isAssigned(window, "BTN(16)"));
+}
+
+} // namespace
+} // namespace tarvex
