@@ -198,16 +198,16 @@ class Drawing:
                 self.line(path(leader, close=False), LEADER, 1.2)
                 x, y = leader[0]
                 self.add(f'<circle cx="{number(x)}" cy="{number(y)}" r="2.2" fill="{LEADER}"/>')
-            self._name(text, at, anchor, 15, "currentColor")
+            self._name(name, text, at, anchor, 15, "currentColor")
 
     def legend(self, name, text, at, size):
         """The control's name printed on the control."""
         with self.group(f"label:{name}"):
-            self._name(text, (at[0], at[1] + size * 0.36), "middle", size, "#1b1e22")
+            self._name(name, text, (at[0], at[1] + size * 0.36), "middle", size, "#1b1e22")
 
-    def _name(self, text, at, anchor, size, colour):
-        self.add(f'<text x="{number(at[0])}" y="{number(at[1])}" text-anchor="{anchor}" font-family="sans-serif" '
-                 f'font-size="{size}" font-weight="bold" fill="{colour}">{text}</text>')
+    def _name(self, name, text, at, anchor, size, colour):
+        self.add(f'<text id="name:{name}" x="{number(at[0])}" y="{number(at[1])}" text-anchor="{anchor}" '
+                 f'font-family="sans-serif" font-size="{size}" font-weight="bold" fill="{colour}">{text}</text>')
 
     def text(self):
         gradients = "\n".join("    " + g % f"g{i + 1}" for i, g in enumerate(self.gradients))

@@ -18,6 +18,11 @@ void mark(QByteArray& svg, const QString& control, const char* attribute)
     }
 }
 
+QRect scaled(const QRectF& area, qreal scale)
+{
+    return QRectF(area.topLeft() * scale, area.size() * scale).toAlignedRect();
+}
+
 } // namespace
 
 HardwareArt::HardwareArt(const Picture& picture)
@@ -49,17 +54,28 @@ QPixmap HardwareArt::whole(const QSize& pixels)
     return drawn;
 }
 
+QRectF HardwareArt::bounds(const QString& element) const
+{
+    return m_renderer.transformForElement(element).mapRect(m_renderer.boundsOnElement(element));
+}
+
+QRect HardwareArt::nameArea(const QString& id, qreal scale) const
+{
+    const QString name = QStringLiteral("name:") + id;
+    if (!m_renderer.elementExists(name)) return {};
+    return scaled(bounds(name), scale);
+}
+
 HardwareArt::Shape HardwareArt::shape(const QString& id, qreal scale)
 {
     if (!m_renderer.elementExists(id)) return {};
-    const QRectF bounds = m_renderer.transformForElement(id).mapRect(m_renderer.boundsOnElement(id));
-    const QRect area = QRectF(bounds.topLeft() * scale, bounds.size() * scale).toAlignedRect();
+    const QRect area = scaled(bounds(id), scale);
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.translate(-area.topLeft());
     painter.scale(scale, scale);
-    m_renderer.render(&painter, id, bounds);
+    m_renderer.render(&painter, id, bounds(id));
     return {image, area.topLeft()};
 }
 

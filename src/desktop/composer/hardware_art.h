@@ -35,8 +35,12 @@ public:
     QSizeF size() const;
     QPixmap whole(const QSize& pixels);
     Shape shape(const QString& id, qreal scale);
+    /// Where its name is written, in pixels from the drawing's corner; empty when it has none.
+    QRect nameArea(const QString& id, qreal scale) const;
 
 private:
+    QRectF bounds(const QString& element) const;
+
     QByteArray m_svg;
     Look m_look;
     QSvgRenderer m_renderer;

@@ -40,14 +40,20 @@ void HardwareControl::setAssigned(bool assigned)
     emit changed();
 }
 
-void HardwareControl::setShape(QPoint corner, const QImage& shape)
+void HardwareControl::setShape(QPoint corner, const QImage& shape, const QRect& name)
 {
-    setGeometry(QRect(corner, shape.size()));
-    setMask(QBitmap::fromImage(shape.createAlphaMask()));
-    m_markPlace = upperRight(shape);
+    m_shapeArea = QRect(corner, shape.size());
+    m_markPlace = corner + upperRight(shape);
+    const QRect whole = m_shapeArea | name;
+    setGeometry(whole);
+    const QRegion drawn = QRegion(QBitmap::fromImage(shape.createAlphaMask())).translated(corner);
+    setMask((drawn + name).translated(-whole.topLeft()));
 }
 
-QPoint HardwareControl::menuPlace() const { return mapToGlobal(rect().center()); }
+QPoint HardwareControl::menuPlace() const
+{
+    return mapToGlobal(m_shapeArea.isEmpty() ? rect().center() : m_shapeArea.center() - pos());
+}
 
 bool HardwareControl::event(QEvent* event)
 {

@@ -15,10 +15,13 @@ public:
     /// Whether it wears the mark of a control that has a statement.
     bool isAssigned() const { return m_assigned; }
     void setAssigned(bool assigned);
-    /// Takes the place and the outline of what is drawn of it: the solid pixels of `shape`.
-    void setShape(QPoint corner, const QImage& shape);
-    /// The part of its shape that lies farthest to the upper right, in coordinates of the picture's widget.
-    QPoint markPlace() const { return pos() + m_markPlace; }
+    /// Takes its place in the picture's widget. The mouse reaches it on the solid pixels of `shape`, whose corner is
+    /// given, and on its name.
+    void setShape(QPoint corner, const QImage& shape, const QRect& name);
+    /// What its shape covers, in coordinates of the picture's widget.
+    QRect shapeArea() const { return m_shapeArea; }
+    /// The part of it that lies farthest to the upper right.
+    QPoint markPlace() const { return m_markPlace; }
     /// Where a menu of this control opens, on the screen.
     QPoint menuPlace() const;
 
@@ -42,6 +45,7 @@ protected:
 
 private:
     bool m_assigned = false;
+    QRect m_shapeArea;
     QPoint m_markPlace;
 };
 

@@ -205,9 +205,13 @@ void HardwarePicture::place()
     m_scale = std::min(space.width() / drawing.width(), space.height() / drawing.height());
     const QSizeF rest = (space - drawing * m_scale) / 2;
     m_corner = QPointF(rest.width(), rest.height()).toPoint();
+    const QPoint corner = (QPointF(m_corner) / ratio).toPoint();
+    const qreal scale = m_scale / ratio;
     for (HardwareControl* control : m_controls) {
-        const auto [shape, corner] = m_art->shape(control->objectName(), m_scale / ratio);
-        if (!control->isHidden()) control->setShape((QPointF(m_corner) / ratio).toPoint() + corner, shape);
+        if (control->isHidden()) continue;
+        const auto [shape, from] = m_art->shape(control->objectName(), scale);
+        const QRect name = m_art->nameArea(control->objectName(), scale);
+        control->setShape(corner + from, shape, name.isEmpty() ? name : name.translated(corner));
     }
 }
 
@@ -222,7 +226,7 @@ void HardwarePicture::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.drawPixmap(QPointF(m_corner) / ratio, m_whole);
     for (const HardwareControl* control : m_controls) {
-        const QRect area = control->geometry().adjusted(-haloSpace, -haloSpace, haloSpace, haloSpace);
+        const QRect area = control->shapeArea().adjusted(-haloSpace, -haloSpace, haloSpace, haloSpace);
         if (!control->isHidden() && event->rect().intersects(area)) paintState(painter, *control);
     }
 }

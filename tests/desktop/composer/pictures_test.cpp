@@ -1,5 +1,6 @@
 // The drawings in resources/hardware, compared with the table of their controls.
 
+#include "desktop/composer/picture_case.h"
 #include "desktop/theme.h"
 #include "shell/hardware/pictures.h"
 
@@ -45,6 +46,12 @@ struct Drawing : testing::TestWithParam<Picture> {
         }
         return image;
     }
+    /// The pixels of `draw` that an element may cover.
+    QRect area(std::string_view id) const
+    {
+        const QRectF own = bounds(id);
+        return QRectF(own.topLeft() * 2, own.size() * 2).toAlignedRect();
+    }
     /// What `see` is given for each element that has an id: the id, and the text within.
     template <typename See> void forEachElement(See&& see) const
     {
@@ -58,8 +65,7 @@ struct Drawing : testing::TestWithParam<Picture> {
                 open.append(xml.attributes().value("id").toString());
                 see(xml.name().toString(), open.last(), QString());
             }
-            if (xml.isCharacters() && !xml.isWhitespace() && open.size() > 1)
-                see(QString(), open.at(open.size() - 2), xml.text().toString());
+            if (xml.isCharacters() && !xml.isWhitespace()) see(QString(), open.last(), xml.text().toString());
             if (xml.isEndElement()) open.removeLast();
         }
         EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
@@ -81,14 +87,8 @@ std::pair<int, int> lightness(const QImage& image, const QRect& area)
     return {dark, light};
 }
 
-std::string fileName(const testing::TestParamInfo<Picture>& info)
-{
-    std::string name(info.param.file);
-    std::ranges::replace(name, '-', '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Hardware, Drawing, testing::ValuesIn(allPictures().begin(), allPictures().end()), fileName);
+INSTANTIATE_TEST_SUITE_P(Hardware, Drawing, testing::ValuesIn(allPictures().begin(), allPictures().end()),
+                         [](const auto& shown) { return caseOf(shown.param); });
 
 TEST_P(Drawing, HasEveryControlInsideThePicture)
 {
@@ -114,11 +114,12 @@ TEST_P(Drawing, HasNoTwoHotSpotsInOnePlace)
     std::map<std::string, int> shared;
     for (const PictureControl& control : GetParam().controls) {
         const QImage shape = draw(control.id);
-        for (int y = 0; y < shape.height(); ++y) {
-            for (int x = 0; x < shape.width(); ++x) {
+        const QRect place = area(control.id);
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x) {
                 if (qAlpha(shape.pixel(x, y)) < solid) continue;
-                const auto [place, first] = owner.try_emplace({x, y}, control.id);
-                if (!first) ++shared[std::string(place->second) + " and " + std::string(control.id)];
+                const auto [held, first] = owner.try_emplace({x, y}, control.id);
+                if (!first) ++shared[std::string(held->second) + " and " + std::string(control.id)];
             }
         }
     }
@@ -133,8 +134,9 @@ TEST_P(Drawing, HidesNothingOfAControl)
         const QImage label = draw("label:" + std::string(control.id)); // is drawn on top
         int solid = 0;
         int covered = 0;
-        for (int y = 0; y < whole.height(); ++y) {
-            for (int x = 0; x < whole.width(); ++x) {
+        const QRect place = area(control.id);
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x) {
                 if (qAlpha(alone.pixel(x, y)) < 255 || qAlpha(label.pixel(x, y)) > 0) continue;
                 const QColor shown = whole.pixelColor(x, y);
                 const QColor own = alone.pixelColor(x, y);
@@ -148,7 +150,7 @@ TEST_P(Drawing, HidesNothingOfAControl)
 
 TEST_P(Drawing, NamesOnlyControlsOfTheTable)
 {
-    static const QRegularExpression control(QStringLiteral("^(label:|beside:)?([A-Z]+(\\(\\d+\\))?)$"));
+    static const QRegularExpression control(QStringLiteral("^(label:|name:|beside:)?([A-Z]+(\\(\\d+\\))?)$"));
     std::set<QString> seen;
     forEachElement([&](const QString& element, const QString& id, const QString&) {
         if (element.isEmpty() || id.isEmpty()) return;
@@ -167,7 +169,35 @@ TEST_P(Drawing, WritesTheNameOfEachControl)
         if (!text.isEmpty()) labels[id] += text;
     });
     for (const PictureControl& control : GetParam().controls)
-        EXPECT_EQ(labels[QStringLiteral("label:") + fromTable(control.id)].toStdString(), control.name) << control.id;
+        EXPECT_EQ(labels[QStringLiteral("name:") + fromTable(control.id)].toStdString(), control.name) << control.id;
+}
+
+TEST_P(Drawing, WritesNoNameOverAnother)
+{
+    std::vector<QRectF> names;
+    for (const PictureControl& control : GetParam().controls) {
+        if (control.name.empty()) continue;
+        const QRectF own = bounds("name:" + std::string(control.id));
+        EXPECT_TRUE(renderer.viewBoxF().contains(own)) << control.id;
+        for (const QRectF& other : names) EXPECT_FALSE(own.intersects(other)) << control.id;
+        names.push_back(own);
+    }
+}
+
+TEST_P(Drawing, WritesNoNameOverAnotherControl)
+{
+    for (const PictureControl& control : GetParam().controls) {
+        const QImage shape = draw(control.id);
+        for (const PictureControl& other : GetParam().controls) {
+            if (other.id == control.id || other.name.empty()) continue;
+            const QRect name = area("name:" + std::string(other.id));
+            int covered = 0;
+            for (int y = name.top(); y <= name.bottom(); ++y) {
+                for (int x = name.left(); x <= name.right(); ++x) covered += qAlpha(shape.pixel(x, y)) > 0;
+            }
+            EXPECT_EQ(covered, 0) << control.id << " and the name of " << other.id;
+        }
+    }
 }
 
 TEST_P(Drawing, HasLegibleNamesOnLightAndOnDarkGround)
@@ -184,7 +214,7 @@ TEST_P(Drawing, HasLegibleNamesOnLightAndOnDarkGround)
         painter.end();
         for (const PictureControl& control : GetParam().controls) {
             if (control.name.empty()) continue;
-            const auto [dark, light] = lightness(image, bounds("label:" + std::string(control.id)).toRect());
+            const auto [dark, light] = lightness(image, bounds("name:" + std::string(control.id)).toRect());
             EXPECT_GT(light - dark, 100) << control.id;
         }
     }
