@@ -297,26 +297,3 @@ def ribbon(d, plane, a, b, length, along, both=True, width=40):
     if both:
         shape += [spot(back, width * 0.33), spot(-end, 0), spot(back, -width * 0.33)]
     d.fill(path(shape), "#fff")
-
-
-def pedals(d, name, x, y):
-    """Rudder pedals on their rail, seen from the seat."""
-    floor = Plane((x, y), (0.96, 0.10), (-0.42, 0.62), (0, -1))
-    with d.beside(name):
-        d.shadow((x - 4, y + 26), 84, 30)
-    with d.control(name):
-        raised(d, floor.box(0, 4, 132, 54), floor.box(0, 4, 132, 54, 8), DARK)
-        d.line(path([floor.at(0, -22, 8), floor.at(0, 30, 8)], close=False), "#0e1012", 2, 0.8)
-        for side, shift in ((-1, 3), (1, -9)):
-            slot = floor.box(side * 34, 4, 10, 46, 8)
-            d.fill(path(slot), "#0e1012")
-            foot = floor.box(side * 34, shift + 4, 30, 10, 10)
-            lift = Plane(floor.at(side * 34, shift, 14), (0.96, 0.10), (-0.12, 1.0), (0.3, 0.25))
-            raised(d, foot, [lift.at(-12, 0), lift.at(12, 0), lift.at(12, 8), lift.at(-12, 8)], DARK)
-            plate = [lift.at(*p) for p in ((-22, -58), (22, -58), (24, 0), (-24, 0))]
-            back = [(px + 4, py + 3) for px, py in plate]
-            d.fill(rounded(back, 7), DARK[2])
-            d.fill(rounded(plate, 7), d.gradient(*across(plate), CAP[0], CAP[1], CAP[2]))
-            d.line(rounded(plate, 7), "#0e1012", 1, 0.7)
-            for row in range(5):
-                d.line(path([lift.at(-16, -50 + row * 10), lift.at(16, -50 + row * 10)], close=False), DARK[1], 2.6)

@@ -30,17 +30,36 @@ def base(d, ground, size, height):
     screws(d, ground, size - 30, size - 30, height)
 
 
-def boot(d, ground, radius, height):
+def boot(d, ground, radius, height, folds=2):
     """The rubber folds around the foot of the grip."""
-    for i in range(4):
+    for i in range(folds):
         h = height + i * 7
-        r = radius * (1 - i * 0.13)
+        r = radius * (1 - i * 0.09)
         raised(d, ground.ring(0, 0, r, h), ground.ring(0, 0, r * 0.95, h + 6), DARK)
 
 
 # How the surfaces of a grip lie: the face below the thumb looks back and up, the side looks left.
 FACE = ((0.82, -0.195), (0.327, 0.93), (0.467, -0.31))
 SIDE = ((0.57, 0.28), (0.03, 0.94), (-0.82, 0.195))
+
+
+def pedals(d, name, x, y):
+    """Rudder pedals on their rails: the left one is pushed."""
+    ground = floor(x, y)
+    with d.beside(name):
+        d.shadow(ground.at(-6, 6), 84, 38)
+    with d.control(name):
+        slab = [ground.box(0, 0, 148, 76, h) for h in (0, 9)]
+        raised(d, soft(slab[0], 8), soft(slab[1], 8), DARK)
+        for side, shift in ((1, 14), (-1, -10)):
+            d.fill(rounded(ground.box(side * 36, 0, 12, 62, 9), 4), "#0b0c0e")
+            post = [ground.box(side * 36, shift, 16, 12, h) for h in (9, 22)]
+            raised(d, post[0], post[1], DARK)
+            plate = Plane(ground.at(side * 36, shift + 6, 20), *FACE)
+            outline = [(-24, -62), (24, -62), (25, 4), (-25, 4)]
+            raised(d, soft([plate.at(a, b, -7) for a, b in outline], 9), soft([plate.at(a, b) for a, b in outline], 9), CAP)
+            for row in range(5):
+                d.line(path([plate.at(-16, -51 + row * 11), plate.at(16, -51 + row * 11)], close=False), DARK[1], 2.6)
 
 
 def arrows(d, ground, size):
@@ -53,7 +72,7 @@ def arrows(d, ground, size):
 
 def name_axes(d, ground, size):
     x, y = ground.at(size / 2 - 8, size / 2 + 42)
-    d.label("ROTARY(3)", "JSX", (x + 12, y + 10))
+    d.label("ROTARY(3)", "JSX", (x - 28, y + 38))
     x, y = ground.at(-size / 2 - 34, -size / 2 + 12)
     d.label("ROTARY(6)", "JSY", (x - 8, y + 2), "end")
 
@@ -127,7 +146,7 @@ def plug(d, x, y):
 def f22_f16_stick():
     d = Drawing(580, 480, "F-22 Pro or F-16 FLCS joystick")
     ground = floor(262, 404)
-    cable = smooth([(330, 380), (380, 356), (420, 322), (430, 280), (470, 256)], close=False)
+    cable = smooth([(330, 380), (374, 354), (406, 318), (424, 276), (470, 256)], close=False)
     base(d, ground, 186, 34)
     with d.beside("ROTARY(7)"):
         d.line(cable, "currentColor", 7, 0.45)
@@ -164,7 +183,7 @@ def f22_f16_stick():
     arrows(d, ground, 186)
     swap(d, 76, 226)
     plug(d, 468, 236)
-    pedals(d, "ROTARY(2)", 492, 390)
+    pedals(d, "ROTARY(2)", 492, 388)
     for name, text, y, start in (("BTN(1)", "S2", 44, (231, 84)), ("BTN(0)", "S1", 124, (190, 124)),
                                  ("TRIG", "TG1 TG2", 186, (170, 198)), ("BTN(2)", "S3", 286, (188, 286)),
                                  ("BTN(3)", "S4", 346, (170, 346))):
@@ -175,13 +194,13 @@ def f22_f16_stick():
     name_axes(d, ground, 186)
     d.label("ROTARY(4)", "SWAPTG", (76, 262), "middle")
     d.label("ROTARY(7)", "PORT", (494, 222), "middle")
-    d.label("ROTARY(2)", "Rudder", (508, 450), "middle")
+    d.label("ROTARY(2)", "Rudder", (500, 450), "middle")
     return d
 
 
 OLDER_GRIP = [(174, 92), (182, 64), (206, 44), (240, 34), (272, 40), (296, 62), (311, 98), (319, 136), (314, 166),
-              (302, 190), (294, 222), (294, 256), (300, 292), (310, 326), (314, 352), (296, 370), (258, 378), (220, 374),
-              (200, 360), (199, 340), (208, 326), (200, 308), (199, 292), (208, 276), (200, 258), (200, 242), (210, 224),
+              (302, 190), (294, 222), (294, 256), (300, 292), (306, 316), (308, 336), (292, 350), (258, 357), (224, 353),
+              (204, 342), (200, 330), (208, 318), (200, 304), (199, 292), (208, 276), (200, 258), (200, 242), (210, 224),
               (208, 206), (196, 186), (184, 160), (176, 126)]
 
 
@@ -203,7 +222,7 @@ def older_stick():
     d = Drawing(580, 480, "P FCS, Top Gun or FCS joystick")
     ground = floor(258, 404)
     base(d, ground, 206, 40)
-    boot(d, ground, 72, 40)
+    boot(d, ground, 78, 40, 5)
     older_grip(d)
     with d.control("BTN(6)"):
         lever(d, [(198, 184), (184, 188), (172, 202), (166, 222), (168, 244), (177, 250), (184, 240), (190, 226), (208, 220)],
@@ -213,10 +232,10 @@ def older_stick():
     for name, at, size in (("BTN(5)", (204, 108), 15), ("BTN(7)", (222, 168), 15), ("BTN(8)", (236, 262), 15)):
         with d.control(name):
             button(d, Plane(at, *SIDE), 0, 0, size)
-    pedals(d, "ROTARY(8)", 492, 390)
+    pedals(d, "ROTARY(8)", 490, 396)
     for name, text, y, start in (("BTN(5)", "UB", 76, (196, 100)), ("BTN(7)", "MB", 150, (206, 164)),
                                  ("BTN(6)", "TG", 204, (176, 210)), ("BTN(8)", "LB", 262, (222, 262))):
         d.label(name, text, (124, y + 5), "end", [start, (start[0] - abs(start[1] - y), y), (130, y)])
     d.label("HAT(4)", "H", (376, 85), "start", [(288, 92), (300, 80), (370, 80)])
-    d.label("ROTARY(8)", "Rudder", (494, 450), "middle")
+    d.label("ROTARY(8)", "Rudder", (498, 458), "middle")
     return d

@@ -141,6 +141,15 @@ def tqs():
     return d
 
 
+def slide(d, plane, a, b, colours):
+    """A small sliding switch of three places."""
+    well(d, soft(plane.box(a, b, 30, 13), 4))
+    knob_at = plane.box(a, b, 10, 9)
+    raised(d, soft(knob_at, 2), soft(plane.box(a, b, 10, 9, 4), 2), colours)
+    for mark in (-10, 0, 10):
+        d.line(path([plane.at(a + mark, b - 11), plane.at(a + mark, b - 14)], close=False), "#d3d8de", 1.2, 0.7)
+
+
 WCS_FORWARD, WCS_RIGHT, WCS_UP = (0.5, -0.34), (0.87, 0.20), (0, -0.92)
 WCS_BUTTONS = (("BTN(21)", "BTN(22)", "BTN(23)"), ("BTN(19)", "BTN(20)", "BTN(18)"))
 
@@ -163,6 +172,9 @@ def wcs_picture(title, names, rocker_names):
     d = Drawing(580, 480, title)
     ground = Plane((268, 380), WCS_RIGHT, (-0.5, 0.34), WCS_UP)
     base(d, ground, 190, 230, 54, 0.58, LEFT_LIGHT, slot_along=1)
+    wall = Plane(ground.at(0, 115, 27), WCS_RIGHT, (0, 0.92), (-0.5, 0.34))
+    for a, colours in ((-62, RED), (-24, DARK)):
+        slide(d, wall, a, 6, colours)
     arm = [(236, 336), (240, 250), (330, 250), (322, 330), (280, 346)]
     d.fill(smooth(arm), d.gradient((236, 0), (330, 0), "#2b2f35", "#59606a", "#1f2226"))
     d.rim(smooth(arm))
