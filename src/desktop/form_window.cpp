@@ -88,7 +88,7 @@ void FormWindow::place()
     const QScreen* screen = QGuiApplication::screenAt(corner);
     if (screen == nullptr) return;
     const QRect room = screen->availableGeometry();
-    const QSize size = sizeHint();
+    const QSize size = testAttribute(Qt::WA_Resized) ? this->size() : sizeHint();
     move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - size.width())),
          std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() - size.height())));
 }

@@ -40,9 +40,10 @@ private:
 
 } // namespace
 
-ToolFormWindow::ToolFormWindow(ToolForm& form, QWidget* parent)
+ToolFormWindow::ToolFormWindow(ToolForm& form, QWidget* parent, Qt::WindowType type)
     : FormWindow(form, toQt(form.Name), parent), m_tool(form)
 {
+    setWindowFlags((windowFlags() & ~Qt::WindowType_Mask) | type);
     if (form.KeyDown) new KeyFilter(*this);
 }
 

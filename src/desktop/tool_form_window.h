@@ -11,7 +11,9 @@ namespace tarvex {
 class ToolFormWindow : public FormWindow {
     Q_OBJECT
 public:
-    ToolFormWindow(ToolForm& form, QWidget* parent);
+    /// A Qt::Dialog stays before the frame and is minimised with it, by the user or by the program; a Qt::Window does
+    /// neither.
+    ToolFormWindow(ToolForm& form, QWidget* parent, Qt::WindowType type = Qt::Window);
 
     void reject() override;
     /// What the window does with a key before its controls get it. True: they don't get it.

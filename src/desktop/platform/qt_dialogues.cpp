@@ -135,7 +135,7 @@ QWidget* QtDialogues::parentNow() const
 {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     QWidget* active = QApplication::activeWindow();
-    if (active != nullptr && active->windowType() == Qt::Dialog && !active->isMinimized()) return active;
+    if (active != nullptr && qobject_cast<QDialog*>(active) != nullptr && !active->isMinimized()) return active;
     return m_parent != nullptr && m_parent->isVisible() && !m_parent->isMinimized() ? m_parent : nullptr;
 }
 

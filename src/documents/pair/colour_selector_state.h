@@ -3,6 +3,7 @@
 #include "platform/controls.h"
 #include "shell/operation.h"
 #include "shell/settings.h"
+#include "shell/tool_form.h"
 
 #include <array>
 #include <cstddef>
@@ -18,7 +19,7 @@ struct ColourSelector {
 
     ColourSelector();
 
-    Form form;
+    ToolForm form{"ColourSelector"};
     std::array<Button, count> Command1;
     std::array<Property<Colour>, count> Label1; ///< the swatches
     ColourTarget target = ColourTarget::Pane;   ///< whose text takes the colour

@@ -2,12 +2,11 @@
 
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
+#include "platform/key_codes.h"
 
 namespace tarvex {
 
 namespace {
-
-constexpr int escapeKey = 27;
 
 void colourPane(Editor& editor, Colour colour)
 {
@@ -24,11 +23,23 @@ void colourPane(Editor& editor, Colour colour)
 
 } // namespace
 
+void wireColourSelector(Editor& editor)
+{
+    ColourSelector& selector = editor.ColourSelector;
+    selector.form.Load = [&editor] { ColourSelector_Activate(editor); };
+    selector.form.KeyDown = [&editor](int key, int) {
+        ColourSelector_KeyDown(editor, key);
+        return key == keyCode::escape;
+    };
+    for (std::size_t index = 0; index < ColourSelector::count; ++index)
+        selector.Command1[index].handler = [&editor, index] { ColourSelector_Command1_Click(editor, index); };
+    selector.form.join(editor.mum.toolWindows);
+}
+
 void showColourSelector(Editor& editor, ColourTarget target)
 {
     editor.ColourSelector.target = target;
-    ColourSelector_Activate(editor);
-    editor.ColourSelector.form.Visible = true;
+    editor.ColourSelector.form.open();
 }
 
 void ColourSelector_Activate(Editor& editor)
@@ -45,16 +56,16 @@ void ColourSelector_Command1_Click(Editor& editor, std::size_t index)
     ColourSelector& selector = editor.ColourSelector;
     step([&] {
         const Colour colour = selector.Label1.at(index);
-        selector.form.Visible = false; // the keyboard goes back to the text
+        selector.form.hide(); // the keyboard goes back to the text
         selector.target == ColourTarget::Pane ? colourPane(editor, colour) : selector.colourTemplate(colour);
     });
 }
 
 void ColourSelector_KeyDown(Editor& editor, int key)
 {
-    if (key == escapeKey) editor.ColourSelector.form.Visible = false;
+    if (key == keyCode::escape) editor.ColourSelector.form.hide();
 }
 
-void ColourSelector_LostFocus(Editor& editor) { editor.ColourSelector.form.Visible = false; }
+void ColourSelector_LostFocus(Editor& editor) { editor.ColourSelector.form.hide(); }
 
 } // namespace tarvex

@@ -4,6 +4,8 @@
 
 namespace tarvex {
 
+/// Makes it one of the tool windows and gives its buttons their colours.
+void wireColourSelector(Editor& editor);
 /// Opens the window where its form stands.
 void showColourSelector(Editor& editor, ColourTarget target);
 /// The swatches take the colours of the scheme; that of "Black" stays black.

@@ -28,11 +28,8 @@ void wireFrame(Editor& editor)
     operations.ReleaseGradient = [&mum] { mum.Gradient = false; };
     operations.UnloadForm = [&mum](const std::string& name) { mum.toolWindows.unload(name); };
 
-    ColourSelector& selector = editor.ColourSelector;
-    for (std::size_t index = 0; index < ColourSelector::count; ++index)
-        selector.Command1[index].handler = [&editor, index] { ColourSelector_Command1_Click(editor, index); };
     editor.menus.mnuViewTextColour.handler = [&editor] { Picture1_Click(editor); };
-    mum.toolWindows.add({.name = "ColourSelector", .form = &selector.form, .openFlag = nullptr, .unload = nullptr});
+    wireColourSelector(editor);
 }
 
 } // namespace tarvex

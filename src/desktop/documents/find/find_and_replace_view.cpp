@@ -33,7 +33,7 @@ QWidget* pageOf(QLayout* fields, std::initializer_list<QPushButton*> buttons)
 } // namespace
 
 FindAndReplaceView::FindAndReplaceView(FindAndReplace& window, QWidget* parent)
-    : FormWindow(window.form, QStringLiteral("FindAndReplace"), parent), m_window(window), m_tabs(new QTabWidget(this))
+    : ToolFormWindow(window.form, parent, Qt::Dialog), m_window(window), m_tabs(new QTabWidget(this))
 {
     m_tabs->setObjectName(QStringLiteral("SSTab1"));
     for (QWidget* page : {findTabPage(), replaceTabPage(), lineTabPage()}) m_tabs->addTab(page, QString());
@@ -196,7 +196,7 @@ bool FindAndReplaceView::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::FocusIn)
         QMetaObject::invokeMethod(
             this, [this] { m_window.LineToFind.GotFocus(); }, Qt::QueuedConnection);
-    return FormWindow::eventFilter(watched, event);
+    return ToolFormWindow::eventFilter(watched, event);
 }
 
 } // namespace tarvex

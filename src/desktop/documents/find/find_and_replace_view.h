@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/form_window.h"
+#include "desktop/tool_form_window.h"
 #include "documents/find/find_and_replace.h"
 #include "documents/find/find_text.h"
 
@@ -11,7 +11,7 @@ class QTabWidget;
 namespace tarvex {
 
 /// The window of FindAndReplace: a page for finding, one for replacing and one for going to a line.
-class FindAndReplaceView : public FormWindow {
+class FindAndReplaceView : public ToolFormWindow {
     Q_OBJECT
 public:
     FindAndReplaceView(FindAndReplace& window, QWidget* parent);

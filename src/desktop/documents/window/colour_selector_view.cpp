@@ -44,7 +44,7 @@ private:
 } // namespace
 
 ColourSelectorView::ColourSelectorView(Editor& editor, QWidget* parent)
-    : FormWindow(editor.ColourSelector.form, QStringLiteral("ColourSelector"), parent), m_editor(editor)
+    : ToolFormWindow(editor.ColourSelector.form, parent), m_editor(editor)
 {
     setWindowFlags(Qt::Popup);
     setAttribute(Qt::WA_NoMouseReplay); // the click on the picture that closes it mustn't open it again
@@ -72,13 +72,13 @@ ColourSelectorView::ColourSelectorView(Editor& editor, QWidget* parent)
 /// Each time it starts at the first button, whatever was chosen last.
 void ColourSelectorView::showEvent(QShowEvent* event)
 {
-    FormWindow::showEvent(event);
+    ToolFormWindow::showEvent(event);
     findChild<QPushButton*>(QStringLiteral("Command1_0"))->setFocus(Qt::PopupFocusReason);
 }
 
 void ColourSelectorView::hideEvent(QHideEvent* event)
 {
-    FormWindow::hideEvent(event);
+    ToolFormWindow::hideEvent(event);
     ColourSelector_LostFocus(m_editor);
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "desktop/form_window.h"
+#include "desktop/tool_form_window.h"
 #include "documents/pair/editor.h"
 
 namespace tarvex {
 
 /// ColourSelector as a window that goes with the first click elsewhere.
-class ColourSelectorView : public FormWindow {
+class ColourSelectorView : public ToolFormWindow {
 public:
     ColourSelectorView(Editor& editor, QWidget* parent);
 
