@@ -1,6 +1,7 @@
 #include "safein/key_pad.h"
 
 #include "platform/input.h"
+#include "platform/windows1252.h"
 #include "safein/keys/raw_decoder.h"
 
 namespace tarvex {
@@ -64,6 +65,18 @@ void compute(RAWform& window, PadState pad, std::string_view caption)
 {
     pad.caption = caption;
     GetKeystrings(window.keys, pad);
+}
+
+bool isCtrl(int index) { return index == keyIndex::leftCtrl || index == keyIndex::rightCtrl; }
+
+/// A modifier isn't held beside itself: the pad can't be clicked that way either.
+void takeHeld(PadState& pad, int index, int shift)
+{
+    const bool isShift = index == keyIndex::leftShift || index == keyIndex::rightShift;
+    const bool isAlt = index == keyIndex::leftAlt || index == keyIndex::rightAlt;
+    pad.shift = !isShift && (shift & shiftKey::shift) != 0;
+    pad.ctrl = !isCtrl(index) && (shift & shiftKey::ctrl) != 0;
+    pad.alt = !isAlt && (shift & shiftKey::alt) != 0;
 }
 
 void wireCapture(RAWform& window)
@@ -142,16 +155,35 @@ void captureKey(RAWform& window, int index, int shift)
 {
     const Key* const key = keyAt(index);
     if (key == nullptr) return;
+    if (isCtrl(index)) window.keysBeforeCtrl = window.keys;
     PadState pad = padState(window);
-    pad.shift = (shift & shiftKey::shift) != 0;
-    pad.ctrl = (shift & shiftKey::ctrl) != 0;
-    pad.alt = (shift & shiftKey::alt) != 0;
+    takeHeld(pad, index, shift);
     window.keys.LastKeyIndex = static_cast<std::int16_t>(index);
     compute(window, pad, key->labelWith(pad.shift));
     showKeystrings(window);
     window.LitKey = index;
 }
 
+void endCapture(RAWform& window)
+{
+    if (!window.Capture.isHeld()) return;
+    window.Capture.Click();
+    if (!isCtrl(window.keys.LastKeyIndex)) return;
+    window.keys = window.keysBeforeCtrl;
+    showKeystrings(window);
+}
+
 void readRaw(RAWform& window) { window.RawKeys.Caption = rawSummary(window.RawToRead.Text.get()); }
+
+void readSelection(RAWform& window)
+{
+    constexpr std::int64_t longest = 10'000;
+    Editor& editor = window.editor;
+    if (!window.form.Visible || editor.shared.IsLoading == 1) return; // colouring selects as well
+    const Pane& pane = editor.selected().pane;
+    if (pane.SelLength() == 0 || pane.SelLength() > longest) return;
+    const std::string selected = utf8FromWindows1252(pane.SelText());
+    if (selected.find('#') != std::string::npos) window.RawToRead.Text = selected;
+}
 
 } // namespace tarvex

@@ -21,8 +21,12 @@ void blankKeyFields(RAWform& window);
 /// A real key at the place of a drawn one, with what is really held beside it: its texts are shown and it is lit. The
 /// toggles stay as they are.
 void captureKey(RAWform& window, int index, int shift);
+/// Ctrl+Esc: its Ctrl was no key to look up, so the texts of the key before it come back.
+void endCapture(RAWform& window);
 
 /// Reads RawToRead backwards.
 void readRaw(RAWform& window);
+/// Raw codes that are selected in the pane are there to be read, unless they are too many for a line.
+void readSelection(RAWform& window);
 
 } // namespace tarvex

@@ -81,7 +81,6 @@ struct RAWform {
     Button Command2;                              ///< hides the window
 
     std::int16_t WindowOpen = 0; ///< 1 while the window is loaded
-    std::string HeadingText;     ///< the remark that SingleTextForm returns
     /// What other units offer; none while they aren't there.
     std::function<void(const std::string& statement)> MirrorStatement; ///< the open macro windows show it too
     std::function<void(int topic)> HelpTopic;                          ///< shows a topic of the help file
@@ -91,6 +90,7 @@ struct RAWform {
     std::int16_t LastAppend = lastAppend::nothing;
 
     ToggleLabel Capture;       ///< while it is held, real keys are looked up; the view gives them to captureKey
+    KeyStrings keysBeforeCtrl; ///< what a captured Ctrl replaced
     Property<int> LitKey = -1; ///< index of the key that was captured last; -1: none
     TextBox RawToRead;         ///< raw codes of the user's choice
     Label RawKeys;             ///< the keys that they stand for

@@ -1,7 +1,6 @@
 #include "safein/safein.h"
 
 #include "documents/window/tool_keys.h"
-#include "platform/windows1252.h"
 #include "safein/key_pad.h"
 #include "safein/safein_options.h"
 #include "safein/statement.h"
@@ -55,7 +54,7 @@ void wireForm(RAWform& window)
     form.Load = [&window] { Form_Load(window); };
     form.Unload = [&window] { Form_Unload(window); };
     form.Escape = [&form] { form.hide(); };
-    form.Activate = [&window] { Form_Activate(window); };
+    form.Activate = [&window] { readSelection(window); };
     form.KeyDown = [&window](int key, int shift) { return Form_KeyDown(window, key, shift); };
     window.Command14.Caption = "Find IP";
     window.Command14.handler = [&window] { window.editor.menus.mnuViewHighlightLine.Click(); };
@@ -72,6 +71,8 @@ void wireFields(RAWform& window)
     window.connections.push_back(
         window.TotalCombinedText.Text.changed.connect([&window] { TotalCombinedText_Change(window); }));
     window.connections.push_back(window.RawToRead.Text.changed.connect([&window] { readRaw(window); }));
+    for (Pane* pane : {&window.editor.JoystickText, &window.editor.MacroText})
+        window.connections.push_back(pane->selectionChanged.connect([&window] { readSelection(window); }));
 }
 
 /// A window that is loaded anew starts with nothing written and nothing held.
@@ -118,14 +119,6 @@ void Form_Unload(RAWform& window)
     SavePosition(window);
     SaveSafeinOptions(window);
     window.form.markUnloaded();
-}
-
-void Form_Activate(RAWform& window)
-{
-    const Pane& pane = window.editor.selected().pane;
-    if (pane.SelLength() == 0) return;
-    const std::string selected = utf8FromWindows1252(pane.SelText());
-    if (selected.find('#') != std::string::npos) window.RawToRead.Text = selected;
 }
 
 bool Form_KeyDown(RAWform& window, int key, int shift)

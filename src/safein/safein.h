@@ -9,8 +9,6 @@ void wireSafein(RAWform& window);
 
 void Form_Load(RAWform& window);
 void Form_Unload(RAWform& window);
-/// The window has come to the front. Raw codes that are selected in the pane are there to be read.
-void Form_Activate(RAWform& window);
 bool Form_KeyDown(RAWform& window, int key, int shift);
 
 void SavePosition(RAWform& window);

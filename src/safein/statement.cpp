@@ -111,9 +111,10 @@ void mnuDelayValue_Click(RAWform& window, int Index)
 
 void Command7_Click(RAWform& window)
 {
-    window.HeadingText.clear();
+    std::string& remark = window.editor.shared.HeadingText;
+    remark.clear();
     window.editor.platform.dialogues.showModal("SingleTextForm");
-    if (!window.HeadingText.empty()) append(window, " Rem " + window.HeadingText, lastAppend::other);
+    if (!remark.empty()) append(window, " Rem " + remark, lastAppend::other);
 }
 
 void Command4_Click(RAWform& window)

@@ -37,6 +37,7 @@ struct Shared {
     std::int16_t FontChanged = 0;           ///< 1: the pane font was changed in the preferences
     std::int16_t FindWindowOpen = 0;        ///< 1: the find and replace window is loaded
     Colour DefaultTextColour = 0;           ///< of plain inserted text
+    std::string HeadingText;                ///< what the boxes for headings and Rem statements return; UTF-8
 
     /// Remembered places of tool windows, twips; -1: not remembered.
     float ToolWindowTop = -1;

@@ -158,6 +158,17 @@ TEST_F(KeyPad, ACapturedKeyIgnoresWhatThePadHolds)
     EXPECT_EQ(syntax(), "A");
 }
 
+TEST_F(KeyPad, ACapturedModifierIsNotHeldBesideItself)
+{
+    captureKey(window, keyIndex::leftShift, shiftKey::shift);
+    EXPECT_EQ(syntax(), "LSFT");
+    EXPECT_EQ(make(), "#12");
+    captureKey(window, keyIndex::rightCtrl, shiftKey::ctrl | shiftKey::shift);
+    EXPECT_EQ(syntax(), "SHF RCTL");
+    captureKey(window, keyIndex::rightAlt, shiftKey::alt);
+    EXPECT_EQ(syntax(), "RALT");
+}
+
 TEST_F(KeyPad, CaptureIsOffAtStartAndASecondClickEndsIt)
 {
     EXPECT_FALSE(window.Capture.isHeld());
@@ -167,6 +178,27 @@ TEST_F(KeyPad, CaptureIsOffAtStartAndASecondClickEndsIt)
     window.Capture.Click();
     EXPECT_FALSE(window.Capture.isHeld());
     EXPECT_EQ(window.LitKey, -1);
+}
+
+TEST_F(KeyPad, CtrlEscEndsCapturingWithTheTextsOfTheKeyBeforeItsCtrl)
+{
+    window.Capture.Click();
+    captureKey(window, keyA, shiftKey::alt);
+    captureKey(window, keyIndex::leftCtrl, shiftKey::ctrl);
+    EXPECT_EQ(syntax(), "LCTL");
+    endCapture(window);
+    EXPECT_FALSE(window.Capture.isHeld());
+    EXPECT_EQ(syntax(), "ALT a");
+    EXPECT_EQ(make(), "#11 #1C");
+    EXPECT_EQ(window.keys.LastKeyIndex, keyA);
+}
+
+TEST_F(KeyPad, ACtrlThatWasLookedUpIsStillThereAfterCtrlEsc)
+{
+    window.Capture.Click();
+    for (int presses = 0; presses < 2; ++presses) captureKey(window, keyIndex::leftCtrl, shiftKey::ctrl);
+    endCapture(window);
+    EXPECT_EQ(syntax(), "LCTL");
 }
 
 TEST_F(KeyPad, RawCodesAreReadBackKeyByKey)
@@ -180,16 +212,40 @@ TEST_F(KeyPad, RawCodesAreReadBackKeyByKey)
 TEST_F(KeyPad, RawCodesThatAreSelectedInThePaneAreRead)
 {
     t.typeJoystick("BTN S1 RAW (#1C #F0 #1C)");
-    Form_Activate(window);
     EXPECT_EQ(window.RawToRead.Text.get(), "");
-    editor.JoystickText.setSelStart(7);
-    editor.JoystickText.setSelLength(17);
-    Form_Activate(window);
+    select(7, 17);
     EXPECT_EQ(window.RawToRead.Text.get(), "RAW (#1C #F0 #1C)");
-    editor.JoystickText.setSelStart(0);
-    editor.JoystickText.setSelLength(3);
-    Form_Activate(window);
+    select(0, 3);
     EXPECT_EQ(window.RawToRead.Text.get(), "RAW (#1C #F0 #1C)") << "no codes are selected";
+}
+
+TEST_F(KeyPad, CodesThatWereSelectedWhileItWasHiddenAreReadWhenItComesBack)
+{
+    t.typeJoystick("RAW (#1C)");
+    window.Command2.Click();
+    select(0, 9);
+    EXPECT_EQ(window.RawToRead.Text.get(), "");
+    t.menus().mnuInsertRAW.Click();
+    window.form.Activate();
+    EXPECT_EQ(window.RawToRead.Text.get(), "RAW (#1C)");
+}
+
+TEST_F(KeyPad, WhatColouringSelectsIsNotRead)
+{
+    t.typeJoystick("BTN S1 RAW (#1C)");
+    t.menus().mnuViewApplyColourBothFiles.Click();
+    EXPECT_EQ(window.RawToRead.Text.get(), "");
+}
+
+TEST_F(KeyPad, ASelectionTooLongForALineIsNotRead)
+{
+    std::string codes;
+    while (codes.size() < 10'001) codes += "#1C ";
+    editor.JoystickText.setText(codes);
+    select(0, 10'001);
+    EXPECT_EQ(window.RawToRead.Text.get(), "");
+    select(0, 10'000);
+    EXPECT_EQ(window.RawToRead.Text.get().size(), 10'000U);
 }
 
 } // namespace

@@ -20,6 +20,11 @@ struct SafeinTest : testing::Test {
     static constexpr int keyA = 20;
     static constexpr int keyB = 21;
     void click(int key) { window.Command1[static_cast<std::size_t>(key)].Click(); }
+    void select(std::int64_t from, std::int64_t length)
+    {
+        editor.JoystickText.setSelStart(from);
+        editor.JoystickText.setSelLength(length);
+    }
     std::string caption(int key) { return window.Command1[static_cast<std::size_t>(key)].Caption; }
     bool enabled(int key) { return window.Command1[static_cast<std::size_t>(key)].Enabled; }
     std::string syntax() { return window.SyntaxText.Text; }

@@ -103,11 +103,11 @@ TEST_F(Statement, TheDelayButtonPopsUpTheTenValues)
 
 TEST_F(Statement, ARemarkIsAskedForAndAnEmptyOneChangesNothing)
 {
-    window.HeadingText = "from before";
+    editor.shared.HeadingText = "from before";
     window.Command7.Click();
     EXPECT_EQ(t.dialogues.modalForms.back(), "SingleTextForm");
     EXPECT_EQ(statement(), "");
-    t.dialogues.whileModal = [this] { window.HeadingText = "fire"; };
+    t.dialogues.whileModal = [this] { editor.shared.HeadingText = "fire"; };
     window.Command7.Click();
     EXPECT_EQ(statement(), " Rem fire");
     EXPECT_EQ(window.LastAppend, lastAppend::other);
@@ -198,6 +198,14 @@ TEST_F(Statement, WhatStandsInTheFieldIsInserted)
     window.SyntaxText.Text = "typed \xE2\x82\xAC";
     window.CommandPasteJ[0].Click();
     EXPECT_EQ(joystick(), "typed \x80") << "the sign of the euro, in the pane's code page";
+}
+
+TEST_F(Statement, ControlCharactersAreInsertedAsTheyAreAndLineEndsAsPairs)
+{
+    settings.AddSafeinCR = 0;
+    window.TotalCombinedText.Text = "a\tb\x01\x7F\nc\rd";
+    window.CommandPasteJ[4].Click();
+    EXPECT_EQ(joystick(), "a\tb\x01\x7F\r\nc\r\nd");
 }
 
 TEST_F(Statement, AnInsertionIsColouredAndOneUndoStep)

@@ -48,6 +48,12 @@ const std::array<int, codes>& table()
 
 int keyOfNativeCode(quint32 scanCode) { return scanCode < codes ? table()[scanCode] : -1; }
 
+bool isThirdSignHeld(quint32 nativeModifiers)
+{
+    constexpr quint32 mod5 = 0x80; // where all layouts of X11 have it
+    return (nativeModifiers & mod5) != 0;
+}
+
 quint32 nativeCodeOf(int index)
 {
     for (quint32 code = 0; code < codes; ++code)

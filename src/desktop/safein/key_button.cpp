@@ -13,7 +13,7 @@ namespace tarvex {
 namespace {
 
 constexpr int leastPixels = 7;
-constexpr int margin = 4;
+constexpr int margin = 3;
 
 /// The largest size up to `pixels` in which the text fits into the width.
 QFont fitted(QFont font, const QString& text, int pixels, int width)
@@ -55,7 +55,8 @@ void KeyButton::setLit(bool on)
 
 void KeyButton::paintEvent(QPaintEvent*)
 {
-    constexpr int labelShare = 42; // per cent of the height
+    constexpr int letterShare = 42; // per cent of the height
+    constexpr int wordShare = 30;
     constexpr int signShare = 34;
     QStylePainter painter(this);
     QStyleOptionButton option;
@@ -67,6 +68,7 @@ void KeyButton::paintEvent(QPaintEvent*)
     const QString label = text().replace(QLatin1String("&&"), QLatin1String("&"));
     const int side = std::min(height(), 3 * width() / 2); // high keys have the letters of the others
     const bool alone = m_secondSign.isEmpty();
+    const int labelShare = label.size() > 1 ? wordShare : letterShare;
     painter.setFont(fitted(font(), label, std::min(side, 60) * labelShare / 100, cap.width()));
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
     painter.drawText(cap, static_cast<int>(alone ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop), label);

@@ -28,6 +28,14 @@ constexpr int longestText = 1'000'000;
 constexpr char appendIcon[] = "paste";
 constexpr char clearIcon[] = "close";
 
+/// As narrow as the caption allows, so that a row of them fits on a small screen.
+void makeNarrow(QPushButton& button)
+{
+    constexpr int sides = 20;
+    if (button.text().isEmpty()) return;
+    button.setMinimumWidth(button.fontMetrics().horizontalAdvance(button.text()) + sides);
+}
+
 QColor readableOn(const QColor& background)
 {
     constexpr int middle = 128;
@@ -158,6 +166,7 @@ QPushButton* SafeinView::button(Button& state, const QString& name)
     view->setObjectName(name);
     view->setAutoDefault(false); // Enter is a matter of keyPressEvent
     m_bindings.button(state, *view);
+    makeNarrow(*view);
     return view;
 }
 
@@ -167,6 +176,7 @@ QPushButton* SafeinView::toggle(ToggleLabel& state, const char* name)
     view->setObjectName(QLatin1String(name));
     view->setAutoDefault(false);
     bindToggle(state, *view, m_bindings);
+    makeNarrow(*view);
     return view;
 }
 
@@ -187,10 +197,11 @@ bool SafeinView::takesKey(const QKeyEvent& event)
     if (!m_window.Capture.isHeld()) return false;
     if (event.type() != QEvent::KeyPress || event.isAutoRepeat()) return true;
     if (event.key() == Qt::Key_Escape && event.modifiers() == Qt::ControlModifier) {
-        m_window.Capture.Click();
+        endCapture(m_window);
         return true;
     }
-    captureKey(m_window, keyOfNativeCode(event.nativeScanCode()), toLogic(event.modifiers()));
+    const int rightAlt = isThirdSignHeld(event.nativeModifiers()) ? shiftKey::alt : shiftKey::none;
+    captureKey(m_window, keyOfNativeCode(event.nativeScanCode()), toLogic(event.modifiers()) | rightAlt);
     return true;
 }
 

@@ -51,12 +51,12 @@ struct SafeinViewTest : testing::Test {
     QString text(const QString& name) { return get<QLineEdit>(name)->text(); }
     std::string joystick() { return std::string(t.editor().JoystickText.Text()); }
     /// A real key at the place of a drawn one, into whatever has the keyboard.
-    void pressReal(const char* name, int qtKey, Qt::KeyboardModifiers held = Qt::NoModifier)
+    void pressReal(const char* name, int qtKey, Qt::KeyboardModifiers held = Qt::NoModifier, quint32 nativelyHeld = 0)
     {
         QWidget* control = form()->focusWidget() != nullptr ? form()->focusWidget() : form();
         const quint32 code = nativeCodeOf(keyNamed(name)->index);
         for (const QEvent::Type type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, qtKey, held, code, 0, 0);
+            QKeyEvent event(type, qtKey, held, code, 0, nativelyHeld);
             QApplication::sendEvent(control, &event);
         }
         events();
@@ -69,6 +69,8 @@ TEST_F(SafeinViewTest, DrawsAllKeysWithTheirCaptionsAndSpokenNames)
     EXPECT_EQ(key("LSFT")->text(), "Shift");
     EXPECT_EQ(key("LSFT")->accessibleName(), "Left Shift");
     EXPECT_EQ(key("KP5")->accessibleName(), "Keypad 5");
+    for (const KeyButton* button : form()->findChildren<KeyButton*>())
+        EXPECT_FALSE(button->accessibleName().isEmpty()) << button->index();
     EXPECT_GT(key("SPC")->width(), 5 * key("a")->width());
     EXPECT_GT(key("KP+")->height(), 3 * key("a")->height() / 2);
 }
@@ -161,7 +163,44 @@ TEST_F(SafeinViewTest, CtrlKeysGoToTheProgramButEditTheFieldOfCodesToRead)
     EXPECT_EQ(get<QLabel>("RawKeys")->text(), "a down; stays down: a");
 }
 
-TEST_F(SafeinViewTest, EscHidesAndF4Minimises)
+TEST_F(SafeinViewTest, AMegabyteInTheFieldOfCodesToReadIsReadAndShownCut)
+{
+    QString codes;
+    while (codes.size() < 1'000'000) codes += QStringLiteral("#1C ");
+    get<QLineEdit>("RawToRead")->setText(codes);
+    events();
+    const QString keys = get<QLabel>("RawKeys")->text();
+    EXPECT_TRUE(keys.startsWith(QStringLiteral("a down, a down, "))) << keys.left(100).toStdString();
+    EXPECT_TRUE(keys.endsWith(QStringLiteral("...; stays down: a"))) << keys.right(100).toStdString();
+    EXPECT_LT(keys.size(), 1'000);
+}
+
+TEST_F(SafeinViewTest, ItFitsOnASmallScreen)
+{
+    const QSize least = form()->minimumSizeHint();
+    EXPECT_LE(least.width(), 800);
+    EXPECT_LE(least.height(), 480);
+}
+
+TEST_F(SafeinViewTest, AKeyGrowsWithTheWindow)
+{
+    const QSize before = key("a")->size();
+    form()->resize(form()->width() * 3 / 2, form()->height() * 2);
+    events();
+    EXPECT_GT(key("a")->width(), before.width());
+    EXPECT_GT(key("a")->height(), before.height());
+    EXPECT_NEAR(key("a")->width(), key("a")->height(), 3);
+}
+
+TEST_F(SafeinViewTest, F4Minimises)
+{
+    get<QWidget>("SyntaxText")->setFocus();
+    QTest::keyClick(form()->focusWidget(), Qt::Key_F4);
+    EXPECT_EQ(safein.form.State, WindowState::Minimised);
+    EXPECT_EQ(safein.WindowOpen, 1);
+}
+
+TEST_F(SafeinViewTest, EscHidesAndTheFramesCloseButtonUnloads)
 {
     QTest::keyClick(form(), Qt::Key_Escape);
     EXPECT_FALSE(form()->isVisible());
@@ -201,6 +240,27 @@ TEST_F(SafeinViewTest, WhileCapturingARealKeyIsLookedUpByItsPlace)
     EXPECT_EQ(text("SyntaxText"), "ESC");
     EXPECT_EQ(joystick(), "");
     EXPECT_TRUE(form()->isVisible());
+}
+
+TEST_F(SafeinViewTest, TheRightAltKeyOfALayoutWithThirdSignsCountsAsAlt)
+{
+    constexpr quint32 mod5 = 0x80;
+    click("Capture");
+    pressReal("RALT", Qt::Key_AltGr);
+    EXPECT_EQ(text("SyntaxText"), "RALT");
+    pressReal("q", Qt::Key_At, Qt::NoModifier, mod5); // the third sign of a German q
+    EXPECT_EQ(text("SyntaxText"), "ALT q");
+    EXPECT_EQ(text("RMakeText"), "#11 #15");
+}
+
+TEST_F(SafeinViewTest, PauseAndPrintScreenAreCaptured)
+{
+    click("Capture");
+    pressReal("Brk", Qt::Key_Pause);
+    EXPECT_EQ(text("RMakeText"), "#E1 #14 #77 #E1 #F0 #14 #F0 #77");
+    pressReal("Prt", Qt::Key_Print);
+    EXPECT_EQ(text("SyntaxText"), "not supported");
+    EXPECT_TRUE(key("Prt")->isLit());
 }
 
 TEST_F(SafeinViewTest, CtrlEscEndsCapturing)
