@@ -1,14 +1,13 @@
 #include "desktop/documents/text/pane_view.h"
 
 #include "coloured_text.h"
+#include "timing.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QKeyEvent>
 
-#include <algorithm>
-#include <chrono>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -18,10 +17,6 @@
 
 namespace tarvex::benchmarks {
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-double secondsSince(Clock::time_point start) { return std::chrono::duration<double>(Clock::now() - start).count(); }
 
 struct PaintCounter : QObject {
     int paints = 0;
@@ -115,14 +110,6 @@ void colourRunsToPaintedView(benchmark::State& state)
     }
 }
 BENCHMARK(colourRunsToPaintedView)->UseManualTime()->Unit(benchmark::kMillisecond);
-
-double percentile(std::vector<double>& times, double part)
-{
-    const auto rank = static_cast<std::size_t>(part * static_cast<double>(times.size()));
-    const auto at = times.begin() + static_cast<std::ptrdiff_t>(std::min(times.size() - 1, rank));
-    std::nth_element(times.begin(), at, times.end());
-    return *at;
-}
 
 /// A key in the middle of a coloured text of so many lines, with its undo level, painted. Every tenth is Return. Each
 /// key also goes to a plain widget with the same text: the "times" are how much longer the view takes than that.

@@ -1,0 +1,129 @@
+#include "desktop/program/mum_window.h"
+#include "safein/keys/key_table.h"
+#include "support/test_program.h"
+#include "timing.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+
+#include <stdexcept>
+#include <vector>
+
+// What the user of Safein waits for, from a command or a click to the painted window.
+
+namespace tarvex::benchmarks {
+namespace {
+
+/// Counts how often a widget of some name is painted.
+class PaintsOf : public QObject {
+public:
+    explicit PaintsOf(const char* name) : m_name(QLatin1String(name)) { qApp->installEventFilter(this); }
+
+    /// Lets events run until it has been painted.
+    void wait()
+    {
+        constexpr double longest = 5; // seconds
+        const auto start = Clock::now();
+        for (m_painted = false; !m_painted && secondsSince(start) < longest;) QApplication::processEvents();
+        if (!m_painted) throw std::runtime_error("not painted: " + m_name.toStdString());
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && watched->objectName() == m_name) m_painted = true;
+        return false;
+    }
+
+private:
+    QString m_name;
+    bool m_painted = false;
+};
+
+/// The program with its frame on the screen.
+struct ShownProgram {
+    TestProgram program;
+    MumWindow window{program.program()};
+
+    ShownProgram()
+    {
+        window.showNormal();
+        QApplication::processEvents();
+    }
+    void openSafein() { program.menus().mnuInsertRAW.Click(); }
+};
+
+/// The window is made; "first_ms" is its very first time in the process.
+void safeinOpening(benchmark::State& state)
+{
+    std::vector<double> times;
+    for (auto _ : state) {
+        ShownProgram shown;
+        PaintsOf pad("KeyPad");
+        const auto start = Clock::now();
+        shown.openSafein();
+        pad.wait();
+        times.push_back(secondsSince(start));
+        state.SetIterationTime(times.back());
+    }
+    state.counters["first_ms"] = times.front() * 1e3;
+}
+BENCHMARK(safeinOpening)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void safeinShownAgain(benchmark::State& state)
+{
+    ShownProgram shown;
+    PaintsOf pad("KeyPad");
+    shown.openSafein();
+    pad.wait();
+    std::vector<double> times;
+    for (auto _ : state) {
+        shown.program.program().safein.Command2.Click(); // hides it
+        QApplication::processEvents();
+        const auto start = Clock::now();
+        shown.openSafein();
+        pad.wait();
+        times.push_back(secondsSince(start));
+        state.SetIterationTime(times.back());
+    }
+    state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
+}
+BENCHMARK(safeinShownAgain)->Iterations(200)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void click(QWidget& key)
+{
+    const QPointF middle(key.rect().center());
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool down = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, middle, key.mapToGlobal(middle), Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(&key, &event);
+    }
+}
+
+/// To the last of the fields that show the key's texts.
+void safeinKeyClick(benchmark::State& state)
+{
+    ShownProgram shown;
+    PaintsOf field("RCombinedText");
+    shown.openSafein();
+    field.wait();
+    const auto keys = keyTable();
+    std::vector<double> times;
+    for (auto _ : state) {
+        const Key& key = keys[times.size() % keys.size()];
+        auto* button = shown.window.findChild<QWidget*>(QStringLiteral("Command1_%1").arg(key.index));
+        const auto start = Clock::now();
+        click(*button);
+        field.wait();
+        times.push_back(secondsSince(start));
+        state.SetIterationTime(times.back());
+    }
+    state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
+}
+BENCHMARK(safeinKeyClick)->Iterations(1'000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace tarvex::benchmarks
