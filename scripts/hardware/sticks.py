@@ -51,6 +51,7 @@ def pedals(d, name, x, y):
     with d.control(name):
         slab = [ground.box(0, 0, 148, 76, h) for h in (0, 9)]
         raised(d, soft(slab[0], 8), soft(slab[1], 8), DARK)
+        d.rim(path(hull(soft(slab[0], 8) + soft(slab[1], 8))))
         for side, shift in ((1, 14), (-1, -10)):
             d.fill(rounded(ground.box(side * 36, 0, 12, 62, 9), 4), "#0b0c0e")
             post = [ground.box(side * 36, shift, 16, 12, h) for h in (9, 22)]

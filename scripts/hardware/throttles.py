@@ -186,8 +186,8 @@ def wcs_picture(title, names, rocker_names):
             well(d, soft(back.box(a, b, 70, 52, 3), 8))
             lift, zero = back.at(0, 0, 12), back.at(0, 0, 3)
             key(d, back.box(a, b, 62, 44, 3), (lift[0] - zero[0], lift[1] - zero[1]), names[name], name, 17)
-    rocker(d, side, -3, 0, 66, 114, [(name, "") for name in ("BTN(16)", "BTN(4)", "BTN(17)")], 12)
-    for name, text, b in zip(("BTN(16)", "BTN(4)", "BTN(17)"), rocker_names, (-38, 0, 38)):
+    rocker(d, side, -4, -2, 66, 106, [(name, "") for name in ("BTN(16)", "BTN(4)", "BTN(17)")], 12)
+    for name, text, b in zip(("BTN(16)", "BTN(4)", "BTN(17)"), rocker_names, (-37, -2, 33)):
         x, y = side.at(14, b, 4)
         if text:
             d.label(name, text, (480, y + 5), "start", [(x, y), (474, y)])
