@@ -1,4 +1,5 @@
 #include "cli/colour_command.h"
+#include "cli/controls_command.h"
 #include "cli/input.h"
 #include "cli/key_commands.h"
 #include "cli/layout_command.h"
@@ -28,6 +29,7 @@ constexpr const char* teaching = R"(Examples:
   tarvexctl used mig.b50 mig.m50              which macros the joystick file uses
   tarvexctl align mig.b50 > aligned.b50       line up the slash modifiers
   tarvexctl statement mig.b50 H1U             what the hat does when pushed up
+  tarvexctl controls mig.b50                  every control, with its statement
   tarvexctl key DEL --ctrl                    what Ctrl+Delete is called, and its codes
   tarvexctl raw '#12 #1C #F0 #1C #F0 #12'     which keys raw codes press and release
   tarvexctl previous                          the joystick files opened last
@@ -75,6 +77,14 @@ whole word in any case, at its first place; the statement ends before the next
 BTN, RNG, ANT, MDEF, JSX, JSY, PORTB, USE, RATE, SWAPTG, THR or RDDR.
 
 JSON: {"start": n, "length": n, "text": "..."}; positions as those of colour.)";
+
+constexpr const char* controlsTeaching =
+    R"(The controls are those of the stick that the file's name is for (*.f22, *.b50, *.adv;
+any other the F-22 Pro's) and of the throttle that its text names, TQS or WCS, in the
+order of the Composer's pictures. Of several statements the first is listed.
+
+JSON: [{"control": "S1", "statement": "BTN S1 /U ...", "line": 12}, ...]
+Lines count from 1; without a statement both are null.)";
 
 constexpr const char* keyTeaching =
     R"(KEY is an index of the key table, 0 to 101, or a key's name as on an F-16 FLCS: a,
@@ -172,6 +182,14 @@ void addStatement(CLI::App& app, Work& work)
     command->add_flag("--json", options->json, "as JSON");
 }
 
+void addControls(CLI::App& app, Work& work)
+{
+    const auto [command, options] =
+        newCommand(app, work, controlsCommand, "controls", "List the controls of a joystick file", controlsTeaching);
+    command->add_option("JOYSTICKFILE", options->file, "joystick file; - reads standard input")->required();
+    command->add_flag("--json", options->json, "as JSON");
+}
+
 void addKey(CLI::App& app, Work& work)
 {
     const auto [command, options] =
@@ -235,6 +253,7 @@ int run(int argc, char** argv)
     addUsed(app, work);
     addAlign(app, work);
     addStatement(app, work);
+    addControls(app, work);
     addKey(app, work);
     addRaw(app, work);
     addPrevious(app, work);
