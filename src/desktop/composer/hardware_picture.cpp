@@ -106,6 +106,7 @@ void HardwarePicture::setPicture(const Picture& picture)
         old->hide();
         old->deleteLater();
     }
+    if (!std::exchange(m_attended, {}).isEmpty()) emit attended({});
     setAccessibleName(toQt(picture.description));
     for (const PictureControl& entry : picture.controls) addControl(entry);
     updateGeometry();
@@ -120,7 +121,7 @@ void HardwarePicture::addControl(const PictureControl& entry)
     connect(control, &QAbstractButton::clicked, this, [this, control] { emit clicked(control->objectName()); });
     connect(control, &HardwareControl::menuWanted, this,
             [this, control](QPoint at) { emit menuWanted(control->objectName(), at); });
-    connect(control, &HardwareControl::attended, this, &HardwarePicture::announceAttended);
+    connect(control, &HardwareControl::attended, this, [this, control](bool here) { attend(*control, here); });
     connect(control, &HardwareControl::availabilityChanged, this, &HardwarePicture::invalidate);
     connect(control, &HardwareControl::neighbourWanted, this,
             [this, control](int step) { focusNeighbour(*control, step); });
@@ -140,11 +141,15 @@ QSize HardwarePicture::sizeHint() const { return {580, 480}; }
 
 QSize HardwarePicture::minimumSizeHint() const { return sizeHint() * smallest; }
 
-void HardwarePicture::announceAttended()
+void HardwarePicture::attend(const HardwareControl& control, bool here)
 {
-    const auto hovered = std::ranges::find_if(m_controls, &QWidget::underMouse);
-    const auto shown = hovered != m_controls.end() ? hovered : std::ranges::find_if(m_controls, &QWidget::hasFocus);
-    emit attended(shown == m_controls.end() ? QString() : (*shown)->objectName());
+    const HardwareControl* shown = here ? &control : nullptr;
+    for (const auto has : {&QWidget::underMouse, &QWidget::hasFocus}) {
+        const auto found = std::ranges::find_if(m_controls, has);
+        if (shown == nullptr && found != m_controls.end()) shown = *found;
+    }
+    const QString id = shown != nullptr ? shown->objectName() : QString();
+    if (std::exchange(m_attended, id) != id) emit attended(id);
 }
 
 void HardwarePicture::focusNeighbour(const HardwareControl& from, int step)

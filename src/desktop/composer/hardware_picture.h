@@ -35,7 +35,8 @@ signals:
     void clicked(const QString& control);
     /// The right button or the menu key; `place` is on the screen.
     void menuWanted(const QString& control, QPoint place);
-    /// The control under the mouse, else the focused one; empty when there is neither.
+    /// The control that the mouse or the focus has come to last; when that is left, the one under the mouse, else the
+    /// focused one; empty when there is neither.
     void attended(const QString& control);
 
 protected:
@@ -47,7 +48,7 @@ protected:
 
 private:
     void addControl(const PictureControl& entry);
-    void announceAttended();
+    void attend(const HardwareControl& control, bool here);
     void focusNeighbour(const HardwareControl& from, int step);
     void invalidate();
     void place();
@@ -56,6 +57,7 @@ private:
     const Picture* m_picture = nullptr;
     std::unique_ptr<HardwareArt> m_art;
     std::vector<HardwareControl*> m_controls;
+    QString m_attended;
     QPixmap m_whole;    ///< as last drawn; null when it is to be drawn anew
     qreal m_scale = 0;  ///< pixels of the device per unit of the drawing
     QPoint m_corner;    ///< of the drawing, in pixels of the device

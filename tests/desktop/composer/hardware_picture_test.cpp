@@ -245,6 +245,18 @@ TEST(HardwarePicture, AttentionFollowsTheMouseAndThenTheFocus)
     EXPECT_EQ(t.attended, "");
 }
 
+TEST(HardwarePicture, AttentionFollowsTheKeysWhileTheMouseRestsOnAControl)
+{
+    Shown t(PictureOf::Wcs);
+    t.move(Drawn(t.picture->picture(), "BTN(21)", {580, 480}).inside().front());
+    t.control("BTN(22)").setFocus();
+    EXPECT_EQ(t.attended, "BTN(22)");
+    t.key(Qt::Key_Right);
+    EXPECT_EQ(t.attended, "BTN(23)");
+    t.control("BTN(23)").clearFocus();
+    EXPECT_EQ(t.attended, "BTN(21)");
+}
+
 TEST(HardwarePicture, AHiddenControlIsNeitherDrawnNorClicked)
 {
     Shown t(PictureOf::F22AndF16Stick);
@@ -341,6 +353,7 @@ TEST(HardwarePicture, AnotherPictureMayBeSetByAClick)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     t.settle();
     EXPECT_EQ(t.picture->control("BTN(21)"), nullptr);
+    EXPECT_NE(t.attended, "BTN(21)");
     t.clicked.clear();
     t.click(Drawn(picture(PictureOf::Tqs), "ROTARY(0)", {580, 480}).inside().front());
     EXPECT_THAT(t.clicked, testing::ElementsAre("ROTARY(0)"));
