@@ -1,6 +1,6 @@
 #include "desktop/lists/enter_favourite_name_view.h"
 
-#include "desktop/lists/line_box.h"
+#include "desktop/line_box.h"
 #include "desktop/shell/elided_label.h"
 
 #include <QDialogButtonBox>

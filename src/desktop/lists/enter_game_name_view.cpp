@@ -1,6 +1,6 @@
 #include "desktop/lists/enter_game_name_view.h"
 
-#include "desktop/lists/line_box.h"
+#include "desktop/line_box.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>

@@ -1,6 +1,6 @@
 #include "desktop/preferences/page_rows.h"
 
-#include "desktop/lists/line_box.h"
+#include "desktop/line_box.h"
 #include "desktop/preferences/path_box.h"
 
 #include <QCheckBox>

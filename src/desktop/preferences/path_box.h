@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/lists/line_box.h"
+#include "desktop/line_box.h"
 
 namespace tarvex {
 

@@ -1,4 +1,4 @@
-#include "desktop/lists/line_box.h"
+#include "desktop/line_box.h"
 
 #include <QFocusEvent>
 #include <QRegularExpression>
