@@ -1,4 +1,5 @@
 #include "desktop/application.h"
+#include "desktop/generators/generator_forms.h"
 #include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
@@ -7,6 +8,7 @@
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/preferences/preferences_view.h"
 #include "desktop/program/mum_window.h"
+#include "desktop/templates/template_resources.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
 #include "documents/files/file_open.h"
@@ -20,6 +22,7 @@
 #include "program/program.h"
 #include "shell/appearance.h"
 #include "shell/left_copies.h"
+#include "templates/shipped_templates.h"
 
 #include <QDir>
 
@@ -92,11 +95,13 @@ int runProgram(tarvex::Application& application, const std::string& file)
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
     dialogues.addPopUp(program.safein.mnuDelay, program.safein.delayMenu());
+    addGeneratorForms(dialogues, program.generators, &window);
     addListForms(dialogues, program.lists, &window);
     addPreferencesForm(dialogues, program.preferences, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;
+    copyShippedTemplates(platform, shippedTemplates);
     if (program.start() && !desktop.quits()) {
         for (const char* folder : {"", "/Backup", "/Rtf", "/Recover"}) writer.sweep(directory + folder);
         tellLeftCopies(dialogues, writer.leftCopies());

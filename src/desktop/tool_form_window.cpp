@@ -3,6 +3,7 @@
 #include "desktop/input.h"
 #include "platform/key_codes.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -65,6 +66,12 @@ void ToolFormWindow::reject()
     } else {
         FormWindow::reject();
     }
+}
+
+void ToolFormWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return FormWindow::keyPressEvent(event);
+    if (auto* focused = qobject_cast<QAbstractButton*>(focusWidget())) focused->click();
 }
 
 void ToolFormWindow::closeEvent(QCloseEvent* event)

@@ -24,6 +24,9 @@ protected:
     virtual bool takesKey(const QKeyEvent&) { return false; }
     /// Keys that belong to the control with the keyboard, whatever the form's KeyDown would do with them.
     virtual bool keepsKey(const QKeyEvent&) const { return false; }
+    /// Return presses the button that has the keyboard. There is no default button, which a Return in a text box would
+    /// press.
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 

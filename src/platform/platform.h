@@ -29,6 +29,8 @@ public:
     /// Size of the screen in twips.
     virtual float screenWidth() const = 0;
     virtual float screenHeight() const = 0;
+    /// Today's date with the month's name, as the user's country writes it. UTF-8.
+    virtual std::string longDate() const = 0;
     /// The pointer that asks the user to wait, on or off.
     virtual void showHourglass(bool on) = 0;
     /// Has the system open a file of the program directory, as a double click on it does. Without such a file nothing

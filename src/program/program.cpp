@@ -24,6 +24,7 @@
 #include "safein/safein.h"
 #include "shell/frame/mum_window.h"
 #include "shell/handler.h"
+#include "wizards/composer_places.h"
 
 namespace tarvex {
 
@@ -108,7 +109,8 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor), safein(editor), composer(editor), lists(editor), preferences(editor, lists)
+      findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor), lists(editor),
+      preferences(editor, lists)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -118,6 +120,10 @@ Program::Program(Platform& thePlatform)
     wireFindAndReplace(findAndReplace);
     wireSafein(safein);
     wireComposer(composer);
+    wireGenerators(generators);
+    wireWizards(wizards);
+    wizards.joystick.composer = composerPlaces(composer);
+    safein.MirrorStatement = [this](const std::string& statement) { takeKeys(wizards, statement); };
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor, lists.games);

@@ -3,6 +3,7 @@
 #include "composer/insert_options.h"
 #include "documents/find/find_and_replace.h"
 #include "documents/pair/editor.h"
+#include "generators/generators.h"
 #include "lists/lists.h"
 #include "platform/platform.h"
 #include "preferences/preferences.h"
@@ -11,6 +12,7 @@
 #include "shell/mum.h"
 #include "shell/operations.h"
 #include "shell/shared.h"
+#include "wizards/wizards.h"
 
 namespace tarvex {
 
@@ -37,6 +39,8 @@ public:
     FindAndReplace findAndReplace;
     RAWform safein;
     InsertOptions composer;
+    Generators generators;
+    Wizards wizards;
     Lists lists;
     Preferences preferences;
 };

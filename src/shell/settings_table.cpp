@@ -92,7 +92,7 @@ const SettingRow table[] = {
     {IniFile::Tarvex, "Miscellaneous", "SaveBothOnToolbar", SettingForm::Flag, "0", &S::SaveBothOnToolbar,
      Access::GetOptions, Access::SaveOptions, "the toolbar saves both files"},
     {IniFile::Tarvex, "Miscellaneous", "AddCRtoREM", SettingForm::Flag, "1", &S::AddCRtoREM, Access::GetOptions,
-     Access::SaveOptions, "a Rem statement ends with a line break"},
+     Access::SaveOptions | Access::SaveCRthang, "a Rem statement ends with a line break"},
     {IniFile::Tarvex, "Miscellaneous", "UseQonDownload", SettingForm::Flag, "0", &S::UseQonDownload, Access::GetOptions,
      Access::SaveOptions | Access::mnuAppsQuiet_Click, "add the Q option to downloads"},
     {IniFile::Tarvex, "Miscellaneous", "CompOnTop", SettingForm::Flag, "1", &S::CompOnTop, Access::GetOptions,

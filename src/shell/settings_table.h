@@ -58,6 +58,7 @@ enum class Access : std::uint64_t {
     mnuInsertWithColour_Click = 1ULL << 47,
     mnuAppsQuiet_Click = 1ULL << 48,
     mnuGamesDownloadFirst_Click = 1ULL << 49,
+    SaveCRthang = 1ULL << 50, ///< of the window for Rem statements
 };
 constexpr Access operator|(Access a, Access b)
 {

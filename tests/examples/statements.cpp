@@ -34,8 +34,18 @@ const std::map<std::pair<std::string, std::string>, FieldForm> fieldForms = {
     {{"RDDR", "3"}, {3, 0}},
 };
 
+/// THR 2: two numbers of steps, and a character for each step.
+bool isThrottleOfCharacters(const Words& words)
+{
+    if (words.size() < 5 || words[0] != "THR" || words[1] != "2" || !isNumber(words[2]) || !isNumber(words[3]))
+        return false;
+    const std::size_t steps = std::stoul(words[2]) + std::stoul(words[3]);
+    return words.size() == 4 + steps && everyWord(words, 4, isKey);
+}
+
 bool isFieldStatement(const Words& words, const std::set<std::string>& macros)
 {
+    if (isThrottleOfCharacters(words)) return true;
     const auto form = words.size() < 2 ? fieldForms.end() : fieldForms.find({words[0], words[1]});
     if (form == fieldForms.end() || words.size() != 2 + form->second.fields) return false;
     const std::size_t firstKey = 2 + form->second.numbers;

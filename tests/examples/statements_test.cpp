@@ -36,4 +36,7 @@ TEST(IsKnownStatement, FieldsMustBeAsManyAsTheTypeWants)
     EXPECT_FALSE(isKnown("JSX 1 5 a b c d"));
     EXPECT_FALSE(isKnown("JSX 4 5 a b c"));
     EXPECT_FALSE(isKnown("JSX 1 five a b c"));
+    EXPECT_TRUE(isKnown("THR 2 2 1 a b c"));
+    EXPECT_FALSE(isKnown("THR 2 2 1 a b"));
+    EXPECT_FALSE(isKnown("THR 2 2 1 a b c d"));
 }

@@ -16,30 +16,11 @@ using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
 const Names commandsToCome = {
-    "mnuAppsImageViewer",
-    "mnuAppsJoyAnalyser",
-    "mnuAppsTemplate",
-    "mnuComposerPlugin",
-    "mnuEditTmCFG",
-    "mnuFilePrintJoystick",
-    "mnuFilePrintMacro",
-    "mnuFilePrinterSetup",
-    "mnuHelpAbout",
-    "mnuHelpContents",
-    "mnuHelpTips",
-    "mnuHowDoIArray",
-    "mnuInsertHeading",
-    "mnuInsertQuickTip",
-    "mnuInsertRemStatement",
-    "mnuInsertTitle",
-    "mnuSendToKeyTest",
-    "mnuShowInsertWindow",
-    "mnuTMhelp",
+    "mnuAppsImageViewer", "mnuAppsJoyAnalyser",   "mnuAppsTemplate",     "mnuComposerPlugin",
+    "mnuEditTmCFG",       "mnuFilePrintJoystick", "mnuFilePrintMacro",   "mnuFilePrinterSetup",
+    "mnuHelpAbout",       "mnuHelpContents",      "mnuHelpTips",         "mnuHowDoIArray",
+    "mnuInsertQuickTip",  "mnuSendToKeyTest",     "mnuShowInsertWindow", "mnuTMhelp",
     "mnuWebTarvex",
-    "mnuWixUnderstandSlash",
-    "mnuWizSpeedy",
-    "mnuhelpWizCreateJoyFile",
-    "mnuhelpWizCreateMacroFile",
 };
 
 /// Operations that nobody carries out yet.

@@ -54,6 +54,7 @@ constexpr std::pair<Access, std::string_view> procedures[] = {
     {Access::mnuInsertWithColour_Click, "mnuInsertWithColour_Click"},
     {Access::mnuAppsQuiet_Click, "mnuAppsQuiet_Click"},
     {Access::mnuGamesDownloadFirst_Click, "mnuGamesDownloadFirst_Click"},
+    {Access::SaveCRthang, "SaveCRthang"},
 };
 
 std::string names(Access set)

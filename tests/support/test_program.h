@@ -31,6 +31,8 @@ struct FakeDesktop final : Desktop {
     {
         if (whileWaitingForEscape) whileWaitingForEscape();
     }
+    std::string today = "21 November 2026";
+    std::string longDate() const override { return today; }
     float screenWidth() const override { return 1280.0F * twipsPerPixel; }
     float screenHeight() const override { return 1024.0F * twipsPerPixel; }
     void showHourglass(bool on) override { hourglass = on; }

@@ -4,9 +4,11 @@
 #include "desktop/text.h"
 
 #include <QCursor>
+#include <QDate>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QUrl>
@@ -37,6 +39,11 @@ void QtDesktop::waitForEscape() { waitForEscapeKey(); }
 
 float QtDesktop::screenWidth() const { return toTwips(screenSize().width()); }
 float QtDesktop::screenHeight() const { return toTwips(screenSize().height()); }
+
+std::string QtDesktop::longDate() const
+{
+    return fromQt(QLocale::system().toString(QDate::currentDate(), QLocale::LongFormat));
+}
 
 void QtDesktop::showHourglass(bool on)
 {

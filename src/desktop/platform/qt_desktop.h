@@ -17,6 +17,7 @@ public:
     void waitForEscape() override;
     float screenWidth() const override;
     float screenHeight() const override;
+    std::string longDate() const override;
     void showHourglass(bool on) override;
     void openProgramFile(const std::string& name) override;
     void quit() override;

@@ -164,7 +164,7 @@ QPushButton* SafeinView::button(Button& state, const QString& name)
 {
     auto* view = new QPushButton(this);
     view->setObjectName(name);
-    view->setAutoDefault(false); // Enter is a matter of keyPressEvent
+    view->setAutoDefault(false); // Return is a matter of the window
     m_bindings.button(state, *view);
     makeNarrow(*view);
     return view;
@@ -225,13 +225,6 @@ bool SafeinView::eventFilter(QObject* watched, QEvent* event)
             this, [&field] { field.GotFocus(); }, Qt::QueuedConnection);
     }
     return ToolFormWindow::eventFilter(watched, event);
-}
-
-/// Enter presses the button that has the keyboard, and none otherwise.
-void SafeinView::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return ToolFormWindow::keyPressEvent(event);
-    if (auto* focused = qobject_cast<QAbstractButton*>(focusWidget())) focused->click();
 }
 
 /// The layout may have been changed while another window had the keyboard.

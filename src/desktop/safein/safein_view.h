@@ -22,7 +22,6 @@ protected:
     bool takesKey(const QKeyEvent& event) override;
     bool keepsKey(const QKeyEvent& event) const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

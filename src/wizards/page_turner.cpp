@@ -1,0 +1,43 @@
+#include "wizards/page_turner.h"
+
+#include <algorithm>
+
+namespace tarvex {
+
+void loadFoot(PageTurner& pages, const Menus& menus)
+{
+    pages.foot[footButton::next].Caption = "&Next";
+    pages.foot[footButton::back].Caption = "&Back";
+    pages.foot[footButton::help].Caption = "&Help";
+    pages.foot[footButton::help].Enabled = menus.mnuHelpContents.handler != nullptr;
+    showPage(pages, 0);
+}
+
+void showPage(PageTurner& pages, int page)
+{
+    page = std::clamp(page, 0, pages.lastPage);
+    const bool last = page == pages.lastPage;
+    pages.PageNumber = page;
+    pages.foot[footButton::next].Visible = !last;
+    pages.foot[footButton::back].Enabled = page > 0;
+    pages.foot[footButton::close].Caption = last ? "Finished" : "Cancel";
+}
+
+void footClick(PageTurner& pages, const Menus& menus, std::size_t index)
+{
+    switch (index) {
+    case footButton::close:
+        pages.form.unload();
+        break;
+    case footButton::next:
+        showPage(pages, pages.PageNumber + 1);
+        break;
+    case footButton::back:
+        showPage(pages, pages.PageNumber - 1);
+        break;
+    default:
+        menus.mnuHelpContents.Click();
+    }
+}
+
+} // namespace tarvex

@@ -1,0 +1,144 @@
+#include "support/test_program.h"
+#include "wizards/wizards.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+struct JoystickWizardTest : testing::Test {
+    TestProgram t;
+    Editor& editor = t.editor();
+    JoystickWiz& window = t.program().wizards.joystick;
+    std::vector<std::string> ran;
+
+    JoystickWizardTest() { t.menus().mnuhelpWizCreateJoyFile.Click(); }
+
+    void click(std::size_t action) { window.BTNinFrame.at(action).Click(); }
+    void note(MenuItem& command)
+    {
+        command.handler = [this, &command] { ran.push_back(command.Name); };
+    }
+};
+
+TEST_F(JoystickWizardTest, ComesUpOnTopAtItsFirstPageWithoutAWayBack)
+{
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_TRUE(window.form.TopMost);
+    EXPECT_EQ(window.form.Caption, "The Joystick file wizard");
+    EXPECT_EQ(window.WindowOpen, 1);
+    EXPECT_FALSE(window.pages.foot[footButton::back].Enabled);
+}
+
+TEST_F(JoystickWizardTest, Page10IsTheLast)
+{
+    for (int page = 0; page < 9; ++page) window.pages.foot[footButton::next].Click();
+    EXPECT_TRUE(window.pages.foot[footButton::next].Visible);
+    EXPECT_EQ(window.pages.foot[footButton::close].Caption, "Cancel");
+    window.pages.foot[footButton::next].Click();
+    EXPECT_EQ(window.pages.PageNumber, 10);
+    EXPECT_FALSE(window.pages.foot[footButton::next].Visible);
+    EXPECT_EQ(window.pages.foot[footButton::close].Caption, "Finished");
+}
+
+TEST_F(JoystickWizardTest, ButtonsRunTheCommandsOfTheMenus)
+{
+    Menus& menus = t.menus();
+    for (MenuItem* command : {&menus.MnuFileMacroLoad, &menus.mnuFileNewJoystick, &menus.mnuFileSave}) note(*command);
+    for (const std::size_t action : {0U, 1U, 2U}) click(action);
+    EXPECT_EQ(ran, (std::vector<std::string>{"MnuFileMacroLoad", "mnuFileNewJoystick", "mnuFileSave"}));
+}
+
+TEST_F(JoystickWizardTest, PutsTheCaretAtTheStartOfTheJoystickFile)
+{
+    t.typeJoystick("BTN S1 a");
+    editor.TabStrip1.Select(2);
+    int focused = 0;
+    const auto listening = editor.JoystickText.focusWanted.connect([&] { ++focused; });
+    click(4);
+    EXPECT_EQ(editor.TabStrip1.SelectedItem, 1);
+    EXPECT_EQ(editor.JoystickText.SelStart(), 0);
+    EXPECT_EQ(editor.pair.JoystickCaret, 0);
+    EXPECT_GE(focused, 1);
+}
+
+TEST_F(JoystickWizardTest, ClearsAChangedFileWithoutAQuestionAndAsksForATitle)
+{
+    t.typeJoystick("BTN S1 a");
+    editor.TabStrip1.Select(2);
+    t.dialogues.whileModal = [this] {
+        EXPECT_EQ(editor.JoystickText.Text(), "");
+        Title& title = t.program().generators.title;
+        title.Form.Visible = true;
+        title.Command1.Click();
+    };
+    click(5);
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    EXPECT_EQ(t.dialogues.modalForms, std::vector<std::string>{"Title"});
+    EXPECT_TRUE(editor.JoystickText.Text().starts_with("Rem ####"));
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "");
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "BTN S1 a");
+}
+
+TEST_F(JoystickWizardTest, ComposerButtonsOpenItAndShowTheirPlaceInIt)
+{
+    note(t.menus().mnuShowInsertWindow);
+    const auto place = [this](const char* name) { return [this, name] { ran.emplace_back(name); }; };
+    window.composer = {place("use"), place("statements"), place("rate"), place("main")};
+    for (const std::size_t action : {3U, 6U, 7U, 8U, 9U}) click(action);
+    EXPECT_EQ(ran,
+              (std::vector<std::string>{"mnuShowInsertWindow", "mnuShowInsertWindow", "use", "mnuShowInsertWindow",
+                                        "statements", "mnuShowInsertWindow", "rate", "mnuShowInsertWindow", "main"}));
+}
+
+TEST_F(JoystickWizardTest, TheComposerIsShownAtTheSectionThatAButtonNames)
+{
+    InsertOptions& composer = t.program().composer;
+    click(3);
+    EXPECT_TRUE(composer.form.Visible);
+    click(6);
+    EXPECT_EQ(composer.SSTab1.Tab, composerPage::setUp);
+    click(9);
+    EXPECT_EQ(composer.SSTab1.Tab, composerPage::hardware);
+    click(8);
+    EXPECT_EQ(composer.SSTab1.Tab, composerPage::setUp);
+    EXPECT_EQ(composer.fields.Text1[valueField::rate].Text, "80");
+}
+
+TEST_F(JoystickWizardTest, TheComposerWritesAPortStatementAndHides)
+{
+    click(7);
+    EXPECT_EQ(editor.JoystickText.Text(), "PortB1 IS TG1 \r\n");
+    EXPECT_FALSE(t.program().composer.form.Visible);
+}
+
+TEST_F(JoystickWizardTest, WithoutAComposerItsButtonsAreGrey)
+{
+    window.form.unload();
+    t.menus().mnuShowInsertWindow.handler = nullptr;
+    t.menus().mnuhelpWizCreateJoyFile.Click();
+    for (const std::size_t action : {3U, 6U, 7U, 8U, 9U}) EXPECT_FALSE(window.BTNinFrame.at(action).Enabled) << action;
+    EXPECT_TRUE(window.BTNinFrame.at(0).Enabled);
+    note(t.menus().mnuShowInsertWindow);
+    window.form.unload();
+    t.menus().mnuhelpWizCreateJoyFile.Click();
+    EXPECT_TRUE(window.BTNinFrame.at(3).Enabled);
+}
+
+TEST_F(JoystickWizardTest, StaysOpenWhileTheDocumentsChangeUnderIt)
+{
+    t.menus().mnuhelpWizCreateMacroFile.Click();
+    t.menus().mnuInsertRAW.Click();
+    t.files.addFile("c:\\tm\\b50progs\\a.b50", "BTN S1 one\r\n");
+    t.files.addFile("c:\\tm\\b50progs\\a.m50", "one = a\r\n");
+    t.openBoth("c:\\tm\\b50progs\\a.b50");
+    click(4);
+    EXPECT_EQ(editor.JoystickText.Text(), "BTN S1 one\r\n");
+    EXPECT_EQ(window.WindowOpen, 1);
+    EXPECT_EQ(t.program().wizards.macro.WindowOpen, 1);
+}
+
+} // namespace
+} // namespace tarvex
