@@ -50,16 +50,13 @@ std::string associatedMacroFile(const std::string& joystickPath, const Settings&
     return withLastThree(joystickPath, macroExtensionFor(joystickPath, settings));
 }
 
-std::string macroFileByMdef(Pane& joystickText, float& caret, const std::string& joystickPath, const Settings& settings)
+std::string macroFileByMdef(Pane& joystickText, const std::string& joystickPath, const Settings& settings)
 {
     constexpr std::string_view word = "MDEF";
     const auto length = static_cast<std::int64_t>(word.size());
     std::int64_t last = -1;
-    caret = 0;
-    for (std::int64_t hit = joystickText.Find(word, 0); hit >= 0; hit = joystickText.Find(word, last + length)) {
+    for (std::int64_t hit = joystickText.Find(word, 0); hit >= 0; hit = joystickText.Find(word, last + length))
         last = hit;
-        caret = static_cast<float>(hit + length);
-    }
     if (last < 0) return {};
 
     joystickText.setSelStart(last + length + 1); // past the blank behind the word

@@ -17,8 +17,7 @@ std::string associatedJoystickFile(const std::string& macroPath, const Settings&
 std::string associatedMacroFile(const std::string& joystickPath, const Settings& settings);
 
 /// Path of the macro file that the last MDEF in the joystick file's text names, in the joystick file's folder and
-/// lower-cased; empty without an MDEF. Moves the pane's selection; `caret` is the running position.
-std::string macroFileByMdef(Pane& joystickText, float& caret, const std::string& joystickPath,
-                            const Settings& settings);
+/// lower-cased; empty without an MDEF. Moves the pane's selection.
+std::string macroFileByMdef(Pane& joystickText, const std::string& joystickPath, const Settings& settings);
 
 } // namespace tarvex

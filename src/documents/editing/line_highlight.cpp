@@ -20,7 +20,7 @@ Side& blinkingSide(Editor& editor) { return editor.BlinkTab == editor.joystick.t
 void caretBack(Editor& editor)
 {
     Side& side = blinkingSide(editor);
-    side.pane.setSelStart(static_cast<std::int64_t>(side.Caret));
+    side.pane.setSelStart(side.Caret);
     editor.HighlightLength = 0;
 }
 
@@ -52,7 +52,7 @@ void HighlightLineAtIP(Editor& editor)
     editor.HighlightLength = lineLength(pane, line);
     pane.setSelStart(start);
     pane.setSelLength(editor.HighlightLength);
-    side.Caret = static_cast<float>(start);
+    side.Caret = start;
     showLineNumber(editor, side, start);
 }
 

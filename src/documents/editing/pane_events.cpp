@@ -22,7 +22,7 @@ void askForHelp(Editor& editor, const Side& side)
 
 bool runCtrlKey(Editor& editor, Side& side, std::string_view keys)
 {
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
     if (keys != "Ctrl+Tab") return pressPaneKey(editor, keys);
     selectOtherTab(editor);
     return true;

@@ -38,7 +38,7 @@ bool pressPaneKey(Editor& editor, std::string_view pressed)
     const auto* const row = std::ranges::find(keys, pressed, &PaneKey::keys);
     if (row == std::end(keys)) return false;
     Side& side = editor.selected();
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
     MenuItem& item = editor.menus.*(side.tab == editor.joystick.tab ? row->joystick : row->macro);
     if (!item.Enabled || !item.handler) return false;
     item.Click();

@@ -18,7 +18,7 @@ constexpr int blankKey = 32;
 void keyPress(Side& side, int key)
 {
     UndoHistory& history = side.Undo;
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
     if (key != backspaceKey && key != returnKey && key != blankKey)
         history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
     // Typing on an undone state must not overwrite the newest one.
@@ -60,7 +60,7 @@ void showLevel(Editor& editor, std::size_t level)
     const UndoHistory::Level& shown = history.Levels[level - 1];
     side.pane.setTextRTF(shown.Text);
     side.pane.setSelStart(shown.Caret);
-    side.Caret = static_cast<float>(shown.Caret);
+    side.Caret = shown.Caret;
     if (holdsSavedText(side)) {
         noteTextSettled(editor, side, side.Journal.File);
         side.Changed = changed::saved;

@@ -79,7 +79,7 @@ void openMacroAndPartner(Editor& editor, const Chosen& file)
 std::string findMacroFile(Editor& editor, const std::string& joystickPath)
 {
     const Settings& settings = editor.shared.settings;
-    const std::string named = macroFileByMdef(editor.JoystickText, editor.pair.JoystickCaret, joystickPath, settings);
+    const std::string named = macroFileByMdef(editor.JoystickText, joystickPath, settings);
     editor.JoystickText.setSelStart(0);
     editor.pair.JoystickCaret = 0;
     if (!named.empty() && editor.platform.files.fileExists(named)) return named;

@@ -34,7 +34,7 @@ void showFound(FindAndReplace& window, const FindPage& page, Side& side)
     const auto length = static_cast<std::int32_t>(window.SearchText.size());
     const std::int64_t behind = std::int64_t{window.FoundPosition} + length;
     side.SelectionLength = length;
-    side.Caret = static_cast<float>(behind);
+    side.Caret = behind;
     page.find.Caption = findNext;
     showLineNumber(window.editor, side, behind);
     page.find.SetFocus();
@@ -52,15 +52,14 @@ bool findText(FindAndReplace& window, const FindPage& page, const Steps& step)
     if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab);
     takeFindOptions(window, page);
     if (page.find.Caption == findFirst) side.Caret = 0;
-    window.FoundPosition = static_cast<std::int32_t>(
-        side.pane.Find(window.SearchText, static_cast<std::int64_t>(side.Caret),
-                       static_cast<std::int64_t>(side.pane.TextLength()), window.FindOptions));
+    window.FoundPosition = static_cast<std::int32_t>(side.pane.Find(
+        window.SearchText, side.Caret, static_cast<std::int64_t>(side.pane.TextLength()), window.FindOptions));
     if (!endsSearch(window.FoundPosition)) {
         showFound(window, page, side);
         return true;
     }
     tellNotFound(window, page, side);
-    step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
+    step([&] { side.pane.setSelStart(side.Caret); });
     page.text.SetFocus();
     page.text.SelectAll();
     return false;

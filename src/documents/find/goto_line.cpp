@@ -16,7 +16,7 @@ void selectLine(Editor& editor, std::int64_t number, std::int64_t start)
     const auto textEnd = static_cast<std::int64_t>(side.pane.TextLength());
     const std::int64_t length = startOfLine(side.pane, number + 1).value_or(textEnd) - start;
     side.SelectionLength = static_cast<std::int16_t>(length);
-    side.Caret = static_cast<float>(start);
+    side.Caret = start;
     side.pane.setSelStart(start);
     side.pane.setSelLength(length);
     showLineNumber(editor, side, start);

@@ -57,7 +57,7 @@ std::int64_t replaceAll(FindAndReplace& window, Side& side)
         showProgress(progress, pane, caret);
     }
     progress.Visible = false;
-    side.Caret = static_cast<float>(caret);
+    side.Caret = caret;
     return count;
 }
 
@@ -81,7 +81,7 @@ void ReplaceText(FindAndReplace& window)
         Side& side = chosenSide(window, replacePage(window));
         if (refuseProtected(editor, side)) return;
         writeAsOneLevel(side, [&] { side.pane.setSelText(window.ReplaceText); });
-        side.Caret += static_cast<float>(window.ReplaceText.size());
+        side.Caret += static_cast<std::int64_t>(window.ReplaceText.size());
     });
 }
 
@@ -108,7 +108,7 @@ void Command6_Click(FindAndReplace& window)
             takeFindOptions(window, page);
             tellReplaced(window, side, replaceAll(window, side));
             page.find.Caption = findFirst;
-            step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
+            step([&] { side.pane.setSelStart(side.Caret); });
             offerNoReplacement(window);
         }
         writeAsOneLevel(side, [&] { textChanged(editor, side); });

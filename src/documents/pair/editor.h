@@ -50,7 +50,7 @@ struct Side {
     std::string& FilePath;
     std::string& FileName;
     std::int16_t& Changed;
-    float& Caret;
+    std::int64_t& Caret;
     std::int32_t& SelectionLength;
     std::int16_t& TakeNewLevel;
     std::string& Extension; ///< the one that new files of the kind get

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "documents/pair/loading.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tarvex {
@@ -20,8 +23,8 @@ struct PairRecord {
     std::string MacroFileName; ///< as shown on tab 2
     std::int16_t JoystickChanged = changed::noText;
     std::int16_t MacroChanged = changed::noText;
-    float JoystickCaret = 0; ///< characters; last known caret
-    float MacroCaret = 0;
+    std::int64_t JoystickCaret = 0; ///< characters; last known caret
+    std::int64_t MacroCaret = 0;
     std::int32_t JoystickSelectionLength = 0;
     std::int32_t MacroSelectionLength = 0;
     /// 1: the next change opens an undo level of its own instead of rewriting the newest.
@@ -31,8 +34,9 @@ struct PairRecord {
 
 /// Text on its way into a pane.
 struct InsertionRecord {
-    std::string InsertText;        ///< bytes, as the pane holds them
-    std::int32_t InsertColour = 0; ///< what the caller chose for InsertText
+    std::string InsertText;         ///< bytes, as the pane holds them
+    std::int32_t InsertColour = 0;  ///< what the caller chose for InsertText
+    std::optional<Loading> Writing; ///< from BeginColInsert to EndColInsert
 };
 
 } // namespace tarvex

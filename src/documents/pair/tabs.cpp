@@ -50,7 +50,7 @@ void MacroText_GotFocus(Editor& editor) { gotFocus(editor, editor.macro); }
 
 void noteCaret(Editor& editor, Side& side)
 {
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
     side.SelectionLength = static_cast<std::int32_t>(side.pane.SelLength());
     showLineNumber(editor, side, side.pane.SelStart());
     showCaretColour(editor);

@@ -10,7 +10,7 @@ bool ExtractButtonDefinition(Editor& editor, std::string_view head)
     Side& side = editor.joystick;
     if (side.pane.TextLength() == 0) return false;
     if (editor.TabStrip1.SelectedItem != side.tab) step([&] { editor.TabStrip1.Select(side.tab); });
-    const float caret = side.Caret;
+    const std::int64_t caret = side.Caret;
     side.Caret = 0;
     bool found = false;
     step([&] {
@@ -19,7 +19,7 @@ bool ExtractButtonDefinition(Editor& editor, std::string_view head)
             side.SelectionLength = static_cast<std::int32_t>(side.pane.SelLength());
         } else {
             side.Caret = caret;
-            side.pane.setSelStart(static_cast<std::int64_t>(caret));
+            side.pane.setSelStart(caret);
         }
     });
     return found;

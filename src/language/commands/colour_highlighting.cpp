@@ -56,7 +56,7 @@ private:
         std::int64_t caret; ///< all of it: only the running positions of the passes have 16 bits
         std::int16_t changed;
     };
-    static OfSide of(Side& side) { return {&side, static_cast<std::int64_t>(side.Caret), side.Changed}; }
+    static OfSide of(Side& side) { return {&side, side.Caret, side.Changed}; }
 
     std::array<OfSide, 2> m_of;
 };
@@ -77,7 +77,8 @@ void apply(Editor& editor, const Highlighter& what, const std::function<void(con
     step([&] { setBaseFormat(editor, side); });
     if (!what.selectsTabFirst) selectTab();
 
-    runPasses({side.pane, editor.shared.settings, side.Caret, step, &editor.mum, held}, what.passes);
+    float position = 0;
+    runPasses({side.pane, editor.shared.settings, position, step, &editor.mum, held}, what.passes);
 
     kept.giveBack(step);
     side.Undo.Levels[side.Undo.Position - 1].Text = side.pane.TextRTF();

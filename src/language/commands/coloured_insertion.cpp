@@ -33,7 +33,7 @@ void insertColoured(Editor& editor, std::string_view text, Colour colour)
         if (pane.SelLength() != 0) pane.setSelText("");
         setFontAndColour(editor, pane, colour);
         pane.setSelText(text);
-        side.Caret = static_cast<float>(pane.SelStart());
+        side.Caret = pane.SelStart();
         side.SelectionLength = 0;
         setFontAndColour(editor, pane, 0);
         pane.SetFocus();
@@ -48,7 +48,7 @@ void insertBlack(Editor& editor, std::string_view text)
     side.pane.setSelStart(side.pane.SelStart());
     side.pane.setSelColor(0);
     side.pane.setSelText(text);
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
 }
 
 } // namespace
@@ -59,7 +59,7 @@ void BeginColInsert(Editor& editor)
     if (refuseProtected(editor)) return;
     endBlinking(editor);
     step([&] {
-        editor.shared.IsLoading = 1;
+        editor.insertion.Writing.emplace(editor.shared);
         storeStateBeforeWrite(editor, editor.selected());
     });
 }
@@ -67,7 +67,7 @@ void BeginColInsert(Editor& editor)
 void EndColInsert(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_EndColInsert");
-    editor.shared.IsLoading = 0;
+    editor.insertion.Writing.reset();
     Side& side = editor.selected();
     if (side.pane.Locked) return; // nothing was written
     step([&] { writeAsOneLevel(side, [&] { textChanged(editor, side); }); });
@@ -131,7 +131,7 @@ void CheckAtLineBeginning(Editor& editor)
         if (pane.SelStart() == next - 2 || pane.SelStart() == next - 1) return;
         pane.setSelStart(next - 1);
         InsertCarriageReturn(editor);
-        side.Caret = static_cast<float>(pane.SelStart());
+        side.Caret = pane.SelStart();
         side.SelectionLength = 0;
         pane.SetFocus();
         showLineNumber(editor, side, pane.SelStart());

@@ -18,7 +18,7 @@ void FindMacroInJF(Editor& editor)
         else if (pane.Find(name + "\r", 0, end, find::wholeWord) < 0)
             return;
         side.SelectionLength = static_cast<std::int32_t>(pane.SelLength());
-        side.Caret = static_cast<float>(pane.SelStart());
+        side.Caret = pane.SelStart();
     });
 }
 

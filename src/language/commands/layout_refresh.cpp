@@ -25,7 +25,7 @@ template <typename LayOut> void refreshLayout(Editor& editor, std::string_view t
         layOut(scratch);
         side.pane.setTextRTF(scratch.TextRTF());
     });
-    step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
+    step([&] { side.pane.setSelStart(side.Caret); });
     side.Changed = state;
     step([&] { scratch.setText(""); });
     scratch.Visible = false;

@@ -17,7 +17,7 @@ void ShowMacroKeys(Editor& editor)
         if (editor.selected().tab != macro.tab && !editor.menus.mnuViewTileVertically.Checked) return;
         macro.pane.Find(*line, 0, static_cast<std::int64_t>(macro.pane.TextLength()));
         macro.SelectionLength = static_cast<std::int32_t>(macro.pane.SelLength());
-        macro.Caret = static_cast<float>(macro.pane.SelStart());
+        macro.Caret = macro.pane.SelStart();
     });
 }
 

@@ -56,7 +56,7 @@ void key(Editor& editor, std::size_t list, int shift)
 bool touchesAWord(const Side& side, const Steps& step)
 {
     if (side.Caret == 0) return false;
-    step([&] { side.pane.setSelStart(static_cast<std::int64_t>(side.Caret) - 1); });
+    step([&] { side.pane.setSelStart(side.Caret - 1); });
     side.pane.setSelLength(1);
     return side.pane.SelText() != " ";
 }
@@ -69,16 +69,16 @@ void insertMacro(Editor& editor, const Steps& step)
     std::string text = name + " ";
     if (pane.SelLength() == 0) {
         if (touchesAWord(side, step)) text.insert(0, " ");
-        step([&] { pane.setSelStart(static_cast<std::int64_t>(side.Caret)); });
+        step([&] { pane.setSelStart(side.Caret); });
     } else {
-        side.Caret = static_cast<float>(pane.SelStart());
+        side.Caret = pane.SelStart();
     }
     const FormatId black = pane.formats()->withColour(pane.formats()->idOf(pane.SelFormat()), 0);
     // Text and colour in one write: a selection coloured first would be an edit, and an undo level, of its own.
     const RichText coloured(pane.formats(), text, {{static_cast<std::uint32_t>(text.size()), black}});
     writeAsOneLevel(side, [&] { pane.setSelRTF(coloured); });
     // A blank in front isn't counted: the caret then stops before the one behind the name.
-    putCaret(side, static_cast<std::int64_t>(side.Caret) + static_cast<std::int64_t>(name.size()) + 1);
+    putCaret(side, side.Caret + static_cast<std::int64_t>(name.size()) + 1);
     pane.SetFocus();
 }
 

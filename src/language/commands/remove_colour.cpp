@@ -15,7 +15,7 @@ void removeColour(Editor& editor, Side& side, std::string_view tag)
     Pane& pane = side.pane;
     editor.status("Removing colour highlighting from " + editor.tabCaption(side) + ". Please wait ...");
     const Loading loading(editor.shared);
-    const auto caret = static_cast<std::int64_t>(side.Caret);
+    const auto caret = side.Caret;
     step([&] {
         pane.setSelStart(0);
         pane.setSelLength(static_cast<std::int64_t>(pane.TextLength()));

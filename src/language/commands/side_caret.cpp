@@ -7,7 +7,7 @@ namespace tarvex {
 void putCaret(Side& side, std::int64_t position)
 {
     side.pane.setSelStart(std::max<std::int64_t>(position, 0));
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
 }
 
 } // namespace tarvex

@@ -328,15 +328,15 @@ TEST_F(ColourTest, ACaretOnBothSidesOf32767StaysInPaneAndRecord)
     for (const int caret : {32767, 32768, 35000, 65536, 70000}) {
         for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuViewColourMacro,
                                   &t.menus().mnuRemoveColourJoystick, &t.menus().mnuRemoveColourMacro}) {
-            t.editor().pair.JoystickCaret = static_cast<float>(caret);
-            t.editor().pair.MacroCaret = static_cast<float>(caret - 1);
+            t.editor().pair.JoystickCaret = caret;
+            t.editor().pair.MacroCaret = caret - 1;
             joystick().setSelStart(caret);
             macro().setSelStart(caret - 1);
             command->Click();
             EXPECT_EQ(joystick().SelStart(), caret) << command->Name;
-            EXPECT_EQ(t.editor().pair.JoystickCaret, static_cast<float>(caret)) << command->Name;
+            EXPECT_EQ(t.editor().pair.JoystickCaret, caret) << command->Name;
             EXPECT_EQ(macro().SelStart(), caret - 1) << command->Name;
-            EXPECT_EQ(t.editor().pair.MacroCaret, static_cast<float>(caret - 1)) << command->Name;
+            EXPECT_EQ(t.editor().pair.MacroCaret, caret - 1) << command->Name;
         }
     }
 }

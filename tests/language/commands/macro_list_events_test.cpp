@@ -39,7 +39,7 @@ struct ListEventsTest : testing::Test {
     {
         joystick.setText(text);
         joystick.setSelStart(caret);
-        editor.pair.JoystickCaret = static_cast<float>(caret);
+        editor.pair.JoystickCaret = caret;
     }
 };
 
@@ -112,7 +112,7 @@ TEST_F(ListEventsTest, TheDefinitionIsSelectedWhereTheMacroPaneIsSeen)
     List1_KeyDown(editor, 0, shiftKey::none);
     EXPECT_EQ(editor.MacroText.SelText(), "Stop = s");
     EXPECT_EQ(editor.pair.MacroSelectionLength, 8);
-    EXPECT_EQ(editor.pair.MacroCaret, static_cast<float>(editor.MacroText.SelStart()));
+    EXPECT_EQ(editor.pair.MacroCaret, editor.MacroText.SelStart());
 
     editor.TabStrip1.Select(1);
     editor.MacroText.setSelStart(0);
