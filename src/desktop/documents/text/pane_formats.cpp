@@ -10,11 +10,12 @@ namespace tarvex {
 
 namespace {
 
-/// Layouts notify the document of their change; this lets it lay them out before it reports anything else.
-void relayout(const QTextBlock& block, int from, int to)
+/// Layouts notify the document of their change; this lets it lay them out before it reports anything else. One block at
+/// a time: for a stretch of several the document repaints everything in sight.
+void relayout(const QTextBlock& block)
 {
     auto* document = const_cast<QTextDocument*>(block.document()); // NOLINT: a block only hands out a constant one
-    document->markContentsDirty(from, to - from);
+    document->markContentsDirty(block.position(), block.length());
 }
 
 } // namespace
@@ -75,21 +76,17 @@ QList<QTextLayout::FormatRange> PaneFormats::ranges(const QTextBlock& block)
 
 void PaneFormats::format(QTextBlock first, const QTextBlock& last)
 {
-    int dirtyFrom = -1;
-    int dirtyTo = -1;
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
         if (block.userState() == stale && block.layout()->preeditAreaText().isEmpty()) {
             block.setUserState(formatted);
             const QList<QTextLayout::FormatRange> wanted = ranges(block);
             if (wanted != block.layout()->formats()) {
                 block.layout()->setFormats(wanted);
-                if (dirtyFrom < 0) dirtyFrom = block.position();
-                dirtyTo = block.position() + block.length();
+                relayout(block);
             }
         }
         if (block == last) break;
     }
-    if (dirtyFrom >= 0) relayout(first, dirtyFrom, dirtyTo);
 }
 
 void PaneFormats::formatComposing(QTextBlock block)
@@ -108,7 +105,7 @@ void PaneFormats::formatComposing(QTextBlock block)
     }
     wanted += layout->formats(); // of the composed text, from the input method
     layout->setFormats(wanted);
-    relayout(block, block.position(), block.position() + block.length());
+    relayout(block);
 }
 
 } // namespace tarvex

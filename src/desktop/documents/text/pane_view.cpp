@@ -79,8 +79,12 @@ void PaneView::settle()
     m_mirror.deliver(textCursor().position());
     if (m_userMoved && !m_paneMoved && !m_mirror.behind()) takeSelection();
     m_userMoved = false;
-    showPane();
-    if (byUser) emit caretMoved();
+    const bool shown = bringUpToDate();
+    if (byUser) {
+        emit caretMoved();
+    } else if (shown) {
+        emit paneShown();
+    }
 }
 
 /// Moves the pane's caret to where the user put it.
@@ -104,7 +108,14 @@ PaneView::Selection PaneView::shownSelection() const
 
 void PaneView::showPane()
 {
-    if (m_showing || m_mirror.typed() || (!m_paneMoved && !m_mirror.behind())) return;
+    if (bringUpToDate()) emit paneShown();
+}
+
+/// False: there was nothing to do, or it isn't the time. Repaints no more than the lines that changed: the document
+/// reports those.
+bool PaneView::bringUpToDate()
+{
+    if (m_showing || m_mirror.typed() || (!m_paneMoved && !m_mirror.behind())) return false;
     const QScopedValueRollback<bool> showing(m_showing, true);
     int top = verticalScrollBar()->value();
     const int left = horizontalScrollBar()->value();
@@ -115,8 +126,7 @@ void PaneView::showPane()
     horizontalScrollBar()->setValue(left);
     if (moved) revealSelection();
     formatShown();
-    viewport()->update();
-    emit paneShown();
+    return true;
 }
 
 /// Puts the caret where the pane has it. True: it is another place than before, which is to be seen.

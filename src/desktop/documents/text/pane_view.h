@@ -36,9 +36,9 @@ public:
 signals:
     /// The pane has the keyboard now; `returned`: it only comes back from a menu, a box or another window.
     void gotFocus(bool returned);
-    /// The user moved the caret or changed the selection.
+    /// The user wrote, moved the caret or changed the selection.
     void caretMoved();
-    /// The view follows what the program did to the pane.
+    /// The view followed a change of the pane by the program alone.
     void paneShown();
     void overwriteModeChanged(bool on);
     void filesDropped(const QStringList& paths);
@@ -77,6 +77,7 @@ private:
     void bindPane();
     void settleLater();
     void showPane();
+    bool bringUpToDate();
     bool showSelection();
     void revealSelection();
     void revealColumns(int start, int end);
