@@ -85,12 +85,3 @@ build() {
     CCACHE_SLOPPINESS="${CCACHE_SLOPPINESS:-pch_defines,time_macros}" \
         cmake --build "$folder" ${1:+--target "$@"}
 }
-
-# The joystick file to show when none is given.
-example_file() {
-    local file
-    for file in "$top"/examples/*.b50 "$top"/examples/*/*.b50; do
-        [ -f "$file" ] && printf '%s\n' "$file" && return
-    done
-    die "There is no joystick file in $top/examples."
-}
