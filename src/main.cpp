@@ -104,7 +104,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     copyShippedTemplates(platform, shippedTemplates);
     if (program.start() && !desktop.quits()) {
         for (const char* folder : {"", "/Backup", "/Rtf", "/Recover"}) writer.sweep(directory + folder);
-        tellLeftCopies(dialogues, writer.leftCopies());
+        reportLeftCopies(dialogues, writer.leftCopies());
         status = QApplication::exec();
     }
     application.setErrorRecord(nullptr);

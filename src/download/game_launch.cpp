@@ -37,7 +37,7 @@ bool isAboutMissing(const RuntimeError& error)
            std::string_view(error.what()).find("found") != std::string_view::npos;
 }
 
-void tell(Editor& editor, const char* text) { editor.platform.dialogues.show({.title = title, .text = text}); }
+void showBox(Editor& editor, const char* text) { editor.platform.dialogues.show({.title = title, .text = text}); }
 
 /// Whether it went well isn't known: no result file is read, whichever loader it is. False: the user doesn't want to go
 /// on.
@@ -64,9 +64,9 @@ void launchGame(Editor& editor, const Game& game)
         editor.menus.mnuFileExit.Click();
     } catch (const RunnerMissing&) { // one box is enough
     } catch (const RuntimeError& error) {
-        tell(editor, isAboutMissing(error) ? notFound : notRun);
+        showBox(editor, isAboutMissing(error) ? notFound : notRun);
     } catch (const std::exception&) {
-        tell(editor, notRun);
+        showBox(editor, notRun);
     }
 }
 

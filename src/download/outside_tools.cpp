@@ -28,7 +28,7 @@ constexpr Tool tools[] = {
     {&Menus::mnuF22Delay, "ED_mnuF22Delay_Click", "f22dly2.exe", "F22dly2"},
 };
 
-void tell(const Editor& editor, std::string title, std::string text, BoxIcon icon = BoxIcon::None)
+void showBox(const Editor& editor, std::string title, std::string text, BoxIcon icon = BoxIcon::None)
 {
     editor.platform.dialogues.show({.title = std::move(title), .text = std::move(text), .icon = icon});
 }
@@ -50,7 +50,7 @@ bool enterControlCentre(Editor& editor, std::string_view mentioned, const Steps&
 {
     const std::string& path = editor.shared.settings.CandCCPath.whole();
     if (path.empty()) {
-        tell(editor, "Where is it?", pathNeededFor(mentioned));
+        showBox(editor, "Where is it?", pathNeededFor(mentioned));
         return false;
     }
     changeToFolderOf(editor.shared.currentDirectory, path, step);
@@ -79,9 +79,9 @@ std::string firstThatExists(const Editor& editor, std::initializer_list<std::str
     return {};
 }
 
-void tellAboutCtfj(Editor& editor, const std::string& text)
+void askForCtfj(Editor& editor, const std::string& text)
 {
-    tell(editor, "Where is CTFJ on your hard disk?", text);
+    showBox(editor, "Where is CTFJ on your hard disk?", text);
     editor.menus.mnuPreferencesEdit.Click();
 }
 
@@ -100,11 +100,11 @@ void mnuAppsTMScope_Click(Editor& editor)
     const std::string folder = directoryOf(path);
     const std::string scope = firstThatExists(editor, {folder + "tmscope.exe", folder + "tms.exe"});
     if (!scope.empty()) return start(editor, scope, step, windowStyle::maximised);
-    tell(editor, "Couldn't find TMScope",
-         "I couldn't find TMScope which should be located here: " + folder +
-             ". Goto your preferences and make sure you've entered the correct path for the Thrustmaster Control "
-             "Centre because tms.exe should be in the same directory. You've told me that this is: " +
-             path);
+    showBox(editor, "Couldn't find TMScope",
+            "I couldn't find TMScope which should be located here: " + folder +
+                ". Goto your preferences and make sure you've entered the correct path for the Thrustmaster Control "
+                "Centre because tms.exe should be in the same directory. You've told me that this is: " +
+                path);
 }
 
 void mnuAppsProPanel_Click(Editor& editor)
@@ -116,7 +116,7 @@ void mnuAppsProPanel_Click(Editor& editor)
     const std::string panel = firstThatExists( // newer systems have theirs in the other folder
         editor, {system + "\\tm.cpl", system + "32\\tm.cpl", systemPanel, system + "32\\joy.cpl"});
     if (panel.empty()) {
-        tell(
+        showBox(
             editor, "Couldn't find ProPanel or Game Controllers",
             "I'm afraid I couldn't find Thrustmaster's ProPanel or Windows Game Controllers on your system. The latter "
             "should be located here: " +
@@ -135,14 +135,14 @@ void mnuAppsCTFJ_Click(Editor& editor)
     const Steps step(editor.shared.errors, "ED_mnuAppsCTFJ_Click");
     const std::string& path = editor.shared.settings.CTFJPath.whole();
     if (path.empty()) {
-        return tellAboutCtfj(editor, "You need to enter the path in preferences for whichever version of CTFJ you have "
-                                     "on your system. I'll take you there now.");
+        return askForCtfj(editor, "You need to enter the path in preferences for whichever version of CTFJ you have "
+                                  "on your system. I'll take you there now.");
     }
     if (!editor.platform.files.fileExists(path)) {
-        return tellAboutCtfj(editor, "You need to enter the correct path in preferences for whichever version of CTFJ "
-                                     "you have on your system. At the moment, you have told me it is located here: " +
-                                         path +
-                                         ", and I can't find it there! I'll take you to the Preferences window now.");
+        return askForCtfj(editor, "You need to enter the correct path in preferences for whichever version of CTFJ "
+                                  "you have on your system. At the moment, you have told me it is located here: " +
+                                      path +
+                                      ", and I can't find it there! I'll take you to the Preferences window now.");
     }
     changeToRootOf(editor.shared.currentDirectory, path, step);
     start(editor, path, step);
@@ -153,9 +153,9 @@ void mnuLauncher_Click(Editor& editor)
     const Steps step(editor.shared.errors, "ED_mnuLauncher_Click");
     const std::string launcher = editor.platform.programDirectory + "\\Launcher.exe";
     if (!editor.platform.files.fileExists(launcher)) {
-        return tell(editor, "Where is it?",
-                    "I couldn't find the Launcher - it should be in the same directory as Tarvex.exe. What have you "
-                    "done with it? ");
+        return showBox(editor, "Where is it?",
+                       "I couldn't find the Launcher - it should be in the same directory as Tarvex.exe. What have you "
+                       "done with it? ");
     }
     changeToFolderOf(editor.shared.currentDirectory, launcher, step);
     start(editor, launcher, step);

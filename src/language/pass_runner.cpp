@@ -25,7 +25,7 @@ public:
     {
         begin(pass);
         const bool held = search();
-        if (held) tellHold();
+        if (held) reportHold();
         if (!m_run.mum) return;
         if (pass.progress == passProgress::byPosition) {
             m_run.mum->ProgressBar1.Value = 0;
@@ -88,7 +88,7 @@ private:
         return m_found != -1;
     }
 
-    void tellHold()
+    void reportHold()
     {
         const bool first = !std::exchange(m_wasHeld, true);
         if (m_run.held) m_run.held({m_pass->word, m_pane.GetLineFromChar(m_match) + 1, first});

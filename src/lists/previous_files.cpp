@@ -62,7 +62,7 @@ void updateList(Editor& editor, PreviousList& previous)
     editor.shared.store.write(previous.update, previous.tags.update); // each time, so that a crash loses nothing
 }
 
-void tellGone(Editor& editor, const std::string& path)
+void reportGone(Editor& editor, const std::string& path)
 {
     editor.platform.dialogues.show({.title = "Can't find file",
                                     .text = "There's a problem here ... I couldn't find " + path +
@@ -83,7 +83,7 @@ void openItem(Editor& editor, PreviousList& previous, int index)
     const Steps step(editor.shared.errors, previous.tags.click);
     step([&] {
         const std::string path = pathOf(previous.list, index); // opening moves the entries
-        if (!editor.platform.files.fileExists(path)) return tellGone(editor, path);
+        if (!editor.platform.files.fileExists(path)) return reportGone(editor, path);
         editor.OpeningPath = path;
         OpenPreviouslySavedFiles(editor);
     });

@@ -7,7 +7,7 @@
 
 namespace tarvex {
 
-void tellLargeSettings(const Platform& platform)
+void reportLargeSettings(const Platform& platform)
 {
     std::string paths;
     for (const std::string_view name :

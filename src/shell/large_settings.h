@@ -6,6 +6,6 @@ namespace tarvex {
 
 /// Informs the user of INI files that are too large to be read: the program runs with the defaults instead, and leaves
 /// those files alone. No such file, no box.
-void tellLargeSettings(const Platform& platform);
+void reportLargeSettings(const Platform& platform);
 
 } // namespace tarvex

@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-void tellLeftCopies(Dialogues& dialogues, const std::vector<std::string>& paths)
+void reportLeftCopies(Dialogues& dialogues, const std::vector<std::string>& paths)
 {
     if (paths.empty()) return;
     std::string text =

@@ -9,6 +9,6 @@ namespace tarvex {
 
 /// Informs the user of copies that an interrupted save has left: the files they belong to may be half written.
 /// No copies, no box.
-void tellLeftCopies(Dialogues& dialogues, const std::vector<std::string>& paths);
+void reportLeftCopies(Dialogues& dialogues, const std::vector<std::string>& paths);
 
 } // namespace tarvex

@@ -59,7 +59,7 @@ TEST_F(ColourCommandTest, PrintsTheRunsOfAJoystickFileAsJson)
     EXPECT_EQ(result.json().at("held").dump(), "[]");
 }
 
-TEST_F(ColourCommandTest, TheExtensionInAnyCaseTellsAMacroFile)
+TEST_F(ColourCommandTest, TheExtensionInAnyCaseMarksAMacroFile)
 {
     const std::string text = "ant 1\r\n"; // coloured in a joystick file only
     for (const std::string extension : {"m22", "m50", "mdf", "M50"})
@@ -77,7 +77,7 @@ TEST_F(ColourCommandTest, AsOverrulesTheExtension)
               (Runs{{0, 3, misc}, {3, 3, 0}, {6, 4, misc}, {10, 2, btn}, {12, 2, 0}}));
 }
 
-TEST_F(ColourCommandTest, ADashReadsStandardInputAsAJoystickFileUnlessTold)
+TEST_F(ColourCommandTest, ADashReadsStandardInputAsAJoystickFileByDefault)
 {
     EXPECT_EQ(runsOf(tarvexctl({"colour", "-"}, "ant 1")), (Runs{{0, 3, misc}, {3, 2, 0}}));
     EXPECT_EQ(runsOf(tarvexctl({"colour", "-", "--as", "macro"}, "ant 1")), (Runs{{0, 5, 0}}));
@@ -162,7 +162,7 @@ TEST_F(ColourCommandTest, RtfBringsTextAndColours)
 
 // ---- holds and bad input --------------------------------------------------------------------------------------------
 
-TEST_F(ColourCommandTest, AHeldPassIsToldAndTheResultIsPrintedAllTheSame)
+TEST_F(ColourCommandTest, AHeldPassIsReportedAndTheResultIsPrintedAllTheSame)
 {
     const std::string path = directory.put("a.b50", "x\r\nRAW(#5B\r\nrem y");
     const CliResult result = tarvexctl({"colour", path});

@@ -81,7 +81,7 @@ TEST_F(FileCommandsTest, UsedAsTextTicksTheMacros)
     EXPECT_EQ(result.out.substr(0, result.out.find("[ ] \n")), "All\n[ ] First\n[x] Fire\n");
 }
 
-TEST_F(FileCommandsTest, UsedWithNothingToAnalyseTellsItInTheProgramsWords)
+TEST_F(FileCommandsTest, UsedWithNothingToAnalyseSaysSoInTheProgramsWords)
 {
     for (const auto& [joystick, macro] : std::vector<std::pair<std::string, std::string>>{
              {"BTN S1 x\r\n", macros}, {"", macros}, {"BTN S1 Fire\r\n", ""}}) {
@@ -160,7 +160,7 @@ TEST_F(FileCommandsTest, StatementEndsBeforeTheNextOne)
     EXPECT_EQ(tarvexctl({"statement", file, "BTN S2"}).out, "BTN S2 d\n");
 }
 
-TEST_F(FileCommandsTest, AStatementThatIsNotThereIsTold)
+TEST_F(FileCommandsTest, AMissingStatementIsReported)
 {
     const CliResult result = tarvexctl({"statement", "-", "S9"}, "BTN S1 x");
     EXPECT_EQ(result.status, 4);

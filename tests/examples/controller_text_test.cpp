@@ -16,7 +16,7 @@ TEST(LineEndProblems, OnlyCrLfIsFine)
     EXPECT_THAT(lineEndProblems("a\r\nb"), SizeIs(1));
 }
 
-TEST(ByteProblems, UnusedAndControlCodesAreTold)
+TEST(ByteProblems, UnusedAndControlCodesAreReported)
 {
     EXPECT_THAT(byteProblems("\xC9\xCD\xBA ~\r\n"), IsEmpty());
     EXPECT_THAT(byteProblems("\x81"), SizeIs(1));
@@ -45,7 +45,7 @@ TEST(StatementsOf, LinesWithBlanksInFrontContinueTheStatement)
                 ElementsAre("BTN H1U /I a /O b", "USE TQS"));
 }
 
-TEST(DefinitionProblems, OtherBlanksThanOneAroundTheEqualsSignAreTold)
+TEST(DefinitionProblems, OtherBlanksThanOneAroundTheEqualsSignAreReported)
 {
     EXPECT_THAT(definitionProblems({"Fire = a", "Rem x = y", "~ x = y", "", "Fuel = ="}), IsEmpty());
     EXPECT_THAT(definitionProblems({"Fire  = a"}), SizeIs(1));
@@ -69,7 +69,7 @@ TEST(HeadingsOf, BothFormsAreFound)
     EXPECT_THAT(headingProblems(lines), IsEmpty());
 }
 
-TEST(HeadingProblems, RuleLinesThatMakeNoHeadingAreTold)
+TEST(HeadingProblems, RuleLinesThatMakeNoHeadingAreReported)
 {
     EXPECT_THAT(headingProblems({"Rem ----", "Rem Guns", "a = b", "c = d"}), SizeIs(1));
     EXPECT_THAT(headingProblems({"Rem ----", "Rem Guns", "Rem more", "Rem ----", "c = d"}), SizeIs(2));
@@ -85,7 +85,7 @@ TEST(HeadingProblems, ALongerBoxIsATitleAndNoHeading)
     EXPECT_THAT(headingsOf(box), IsEmpty());
 }
 
-TEST(BracketProblems, OpenEarlyAndEmptyBracketsAreTold)
+TEST(BracketProblems, OpenEarlyAndEmptyBracketsAreReported)
 {
     EXPECT_THAT(bracketProblems("RAW (#1C) DLY(60) (X1 OR (X2 AND X3))"), IsEmpty());
     EXPECT_THAT(bracketProblems("RAW (#1C"), SizeIs(1));

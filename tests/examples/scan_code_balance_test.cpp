@@ -27,19 +27,19 @@ TEST(ScanCodeProblems, PauseHasNoBreak)
     EXPECT_THAT(scanCodeProblems({"#E1 #14 #77 #E1 #F0 #14 #F0 #77"}), IsEmpty());
 }
 
-TEST(ScanCodeProblems, AKeyLeftDownIsTold)
+TEST(ScanCodeProblems, AKeyLeftDownIsReported)
 {
     EXPECT_THAT(scanCodeProblems({"#5B"}), ElementsAre("left down: 5B"));
     EXPECT_THAT(scanCodeProblems({"#E0 #70 #F0 #70"}), ElementsAre("broken but not down: 70", "left down: E0 70"));
 }
 
-TEST(ScanCodeProblems, ACodeOfNoKeyIsTold)
+TEST(ScanCodeProblems, ACodeOfNoKeyIsReported)
 {
     EXPECT_THAT(scanCodeProblems({"#02 #F0 #02"}), ElementsAre("no key: 02", "no key: 02"));
     EXPECT_THAT(scanCodeProblems({"#E0 #1C #E0 #F0 #1C"}), SizeIs(2));
 }
 
-TEST(ScanCodeProblems, AKeyMadeTwiceAndAnOpenPrefixAreTold)
+TEST(ScanCodeProblems, AKeyMadeTwiceAndAnOpenPrefixAreReported)
 {
     EXPECT_THAT(scanCodeProblems({"#1C #1C #F0 #1C"}), ElementsAre("made twice: 1C"));
     EXPECT_THAT(scanCodeProblems({"#1C #F0 #1C #F0"}), ElementsAre("ends inside a code"));

@@ -12,7 +12,7 @@ using enum Utf16Order;
 
 } // namespace
 
-TEST(Utf16OrderOf, MarkAtTheStartTellsIt)
+TEST(Utf16OrderOf, MarkAtTheStartDecidesIt)
 {
     EXPECT_EQ(utf16OrderOf("\xFF\xFE"), LittleEndian);
     EXPECT_EQ(utf16OrderOf("\xFE\xFF\0["s), BigEndian);

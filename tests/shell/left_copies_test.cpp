@@ -7,19 +7,19 @@
 namespace tarvex {
 namespace {
 
-TEST(TellLeftCopies, NamesEachCopy)
+TEST(ReportLeftCopies, NamesEachCopy)
 {
     ScriptedDialogues dialogues;
-    tellLeftCopies(dialogues, {"/home/me/Recovery/mig.b50.1", "/home/me/Recovery/mig.m50.1"});
+    reportLeftCopies(dialogues, {"/home/me/Recovery/mig.b50.1", "/home/me/Recovery/mig.m50.1"});
     ASSERT_EQ(dialogues.boxes.size(), 1U);
     EXPECT_NE(dialogues.boxes[0].text.find("\n/home/me/Recovery/mig.b50.1\n/home/me/Recovery/mig.m50.1"),
               std::string::npos);
 }
 
-TEST(TellLeftCopies, WithoutCopiesThereIsNoBox)
+TEST(ReportLeftCopies, WithoutCopiesThereIsNoBox)
 {
     ScriptedDialogues dialogues;
-    tellLeftCopies(dialogues, {});
+    reportLeftCopies(dialogues, {});
     EXPECT_TRUE(dialogues.boxes.empty());
 }
 

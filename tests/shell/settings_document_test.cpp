@@ -8,7 +8,7 @@
 namespace tarvex {
 namespace {
 
-TEST(SettingsDocument, TellsWhatTheTableSays)
+TEST(SettingsDocument, ListsWhatTheTableSays)
 {
     const std::string path = TARVEX_SOURCE_DIRECTORY "/docs/settings.md";
     if (std::getenv("TARVEX_UPDATE_DOCS")) std::ofstream(path, std::ios::binary) << settingsDocument();

@@ -77,7 +77,7 @@ TEST_F(TipsTest, From45OnTheTipsStandOneButtonTooFar)
     EXPECT_EQ(tip(47), "Edit Preferences (F9)") << "the help button; the tip of the help has no button";
 }
 
-TEST_F(TipsTest, OpenAndSaveTellWhetherBothFilesAreMeant)
+TEST_F(TipsTest, OpenAndSaveSayWhetherBothFilesAreMeant)
 {
     settings.OpenBothOnToolbar = 1;
     settings.SaveBothOnToolbar = 1;

@@ -67,7 +67,7 @@ public:
         constexpr std::uint16_t wanted = XCB_XKB_EVENT_TYPE_INDICATOR_STATE_NOTIFY;
         xcb_xkb_select_events(display, coreKeyboard, wanted, 0, wanted, 0, 0, nullptr);
         qApp->installNativeEventFilter(this);
-        tell();
+        report();
     }
     ~Watch() override { qApp->removeNativeEventFilter(this); }
 
@@ -76,14 +76,14 @@ public:
         const auto* event = static_cast<const xcb_xkb_indicator_state_notify_event_t*>(message);
         constexpr int sentByProgram = 0x80;
         if ((event->response_type & ~sentByProgram) == m_event && event->xkbType == XCB_XKB_INDICATOR_STATE_NOTIFY)
-            tell();
+            report();
         return false;
     }
 
 private:
     using Cookie = xcb_xkb_get_named_indicator_cookie_t;
 
-    void tell()
+    void report()
     {
         const Cookie capsLock = ask(m_capsLock);
         const Cookie numLock = ask(m_numLock);

@@ -9,15 +9,16 @@
 namespace tarvex {
 
 /// Reports the end of a program from the message loop, or that it is time to look.
-std::unique_ptr<QObject> QtProcesses::teller(const Running& program, const QObject& context, std::function<void()> tell)
+std::unique_ptr<QObject> QtProcesses::endNotifier(const Running& program, const QObject& context,
+                                                  std::function<void()> report)
 {
     if (program.file >= 0) {
         auto notifier = std::make_unique<QSocketNotifier>(program.file, QSocketNotifier::Read);
-        QObject::connect(notifier.get(), &QSocketNotifier::activated, &context, tell, Qt::QueuedConnection);
+        QObject::connect(notifier.get(), &QSocketNotifier::activated, &context, report, Qt::QueuedConnection);
         return notifier;
     }
     auto timer = std::make_unique<QTimer>();
-    QObject::connect(timer.get(), &QTimer::timeout, &context, tell, Qt::QueuedConnection);
+    QObject::connect(timer.get(), &QTimer::timeout, &context, report, Qt::QueuedConnection);
     timer->start(lookAfter);
     return timer;
 }
@@ -27,7 +28,7 @@ bool QtProcesses::waitForEnd(const Running& program, int timeout)
     if (hasEnded(program)) return true;
     if (timeout == 0 || QCoreApplication::instance() == nullptr) return PosixProcesses::waitForEnd(program, timeout);
     InputHold hold;
-    const auto ended = teller(program, hold, [&] {
+    const auto ended = endNotifier(program, hold, [&] {
         if (hasEnded(program)) hold.release();
     });
     QTimer limit;
@@ -41,7 +42,7 @@ bool QtProcesses::waitForEnd(const Running& program, int timeout)
 /// Queued, because `reap` may destroy the notifier that fired.
 void QtProcesses::watch(const Running& program)
 {
-    m_watched[program.process] = teller(program, m_context, [this] { reap(); });
+    m_watched[program.process] = endNotifier(program, m_context, [this] { reap(); });
 }
 
 void QtProcesses::unwatch(const Running& program) { m_watched.erase(program.process); }

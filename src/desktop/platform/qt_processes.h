@@ -22,7 +22,8 @@ protected:
     void unwatch(const Running& program) override;
 
 private:
-    static std::unique_ptr<QObject> teller(const Running& program, const QObject& context, std::function<void()> tell);
+    static std::unique_ptr<QObject> endNotifier(const Running& program, const QObject& context,
+                                                std::function<void()> report);
 
     QObject m_context;                                   ///< later exits are no longer reported
     std::map<pid_t, std::unique_ptr<QObject>> m_watched; ///< by process

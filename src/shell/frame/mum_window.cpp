@@ -82,7 +82,7 @@ bool MDIForm_Load(const MumContext& context)
     if (settings.FlatToolbar == 1) mum.Toolbar1.Flat = true;
     if (settings.GradientEffect == 1) step([&] { operations.PaintGradient(); });
 
-    step([&] { tellLargeSettings(platform); });
+    step([&] { reportLargeSettings(platform); });
     step([&] { operations.ShowEditor(); });
     if (settings.ShowTips == 1) step([&] { platform.dialogues.showModal("frmTip"); });
     return true;

@@ -98,7 +98,7 @@ TEST(WaitForEscape, ClosingTheWindowEndsItAndTheWindowIsAskedAfterwards)
     EXPECT_EQ(window.closes, 1);
 }
 
-TEST(WaitForEscape, TheKeyboardThatComesMeanwhileIsToldAfterwards)
+TEST(WaitForEscape, TheKeyboardThatComesMeanwhileIsReportedAfterwards)
 {
     HeldWindow window;
     window.acts.emplace_back([&] {

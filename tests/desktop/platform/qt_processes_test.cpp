@@ -79,9 +79,8 @@ TEST(WaitForLoader, TakesNothingFromTheUserNotEvenEsc)
     EXPECT_EQ(t.window.keys, 1) << "and takes it again afterwards";
 }
 
-TEST(WaitForLoader, TheWindowIsDrawnMeanwhile)
+template <typename WaitingForLoader> void expectDrawnMeanwhile(WaitingForLoader& t)
 {
-    Waiting t;
     int before = 0;
     int after = 0;
     t.window.acts.emplace_back([&] {
@@ -93,6 +92,12 @@ TEST(WaitForLoader, TheWindowIsDrawnMeanwhile)
     t.endLoader();
     EXPECT_TRUE(t.waitWhileTheUserActs());
     EXPECT_GT(after, before);
+}
+
+TEST(WaitForLoader, TheWindowIsDrawnMeanwhile)
+{
+    Waiting t;
+    expectDrawnMeanwhile(t);
 }
 
 TEST(WaitForLoader, AWindowIsNotClosedMeanwhileNorAfterwards)
@@ -158,7 +163,7 @@ TEST(WaitForLoader, EndsWhenAnotherProgramEndsInTheSameMoment)
     EXPECT_EQ(t.processes.wait(t.process, 0), waitResult::failed) << "and is gone afterwards";
 }
 
-TEST(StartedProgram, ThatNobodyWaitsForIsTakenLeaveOfWhenItEnds)
+TEST(StartedProgram, ThatNobodyWaitsForIsReapedWhenItEnds)
 {
     Waiting t;
     ::kill(-t.process, SIGTERM);
@@ -170,18 +175,8 @@ TEST(StartedProgram, ThatNobodyWaitsForIsTakenLeaveOfWhenItEnds)
 TEST(WaitForLoader, WithoutProcessFilesDrawsTheWindowAndEndsWithTheLoader)
 {
     WaitingWithoutFiles t;
-    int before = 0;
-    int after = 0;
-    t.window.acts.emplace_back([&] {
-        before = t.window.paints;
-        t.window.update();
-    });
-    t.window.acts.emplace_back([] {});
-    t.window.acts.emplace_back([&] { after = t.window.paints; });
-    t.endLoader();
-    EXPECT_TRUE(t.waitWhileTheUserActs());
+    expectDrawnMeanwhile(t);
     EXPECT_EQ(t.result, waitResult::ended);
-    EXPECT_GT(after, before);
 }
 
 TEST(WaitForLoader, WithoutProcessFilesKeepsToTheTimeout)
@@ -192,7 +187,7 @@ TEST(WaitForLoader, WithoutProcessFilesKeepsToTheTimeout)
     EXPECT_TRUE(t.waitWhileTheUserActs());
 }
 
-TEST(StartedProgram, WithoutProcessFilesIsTakenLeaveOfWhenItEndsToo)
+TEST(StartedProgram, WithoutProcessFilesIsReapedWhenItEndsToo)
 {
     WaitingWithoutFiles t;
     ::kill(-t.process, SIGTERM);

@@ -74,7 +74,7 @@ TEST(PosixAppendFile, SyncsAgainAndAgain)
     EXPECT_EQ(bytesOf(disk / "Recover/1.journal").size(), 20U);
 }
 
-TEST(PosixAppendFile, ADiskThatIsFullIsToldAndKeepsWhatFits)
+TEST(PosixAppendFile, AFullDiskIsReportedAndKeepsWhatFits)
 {
     const TemporaryDirectory disk;
     FaultyCalls calls;
@@ -90,7 +90,7 @@ TEST(PosixAppendFile, ADiskThatIsFullIsToldAndKeepsWhatFits)
     EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "wholenot");
 }
 
-TEST(PosixAppendFile, EachCallThatFailsIsToldAndLeavesNoFileOpen)
+TEST(PosixAppendFile, EachFailedCallIsReportedAndLeavesNoFileOpen)
 {
     for (const char* failing : {"mkdir", "open"}) {
         const TemporaryDirectory disk;
@@ -128,7 +128,7 @@ TEST(PosixAppendFile, AFolderThatCannotBeSyncedDoesNoHarm)
     EXPECT_TRUE(file.isSynced());
 }
 
-TEST(PosixAppendFile, AFileThatCannotBeSyncedIsTold)
+TEST(PosixAppendFile, AFailedSyncIsReported)
 {
     const TemporaryDirectory disk;
     FaultyCalls calls;
@@ -139,7 +139,7 @@ TEST(PosixAppendFile, AFileThatCannotBeSyncedIsTold)
     EXPECT_THROW(file.sync(), RuntimeError);
 }
 
-TEST(PosixAppendFile, TellsWhenTheDiskHasIt)
+TEST(PosixAppendFile, SaysWhenTheDiskHasIt)
 {
     const TemporaryDirectory disk;
     SystemCalls calls;
@@ -151,7 +151,7 @@ TEST(PosixAppendFile, TellsWhenTheDiskHasIt)
     EXPECT_TRUE(file.sync()) << "not busy any more";
 }
 
-TEST(BackgroundSync, EndsOnceAndTellsItsFailureOnce)
+TEST(BackgroundSync, EndsOnceAndReportsItsFailureOnce)
 {
     int ends[2] = {};
     ASSERT_EQ(::pipe(ends), 0); // no disk takes its bytes
@@ -165,7 +165,7 @@ TEST(BackgroundSync, EndsOnceAndTellsItsFailureOnce)
     ::close(ends[1]);
 }
 
-TEST(BackgroundSync, TellsTheNextTimeWhatWentWrong)
+TEST(BackgroundSync, ReportsAFailureAtTheNextCall)
 {
     int ends[2] = {};
     ASSERT_EQ(::pipe(ends), 0); // no disk takes its bytes

@@ -59,12 +59,12 @@ TEST_F(Files, LargeFileIsReadWhole)
     EXPECT_EQ(files.read("c:\\large"), bytes);
 }
 
-TEST_F(Files, FileWhoseSizeIsntToldBeforehandIsReadWhole)
+TEST_F(Files, FileOfUnknownSizeIsReadWhole)
 {
     EXPECT_NE(files.read("z:\\proc\\self\\status").find("VmRSS"), std::string::npos);
 }
 
-TEST_F(Files, QueriesTellFilesFromDirectories)
+TEST_F(Files, QueriesDistinguishFilesFromDirectories)
 {
     disk.put("drive_c/Tm/mig.b50", "x");
     EXPECT_TRUE(files.fileExists("c:\\tm\\mig.b50"));
@@ -111,7 +111,7 @@ TEST_F(Files, StampChangesWithEachWriteAndWithRemoval)
     EXPECT_EQ(files.stamp("c:\\mig.b50"), FileStamp{});
 }
 
-TEST_F(Files, MissingFileAndMissingDirectoryAreToldApart)
+TEST_F(Files, MissingFileAndMissingDirectoryAreDifferentErrors)
 {
     expectError(ErrorCode::FileNotFound, ENOENT, [&] { files.read("c:\\none"); });
     expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.read("c:\\none\\mig.b50"); });

@@ -48,7 +48,7 @@ TEST_F(ProgramDirectory, OfAnUnwritablePlaceIsInTheDataHome)
     EXPECT_TRUE(std::filesystem::is_directory(disk / "data/deep/tarvex"));
 }
 
-TEST_F(ProgramDirectory, DataHomeIsBelowTheHomeUnlessToldAbsolutely)
+TEST_F(ProgramDirectory, DataHomeIsBelowTheHomeUnlessGivenAsAnAbsolutePath)
 {
     moveToUnwritablePlace();
     EXPECT_EQ(findProgramDirectory(places), inHome);
@@ -99,7 +99,7 @@ TEST_F(ProgramDirectory, WithoutAnyWritablePlaceIsTheExecutables)
     EXPECT_EQ(findProgramDirectory(places), disk / "fixed");
 }
 
-TEST(ReadProgramPlaces, TellsThisVeryProgram)
+TEST(ReadProgramPlaces, FindsTheRunningProgram)
 {
     const ProgramPlaces places = readProgramPlaces();
     EXPECT_EQ(std::filesystem::path(places.executable).filename(), "posix_test");

@@ -25,7 +25,7 @@ ProgramKind kindOf(const std::string& name, const std::string& bytes)
     return kindOfProgram(disk.put(name, bytes));
 }
 
-TEST(KindOfProgram, IsToldByTheContentsAndNotByTheName)
+TEST(KindOfProgram, IsDecidedByTheContentsAndNotByTheName)
 {
     EXPECT_EQ(kindOf("winld.exe", "\x7F"
                                   "ELF\2"),
@@ -56,7 +56,7 @@ TEST(KindOfProgram, AppletsAreForTheControlPanel)
     EXPECT_EQ(kindOf("TM.CPL", dosProgram("PE")), ProgramKind::ControlPanel);
 }
 
-TEST(KindOfProgram, PlainProgramsAndBatchesAreToldByTheirNames)
+TEST(KindOfProgram, PlainProgramsAndBatchesAreRecognisedByTheirNames)
 {
     EXPECT_EQ(kindOf("A.COM", "\xB4\x4C"), ProgramKind::Dos);
     EXPECT_EQ(kindOf("tm.Bat", "@echo off\r\n"), ProgramKind::DosBatch);

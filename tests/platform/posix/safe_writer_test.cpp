@@ -272,7 +272,7 @@ TEST_F(SafeWriting, WithoutAPlaceForTheCopyTheFileStaysUntouched)
     EXPECT_EQ(bytesOf(file), "old");
 }
 
-TEST_F(SafeWriting, DirectWriteThatCantBeUndoneTellsWhereTheCopyIs)
+TEST_F(SafeWriting, DirectWriteThatCantBeUndoneReportsWhereTheCopyIs)
 {
     disk.put("work/mig.b50", "old contents");
     calls.lockedFolder = folder + "/";
@@ -294,7 +294,7 @@ TEST_F(SafeWriting, FolderThatCantBeReadIsSyncedAsAWhole)
     EXPECT_EQ(calls.made.back(), "sync");
 }
 
-TEST_F(SafeWriting, LeftOversAreSweptAtTheFirstSaveWhoeverHasTheirNumber)
+TEST_F(SafeWriting, LeftOversAreSweptAtTheFirstSaveAlsoWhenTheirProcessNumberIsReused)
 {
     setOld(disk.put("work/.tarvex-save-0123456789abcdef", "half"));
     const std::string living = std::to_string(::getppid()); // the number of another process today

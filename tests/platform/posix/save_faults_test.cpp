@@ -135,7 +135,7 @@ TEST_P(SaveFaults, EachCallFailingLeavesTheOldOrTheNewFileWhole)
     }
 }
 
-TEST_P(SaveFaults, FailedWriteSyncCloseOrRenameIsTold)
+TEST_P(SaveFaults, FailedWriteSyncCloseOrRenameIsReported)
 {
     const Outcome good = save(std::nullopt);
     std::size_t told = 0;

@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void takeLeave(pid_t process)
+void reapChild(pid_t process)
 {
     while (::waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
     }
@@ -179,7 +179,7 @@ std::vector<PosixProcesses::Child>::iterator PosixProcesses::find(ProcessId proc
 void PosixProcesses::forget(std::vector<Child>::iterator child)
 {
     unwatch(child->program);
-    takeLeave(child->program.process);
+    reapChild(child->program.process);
     m_children.erase(child);
 }
 

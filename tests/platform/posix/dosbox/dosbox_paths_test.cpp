@@ -106,7 +106,7 @@ TEST(DosboxPaths, AFileWithAnotherNameHasItsNeighboursBesideIt)
     EXPECT_EQ(w.paths.file("c:\\tm\\keys.txt"), "C:\\TM\\KEYS.TXT");
 }
 
-TEST(DosboxPaths, OfNeighboursThatDosCouldNotTellApartEachIsFound)
+TEST(DosboxPaths, NeighboursThatLookTheSameToDosAreEachFound)
 {
     World w;
     w.disk.put("drive_c/my f16.backup", "long");

@@ -32,7 +32,7 @@ TEST_F(DosboxTest, AProgramSeesItsFolderItsCommandLineAndTheFile)
     EXPECT_EQ(contents("TM/SEEN.TXT"), " c:\\tm\\b50progs\\mig.b50 Q\r\nC:\\TM\r\nBTN S1 a");
 }
 
-TEST_F(DosboxTest, SignsOfAShellReachItAsPlainText)
+TEST_F(DosboxTest, ShellMetacharactersReachItAsPlainText)
 {
     putShow("tm/load.com");
     const std::string tail = " ;x $(y) `z` \"q' %PATH% & | > bad < c -rf ^ ~ \n exit\nmount";

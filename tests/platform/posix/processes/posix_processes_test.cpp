@@ -48,7 +48,7 @@ TEST(StartProgram, ArgumentsThatAreDosPathsBecomeNative)
                                       "/Progs/new.b50><c:><q:\\x></D:c:\\x><http://c/x>");
 }
 
-TEST(StartProgram, SignsOfAShellAreText)
+TEST(StartProgram, ShellMetacharactersAreText)
 {
     ProcessWorld w;
     w.script("load.exe", show);
@@ -58,7 +58,7 @@ TEST(StartProgram, SignsOfAShellAreText)
     EXPECT_EQ(w.contents("bad"), "(missing)");
 }
 
-TEST(StartProgram, AProgramWhosePathHoldsSignsOfAShellIsThatProgram)
+TEST(StartProgram, ShellMetacharactersInAProgramPathAreLiteral)
 {
     ProcessWorld w;
     const std::string odd = "a;b$(c)'d%e&f`-g";
@@ -353,7 +353,7 @@ struct Prefix : Settable {
     }
 };
 
-TEST(Runner, WineIsToldPathsOnItsOwnDrivesAsTheyStand)
+TEST(Runner, WineGetsPathsOnItsOwnDrivesUnchanged)
 {
     Prefix w(true);
     w.disk.put("drive_c/TM/Mig.b50", "");
@@ -361,7 +361,7 @@ TEST(Runner, WineIsToldPathsOnItsOwnDrivesAsTheyStand)
         EXPECT_EQ(w.told(path), "<" + path + ">");
 }
 
-TEST(Runner, WineIsToldNamesThatOnlyTarvexKnowsByThePathOfThisSystem)
+TEST(Runner, WineGetsTheNativePathOfANameThatOnlyTarvexKnows)
 {
     for (const bool withRoot : {true, false}) {
         Prefix w(withRoot);
@@ -379,13 +379,13 @@ TEST(Runner, WineIsToldNamesThatOnlyTarvexKnowsByThePathOfThisSystem)
     }
 }
 
-TEST(Runner, WineWithoutADriveForEverythingIsToldThePathOfThisSystem)
+TEST(Runner, WineWithoutADriveForEverythingGetsTheNativePath)
 {
     Prefix w(false);
     EXPECT_EQ(w.told("z:\\etc\\x"), "<\\\\?\\unix\\etc\\x>") << "that letter is Tarvex's own";
 }
 
-TEST(Runner, OfDosProgramsIsToldOnlyNamesOfOurOwn)
+TEST(Runner, DosboxParsesOnlyNamesOfOurOwn)
 {
     Settable w("DOSBox");
     w.disk.put("drive_c/a;$(b)\n\"/x.com", "");
@@ -397,7 +397,7 @@ TEST(Runner, OfDosProgramsIsToldOnlyNamesOfOurOwn)
     EXPECT_NE(seen.find("<-noautoexec>"), std::string::npos) << seen;
 }
 
-TEST(Runner, ThatIsMissingIsToldWithTheProgramThatWantsIt)
+TEST(Runner, AMissingOneIsReportedWithTheProgramThatNeedsIt)
 {
     ProcessWorld w;
     w.disk.put("drive_c/b50load.com", "x");
