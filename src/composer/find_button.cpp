@@ -49,9 +49,9 @@ void FindButton(InsertOptions& window, std::string_view text)
     endBlinking(editor);
     if (editor.TabStrip1.SelectedItem != side.tab) step([&] { editor.TabStrip1.Select(side.tab); });
     step([&] {
-        const float kept = side.Caret;
+        const std::int64_t kept = side.Caret;
         const std::int64_t found = side.pane.Find(text, 0, Pane::toEnd, isWholeWord(text) ? find::wholeWord : 0);
-        if (found < 0) return putCaret(side, static_cast<std::int64_t>(kept));
+        if (found < 0) return putCaret(side, kept);
         putCaret(side, found + static_cast<std::int64_t>(text.size()));
         window.InsertNeeded = 0;
     });

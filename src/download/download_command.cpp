@@ -64,10 +64,9 @@ MessageBox wakeUp()
 /// whether to send an old version. False: the user doesn't want to go on without.
 bool savedOrAccepted(Editor& editor)
 {
-    if (editor.pair.JoystickChanged != changed::modified) return true;
+    if (editor.joystick.Changed != changed::modified) return true;
     saveSide(editor, editor.joystick);
-    return editor.pair.JoystickChanged != changed::modified ||
-           editor.platform.dialogues.show(notSaved()) == Answer::Yes;
+    return editor.joystick.Changed != changed::modified || editor.platform.dialogues.show(notSaved()) == Answer::Yes;
 }
 
 /// The loaders take names of the old kind only. A longer one is to be saved anew, whatever the user answers, and the
@@ -112,7 +111,7 @@ void download(Editor& editor, const Steps& step)
 {
     const Settings& settings = editor.shared.settings;
     changeToFolderOf(editor.shared.currentDirectory, settings.B50LoadPath.whole(), step);
-    ProgramCommand command = loaderCommand(editor, editor.pair.JoystickFilePath);
+    ProgramCommand command = loaderCommand(editor, editor.joystick.FilePath);
     std::optional<ResultFile> result; // the other loaders write none
     if (command.line().find(winLoadMark) != std::string::npos) {
         result.emplace(editor, step);

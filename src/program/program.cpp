@@ -85,6 +85,7 @@ void wireViewAndPreferences(Menus& menus, Editor& editor)
     menus.mnuViewTileVertically.handler = on(editor, mnuViewTileVertically_Click);
     menus.mnuViewMacros.handler = on(editor, mnuViewMacros_Click);
     menus.mnuViewHighlightLine.handler = on(editor, mnuViewHighlightLine_Click);
+    menus.mnuViewEditColours.handler = on(editor, mnuViewEditColours_Click);
     menus.mnuPreferencesProtectMacroFile.handler = on(editor, mnuPreferencesProtectMacroFile_Click);
     menus.mnuJoyPopUpSingleFile.handler = on(editor, mnuJoyPopUpSingleFile_Click);
     menus.mnuInsertWithColour.handler = on(editor, mnuInsertWithColour_Click);
@@ -94,12 +95,11 @@ void wireViewAndPreferences(Menus& menus, Editor& editor)
 
 void wirePanes(Editor& editor)
 {
-    editor.JoystickText.Change = on(editor, JoystickText_Change);
-    editor.MacroText.Change = on(editor, MacroText_Change);
-    editor.JoystickText.KeyPress = [&editor](int key) { JoystickText_KeyPress(editor, key); };
-    editor.MacroText.KeyPress = [&editor](int key) { MacroText_KeyPress(editor, key); };
-    editor.JoystickText.EditComing = [&editor] { paneEditComing(editor, editor.joystick); };
-    editor.MacroText.EditComing = [&editor] { paneEditComing(editor, editor.macro); };
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        side->pane.Change = [&editor, side] { Text_Change(editor, *side); };
+        side->pane.KeyPress = [&editor, side](int key) { Text_KeyPress(editor, *side, key); };
+        side->pane.EditComing = [&editor, side] { paneEditComing(editor, *side); };
+    }
     editor.TabStrip1.Click = on(editor, TabStrip1_Click);
     editor.Timer1.Tick = on(editor, Timer1_Timer);
     editor.TimerBlinkLine.Tick = on(editor, TimerBlinkLine_Timer);
@@ -129,7 +129,6 @@ Program::Program(Platform& thePlatform)
     wireDownload(editor, lists.games);
     wireOwnTools(editor);
     wirePreferences(preferences);
-    wirePreferencesPages(editor);
     followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };

@@ -15,7 +15,7 @@ void caretToStart(Editor& editor)
 {
     selectJoystickTab(editor);
     editor.JoystickText.setSelStart(0);
-    editor.pair.JoystickCaret = 0;
+    editor.joystick.Caret = 0;
     editor.JoystickText.SetFocus();
 }
 

@@ -55,7 +55,7 @@ void insertMacro(MacroMaker& maker)
     setPlainLook(pane, editor.shared.settings);
     editor.TempRichTextBox.setText(windows1252FromUtf8(maker.Label1.Caption.get()));
     MacroTransferText(editor);
-    editor.pair.MacroCaret = static_cast<float>(pane.SelStart());
+    editor.macro.Caret = pane.SelStart();
     if (pane.GetLineFromChar(pane.SelStart()) + 1 >= lines) InsertCarriageReturn(editor);
     EndColInsert(editor);
     clearBoxes(maker);

@@ -122,7 +122,7 @@ TEST_P(HardwareClick, InsertsItsStatementInItsColour)
     run();
     EXPECT_EQ(joystick.Text(), GetParam().text);
     EXPECT_EQ(colourOf(joystick, word()), settings.*GetParam().colour);
-    EXPECT_EQ(editor.pair.JoystickChanged, 1);
+    EXPECT_EQ(editor.joystick.Changed, 1);
 }
 
 TEST_P(HardwareClick, WithoutColoursInsertsItsStatementPlain)

@@ -34,7 +34,7 @@ struct WithWinLoad : Loaded {
 
 // ---- checks before the run ----
 
-TEST(SendToJoystick, AnEmptyPaneIsToldAndNothingStarts)
+TEST(SendToJoystick, AnEmptyPaneIsReportedAndNothingStarts)
 {
     Loaded t;
     t.editor().JoystickText.setText("");
@@ -128,7 +128,7 @@ TEST(SendToJoystick, ANameOfThirteenCharactersIsRefusedAndLedToSaveAs)
     EXPECT_EQ(t.lastBox().buttons, BoxButtons::YesNo);
     EXPECT_TRUE(t.lastBox().secondButtonIsDefault);
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\short.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\short.b50");
     EXPECT_EQ(t.command(), "(nothing)") << "the command doesn't go on after the new save";
 }
 
@@ -182,7 +182,7 @@ TEST(SendToJoystick, ALoaderPathWithABlankIsPassedUnquoted)
     EXPECT_EQ(t.processes.starts[0].directory, "c:\\my tm");
 }
 
-TEST(SendToJoystick, PathsWithSignsOfAShellArePassedAsTheyAre)
+TEST(SendToJoystick, ShellMetacharactersInPathsArePassedUnchanged)
 {
     const std::string odd = "c:\\a;b$(c)'d%e&f\\-x`y`.b50";
     Loaded t("c:\\tm\\b50load.exe", odd);
@@ -388,7 +388,7 @@ TEST(SendToJoystick, AnErrorWithoutALineSelectsNothing)
     }
 }
 
-TEST(SendToJoystick, ALineThatTheFileDoesNotHaveIsTold)
+TEST(SendToJoystick, ALineThatTheFileDoesNotHaveIsReported)
 {
     WithWinLoad t;
     t.reports("WinLoad\r\nERROR\r\n99\r\nWhere?\r\n");

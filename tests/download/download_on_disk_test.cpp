@@ -16,8 +16,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The program with a pair open; its loader lies in c:\tm.
-struct Road {
-    explicit Road(const std::string& loaderPath = "c:\\tm\\winld.exe", const std::string& name = "tm/progs/mig.b50")
+struct DiskDownload {
+    explicit DiskDownload(const std::string& loaderPath = "c:\\tm\\winld.exe",
+                          const std::string& name = "tm/progs/mig.b50")
     {
         disk.put("Tarvex.ini", DiskProgram::settings);
         joystick = disk.put("drive_c/" + name, "BTN S1 a\r\nBTN S2 b\r\nBTN S3 c\r\n");
@@ -52,7 +53,7 @@ struct Road {
 
 TEST(DownloadOnDisk, FromAnErrorToItsLineToTheCureToSuccess)
 {
-    Road r;
+    DiskDownload r;
     r.standIn("winld.exe");
     r.editor().JoystickText.userEdit(10, 0, "Rem @error Unknown key\r\n");
     EXPECT_EQ(r.download(), "Compiler reported an error at line 2: Unknown key");
@@ -66,7 +67,7 @@ TEST(DownloadOnDisk, FromAnErrorToItsLineToTheCureToSuccess)
 
 TEST(DownloadOnDisk, TheStandInIsGivenTheOptionStringOfWinLoad)
 {
-    Road r;
+    DiskDownload r;
     r.standIn("winld.exe");
     r.t->program->shared.settings.WinLoadUse = 1;
     r.t->program->shared.settings.WinLoadString = " /TQS /B6 ";
@@ -76,7 +77,7 @@ TEST(DownloadOnDisk, TheStandInIsGivenTheOptionStringOfWinLoad)
 
 TEST(DownloadOnDisk, TheOtherLoadersReportNothing)
 {
-    Road r("c:\\tm\\b50load.exe");
+    DiskDownload r("c:\\tm\\b50load.exe");
     r.standIn("b50load.exe");
     r.t->program->menus.mnuAppsQuiet.Enabled = true;
     r.t->program->menus.mnuAppsQuiet.Checked = true;
@@ -84,9 +85,9 @@ TEST(DownloadOnDisk, TheOtherLoadersReportNothing)
     EXPECT_FALSE(r.exists("tm/b50load.dat"));
 }
 
-TEST(DownloadOnDisk, APathWithSignsOfAShellReachesTheLoader)
+TEST(DownloadOnDisk, ShellMetacharactersInAPathReachTheLoader)
 {
-    Road r("c:\\tm\\winld.exe", "a;$(b)'%c&`-d/x;y&z.b50");
+    DiskDownload r("c:\\tm\\winld.exe", "a;$(b)'%c&`-d/x;y&z.b50");
     r.standIn("winld.exe");
     EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 30 bytes)");
 }
@@ -94,7 +95,7 @@ TEST(DownloadOnDisk, APathWithSignsOfAShellReachesTheLoader)
 TEST(DownloadOnDisk, APathWithBlanksQuotesAndDashesReachesTheLoaderInOnePiece)
 {
     for (const std::string name : {"f --evil -x/k.b50", "a\"b'c.b50"}) {
-        Road r("c:\\tm\\b50load.exe", name);
+        DiskDownload r("c:\\tm\\b50load.exe", name);
         r.script("printf '<%s>' \"$@\" >seen\n", "tm/b50load.exe");
         r.t->program->menus.mnuAppsQuiet.Enabled = true;
         r.t->program->menus.mnuAppsQuiet.Checked = true;
@@ -106,7 +107,7 @@ TEST(DownloadOnDisk, APathWithBlanksQuotesAndDashesReachesTheLoaderInOnePiece)
 TEST(DownloadOnDisk, LoaderPathsThatAreNoneShowNothing)
 {
     for (const std::string path : {"", "c:\\tm\\gone\\winld.exe", "c:\\tm", "winld.exe", "q:\\winld.exe"}) {
-        Road r(path);
+        DiskDownload r(path);
         r.script("touch wrong\n");
         EXPECT_EQ(r.download(), "old text") << path;
         EXPECT_TRUE(r.t->dialogues.boxes.empty()) << path;
@@ -117,7 +118,7 @@ TEST(DownloadOnDisk, LoaderPathsThatAreNoneShowNothing)
 
 TEST(DownloadOnDisk, ALoaderThatMayNotRunShowsNothing)
 {
-    Road r;
+    DiskDownload r;
     r.disk.put("drive_c/tm/winld.exe", "#!/bin/sh\ntouch wrong\n");
     EXPECT_EQ(r.download(), "old text");
     EXPECT_FALSE(r.exists("tm/wrong"));
@@ -126,7 +127,7 @@ TEST(DownloadOnDisk, ALoaderThatMayNotRunShowsNothing)
 TEST(DownloadOnDisk, ADosLoaderReportsThroughDosBox)
 {
     if (findCommand(std::getenv("PATH"), "dosbox").empty()) GTEST_SKIP() << "dosbox isn't installed";
-    Road r("c:\\tm\\winld.com");
+    DiskDownload r("c:\\tm\\winld.com");
     for (const char* driver : {"SDL_VIDEODRIVER", "SDL_AUDIODRIVER"}) ::setenv(driver, "dummy", 1);
     ::setenv("HOME", r.disk.path().c_str(), 1); // where DOSBox keeps its settings
     r.disk.put("drive_c/tm/winld.dat", "a\r\nb\r\n1\r\n");
@@ -141,9 +142,9 @@ TEST(DownloadOnDisk, ADosLoaderReportsThroughDosBox)
     EXPECT_TRUE(r.t->dialogues.boxes.empty());
 }
 
-TEST(DownloadOnDisk, AMissingDosBoxIsToldOnceAndTheFrameComesBack)
+TEST(DownloadOnDisk, AMissingDosBoxIsReportedOnceAndTheFrameComesBack)
 {
-    Road r("c:\\tm\\b50load.com");
+    DiskDownload r("c:\\tm\\b50load.com");
     r.disk.put("drive_c/tm/b50load.com", "x");
     r.disk.put("Platform.ini", "[Programs]\r\nDOSBox=/gone/dosbox\r\n");
     EXPECT_EQ(r.download(), "old text");
@@ -153,7 +154,7 @@ TEST(DownloadOnDisk, AMissingDosBoxIsToldOnceAndTheFrameComesBack)
 }
 
 /// Notes its command line in drive c:, in place of Wine.
-void putWine(const Road& r)
+void putWine(const DiskDownload& r)
 {
     r.script("for a; do printf '<%s>' \"$a\" >>" + (r.disk / "drive_c/seen") + "; done\n", "wine");
     r.disk.put("Platform.ini", "[Programs]\r\nWine=" + (r.disk / "drive_c/wine") + "\r\n");
@@ -169,7 +170,7 @@ std::string windowsProgram()
 }
 
 /// Waits until a program that nobody waits for has ended.
-void awaitPrograms(Road& r)
+void awaitPrograms(DiskDownload& r)
 {
     siginfo_t info{};
     EXPECT_EQ(::waitid(P_ALL, 0, &info, WEXITED | WNOWAIT), 0);
@@ -178,7 +179,7 @@ void awaitPrograms(Road& r)
 
 TEST(ProPanelOnDisk, TheAppletIsStartedInTheControlPanelOfWine)
 {
-    Road r;
+    DiskDownload r;
     putWine(r);
     r.disk.put("drive_c/windows/system32/control.exe", windowsProgram());
     r.disk.put("drive_c/windows/system32/joy.cpl", windowsProgram());
@@ -191,9 +192,9 @@ TEST(ProPanelOnDisk, TheAppletIsStartedInTheControlPanelOfWine)
               "<" + (r.disk / "drive_c/windows/system32/control.exe") + "><z:" + applet + ">");
 }
 
-TEST(ToolsOnDisk, AToolOfTheControlCentreAndAProgramOfTheUsersRunInTheirFolders)
+TEST(ToolsOnDisk, AControlCentreToolAndAUserProgramRunInTheirFolders)
 {
-    Road r;
+    DiskDownload r;
     r.script("pwd >\"$0.seen\"\n", "tm/f22setup.exe");
     r.t->program->shared.settings.CandCCPath = "c:\\tm\\tm.bat";
     r.t->program->menus.mnuF22Setup.Click();
@@ -208,9 +209,9 @@ TEST(ToolsOnDisk, AToolOfTheControlCentreAndAProgramOfTheUsersRunInTheirFolders)
     EXPECT_TRUE(r.t->dialogues.boxes.empty());
 }
 
-TEST(LaunchGameOnDisk, AMissingDosBoxIsToldOnceAndTarvexStaysOpen)
+TEST(LaunchGameOnDisk, AMissingDosBoxIsReportedOnceAndTarvexStaysOpen)
 {
-    Road r;
+    DiskDownload r;
     r.disk.put("drive_c/f22/f22.com", "x");
     r.disk.put("Platform.ini", "[Programs]\r\nDOSBox=/gone/dosbox\r\n");
     r.t->program->lists.games.LaunchGame(
@@ -222,7 +223,7 @@ TEST(LaunchGameOnDisk, AMissingDosBoxIsToldOnceAndTarvexStaysOpen)
 
 TEST(DownloadOnDisk, ALoaderPathWithABlankStartsTheTextBeforeTheBlank)
 {
-    Road r("c:\\my tm\\winld.exe");
+    DiskDownload r("c:\\my tm\\winld.exe");
     r.script("touch /dev/null; : >seen\n", "my");
     r.script("touch wrong\n", "my tm/winld.exe");
     EXPECT_EQ(r.download(), "old text");
@@ -233,7 +234,7 @@ TEST(DownloadOnDisk, ALoaderPathWithABlankStartsTheTextBeforeTheBlank)
 TEST(DownloadOnDisk, ALoaderThatCrashesOrWritesNoResultLeavesTheStatus)
 {
     for (const std::string lines : {"kill -SEGV $$\n", "exit 3\n", ""}) {
-        Road r;
+        DiskDownload r;
         r.script(lines);
         r.disk.put("drive_c/tm/winld.dat", "a\r\nb\r\n1\r\n");
         EXPECT_EQ(r.download(), "old text") << lines;
@@ -243,7 +244,7 @@ TEST(DownloadOnDisk, ALoaderThatCrashesOrWritesNoResultLeavesTheStatus)
 
 TEST(DownloadOnDisk, HalfAResultIsTakenAsFarAsItGoes)
 {
-    Road r;
+    DiskDownload r;
     r.script("printf 'WinLoad\\r\\nERROR\\r\\n2' >winld.dat\n");
     EXPECT_EQ(r.download(), "Compiler reported an error at line 2: ");
     EXPECT_EQ(r.editor().JoystickText.SelText(), "BTN S2 b");
@@ -251,7 +252,7 @@ TEST(DownloadOnDisk, HalfAResultIsTakenAsFarAsItGoes)
 
 TEST(DownloadOnDisk, AResultWithOtherLineEndsIsRead)
 {
-    Road r;
+    DiskDownload r;
     r.script("printf 'WinLoad\\nfine\\n77\\n' >winld.dat\n");
     EXPECT_EQ(r.download(), "Compiled and downloaded successfully! (File size: 77 bytes)");
     r.script("printf 'WinLoad\\rERROR\\r3\\rOops' >winld.dat\n");
@@ -261,7 +262,7 @@ TEST(DownloadOnDisk, AResultWithOtherLineEndsIsRead)
 TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadUpToTheFirst)
 {
     for (const bool within : {true, false}) {
-        Road r;
+        DiskDownload r;
         r.script("printf 'WinLoad\\r\\nfine\\r\\n2\\r\\nlong\\r\\n' >winld.dat\n"
                  "truncate -s " +
                  std::to_string((1 << 20) - (within ? 5 : 4)) +
@@ -276,7 +277,7 @@ TEST(DownloadOnDisk, AResultOfAHundredMegabytesIsReadUpToTheFirst)
 TEST(DownloadOnDisk, AResultThatIsNoFileIsNone)
 {
     for (const std::string lines : {"mkdir winld.dat\n", "mkfifo winld.dat\n", "ln -s /dev/zero winld.dat\n"}) {
-        Road r;
+        DiskDownload r;
         r.script(lines);
         EXPECT_EQ(r.download(), "old text") << lines;
     }

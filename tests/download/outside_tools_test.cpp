@@ -44,7 +44,7 @@ TEST(ControlCentreTools, AreStartedInTheirFolderWithANormalWindow)
     }
 }
 
-TEST(ControlCentreTools, WithoutAPathTellWhatTheyNeed)
+TEST(ControlCentreTools, WithoutAPathSayWhatTheyNeed)
 {
     const std::pair<MenuItem Menus::*, std::string> tools[] = {
         {&Menus::mnuAppsCandCC, pathNeeded},
@@ -93,7 +93,7 @@ TEST(TMScope, IsStartedMaximisedUnderEitherName)
     EXPECT_EQ(t.started(), "c:\\tm\\tmscope.exe|3|c:\\tm");
 }
 
-TEST(TMScope, ThatIsMissingIsToldWithTheFolderWhereItWasExpected)
+TEST(TMScope, WhenMissingIsReportedWithTheFolderWhereItWasExpected)
 {
     Tools t("c:\\gone\\tm.bat");
     t.menus().mnuAppsTMScope.Click();
@@ -143,7 +143,7 @@ TEST(ProPanel, OnANewerSystemItsAppletsAreInTheOtherFolder)
     EXPECT_EQ(t.started(), "c:\\windows\\control.exe c:\\windows\\system\\tm.cpl|1|c:\\");
 }
 
-TEST(ProPanel, WithoutAnAppletTellsWhereItWasExpected)
+TEST(ProPanel, WithoutAnAppletReportsWhereItWasExpected)
 {
     Tools t;
     t.menus().mnuAppsProPanel.Click();
@@ -156,7 +156,7 @@ TEST(ProPanel, WithoutAnAppletTellsWhereItWasExpected)
               "you download ProPanel from the Thrustmaster website and install it.");
 }
 
-TEST(Ctfj, WithoutAPathTellsSoAndOpensThePreferences)
+TEST(Ctfj, WithoutAPathSaysSoAndOpensThePreferences)
 {
     Tools t;
     int opened = 0;
@@ -170,7 +170,7 @@ TEST(Ctfj, WithoutAPathTellsSoAndOpensThePreferences)
     EXPECT_EQ(t.started(), "(nothing)");
 }
 
-TEST(Ctfj, AtAWrongPathTellsItAndOpensThePreferences)
+TEST(Ctfj, AtAWrongPathSaysSoAndOpensThePreferences)
 {
     Tools t;
     int opened = 0;
@@ -205,7 +205,7 @@ TEST(Launcher, IsStartedInTheProgramsFolder)
     EXPECT_EQ(t.started(), "c:\\tarvex\\Launcher.exe|1|c:\\tarvex");
 }
 
-TEST(Launcher, ThatIsMissingIsTold)
+TEST(Launcher, WhenMissingIsReported)
 {
     Tools t;
     t.menus().mnuLauncher.Click();

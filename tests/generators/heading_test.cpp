@@ -67,7 +67,7 @@ TEST_F(HeadingTest, AnEmptyTextOnOkInsertsNothing)
 {
     insertHeading("");
     EXPECT_EQ(macro(), "");
-    EXPECT_EQ(editor.pair.MacroChanged, changed::noText);
+    EXPECT_EQ(editor.macro.Changed, changed::noText);
 }
 
 TEST_F(HeadingTest, CancelInsertsNothingWhateverIsWritten)

@@ -37,7 +37,7 @@ struct TemplateTest : testing::Test {
     }
 };
 
-TEST_F(TemplateTest, AnEmptyTemplateIsOnlyTold)
+TEST_F(TemplateTest, AnEmptyTemplateIsOnlyReported)
 {
     bool shown = false;
     const Connection bar = mum.ProgressBar1.Visible.changed.connect([&] { shown = true; });

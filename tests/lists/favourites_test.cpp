@@ -311,8 +311,8 @@ TEST(OpenFavourite, BothFilesAreOpenedTheMacroFileFirst)
     t.program().operations.NoteLatestJoystickFile = [&](const std::string& path) { opened.push_back(path); };
     t.menus().mnuFavArray[1].Click();
     EXPECT_THAT(opened, ElementsAre(Fav::macro, Fav::joystick));
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, Fav::joystick);
-    EXPECT_EQ(t.editor().pair.MacroFilePath, Fav::macro);
+    EXPECT_EQ(t.editor().joystick.FilePath, Fav::joystick);
+    EXPECT_EQ(t.editor().macro.FilePath, Fav::macro);
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
     EXPECT_EQ(t.editor().OpeningWithoutAsking, 0);
     EXPECT_TRUE(t.dialogues.openRequests.empty());
@@ -353,30 +353,30 @@ TEST(OpenFavourite, MacrosUsedAreIdentifiedOnlyWhenTheOptionIsOn)
     EXPECT_EQ(identified, 1);
 }
 
-TEST(OpenFavourite, ExtensionsAreCaseSensitiveSoAMacroFileNamedXM22GoesDownTheJoystickRoad)
+TEST(OpenFavourite, ExtensionsAreCaseSensitiveSoAMacroFileNamedXM22OpensAsAJoystickFile)
 {
     Fav t;
     t.files.addFile("c:\\tm\\X.M22", "Fire = f");
     OpenFavouriteFile(t.favourites(), "c:\\tm\\X.M22");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\x.m22");
-    EXPECT_EQ(t.editor().pair.MacroFileName, "untitled.m50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\x.m22");
+    EXPECT_EQ(t.editor().macro.FileName, "untitled.m50");
     OpenFavouriteFile(t.favourites(), "c:\\tm\\x.m22");
-    EXPECT_EQ(t.editor().pair.MacroFilePath, "c:\\tm\\x.m22");
+    EXPECT_EQ(t.editor().macro.FilePath, "c:\\tm\\x.m22");
 }
 
-TEST(OpenFavourite, AllThreeMacroExtensionsGoDownTheMacroRoad)
+TEST(OpenFavourite, AllThreeMacroExtensionsOpenAsMacroFiles)
 {
     Fav t;
     for (const std::string name : {"c:\\tm\\a.m22", "c:\\tm\\a.m50", "c:\\tm\\a.mdf"}) {
         t.files.addFile(name, "Fire = f");
         OpenFavouriteFile(t.favourites(), name);
-        EXPECT_EQ(t.editor().pair.MacroFilePath, name);
+        EXPECT_EQ(t.editor().macro.FilePath, name);
     }
     OpenFavouriteFile(t.favourites(), Fav::joystick);
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, Fav::joystick);
+    EXPECT_EQ(t.editor().joystick.FilePath, Fav::joystick);
 }
 
-TEST(OpenFavourite, AFavouriteWhoseFilesAreGoneIsToldForEachAndTheDocumentsStay)
+TEST(OpenFavourite, AFavouriteWhoseFilesAreGoneIsReportedForEachAndTheDocumentsStay)
 {
     Fav t(false);
     t.store(1);
@@ -387,7 +387,7 @@ TEST(OpenFavourite, AFavouriteWhoseFilesAreGoneIsToldForEachAndTheDocumentsStay)
     ASSERT_GE(t.dialogues.boxes.size(), 2U);
     EXPECT_NE(t.dialogues.boxes[0].text.find("mig.m50"), std::string::npos);
     EXPECT_NE(t.dialogues.boxes[1].text.find("mig.b50"), std::string::npos);
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
     EXPECT_EQ(t.editor().OpeningWithoutAsking, 0);
 }
 
@@ -399,8 +399,8 @@ TEST(OpenFavourite, UnsavedTextIsAskedAboutFirst)
     t.typeMacro("x");
     t.dialogues.answers = {Answer::Cancel};
     t.menus().mnuFavArray[1].Click();
-    EXPECT_EQ(t.editor().pair.MacroFileName, "untitled.m50");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, Fav::joystick);
+    EXPECT_EQ(t.editor().macro.FileName, "untitled.m50");
+    EXPECT_EQ(t.editor().joystick.FilePath, Fav::joystick);
 }
 
 TEST(OpenFavourite, AtTheStartTheMarkedOneIsOpenedTheLastOfItsName)
@@ -412,8 +412,8 @@ TEST(OpenFavourite, AtTheStartTheMarkedOneIsOpenedTheLastOfItsName)
     t.setIni("Favourites", "FavLoadOnStart", "1");
     t.setIni("Favourites", "FavNameToLoad", "n1");
     t.start();
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\su27.b50");
-    EXPECT_EQ(t.editor().pair.MacroFilePath, Fav::macro);
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\su27.b50");
+    EXPECT_EQ(t.editor().macro.FilePath, Fav::macro);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 
@@ -467,8 +467,8 @@ TEST(OpenFavourite, WithPathsThatWereCutOpensTheWholeOnes)
     t.files.addFile(LongFav::path("2", "b50").substr(0, 99), "wrong");
     t.menus().mnuFavArray[2].Click();
     EXPECT_EQ(t.editor().JoystickText.Text(), "Rem 2");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, LongFav::path("2", "b50"));
-    EXPECT_EQ(t.editor().pair.MacroFilePath, LongFav::path("2", "m50"));
+    EXPECT_EQ(t.editor().joystick.FilePath, LongFav::path("2", "b50"));
+    EXPECT_EQ(t.editor().macro.FilePath, LongFav::path("2", "m50"));
 }
 
 } // namespace

@@ -35,7 +35,7 @@ struct Play : TestProgram {
         return texts;
     }
     /// Where a joystick text goes that couldn't be saved.
-    std::string asideCopy() { return "c:\\tarvex\\Recover\\" + editor().pair.JoystickFileName; }
+    std::string asideCopy() { return "c:\\tarvex\\Recover\\" + editor().joystick.FileName; }
     std::string stored(const std::string& key) { return ini("Games", key); }
     void add(const Game& game)
     {
@@ -240,7 +240,7 @@ TEST(EnterGameName, SelectTakesAFolder)
     EXPECT_EQ(t.dialogues.folderRequests[0].directory, "d:\\games");
 }
 
-TEST(EnterGameName, TheHelpButtonsTell)
+TEST(EnterGameName, TheHelpButtonsExplain)
 {
     Play t;
     t.form().Command5.Click();
@@ -316,8 +316,8 @@ TEST(GameClick, TheMarksAreClearedWhateverBecameOfTheSaving)
     int launches = 0;
     t.games().LaunchGame = [&](const Game&) {
         ++launches;
-        EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-        EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+        EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
+        EXPECT_EQ(t.editor().macro.Changed, changed::saved);
     };
     t.array()[1].Click();
     EXPECT_EQ(launches, 1);
@@ -342,8 +342,8 @@ TEST(GameClick, ATextThatWasPutAsideIsModifiedAgainWhenTheProgramStaysOpen)
     t.typeMacro("Fire = f");
     t.dialogues.filesToSave = {std::nullopt, "c:\\tm\\kept.m50"};
     t.array()[1].Click(); // the launch fails
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved) << "this one was saved";
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved) << "this one was saved";
     EXPECT_EQ(t.program().mum.StatusBar.Panels(panel::savedState).Picture, changed::modified + 2);
 }
 
@@ -357,7 +357,7 @@ TEST(GameClick, WithoutACopyTheUserMayStayAndNothingIsLaunched)
     t.array()[2].Click();
     EXPECT_TRUE(t.launched.empty());
     EXPECT_THAT(t.captions(), ElementsAre("g1", "g2"));
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
     EXPECT_EQ(t.dialogues.boxes.back().title, "Hang on a minute ...");
     EXPECT_NE(t.dialogues.boxes.back().text.find("Disk full"), std::string::npos);
     EXPECT_TRUE(t.dialogues.boxes.back().secondButtonIsDefault);
@@ -380,7 +380,7 @@ TEST(GameClick, AnItemThatIsNoGameDoesNothing)
     t.typeJoystick("Rem");
     t.array()[0].Click();
     EXPECT_TRUE(t.launched.empty());
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST(EditGames, AsksThePreferencesForTheirPage)

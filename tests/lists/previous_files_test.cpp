@@ -61,8 +61,8 @@ protected:
     }
     std::string documentPath()
     {
-        const PairRecord& pair = t.editor().pair;
-        return kind().array == &Menus::mnuJFArray ? pair.JoystickFilePath : pair.MacroFilePath;
+        Editor& editor = t.editor();
+        return kind().array == &Menus::mnuJFArray ? editor.joystick.FilePath : editor.macro.FilePath;
     }
 
     TestProgram t;
@@ -247,7 +247,7 @@ TEST_P(PreviousFile, TwoPathsThatAreCutAlikeStayTwo)
     EXPECT_EQ(stored(4), path(folder + "\\b"));
 }
 
-TEST_P(PreviousFile, AFileThatIsGoneIsToldAndStaysOnTheMenu)
+TEST_P(PreviousFile, AFileThatIsGoneIsReportedAndStaysOnTheMenu)
 {
     startWith(2);
     t.files.removeFile(path(2));
@@ -385,12 +385,12 @@ TEST(PreviousFiles, AnItemOpensTheWholePairUnlessSingleFilesAreWanted)
     t.openBoth("c:\\tm\\mig.b50");
     t.menus().mnuFileNewBoth.Click();
     t.menus().mnuMFArray[1].Click();
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\mig.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\mig.b50");
     t.menus().mnuFileNewBoth.Click();
     t.menus().mnuJoyPopUpSingleFile.Checked = true;
     t.menus().mnuMFArray[1].Click();
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
-    EXPECT_EQ(t.editor().pair.MacroFilePath, "c:\\tm\\mig.m50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
+    EXPECT_EQ(t.editor().macro.FilePath, "c:\\tm\\mig.m50");
 }
 
 TEST(UpdateRecentJFMenuList, LowerCasesTheSharedPathSoCallersMustTakeTheirOwnCopyFirst)

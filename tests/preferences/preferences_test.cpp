@@ -111,8 +111,8 @@ TEST_F(PreferencesTest, AnotherJoystickRenamesUntitledFilesOnce)
         EXPECT_EQ(program().shared.HardwareChangedMark, 1);
     });
     EXPECT_EQ(program().shared.HardwareChangedMark, 0);
-    EXPECT_EQ(editor().pair.JoystickFileName, "untitled.adv");
-    EXPECT_EQ(editor().pair.MacroFileName, "untitled.mdf");
+    EXPECT_EQ(editor().joystick.FileName, "untitled.adv");
+    EXPECT_EQ(editor().macro.FileName, "untitled.mdf");
     EXPECT_EQ(ini("FileLocations", "JoyName"), "4");
 }
 
@@ -281,7 +281,7 @@ TEST_F(PreferencesTest, ANewFontIsOnBothPanesWithTheColoursKept)
     typeJoystick("BTN S1 a");
     menus().mnuViewColourJoystick.Click();
     const Colour before = editor().JoystickText.formatAt(0).colour;
-    const std::int16_t state = editor().pair.JoystickChanged;
+    const std::int16_t state = editor().joystick.Changed;
     inPreferences([this] {
         preferences().coloursPage.CheckFixedPitch.Value = true;
         dialogues.fonts.emplace_back(FontChoice{"Courier New", 11.7F, true});
@@ -293,7 +293,7 @@ TEST_F(PreferencesTest, ANewFontIsOnBothPanesWithTheColoursKept)
     EXPECT_EQ(ini("Colours", "TextFontName"), "Courier New");
     EXPECT_EQ(editor().JoystickText.Font(), (PaneFont{"Courier New", 11, true}));
     EXPECT_EQ(editor().JoystickText.formatAt(0).colour, before);
-    EXPECT_EQ(editor().pair.JoystickChanged, state) << "a font is no edit";
+    EXPECT_EQ(editor().joystick.Changed, state) << "a font is no edit";
     EXPECT_EQ(program().shared.FontChanged, 0);
 }
 

@@ -117,7 +117,7 @@ TEST_F(SavingPageTest, ClearNowLeavesTheTextAsTheOnlyLevel)
     inPreferences([this] { page().Command11.Click(); });
     EXPECT_EQ(menus().mnuEditUndo.Caption.get(), "&Undo");
     EXPECT_EQ(editor().JoystickText.Text(), "abcdef");
-    EXPECT_EQ(editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor().joystick.Changed, changed::modified);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ TEST(ProgramOnDisk, OpensANativePathEditsAndSavesItWithBackupAndShadow)
     DiskProgram t(disk.path(), joystick);
     ASSERT_TRUE(t.start());
     Editor& editor = t.program->editor;
-    EXPECT_EQ(editor.pair.JoystickFilePath, "c:\\tm\\mig.b50");
+    EXPECT_EQ(editor.joystick.FilePath, "c:\\tm\\mig.b50");
     EXPECT_EQ(editor.MacroText.Text(), "Fire = f\r\n");
 
     t.type(editor.joystick, "Rem \xE9\r\n");
@@ -108,7 +108,7 @@ TEST(ProgramOnDisk, AReadOnlyFileIsNeverWrittenOver)
     EXPECT_EQ(t.dialogues.boxes.back().title, "Can't save Read Only file");
     AutoSaveFile(editor);
     EXPECT_EQ(bytesOf(joystick), "precious");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
 }
 
 std::filesystem::perms accessTo(const std::string& path) { return std::filesystem::status(path).permissions(); }
@@ -178,7 +178,7 @@ TEST(ProgramOnDisk, APipeInPlaceOfTheFileIsNeitherWaitedForNorReplaced)
     t.program->menus.mnuFileSave.Click();
     EXPECT_EQ(t.dialogues.boxes.back().title, "Error generated when trying to save your file");
     EXPECT_TRUE(std::filesystem::is_fifo(joystick));
-    EXPECT_EQ(t.program->editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.program->editor.joystick.Changed, changed::modified);
 }
 
 TEST(ProgramOnDisk, AFolderOnTheCommandLineIsNamedInTheStatusBar)
@@ -189,7 +189,7 @@ TEST(ProgramOnDisk, AFolderOnTheCommandLineIsNamedInTheStatusBar)
     ASSERT_TRUE(t.start());
     EXPECT_EQ(t.status(), "c:\\tm is a folder, so I haven't opened it.");
     EXPECT_TRUE(t.dialogues.boxes.empty());
-    EXPECT_EQ(t.program->editor.pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(t.program->editor.joystick.FileName, "untitled.b50");
 }
 
 TEST(ProgramOnDisk, ALoopOfLinksOnTheCommandLineIsNamedInTheStatusBar)
@@ -232,7 +232,7 @@ TEST(ProgramOnDisk, AMissingFileOnTheCommandLineIsDroppedWithoutAWord)
     }
 }
 
-TEST(ProgramOnDisk, ADirectoryInPlaceOfAFileIsToldAndOpensNothing)
+TEST(ProgramOnDisk, ADirectoryInPlaceOfAFileIsReportedAndOpensNothing)
 {
     const TemporaryDirectory disk;
     disk.put("Tarvex.ini", DiskProgram::settings);
@@ -242,7 +242,7 @@ TEST(ProgramOnDisk, ADirectoryInPlaceOfAFileIsToldAndOpensNothing)
     t.dialogues.filesToOpen = {"c:\\tm\\mig.b50"};
     t.program->menus.mnuFileJoystickLoad.Click();
     ASSERT_EQ(t.dialogues.boxes.size(), 1U);
-    EXPECT_EQ(t.program->editor.pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(t.program->editor.joystick.FileName, "untitled.b50");
 }
 
 /// Both documents edited and saved on a disk that is full: the number of the first expectation that isn't met, or 0.

@@ -55,7 +55,7 @@ TEST(Start, OnANewMachineSavesTheSettingsDetectsAndLeadsToThePreferences)
               0U);
     EXPECT_NE(machine.lastBox().text.find("going to look pretty odd.\n\nCheers, and enjoy Tarvex."), std::string::npos);
     EXPECT_EQ(machine.dialogues.modalForms, (std::vector<std::string>{"Preferences", "frmTip"}));
-    EXPECT_EQ(program.editor.pair.JoystickFilePath, "c:\\tqs\\programsuntitled.b50")
+    EXPECT_EQ(program.editor.joystick.FilePath, "c:\\tqs\\programsuntitled.b50")
         << "the detected folder has no closing backslash";
 }
 
@@ -102,8 +102,8 @@ TEST(Start, TheMacroPathOfAnEmptyDocumentIsLowerCased)
     TestProgram t(false);
     t.setIni("FileLocations", "ProgramFilesPath", "C:\\TM\\B50Progs\\");
     t.start();
-    EXPECT_EQ(t.editor().pair.MacroFilePath, "c:\\tm\\b50progs\\untitled.m50");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "C:\\TM\\B50Progs\\untitled.b50");
+    EXPECT_EQ(t.editor().macro.FilePath, "c:\\tm\\b50progs\\untitled.m50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "C:\\TM\\B50Progs\\untitled.b50");
 }
 
 TEST(Start, TheFramesPlaceComesFromTheSettings)
@@ -134,7 +134,7 @@ TEST(Start, AFileOnTheCommandLineIsOpened)
     t.start();
     EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 x");
     EXPECT_EQ(t.editor().MacroText.Text(), "Fire = f");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\mig.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\mig.b50");
     EXPECT_EQ(t.program().shared.IsLoading, 0);
     EXPECT_EQ(t.editor().OpeningWithoutAsking, 0);
 }
@@ -200,7 +200,7 @@ TEST(Start, AMissingCommandLineFileLeavesTwoEmptyDocuments)
     t.platform.commandLine = "c:\\gone.b50";
     t.start();
     EXPECT_TRUE(t.dialogues.boxes.empty());
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
     EXPECT_EQ(t.program().shared.CommandLineFile, "");
 }
 
@@ -376,8 +376,8 @@ TEST(Exit, MacroAnsweredNoAndJoystickCancelKeepsTheProgramOpenAndBothUnchanged)
     EXPECT_EQ(t.desktop.quits, 0);
     EXPECT_EQ(t.editor().JoystickText.Text(), "j");
     EXPECT_EQ(t.editor().MacroText.Text(), "m");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
+    EXPECT_EQ(t.editor().macro.Changed, changed::modified);
     EXPECT_TRUE(t.program().mum.form.Visible);
 }
 
@@ -391,7 +391,7 @@ TEST(Exit, YesForAnUntitledFileAndACancelledSaveAsKeepsTheProgramOpen)
     EXPECT_EQ(t.lastBox().title, "Ooops!");
     EXPECT_EQ(t.lastBox().text, "untitled.b50 wasn't saved. Exit program aborted.");
     EXPECT_EQ(t.lastBox().icon, BoxIcon::Exclamation);
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST(Exit, YesSavesTheMacroFileWithoutAnalysingIt)

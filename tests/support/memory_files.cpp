@@ -140,6 +140,7 @@ public:
 
     void append(std::string_view bytes) override
     {
+        ++m_files.m_appends;
         const auto& error = m_files.m_appendError;
         const std::size_t taken = error ? std::min(bytes.size(), m_files.m_appendRoom) : bytes.size();
         if (error) m_files.m_appendRoom -= taken;

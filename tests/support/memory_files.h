@@ -38,6 +38,8 @@ public:
     /// The writes that succeeded, in order.
     const std::vector<Write>& writes() const { return m_writes; }
     void clearWrites() { m_writes.clear(); }
+    /// How often bytes were appended to a growing file.
+    int appends() const { return m_appends; }
     /// How often a growing file was synced.
     int syncs() const { return m_syncs; }
     /// Each sync of a growing file stays under way from now on, or no longer.
@@ -83,6 +85,7 @@ private:
     std::uint64_t m_clock = 0;
     std::optional<RuntimeError> m_appendError;
     std::size_t m_appendRoom = 0; ///< bytes until the error
+    int m_appends = 0;
     int m_syncs = 0;
     bool m_syncsHeld = false;
     std::optional<RuntimeError> m_syncError;

@@ -58,7 +58,7 @@ TEST_F(JoystickWizardTest, PutsTheCaretAtTheStartOfTheJoystickFile)
     click(4);
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 1);
     EXPECT_EQ(editor.JoystickText.SelStart(), 0);
-    EXPECT_EQ(editor.pair.JoystickCaret, 0);
+    EXPECT_EQ(editor.joystick.Caret, 0);
     EXPECT_GE(focused, 1);
 }
 

@@ -128,7 +128,7 @@ TEST_F(MacroWizardTest, InsertWritesTheMacroIntoTheMacroFileOnALineOfItsOwn)
     EXPECT_EQ(focused, 1);
     insert("Gear", "g");
     EXPECT_EQ(macro(), "Eject = CTL e\r\nGear = g\r\n");
-    EXPECT_EQ(editor.pair.MacroCaret, 25);
+    EXPECT_EQ(editor.macro.Caret, 25);
 }
 
 TEST_F(MacroWizardTest, InsertInTheMiddleAddsNoLineEnd)

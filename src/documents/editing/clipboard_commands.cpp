@@ -3,8 +3,8 @@
 #include "documents/editing/blank_strings.h"
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/undo.h"
+#include "documents/pair/noted_caret.h"
 #include "documents/pair/protected_pane.h"
-#include "documents/pair/tabs.h"
 #include "documents/text/rtf/rtf.h"
 #include "platform/windows1252.h"
 

@@ -69,7 +69,7 @@ void flashText(Editor& editor, std::int64_t start, std::int64_t length)
 {
     endBlinking(editor);
     Side& side = editor.selected();
-    side.Caret = static_cast<float>(side.pane.SelStart());
+    side.Caret = side.pane.SelStart();
     editor.Flash = {start, length};
     startBlinking(editor);
     highlightAgain(editor);

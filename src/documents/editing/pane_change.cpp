@@ -8,20 +8,6 @@
 
 namespace tarvex {
 
-namespace {
-
-void paneChange(Editor& editor, Side& side)
-{
-    stopBlinking(editor, side);
-    // emptying a pane takes the indent with the text
-    if (side.pane.TextLength() == 0) side.pane.setSelIndent(paragraphIndent);
-    if (editor.shared.IsLoading == 1) return;
-    textChanged(editor, side);
-    side.TakeNewLevel = 1;
-}
-
-} // namespace
-
 void textChanged(Editor& editor, Side& side)
 {
     side.Changed = changed::modified;
@@ -30,10 +16,15 @@ void textChanged(Editor& editor, Side& side)
     recordUndo(editor, side);
 }
 
-void JoystickTextChanged(Editor& editor) { textChanged(editor, editor.joystick); }
-void MacroTextChanged(Editor& editor) { textChanged(editor, editor.macro); }
-void JoystickText_Change(Editor& editor) { paneChange(editor, editor.joystick); }
-void MacroText_Change(Editor& editor) { paneChange(editor, editor.macro); }
+void Text_Change(Editor& editor, Side& side)
+{
+    stopBlinking(editor, side);
+    // emptying a pane takes the indent with the text
+    if (side.pane.TextLength() == 0) side.pane.setSelIndent(paragraphIndent);
+    if (editor.shared.IsLoading == 1) return;
+    textChanged(editor, side);
+    side.TakeNewLevel = 1;
+}
 
 void applyScheme(Editor& editor, Side& side)
 {

@@ -4,14 +4,12 @@
 
 namespace tarvex {
 
-/// The user's edit of a pane: its document is modified, and its undo levels take the new state.
+/// The user's edit of a pane (JoystickTextChanged, MacroTextChanged): its document is modified, and its undo levels
+/// take the new state.
 void textChanged(Editor& editor, Side& side);
-void JoystickTextChanged(Editor& editor);
-void MacroTextChanged(Editor& editor);
 
-/// The panes' Change: counts as the user's edit unless IsLoading is 1.
-void JoystickText_Change(Editor& editor);
-void MacroText_Change(Editor& editor);
+/// The panes' Change (JoystickText_Change, MacroText_Change): counts as the user's edit unless IsLoading is 1.
+void Text_Change(Editor& editor, Side& side);
 
 /// Gives a pane the font and background of the colour scheme.
 void applyScheme(Editor& editor, Side& side);

@@ -3,7 +3,7 @@
 #include "documents/editing/pane_keys.h"
 #include "documents/editing/pane_menu.h"
 #include "documents/pair/document_status.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/noted_caret.h"
 #include "platform/input.h"
 #include "platform/windows1252.h"
 
@@ -28,83 +28,47 @@ bool runCtrlKey(Editor& editor, Side& side, std::string_view keys)
     return true;
 }
 
-bool keyDown(Editor& editor, Side& side, std::string_view keys, const Steps& step)
+} // namespace
+
+bool Text_KeyDown(Editor& editor, Side& side, std::string_view keys)
 {
+    const Steps step(editor.shared.errors, byKind(side, "ED_JoystickText_KeyDown", "ED_MacroText_KeyDown"));
     bool swallowed = false;
     if (keys.starts_with("Ctrl+")) step([&] { swallowed = runCtrlKey(editor, side, keys); });
     if (swallowed) return true;
-    showLineNumber(editor, side, side.pane.SelStart());
+    step([&] { showCaretLine(editor, side); });
     if (keys == "Esc") popUpInsertMenu(editor, step);
     if (keys == "F1") step([&] { askForHelp(editor, side); });
     return keys == "Esc" || keys == "F1";
 }
 
-void keyUp(Editor& editor, Side& side)
+void Text_KeyUp(Editor& editor, Side& side)
 {
-    editor.HighlightLength = side.pane.SelLength();
-    noteCaret(editor, side);
-}
-
-void click(Editor& editor, Side& side)
-{
-    if (editor.mum.MousePointer == MousePointer::ArrowQuestion)
-        editor.operations.UpdateCCPButtons();
-    else
+    const Steps step(editor.shared.errors, byKind(side, "ED_JoystickText_KeyUp", "ED_MacroText_KeyUp"));
+    step([&] {
+        editor.HighlightLength = side.pane.SelLength();
         noteCaret(editor, side);
+    });
 }
 
-void mouseDown(Editor& editor, const Side& side, int button, bool atCaret)
+void Text_Click(Editor& editor, Side& side)
 {
-    showEditingText(editor);
-    if (button == mouseButton::right) popUpPaneMenu(editor, side, atCaret);
+    const Steps step(editor.shared.errors, byKind(side, "ED_JoystickText_Click", "ED_Macrotext_Click"));
+    step([&] {
+        if (editor.mum.MousePointer == MousePointer::ArrowQuestion)
+            editor.operations.UpdateCCPButtons();
+        else
+            noteCaret(editor, side);
+    });
 }
 
-} // namespace
-
-bool JoystickText_KeyDown(Editor& editor, std::string_view keys)
+void Text_MouseDown(Editor& editor, Side& side, int button, bool atCaret)
 {
-    return keyDown(editor, editor.joystick, keys, Steps(editor.shared.errors, "ED_JoystickText_KeyDown"));
-}
-
-bool MacroText_KeyDown(Editor& editor, std::string_view keys)
-{
-    return keyDown(editor, editor.macro, keys, Steps(editor.shared.errors, "ED_MacroText_KeyDown"));
-}
-
-void JoystickText_KeyUp(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "ED_JoystickText_KeyUp");
-    step([&] { keyUp(editor, editor.joystick); });
-}
-
-void MacroText_KeyUp(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "ED_MacroText_KeyUp");
-    step([&] { keyUp(editor, editor.macro); });
-}
-
-void JoystickText_Click(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "ED_JoystickText_Click");
-    step([&] { click(editor, editor.joystick); });
-}
-
-void MacroText_Click(Editor& editor)
-{
-    const Steps step(editor.shared.errors, "ED_Macrotext_Click");
-    step([&] { click(editor, editor.macro); });
-}
-
-void JoystickText_MouseDown(Editor& editor, int button, bool atCaret)
-{
-    const Steps step(editor.shared.errors, "ED_JoystickText_MouseDown");
-    step([&] { mouseDown(editor, editor.joystick, button, atCaret); });
-}
-
-void MacroText_MouseDown(Editor& editor, int button, bool atCaret)
-{
-    const Steps step(editor.shared.errors, "ED_MacroText_MouseDown");
-    step([&] { mouseDown(editor, editor.macro, button, atCaret); });
+    const Steps step(editor.shared.errors, byKind(side, "ED_JoystickText_MouseDown", "ED_MacroText_MouseDown"));
+    step([&] {
+        showEditingText(editor);
+        if (button == mouseButton::right) popUpPaneMenu(editor, side, atCaret);
+    });
 }
 
 } // namespace tarvex

@@ -75,16 +75,10 @@ void showLevel(Editor& editor, std::size_t level)
 
 } // namespace
 
-void JoystickText_KeyPress(Editor& editor, int key)
+void Text_KeyPress(Editor& editor, Side& side, int key)
 {
     endBlinking(editor);
-    keyPress(editor.joystick, key);
-}
-
-void MacroText_KeyPress(Editor& editor, int key)
-{
-    endBlinking(editor);
-    keyPress(editor.macro, key);
+    keyPress(side, key);
 }
 
 void paneEditComing(Editor& editor, Side& side)

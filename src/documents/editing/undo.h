@@ -9,10 +9,9 @@ namespace tarvex {
 // Undo keeps whole formatted snapshots of a pane, so that it brings the colours back too. Level 1 is the newest; the
 // position says which one is showing. Levels that were undone stay below a new one and can still be reached.
 
-/// A character key of the pane is about to change its text: groups typing into levels. `key` is the character's code,
-/// 8 for Backspace, 13 for Return.
-void JoystickText_KeyPress(Editor& editor, int key);
-void MacroText_KeyPress(Editor& editor, int key);
+/// A character key of the pane is about to change its text (JoystickText_KeyPress, MacroText_KeyPress): groups typing
+/// into levels. `key` is the character's code, 8 for Backspace, 13 for Return.
+void Text_KeyPress(Editor& editor, Side& side, int key);
 /// The user is about to change a pane by something else than a character key: that is a level of its own.
 void paneEditComing(Editor& editor, Side& side);
 

@@ -1,9 +1,8 @@
 #include "documents/files/file_open.h"
 
 #include "documents/files/file_dialogues.h"
+#include "documents/files/file_load.h"
 #include "documents/files/file_questions.h"
-#include "documents/files/text_files.h"
-#include "documents/pair/loading.h"
 #include "language/associated_files.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
@@ -25,17 +24,6 @@ std::optional<Chosen> chooseFile(Editor& editor, const FileRequest& request)
     const auto path = editor.platform.dialogues.openFile(request);
     if (!path) return std::nullopt;
     return Chosen{lowerUtf8(*path), lowerUtf8(fileNameOf(*path))};
-}
-
-void showMacroFile(Editor& editor, const std::string& path, const std::string& name, const std::string& bytes)
-{
-    const Steps step(editor.shared.errors, "ED_loadMacroFile");
-    step([&] { editor.operations.ClearAllForNewMacroFile(); });
-    showDocument(editor, editor.macro, path, name, bytes);
-    editor.mum.StatusBar.Panels(panel::macroFile).Text = name;
-    step([&] { editor.operations.GetEachLineFromMacroFile(); });
-    step([&] { editor.operations.ExtractMacrosAndTitles(); });
-    if (!editor.menus.mnuViewMacros.Checked) editor.menus.mnuViewMacros.Click();
 }
 
 /// The ticks of the macro list are out of date.
@@ -80,8 +68,8 @@ std::string findMacroFile(Editor& editor, const std::string& joystickPath)
 {
     const Settings& settings = editor.shared.settings;
     const std::string named = macroFileByMdef(editor.JoystickText, joystickPath, settings);
-    editor.JoystickText.setSelStart(0);
-    editor.pair.JoystickCaret = 0;
+    editor.joystick.pane.setSelStart(0);
+    editor.joystick.Caret = 0;
     if (!named.empty() && editor.platform.files.fileExists(named)) return named;
     const std::string byName = associatedMacroFile(joystickPath, settings);
     return editor.platform.files.fileExists(byName) ? byName : std::string();
@@ -127,21 +115,31 @@ void refuseUnknownKind(Editor& editor)
     editor.status("Files not opened");
 }
 
+/// One of the two files of a pair. A cancelled dialogue leaves the status text as it was.
+std::optional<Chosen> chooseEither(Editor& editor)
+{
+    const std::string before = editor.mum.StatusBar.Panels(panel::progress).Text;
+    if (editor.OpeningWithoutAsking != 1) editor.status("Opening joystick and associated macro file together ....");
+    auto file = chooseFile(editor, {.title = "Select the joystick file or the macro file - I'll open both of them",
+                                    .filter = bothOpenFilter(editor.shared.settings),
+                                    .directory = dialogueFolder(editor, editor.joystick)});
+    if (!file) editor.status(before);
+    return file;
+}
+
+void openWithPartner(Editor& editor, const Chosen& file)
+{
+    switch (kindOfFile(file.name)) {
+    case FileKind::Macro:
+        return openMacroAndPartner(editor, file);
+    case FileKind::Joystick:
+        return openJoystickAndPartner(editor, file);
+    case FileKind::Other:
+        return refuseUnknownKind(editor);
+    }
+}
+
 } // namespace
-
-void showFile(Editor& editor, Side& side, const std::string& path, const std::string& name, const std::string& bytes)
-{
-    const Loading loading(editor.shared);
-    if (side.tab == editor.macro.tab) return showMacroFile(editor, path, name, bytes);
-    showDocument(editor, side, path, name, bytes);
-}
-
-bool loadFile(Editor& editor, Side& side, const std::string& path, const std::string& name)
-{
-    const auto bytes = readForOpening(editor, path, name);
-    if (bytes) showFile(editor, side, path, name, *bytes);
-    return bytes.has_value();
-}
 
 void mnuFileJoystickLoad_Click(Editor& editor)
 {
@@ -182,21 +180,8 @@ void mnuFileOpen_Click(Editor& editor)
     step([&] {
         if (!mayLeave(editor, editor.joystick, questionBeforeOpen(editor.joystick))) return;
         if (!mayLeave(editor, editor.macro, questionBeforeOpen(editor.macro))) return;
-        const std::string before = editor.mum.StatusBar.Panels(panel::progress).Text;
-        if (editor.OpeningWithoutAsking != 1) editor.status("Opening joystick and associated macro file together ....");
-        const auto file =
-            chooseFile(editor, {.title = "Select the joystick file or the macro file - I'll open both of them",
-                                .filter = bothOpenFilter(editor.shared.settings),
-                                .directory = dialogueFolder(editor, editor.joystick)});
-        if (!file) return editor.status(before);
-        switch (kindOfFile(file->name)) {
-        case FileKind::Macro:
-            return openMacroAndPartner(editor, *file);
-        case FileKind::Joystick:
-            return openJoystickAndPartner(editor, *file);
-        case FileKind::Other:
-            return refuseUnknownKind(editor);
-        }
+        const auto file = chooseEither(editor);
+        if (file) openWithPartner(editor, *file);
     });
     showOpeningRemarks(editor);
 }

@@ -12,7 +12,7 @@ constexpr std::string_view macroNotSaved =
     " wasn't saved, so I won't continue to load up a new macro file just in case "
     "you pressed the cancel button by accident.";
 
-std::string_view notSavedText(const Side& side) { return side.tab == 1 ? joystickNotSaved : macroNotSaved; }
+std::string_view notSavedText(const Side& side) { return byKind(side, joystickNotSaved, macroNotSaved); }
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "documents/files/file_save.h"
 
 #include "documents/editing/undo.h"
+#include "documents/files/coloured_shadow.h"
 #include "documents/files/file_dialogues.h"
 #include "documents/files/outside_change.h"
 #include "documents/files/text_files.h"
@@ -22,7 +23,7 @@ std::string backupPath(Editor& editor, const Side& side)
     return isOutsideVersion(name) ? freePath(editor.platform.files, directory, name) : directory + name;
 }
 
-void tellSaveFailed(Editor& editor, const std::string& path, const std::string& whyNot)
+void showSaveFailed(Editor& editor, const std::string& path, const std::string& whyNot)
 {
     editor.platform.dialogues.show(
         {.title = "Error generated when trying to save your file",
@@ -50,7 +51,7 @@ bool saveAs(Editor& editor, Side& side);
 /// replace what the path holds.
 bool saveText(Editor& editor, Side& side, bool agreed = false)
 {
-    const Steps step(editor.shared.errors, side.tab == 1 ? "ED_SaveJoystickText" : "ED_SaveMacroText");
+    const Steps step(editor.shared.errors, byKind(side, "ED_SaveJoystickText", "ED_SaveMacroText"));
     auto overwriting = Overwriting::Agreed;
     const bool written = step([&] {
         if (!agreed) overwriting = agreeOnOverwriting(editor, side);
@@ -59,7 +60,7 @@ bool saveText(Editor& editor, Side& side, bool agreed = false)
     if (overwriting == Overwriting::UnderAnotherName) return saveAs(editor, side);
     if (overwriting == Overwriting::Cancelled) return false;
     if (!written) {
-        tellSaveFailed(editor, side.FilePath, step.whyNot());
+        showSaveFailed(editor, side.FilePath, step.whyNot());
         return saveAs(editor, side);
     }
 

@@ -12,7 +12,7 @@ namespace {
 
 std::string quoted(const std::string& text) { return "\"" + text + "\""; }
 
-void tellNotFound(FindAndReplace& window, const FindPage& page, Side& side)
+void showNotFound(FindAndReplace& window, const FindPage& page, Side& side)
 {
     Editor& editor = window.editor;
     const std::string& text = page.text.Text;
@@ -58,7 +58,7 @@ bool findText(FindAndReplace& window, const FindPage& page, const Steps& step)
         showFound(window, page, side);
         return true;
     }
-    tellNotFound(window, page, side);
+    showNotFound(window, page, side);
     step([&] { side.pane.setSelStart(side.Caret); });
     page.text.SetFocus();
     page.text.SelectAll();

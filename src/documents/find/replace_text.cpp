@@ -61,7 +61,7 @@ std::int64_t replaceAll(FindAndReplace& window, Side& side)
     return count;
 }
 
-void tellReplaced(FindAndReplace& window, Side& side, std::int64_t count)
+void showReplaced(FindAndReplace& window, Side& side, std::int64_t count)
 {
     window.editor.platform.dialogues.show(
         {.title = "Replaced 'em all for you. Now buy me a drink",
@@ -106,7 +106,7 @@ void Command6_Click(FindAndReplace& window)
             const Loading loading(editor.shared);
             if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab);
             takeFindOptions(window, page);
-            tellReplaced(window, side, replaceAll(window, side));
+            showReplaced(window, side, replaceAll(window, side));
             page.find.Caption = findFirst;
             step([&] { side.pane.setSelStart(side.Caret); });
             offerNoReplacement(window);

@@ -39,6 +39,7 @@ void showEditingText(Editor& editor)
 
 void showLineNumber(Editor& editor, const Side& side, std::int64_t position)
 {
+    editor.Noted.reset();
     editor.mum.StatusBar.Panels(panel::line).Text =
         "Line no: " + std::to_string(side.pane.GetLineFromChar(position) + 1);
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "documents/pair/colour_selector_state.h"
-#include "documents/pair/pair_record.h"
-#include "documents/pair/undo_history.h"
-#include "documents/recovery/journal_record.h"
-#include "documents/text/pane.h"
+#include "documents/pair/insertion_record.h"
+#include "documents/pair/side.h"
 #include "language/macro_record.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
@@ -42,24 +40,14 @@ struct FrameMacros {
     std::array<Button, 13> Command1;             ///< slash modifiers and DLY
 };
 
-/// One of the two documents, for what is done to both alike. Names the members of the record; owns nothing.
-struct Side {
-    int tab;               ///< 1 joystick, 2 macro
-    std::string_view kind; ///< "joystick" or "macro", as the program's texts name it
-    Pane& pane;
-    std::string& FilePath;
-    std::string& FileName;
-    std::int16_t& Changed;
-    std::int64_t& Caret;
-    std::int32_t& SelectionLength;
-    std::int16_t& TakeNewLevel;
-    std::string& Extension; ///< the one that new files of the kind get
-    Colour& Background;
-    UndoHistory& Undo;
-    JournalRecord& Journal;
-    Operation<>& ApplyColours;
-    Operation<const std::string&>& NoteLatestFile;
-    Operation<const std::string&>& UpdateRecentMenuList;
+/// What the window shows of a caret.
+struct NotedCaret {
+    int tab = 0;
+    std::int64_t start = 0;
+    std::int64_t length = 0;
+    std::int64_t line = 0; ///< from 0
+    Colour colour = 0;
+    bool operator==(const NotedCaret&) const = default;
 };
 
 /// A piece of a pane's text, from 0.
@@ -81,20 +69,15 @@ struct Editor {
     Menus& menus;
     Operations& operations;
 
-    PairRecord pair;
     MacroRecord macros;
     InsertionRecord insertion;
     std::shared_ptr<FormatTable> formats;
-    Pane JoystickText;
-    Pane MacroText;
-    Pane TempRichTextBox; ///< hidden; texts on their way to and from files
-    Pane CompareRTF;      ///< hidden; the plain file beside its coloured shadow
-    UndoHistory JoystickUndo;
-    UndoHistory MacroUndo;
-    JournalRecord JoystickJournal;
-    JournalRecord MacroJournal;
     Side joystick;
     Side macro;
+    Pane& JoystickText; ///< the documents' panes by the names of their controls
+    Pane& MacroText;
+    Pane TempRichTextBox; ///< hidden; texts on their way to and from files
+    Pane CompareRTF;      ///< hidden; the plain file beside its coloured shadow
 
     Property<bool> Visible = false;
     Property<int> ScaleWidth = 0; ///< inside size, pixels; the view reports it and runs Form_Resize
@@ -107,6 +90,7 @@ struct Editor {
     Timer TimerBlinkLine{100}; ///< line highlight
     Timer TimerJournal{15000}; ///< runs while a journal isn't on the disk yet
 
+    std::optional<NotedCaret> Noted;   ///< by noteCaret; nothing when another line number was shown since
     int TabImage = tabImage::selected; ///< of the macro file's tab while it is selected
     std::string OpeningPath;           ///< what OpenPreviouslySavedFiles hands to the open commands
     std::string OpeningName;

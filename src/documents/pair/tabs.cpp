@@ -15,17 +15,6 @@ void showTabImages(Editor& editor)
     editor.TabStrip1.Tabs(editor.macro.tab).Image = joystickSelected ? tabImage::none : editor.TabImage;
 }
 
-void gotFocus(Editor& editor, Side& side)
-{
-    if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab); // a click into the other tile
-    if (editor.mum.MousePointer == MousePointer::ArrowQuestion) return;
-    UpdateUndoRedoMenus(editor);
-    editor.operations.UpdateCCPButtons();
-    showLineNumber(editor, side, side.pane.SelStart());
-    showCaretColour(editor);
-    showEditingText(editor);
-}
-
 } // namespace
 
 void GetCurrentDefaultTextColour(Editor& editor) { editor.shared.DefaultTextColour = 0; }
@@ -45,16 +34,15 @@ void TabStrip1_Click(Editor& editor)
     editor.selected().pane.SetFocus();
 }
 
-void JoystickText_GotFocus(Editor& editor) { gotFocus(editor, editor.joystick); }
-void MacroText_GotFocus(Editor& editor) { gotFocus(editor, editor.macro); }
-
-void noteCaret(Editor& editor, Side& side)
+void Text_GotFocus(Editor& editor, Side& side)
 {
-    side.Caret = side.pane.SelStart();
-    side.SelectionLength = static_cast<std::int32_t>(side.pane.SelLength());
+    if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab); // a click into the other tile
+    if (editor.mum.MousePointer == MousePointer::ArrowQuestion) return;
+    UpdateUndoRedoMenus(editor);
+    editor.operations.UpdateCCPButtons();
     showLineNumber(editor, side, side.pane.SelStart());
     showCaretColour(editor);
-    editor.operations.UpdateCCPButtons();
+    showEditingText(editor);
 }
 
 void mnuPreferencesProtectMacroFile_Click(Editor& editor)

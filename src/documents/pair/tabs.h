@@ -9,11 +9,8 @@ void GetCurrentDefaultTextColour(Editor& editor);
 /// A tab was selected, by the user or by the program: pane, focus, status, tab images, download command and undo menus
 /// follow.
 void TabStrip1_Click(Editor& editor);
-/// A pane got the keyboard.
-void JoystickText_GotFocus(Editor& editor);
-void MacroText_GotFocus(Editor& editor);
-/// The caret of a pane was moved by the user: remembers it and shows its line.
-void noteCaret(Editor& editor, Side& side);
+/// A pane got the keyboard (JoystickText_GotFocus, MacroText_GotFocus).
+void Text_GotFocus(Editor& editor, Side& side);
 /// Locks the macro pane against edits, or frees it again.
 void mnuPreferencesProtectMacroFile_Click(Editor& editor);
 

@@ -2,10 +2,10 @@
 
 #include "documents/editing/pane_change.h"
 #include "documents/editing/undo.h"
+#include "documents/files/file_load.h"
 #include "documents/files/file_new.h"
 #include "documents/files/file_open.h"
 #include "documents/files/file_questions.h"
-#include "documents/files/text_files.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
@@ -43,7 +43,7 @@ void nameEmptyDocuments(Editor& editor)
         nameUntitled(editor, *side);
         side->Changed = changed::noText;
     }
-    editor.pair.MacroFilePath = lowerUtf8(editor.pair.MacroFilePath);
+    editor.macro.FilePath = lowerUtf8(editor.macro.FilePath);
     editor.mum.StatusBar.Panels(panel::macroFile).Text = "No macro file analysed";
 }
 
@@ -89,13 +89,12 @@ std::string whyNotAFile(const FileSystem& files, const std::string& path)
     if (!isValidUtf8(path)) return "I couldn't find the file I was started with: its name isn't valid UTF-8.";
     if (files.fileExists(path)) return {};
     if (files.directoryExists(path)) return path + " is a folder, so I haven't opened it.";
-    try {
-        files.readPieces(path, [](std::string_view) { return false; });
-    } catch (const RuntimeError& error) {
-        if (error.code() != ErrorCode::FileNotFound && error.code() != ErrorCode::PathNotFound)
-            return "I couldn't open " + path + ": " + error.what();
-    }
-    return {};
+    ErrorRecord failure;
+    const Steps step(failure, "whyNotAFile");
+    if (step([&] { files.readPieces(path, [](std::string_view) { return false; }); })) return {};
+    const auto code = static_cast<ErrorCode>(failure.ErrorNumber);
+    if (code == ErrorCode::FileNotFound || code == ErrorCode::PathNotFound) return {};
+    return "I couldn't open " + path + ": " + step.whyNot();
 }
 
 /// The command line's file wins over a favourite. Text that was brought back is shown in their stead; a file that is no

@@ -19,7 +19,4 @@ void showPreferencesPage(Editor& editor, std::int16_t page);
 
 void mnuViewEditColours_Click(Editor& editor);
 
-/// Greys the commands that lead to a page as long as nobody shows the preferences. Whoever does is wired before.
-void wirePreferencesPages(Editor& editor);
-
 } // namespace tarvex

@@ -1,6 +1,6 @@
 #include "language/commands/colour_highlighting.h"
 
-#include "documents/files/text_files.h"
+#include "documents/files/coloured_shadow.h"
 #include "documents/pair/loading.h"
 #include "language/base_format.h"
 #include "language/commands/side_caret.h"

@@ -62,7 +62,7 @@ void IdentifyMacrosUsed(Editor& editor)
     const Steps step;
     if (!canIdentify(editor.JoystickText, editor.MacroText)) return refuseToAnalyse(editor);
     step([&] { ClearMacroTicks(editor); });
-    editor.status("Analysing the macros you've already assigned in the " + editor.pair.JoystickFileName +
+    editor.status("Analysing the macros you've already assigned in the " + editor.joystick.FileName +
                   ". Please wait ...");
     editor.platform.desktop.showHourglass(true);
     step([&] {

@@ -21,10 +21,10 @@ void GetEachLineFromMacroFile(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_GetEachLineFromMacroFile");
     FileSystem& files = editor.platform.files;
-    const std::string& path = editor.pair.MacroFilePath;
+    const std::string& path = editor.macro.FilePath;
     std::vector<std::string>& lines = editor.macros.MacroFileLines;
     if (!files.fileExists(path)) return;
-    editor.status("Opening " + editor.pair.MacroFileName + " file for analysis ");
+    editor.status("Opening " + editor.macro.FileName + " file for analysis ");
     lines.clear();
     step([&] { lines = keptMacroLines(files.read(path)); });
     step([&] { files.writePrivate(linesFile, joined(lines)); });

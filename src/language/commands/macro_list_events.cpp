@@ -53,7 +53,7 @@ void key(Editor& editor, std::size_t list, int shift)
 
 /// The character before the caret is read through the selection. A caret below 0, which a replacement can leave in the
 /// record, is refused by the pane: then it is the character behind the pane's own caret.
-bool touchesAWord(const Side& side, const Steps& step)
+bool touchesAWord(Side& side, const Steps& step)
 {
     if (side.Caret == 0) return false;
     step([&] { side.pane.setSelStart(side.Caret - 1); });

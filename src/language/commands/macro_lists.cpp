@@ -64,7 +64,7 @@ void ExtractMacrosAndTitles(Editor& editor)
     const Steps step;
     MacroRecord& record = editor.macros;
     FrameMacros& frame = editor.FrameMacros;
-    editor.status("Analysing " + editor.pair.MacroFileName + " for macros and sub-headings. Please wait ...");
+    editor.status("Analysing " + editor.macro.FileName + " for macros and sub-headings. Please wait ...");
     step([&] {
         fillLists(frame, extractMacros(record));
         std::vector<std::string> headings = frame.Combo1.Items;

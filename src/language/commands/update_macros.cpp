@@ -16,8 +16,8 @@ void selectMacroTab(Editor& editor)
 /// False: the list would not show what stands in the pane, and the user was informed.
 bool isSaved(Editor& editor)
 {
-    const std::string& name = editor.pair.MacroFileName;
-    if (editor.pair.MacroChanged != changed::modified) return true;
+    const std::string& name = editor.macro.FileName;
+    if (editor.macro.Changed != changed::modified) return true;
     const Answer answer = editor.platform.dialogues.show(
         {.title = " Save " + name + " now?",
          .text = name +
@@ -28,11 +28,11 @@ bool isSaved(Editor& editor)
     if (answer == Answer::Yes) {
         selectMacroTab(editor);
         editor.menus.mnuFileSave.Click();
-        if (editor.pair.MacroChanged != changed::modified) return true;
+        if (editor.macro.Changed != changed::modified) return true;
     }
     editor.platform.dialogues.show(
         {.title = "File not saved",
-         .text = editor.pair.MacroFileName + " wasn't saved, so I won't continue to update your macros list.",
+         .text = editor.macro.FileName + " wasn't saved, so I won't continue to update your macros list.",
          .icon = BoxIcon::Exclamation});
     return false;
 }
@@ -43,7 +43,7 @@ void analyse(Editor& editor, const Steps& step)
     const Loading loading(editor.shared);
     if (!editor.menus.mnuViewMacros.Checked) step([&] { editor.menus.mnuViewMacros.Click(); });
     ClearAllForNewMacroFile(editor);
-    editor.mum.StatusBar.Panels(panel::macroFile).Text = editor.pair.MacroFileName;
+    editor.mum.StatusBar.Panels(panel::macroFile).Text = editor.macro.FileName;
     editor.macros.NotAMacroLine = 0;
     GetEachLineFromMacroFile(editor);
     ExtractMacrosAndTitles(editor);

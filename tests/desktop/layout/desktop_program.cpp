@@ -40,7 +40,7 @@ DesktopProgram::~DesktopProgram()
 void DesktopProgram::openPair()
 {
     Editor& editor = program->editor;
-    const bool isOpen = editor.pair.JoystickFileName == "mig.b50" && editor.pair.MacroFileName == "mig.m50";
+    const bool isOpen = editor.joystick.FileName == "mig.b50" && editor.macro.FileName == "mig.m50";
     if (isOpen) return;
     editor.OpeningPath = joystickPath;
     OpenPreviouslySavedFiles(editor);

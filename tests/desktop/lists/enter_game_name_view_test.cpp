@@ -120,7 +120,7 @@ TEST(EnterGameNameView, BrowseAndSelectFillTheBoxes)
     EXPECT_EQ(t.box("Text3")->text(), "d:\\games");
 }
 
-TEST(EnterGameNameView, TheHelpButtonsTellAndHaveNamesForScreenReaders)
+TEST(EnterGameNameView, TheHelpButtonsExplainAndHaveNamesForScreenReaders)
 {
     Asked t;
     t.click("Command5");

@@ -51,7 +51,7 @@ TEST(ListMenus, APreviousFileIsShownAsItIsNamedAndOpenedByAClick)
     EXPECT_EQ(t.action("mnuJFArray(1)")->text(), "c:\\tm\\a && b.b50");
     EXPECT_FALSE(t.action("mnuJFArray(0)")->isVisible());
     t.action("mnuJFArray(1)")->trigger();
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\a & b.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\a & b.b50");
     t.action("mnuPreviousClearAllJ")->trigger();
     EXPECT_FALSE(t.canOpen("mnuFilePrevious"));
     t.open("mnuFilePrevious");

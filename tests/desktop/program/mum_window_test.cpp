@@ -152,13 +152,13 @@ TEST(MumWindow, ACommandWithoutAMarkInItsCaptionGetsItsAccessKeyInTheMenu)
     EXPECT_EQ(shown.menus().mnuAppsCTFJ.Caption.get(), "CTFJ");
 }
 
-TEST(MumWindow, TypedTextMakesTheDocumentModifiedAndTheTitleTellsIt)
+TEST(MumWindow, TypedTextMakesTheDocumentModifiedAndTheTitleShowsIt)
 {
     Shown shown;
     shown.joystick().setFocus();
     QTest::keyClicks(&shown.joystick(), "BTN S1 a");
     EXPECT_EQ(shown.editor().JoystickText.Text(), "BTN S1 a");
-    EXPECT_EQ(shown.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(shown.editor().joystick.Changed, changed::modified);
     EXPECT_TRUE(shown.window.isWindowModified());
     EXPECT_TRUE(shown.window.windowTitle().startsWith("Tarvex - untitled."));
 }
@@ -173,7 +173,7 @@ TEST(MumWindow, ClickOnATabSelectsItsDocument)
     EXPECT_FALSE(shown.joystick().isVisible());
     EXPECT_FALSE(tabs.tabIcon(1).isNull());
     EXPECT_TRUE(tabs.tabIcon(0).isNull());
-    EXPECT_TRUE(shown.window.windowTitle().contains(toQt(shown.editor().pair.MacroFileName)));
+    EXPECT_TRUE(shown.window.windowTitle().contains(toQt(shown.editor().macro.FileName)));
 }
 
 TEST(MumWindow, CtrlTabReachesTheOtherPaneAndTypesNothing)
@@ -253,7 +253,7 @@ TEST(MumWindow, TheMouseOverTheStatusBarIsGreetedInItsLeftPart)
     EXPECT_EQ(moveTo(268), "What say you and I give up on this programming lark and go and get a beer?");
 }
 
-TEST(MumWindow, MinimisingTheFrameTellsItsToolWindows)
+TEST(MumWindow, MinimisingTheFrameMinimisesItsToolWindows)
 {
     Shown shown;
     Form form;
@@ -324,7 +324,7 @@ TEST(MumWindow, LockKeyPanelsAreLitWhileTheKeysAreOn)
     EXPECT_TRUE(lit("NUM"));
 }
 
-TEST(MumWindow, InsertKeyTellsItsPanelAndBothPanes)
+TEST(MumWindow, InsertKeyChangesItsPanelAndBothPanes)
 {
     Shown shown;
     QTest::keyClick(&shown.joystick(), Qt::Key_Insert);

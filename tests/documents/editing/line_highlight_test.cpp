@@ -35,7 +35,7 @@ TEST_F(LineHighlight, SelectsTheLineOfTheCaret)
     joystick.setSelStart(9);
     HighlightLineAtIP(editor);
     expectSelected(joystick, 5, 7);
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.joystick.Caret, 5);
     EXPECT_EQ(editor.HighlightLength, 7);
     EXPECT_EQ(t.status(3), "Line no: 2");
     joystick.setSelStart(20);

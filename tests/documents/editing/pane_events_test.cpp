@@ -36,7 +36,7 @@ TEST_F(PaneEvents, ACtrlKeyRunsItsCommandAndIsSwallowed)
     int runs = 0;
     for (const PaneKey& key : paneKeys()) (menus.*key.joystick).handler = [&] { ++runs; };
     for (const PaneKey& key : paneKeys()) (menus.*key.joystick).Enabled = true;
-    for (const PaneKey& key : paneKeys()) EXPECT_TRUE(JoystickText_KeyDown(editor, key.keys)) << key.keys;
+    for (const PaneKey& key : paneKeys()) EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, key.keys)) << key.keys;
     EXPECT_EQ(runs, 18);
     EXPECT_EQ(t.status(3), "") << "the handler ends there";
 }
@@ -44,16 +44,16 @@ TEST_F(PaneEvents, ACtrlKeyRunsItsCommandAndIsSwallowed)
 TEST_F(PaneEvents, ACtrlKeyOfADisabledCommandIsLeftToTheText)
 {
     menus.mnuEditCut.Enabled = false;
-    EXPECT_FALSE(JoystickText_KeyDown(editor, "Ctrl+X"));
+    EXPECT_FALSE(Text_KeyDown(editor, editor.joystick, "Ctrl+X"));
     EXPECT_EQ(t.status(3), "Line no: 2");
-    EXPECT_FALSE(JoystickText_KeyDown(editor, "Ctrl+Q"));
+    EXPECT_FALSE(Text_KeyDown(editor, editor.joystick, "Ctrl+Q"));
 }
 
 TEST_F(PaneEvents, ACtrlKeyNotesTheCaretFirst)
 {
-    float noted = -1;
-    menus.mnuEditCopy.handler = [&] { noted = editor.pair.JoystickCaret; };
-    JoystickText_KeyDown(editor, "Ctrl+C");
+    std::int64_t noted = -1;
+    menus.mnuEditCopy.handler = [&] { noted = editor.joystick.Caret; };
+    Text_KeyDown(editor, editor.joystick, "Ctrl+C");
     EXPECT_EQ(noted, 6);
 }
 
@@ -76,7 +76,7 @@ TEST_F(PaneEvents, TheMacroPaneHasItsOwnFileCommands)
     std::string run;
     menus.mnuFileNewJoystick.handler = [&] { run += "joystick "; };
     menus.mnuFileNewMacro.handler = [&] { run += "macro "; };
-    EXPECT_TRUE(MacroText_KeyDown(editor, "Ctrl+N"));
+    EXPECT_TRUE(Text_KeyDown(editor, editor.macro, "Ctrl+N"));
     EXPECT_EQ(run, "macro ");
 }
 
@@ -84,17 +84,17 @@ TEST_F(PaneEvents, CtrlTabFromTheJoystickPaneReachesTab2AndTheMacroPaneHasTheFoc
 {
     int focused = 0;
     const auto focus = editor.MacroText.focusWanted.connect([&] { ++focused; });
-    EXPECT_TRUE(JoystickText_KeyDown(editor, "Ctrl+Tab"));
+    EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, "Ctrl+Tab"));
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 2);
     EXPECT_EQ(focused, 1);
-    EXPECT_TRUE(MacroText_KeyDown(editor, "Ctrl+Tab"));
+    EXPECT_TRUE(Text_KeyDown(editor, editor.macro, "Ctrl+Tab"));
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 1);
     EXPECT_EQ(joystick.Text(), "one\r\ntwo\r\nthree");
 }
 
 TEST_F(PaneEvents, EveryOtherKeyShowsTheLine)
 {
-    EXPECT_FALSE(JoystickText_KeyDown(editor, ""));
+    EXPECT_FALSE(Text_KeyDown(editor, editor.joystick, ""));
     EXPECT_EQ(t.status(3), "Line no: 2");
 }
 
@@ -103,8 +103,8 @@ TEST_F(PaneEvents, AReleasedKeyNotesCaretAndSelectionAndShowsTheLine)
     int updates = 0;
     editor.operations.UpdateCCPButtons = [&] { ++updates; };
     select(10, 2);
-    JoystickText_KeyUp(editor);
-    EXPECT_EQ(editor.pair.JoystickCaret, 10);
+    Text_KeyUp(editor, editor.joystick);
+    EXPECT_EQ(editor.joystick.Caret, 10);
     EXPECT_EQ(editor.HighlightLength, 2);
     EXPECT_EQ(t.status(3), "Line no: 3");
     EXPECT_EQ(updates, 1);
@@ -114,7 +114,7 @@ TEST_F(PaneEvents, EscapePopsUpTheInsertMenuAtTheCaretWithoutItsTip)
 {
     bool shown = true;
     t.dialogues.whilePoppedUp = [&] { shown = menus.mnuInsertDivider8.Visible || menus.mnuInsertQuickTip.Visible; };
-    EXPECT_TRUE(JoystickText_KeyDown(editor, "Esc"));
+    EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, "Esc"));
     EXPECT_EQ(t.dialogues.popUpsAtCaret, std::vector<std::string>{"mnuInsert"});
     EXPECT_FALSE(shown);
     EXPECT_TRUE(menus.mnuInsertDivider8.Visible);
@@ -124,7 +124,7 @@ TEST_F(PaneEvents, EscapePopsUpTheInsertMenuAtTheCaretWithoutItsTip)
 TEST_F(PaneEvents, ACommandOfTheInsertMenuThatFailsLeavesTheTipInTheMenuBar)
 {
     t.dialogues.whilePoppedUp = [] { throw RuntimeError(ErrorCode::DeviceInputOutput, "no"); };
-    JoystickText_KeyDown(editor, "Esc");
+    Text_KeyDown(editor, editor.joystick, "Esc");
     EXPECT_TRUE(menus.mnuInsertQuickTip.Visible);
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_JoystickText_KeyDown");
 }
@@ -137,7 +137,7 @@ TEST_F(PaneEvents, F1LooksTheSelectionUp)
     menus.mnuHelpContents.handler = [&] { ++contents; };
     joystick.setText("x M\xF6ve");
     select(2, 4);
-    EXPECT_TRUE(JoystickText_KeyDown(editor, "F1"));
+    EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, "F1"));
     EXPECT_EQ(word, "Möve");
     EXPECT_EQ(contents, 0);
 }
@@ -147,7 +147,7 @@ TEST_F(PaneEvents, F1WithoutASelectionShowsAllHelp)
     int contents = 0;
     menus.mnuHelpContents.handler = [&] { ++contents; };
     editor.operations.HelpKeyword = [](const std::string&) { ADD_FAILURE() << "nothing selected"; };
-    EXPECT_TRUE(JoystickText_KeyDown(editor, "F1"));
+    EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, "F1"));
     EXPECT_EQ(contents, 1);
 }
 
@@ -159,53 +159,53 @@ TEST_F(PaneEvents, AClickNotesTheCaretUnlessHelpIsAskedFor)
     editor.operations.UpdateCCPButtons = [&] { ++updates; };
     editor.mum.MousePointer = MousePointer::ArrowQuestion;
     joystick.setSelStart(11);
-    JoystickText_Click(editor);
+    Text_Click(editor, editor.joystick);
     EXPECT_EQ(t.status(3), "");
-    EXPECT_NE(editor.pair.JoystickCaret, 11);
+    EXPECT_NE(editor.joystick.Caret, 11);
     EXPECT_EQ(updates, 1);
     editor.mum.MousePointer = MousePointer::Default;
-    JoystickText_Click(editor);
+    Text_Click(editor, editor.joystick);
     EXPECT_EQ(t.status(3), "Line no: 3");
-    EXPECT_EQ(editor.pair.JoystickCaret, 11);
+    EXPECT_EQ(editor.joystick.Caret, 11);
     EXPECT_EQ(updates, 2);
 }
 
 TEST_F(PaneEvents, AMouseButtonAppliesTheEditingText)
 {
     editor.status("Ready!");
-    JoystickText_MouseDown(editor, mouseButton::left);
+    Text_MouseDown(editor, editor.joystick, mouseButton::left);
     EXPECT_EQ(t.status(), "Editing untitled.b50");
     EXPECT_TRUE(t.dialogues.popUps.empty());
     editor.status("Compiled well");
-    JoystickText_MouseDown(editor, mouseButton::left);
+    Text_MouseDown(editor, editor.joystick, mouseButton::left);
     EXPECT_EQ(t.status(), "Compiled well");
 }
 
 TEST_F(PaneEvents, ARightClickWithNoSelectionOffersNoCutCopyOrDelete)
 {
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     EXPECT_EQ(t.dialogues.popUps, std::vector<std::string>{"mnuRHMouse"});
     const std::vector<MenuItem*> ofSelection{&menus.mnuRHMCut, &menus.mnuRHMCopy, &menus.mnuRHMColoursSelection,
                                              &menus.mnuRHMDelete};
     for (const MenuItem* item : ofSelection) EXPECT_FALSE(item->Enabled) << item->Name;
     select(0, 1);
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     for (const MenuItem* item : ofSelection) EXPECT_TRUE(item->Enabled) << item->Name;
 }
 
 TEST_F(PaneEvents, TheMenuKeyPopsTheMenuUpAtTheCaret)
 {
-    JoystickText_MouseDown(editor, mouseButton::right, true);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right, true);
     EXPECT_EQ(t.dialogues.popUpsAtCaret, std::vector<std::string>{"mnuRHMouse"});
     EXPECT_TRUE(t.dialogues.popUps.empty());
 }
 
 TEST_F(PaneEvents, PasteIsOfferedWhileTheClipboardHoldsText)
 {
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     EXPECT_FALSE(menus.mnuRHMPaste.Enabled);
     t.clipboard.content.text = "x";
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     EXPECT_TRUE(menus.mnuRHMPaste.Enabled);
 }
 
@@ -213,7 +213,7 @@ TEST_F(PaneEvents, ProtectAndDownloadFollowTheirCommands)
 {
     menus.mnuSendToJoystick.handler = nullptr;
     menus.mnuPreferencesProtectMacroFile.Enabled = false;
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     EXPECT_FALSE(menus.mnuRHMProtect.Enabled);
     EXPECT_FALSE(menus.mnuRHMProtect.Checked);
     EXPECT_FALSE(menus.mnuRHMDownload.Enabled);
@@ -223,7 +223,7 @@ TEST_F(PaneEvents, ProtectAndDownloadFollowTheirCommands)
     menus.mnuSendToJoystick.Enabled = true;
     menus.mnuPreferencesProtectMacroFile.Enabled = true;
     menus.mnuRHMProtect.Click();
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     EXPECT_TRUE(menus.mnuRHMProtect.Enabled);
     EXPECT_TRUE(menus.mnuRHMProtect.Checked);
     EXPECT_TRUE(editor.MacroText.Locked);
@@ -231,7 +231,7 @@ TEST_F(PaneEvents, ProtectAndDownloadFollowTheirCommands)
     menus.mnuRHMDownload.Click();
     EXPECT_EQ(downloads, 1);
     menus.mnuSendToJoystick.Enabled = false;
-    JoystickText_MouseDown(editor, mouseButton::right);
+    Text_MouseDown(editor, editor.joystick, mouseButton::right);
     EXPECT_FALSE(menus.mnuRHMDownload.Enabled);
 }
 

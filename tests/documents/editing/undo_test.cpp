@@ -14,7 +14,7 @@ struct UndoTest : testing::Test {
     TestProgram t;
     Editor& editor = t.editor();
     Pane& pane = editor.JoystickText;
-    UndoHistory& history = editor.JoystickUndo;
+    UndoHistory& history = editor.joystick.Undo;
 
     UndoTest() { t.settings().HighlightLineOnUndo = 0; }
     void press(const std::string& keys) { t.pressKeys(pane, keys); }
@@ -141,7 +141,7 @@ TEST_F(UndoTest, WhatIsUndoneAfterASaveIsUnsavedText)
     t.menus().mnuFileSave.Click();
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "A");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     EXPECT_EQ(t.program().mum.StatusBar.Panels(2).Picture.get(), 3);
 }
 
@@ -152,18 +152,18 @@ TEST_F(UndoTest, UndoOrRedoToTheSavedTextIsSavedAgain)
     t.openBoth("c:\\a\\x.b50");
     const auto state = [&] { return t.program().mum.StatusBar.Panels(2).Picture.get() - 2; };
     press("x");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "A");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
     EXPECT_EQ(state(), changed::saved);
     t.menus().mnuEditRedo.Click();
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     t.menus().mnuFileSave.Click();
     t.menus().mnuEditUndo.Click();
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified) << "the file holds the other text now";
+    EXPECT_EQ(editor.joystick.Changed, changed::modified) << "the file holds the other text now";
     t.menus().mnuEditRedo.Click();
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
     EXPECT_EQ(state(), changed::saved);
 }
 
@@ -185,7 +185,7 @@ TEST_F(UndoTest, ANewDocumentUndoneToNothingStaysModified)
     press("x");
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
 }
 
 /// A command, and what it leaves of "one two" with "two" selected and "cut" in the clipboard.
@@ -249,7 +249,7 @@ TEST_F(UndoTest, AProtectedMacroFileIsNotUndone)
     EXPECT_EQ(editor.MacroText.Text(), "m");
 }
 
-TEST_F(UndoTest, CaptionsTipsAndButtonsTellHowFarItGoes)
+TEST_F(UndoTest, CaptionsTipsAndButtonsShowHowFarItGoes)
 {
     press("a b");
     EXPECT_EQ(caption(t.menus().mnuEditUndo), "&Undo (2)");
@@ -306,7 +306,7 @@ TEST_F(UndoTest, DeleteUndosFromMemoryEmptiesBoth)
     t.pressKeys(editor.MacroText, "m");
     DeleteUndosFromMemory(editor);
     EXPECT_EQ(history.Levels.size(), 1U);
-    EXPECT_EQ(editor.MacroUndo.Levels.size(), 1U);
+    EXPECT_EQ(editor.macro.Undo.Levels.size(), 1U);
     EXPECT_TRUE(history.Levels[0].Text.empty());
     EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
 }
@@ -380,9 +380,9 @@ TEST_F(UndoTest, ACharacterTypedAfterAnUndoEndsTheRunOfBlanks)
     editor.TimerBlinkLine.Enabled = false;
     pane.setSelStart(2);
     press("x");
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     press(" ");
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
 }
 
 TEST_F(UndoTest, AProtectedMacroFileSaysSoInsteadOfBeingUndone)
@@ -393,7 +393,7 @@ TEST_F(UndoTest, AProtectedMacroFileSaysSoInsteadOfBeingUndone)
     for (MenuItem* item : {&t.menus().mnuEditUndo, &t.menus().mnuEditPaste}) {
         editor.status("");
         item->Click();
-        EXPECT_EQ(t.status(), editor.pair.MacroFileName + " is protected and can't be edited.") << item->Name;
+        EXPECT_EQ(t.status(), editor.macro.FileName + " is protected and can't be edited.") << item->Name;
         EXPECT_EQ(editor.MacroText.Text(), "a");
     }
 }

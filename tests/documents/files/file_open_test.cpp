@@ -1,37 +1,9 @@
 #include "documents/files/file_open.h"
 
-#include "documents/files/file_save.h"
-#include "documents/text/rtf/rtf.h"
-#include "support/test_program.h"
-
-#include <gtest/gtest.h>
+#include "documents/files/open_fixture.h"
 
 namespace tarvex {
 namespace {
-
-constexpr const char* mig = "c:\\tm\\b50progs\\mig.b50";
-constexpr const char* migMacros = "c:\\tm\\b50progs\\mig.m50";
-
-struct OpenTest : testing::Test {
-    TestProgram t;
-
-    void addPair()
-    {
-        t.files.addFile(mig, "Rem mine\r\nBTN S1 Fire\r\n");
-        t.files.addFile(migMacros, "Fire = f\r\n");
-    }
-    /// A shadow of a text with one blue character.
-    void addShadow(const std::string& name, const std::string& text)
-    {
-        Pane pane;
-        pane.setText(text);
-        pane.setSelLength(1);
-        pane.setSelColor(0xFF0000);
-        t.files.addFile("c:\\tarvex\\Rtf\\" + name, writeRtf(pane.TextRTF()));
-    }
-    std::string joystickText() { return t.editor().JoystickText.Text(); }
-    std::string macroText() { return t.editor().MacroText.Text(); }
-};
 
 TEST_F(OpenTest, OpenJoystickAsksInTheProgramsFolderWithItsFilter)
 {
@@ -48,11 +20,11 @@ TEST_F(OpenTest, OpenJoystickAsksInTheProgramsFolderWithItsFilter)
 TEST_F(OpenTest, ACancelledDialogueChangesNothing)
 {
     t.typeJoystick("mine");
-    t.editor().pair.JoystickChanged = changed::saved;
+    t.editor().joystick.Changed = changed::saved;
     t.dialogues.filesToOpen = {std::nullopt};
     t.menus().mnuFileJoystickLoad.Click();
     EXPECT_EQ(joystickText(), "mine");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 
@@ -61,11 +33,11 @@ TEST_F(OpenTest, OpenJoystickLowerCasesPathAndNameAndIsSaved)
     addPair();
     t.dialogues.filesToOpen = {"C:\\TM\\B50PROGS\\MIG.B50"};
     t.menus().mnuFileJoystickLoad.Click();
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "mig.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, mig);
+    EXPECT_EQ(t.editor().joystick.FileName, "mig.b50");
     EXPECT_EQ(t.editor().TabStrip1.Tabs(1).Caption.get(), "mig.b50");
     EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.editor().JoystickText.SelStart(), 0);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
     EXPECT_EQ(macroText(), "") << "only one file was asked for";
@@ -81,7 +53,7 @@ TEST_F(OpenTest, OpenMacroShowsTheMacroFrameAndItsTab)
     EXPECT_TRUE(t.menus().mnuViewMacros.Checked);
     EXPECT_TRUE(t.editor().FrameMacros.Visible);
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved);
     EXPECT_EQ(t.status(8), "mig.m50");
 }
 
@@ -156,7 +128,7 @@ TEST_F(OpenTest, ATextWithSeveralMdefLinesUsesTheFileOfTheLastOne)
     t.files.addFile("c:\\tm\\b50progs\\two.m50", "Two = 2");
     t.openBoth(mig);
     EXPECT_EQ(macroText(), "Two = 2");
-    EXPECT_EQ(t.editor().pair.MacroFileName, "two.m50");
+    EXPECT_EQ(t.editor().macro.FileName, "two.m50");
 }
 
 TEST_F(OpenTest, AnMdefLineNamingAMissingFileFallsBackToTheOwnName)
@@ -181,7 +153,7 @@ TEST_F(OpenTest, AnMdefNameEndsAtABlankAndIsLowerCased)
     t.files.addFile(mig, "mdef LONGBOW rem my macros\r\n");
     t.files.addFile("c:\\tm\\b50progs\\longbow.m50", "Hover = h");
     t.openBoth(mig);
-    EXPECT_EQ(t.editor().pair.MacroFilePath, "c:\\tm\\b50progs\\longbow.m50");
+    EXPECT_EQ(t.editor().macro.FilePath, "c:\\tm\\b50progs\\longbow.m50");
 }
 
 TEST_F(OpenTest, AnMdefAtTheVeryEndOfTheTextFallsBack)
@@ -221,7 +193,7 @@ TEST_F(OpenTest, AMacroFileWithoutPartnerStaysOpenWithTheBoxAndTheJoystickDocume
               "it has a different name, is located in a different directory,or it does not exist.");
     EXPECT_EQ(macroText(), "Fire = f");
     EXPECT_EQ(joystickText(), "");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::noText);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::noText);
     EXPECT_EQ(t.status(), "Joystick file not opened");
 }
 
@@ -279,7 +251,7 @@ TEST_F(OpenTest, YesAndThenCancellingTheSaveStopsWithTheBox)
     EXPECT_EQ(t.lastBox().text, "untitled.b50 wasn't saved, so I won't continue to load up a new joystick file just in "
                                 "case you pressed the cancel button by accident.");
     EXPECT_EQ(joystickText(), "unsaved");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST_F(OpenTest, TheMacroQuestionHasItsOwnWords)
@@ -296,136 +268,6 @@ TEST_F(OpenTest, TheMacroQuestionHasItsOwnWords)
     EXPECT_TRUE(t.dialogues.openRequests.empty());
 }
 
-TEST_F(OpenTest, ColoursComeBackFromTheShadowAndNothingIsReformatted)
-{
-    addPair();
-    addShadow("mig.b50", "Rem mine\r\nBTN S1 Fire\r\n");
-    bool reformatted = false;
-    t.menus().mnuViewReformat.handler = [&] { reformatted = true; };
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-    EXPECT_EQ(t.editor().JoystickText.formatAt(0).colour, 0xFF0000);
-    EXPECT_EQ(t.editor().JoystickText.formatAt(1).colour, 0);
-    EXPECT_TRUE(reformatted) << "the macro file has no shadow";
-    reformatted = false;
-    t.menus().mnuFileNewMacro.Click();
-    addShadow("mig.m50", "Fire = f\r\n");
-    t.openBoth(mig);
-    EXPECT_FALSE(reformatted);
-    EXPECT_EQ(t.editor().TempRichTextBox.Text(), "");
-    EXPECT_FALSE(t.editor().TempRichTextBox.Visible);
-}
-
-TEST_F(OpenTest, LineEndsOfAnotherKindAreRemarkedBehindTheClosingText)
-{
-    t.settings().CheckIdentifyOK = 0;
-    t.files.addFile(mig, "one\ntwo\rthree\r\nfour\n");
-    t.files.addFile(migMacros, "Fire = f\r\nStop = s\r");
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "one\r\ntwo\r\nthree\r\nfour\r\n");
-    EXPECT_EQ(t.status(), "Done. mig.b50 had 3 line ends of another kind. mig.m50 had 1 line end of another kind.");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-    t.menus().mnuFileNewBoth.Click();
-    t.files.addFile(mig, "\n\r\n\r\r\n");
-    t.menus().mnuJoyPopUpSingleFile.Checked = true;
-    t.openBoth(mig);
-    EXPECT_EQ(t.status(), "Done. mig.b50 had 2 line ends of another kind.");
-}
-
-TEST_F(OpenTest, WindowsLineEndsAreNotRemarked)
-{
-    t.settings().CheckIdentifyOK = 0;
-    addPair();
-    t.openBoth(mig);
-    EXPECT_EQ(t.status(), "Done");
-}
-
-TEST_F(OpenTest, LineEndsOfAnotherKindInTheFileOfTheCommandLineAreRemarkedAtTheStart)
-{
-    TestProgram started(false);
-    started.files.addFile(mig, "one\ntwo\n");
-    started.files.addFile(migMacros, "");
-    started.setIni("Miscellaneous", "CheckIdentifyOK", "0");
-    started.platform.commandLine = mig;
-    started.start();
-    EXPECT_EQ(started.status(), "Ready! Welcome to Tarvex! mig.b50 had 2 line ends of another kind.");
-}
-
-TEST_F(OpenTest, AFileEditedElsewhereNoLongerEqualsItsShadowAndIsColouredAnew)
-{
-    addPair();
-    addShadow("mig.b50", "Rem older\r\n");
-    int coloured = 0;
-    t.program().operations.ApplyColourHighlighting = [&] { ++coloured; };
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-    EXPECT_EQ(t.editor().JoystickText.formatAt(0).colour, 0);
-    EXPECT_EQ(coloured, 1);
-}
-
-TEST_F(OpenTest, WithoutApplyColoursOnFileOpenNothingIsColoured)
-{
-    addPair();
-    int coloured = 0;
-    t.program().operations.ApplyColourHighlighting = [&] { ++coloured; };
-    t.settings().ApplyColoursOnFileOpen = 0;
-    t.openBoth(mig);
-    EXPECT_EQ(coloured, 0);
-}
-
-TEST_F(OpenTest, ADamagedShadowLosesToThePlainFile)
-{
-    addPair();
-    for (const std::string& damaged :
-         {std::string("{\\rtf1{\\fonttbl{{{{"), std::string("\0\xFF not rtf", 10), std::string()}) {
-        t.files.addFile("c:\\tarvex\\Rtf\\mig.b50", damaged);
-        t.openBoth(mig);
-        EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-        t.menus().mnuFileNewJoystick.Click();
-    }
-}
-
-TEST_F(OpenTest, AnUnreadableShadowLosesToThePlainFile)
-{
-    addPair();
-    addShadow("mig.b50", "Rem mine\r\nBTN S1 Fire\r\n");
-    t.files.failReads("c:\\tarvex\\Rtf\\mig.b50", RuntimeError(ErrorCode::PermissionDenied, "no"));
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-}
-
-TEST_F(OpenTest, SameNameInTwoFoldersSharesOneBackupAndOneShadowWhichFailsTheComparisonAndIsRebuilt)
-{
-    addPair();
-    t.openBoth(mig);
-    t.menus().mnuFileSave.Click();
-    ASSERT_TRUE(t.files.fileExists("c:\\tarvex\\Rtf\\mig.b50"));
-    t.files.addFile("c:\\other\\mig.b50", "another text");
-    t.files.addFile("c:\\other\\mig.m50", "");
-    t.openBoth("c:\\other\\mig.b50");
-    EXPECT_EQ(joystickText(), "another text");
-    t.menus().mnuFileSave.Click();
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\mig.b50"), "another text") << "the backup is shared too";
-    t.menus().mnuFileSave.Click();
-    EXPECT_EQ(readRtf(t.fileText("c:\\tarvex\\Rtf\\mig.b50"), t.editor().formats).text(),
-              "Rem mine\r\nBTN S1 Fire\r\n");
-}
-
-TEST_F(OpenTest, AFileThatVanishedBetweenDialogueAndOpenLeavesEverythingAsItWas)
-{
-    t.typeJoystick("mine");
-    t.editor().pair.JoystickChanged = changed::saved;
-    t.dialogues.filesToOpen = {"c:\\tm\\b50progs\\gone.b50"};
-    t.menus().mnuFileJoystickLoad.Click();
-    EXPECT_EQ(joystickText(), "mine");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
-    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
-    EXPECT_NE(t.lastBox().text.find("gone.b50"), std::string::npos);
-    EXPECT_EQ(t.program().shared.IsLoading, 0);
-}
-
 TEST_F(OpenTest, APartnerThatCantBeReadIsNotOpened)
 {
     addPair();
@@ -436,7 +278,7 @@ TEST_F(OpenTest, APartnerThatCantBeReadIsNotOpened)
     EXPECT_EQ(t.status(), "Macro file not opened");
     EXPECT_EQ(identified, 0);
     EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-    EXPECT_EQ(t.editor().pair.MacroFileName, "untitled.m50");
+    EXPECT_EQ(t.editor().macro.FileName, "untitled.m50");
 }
 
 TEST_F(OpenTest, ACancelledOpenBothPutsTheStatusBack)
@@ -450,73 +292,13 @@ TEST_F(OpenTest, ACancelledOpenBothPutsTheStatusBack)
     EXPECT_EQ(t.status(), before);
 }
 
-TEST_F(OpenTest, AStepThatFailsInAnOpenLeavesNoLoadingMark)
-{
-    addPair();
-    t.program().operations.NoteLatestJoystickFile = [](const std::string&) { throw std::runtime_error("odd"); };
-    t.menus().mnuViewReformat.handler = [] { throw std::runtime_error("odd"); };
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "Rem mine\r\nBTN S1 Fire\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
-    EXPECT_EQ(t.program().shared.IsLoading, 0);
-}
-
-TEST_F(OpenTest, AMacroFileThatCantBeReadKeepsTheMacroList)
-{
-    addPair();
-    t.files.failReads(migMacros, RuntimeError(ErrorCode::PermissionDenied, "no"));
-    bool cleared = false;
-    t.program().operations.ClearAllForNewMacroFile = [&] { cleared = true; };
-    t.dialogues.filesToOpen = {migMacros};
-    t.menus().MnuFileMacroLoad.Click();
-    EXPECT_FALSE(cleared);
-    EXPECT_EQ(macroText(), "");
-}
-
-TEST_F(OpenTest, EveryByteValueComesBackUnchangedFromOpenAndSave)
-{
-    std::string bytes;
-    for (int value = 0; value < 256; ++value) {
-        if (value != '\r' && value != '\n') bytes += static_cast<char>(value);
-    }
-    bytes += "\r\nline\r\n\r\n";
-    t.files.addFile(mig, bytes);
-    t.files.addFile(migMacros, bytes);
-    t.openBoth(mig);
-    t.menus().mnuFileSaveBoth.Click();
-    EXPECT_EQ(t.fileText(mig), bytes);
-    EXPECT_EQ(t.fileText(migMacros), bytes);
-}
-
-TEST_F(OpenTest, LoneLineEndsBecomePairs)
-{
-    t.files.addFile(mig, "a\nb\rc\r\nd");
-    t.files.addFile(migMacros, "");
-    t.openBoth(mig);
-    EXPECT_EQ(joystickText(), "a\r\nb\r\nc\r\nd");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-}
-
-TEST_F(OpenTest, AnEmptyAndATenMegabyteFileOpen)
-{
-    std::string big;
-    for (int line = 0; line < 400'000; ++line) big += "BTN S1 /P a /R b rem x\r\n";
-    t.files.addFile(mig, big);
-    t.files.addFile(migMacros, "");
-    t.openBoth(mig);
-    EXPECT_EQ(t.editor().JoystickText.TextLength(), big.size());
-    EXPECT_EQ(macroText(), "");
-    t.menus().mnuFileSave.Click();
-    EXPECT_EQ(t.fileText(mig), big);
-}
-
 TEST_F(OpenTest, WhatIsTypedAfterAnOpenIsAnEdit)
 {
     addPair();
     t.openBoth(mig);
     t.typeJoystick("x");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved);
 }
 
 TEST_F(OpenTest, IdentifiesTheMacrosUsedWhenTheSettingAsksForIt)
@@ -561,23 +343,6 @@ TEST_F(OpenTest, AProtectedMacroPaneStillTakesAnotherFile)
     t.menus().mnuPreferencesProtectMacroFile.Click();
     t.openBoth(mig);
     EXPECT_EQ(macroText(), "Fire = f\r\n");
-}
-
-TEST(OpenFile, OneOver64MegabytesIsRefusedAndNotRead)
-{
-    constexpr std::size_t most = std::size_t{64} << 20;
-    TestProgram t;
-    t.typeJoystick("BTN S1 a");
-    t.menus().mnuJoyPopUpSingleFile.Checked = true;
-    t.files.addFile("c:\\tm\\huge.b50", std::string(most + 1, 'x'));
-    t.files.failReads("c:\\tm\\huge.b50", RuntimeError(ErrorCode::DeviceInputOutput, "was read"));
-    t.dialogues.answers = {Answer::No};
-    t.openBoth("c:\\tm\\huge.b50");
-    ASSERT_FALSE(t.dialogues.boxes.empty());
-    EXPECT_EQ(t.lastBox().title, "Ooops!");
-    EXPECT_NE(t.lastBox().text.find("huge.b50 is larger than 64 MB"), std::string::npos) << t.lastBox().text;
-    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 a");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
 }
 
 } // namespace

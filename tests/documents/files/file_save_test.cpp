@@ -39,7 +39,7 @@ TEST_F(SaveTest, WritesThePlainTextTheBackupAndTheColouredShadow)
     EXPECT_EQ(written("c:\\tarvex\\Backup\\mig.b50"), "Rem me\r\nBTN S1 x\r\n");
     const RichText shadow = readRtf(written("c:\\tarvex\\Rtf\\mig.b50"), t.editor().formats);
     EXPECT_TRUE(shadow == t.editor().JoystickText.TextRTF());
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.status(), std::string(mig) + " saved successfully.");
     EXPECT_EQ(t.status(2), "");
     EXPECT_EQ(t.program().mum.StatusBar.Panels(2).ToolTipText.get(), "mig.b50 is saved");
@@ -112,7 +112,7 @@ TEST_F(SaveTest, AnUntitledDocumentGoesThroughSaveAsAndNotThroughTheReadOnlyTest
     t.menus().mnuFileSave.Click();
     EXPECT_TRUE(t.dialogues.boxes.empty());
     ASSERT_EQ(t.dialogues.saveRequests.size(), 1U);
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST_F(SaveTest, SaveAsTakesTheNewNameInLowerCase)
@@ -121,7 +121,7 @@ TEST_F(SaveTest, SaveAsTakesTheNewNameInLowerCase)
     t.dialogues.filesToSave = {"C:\\TM\\B50progs\\New.B50"};
     t.menus().mnuFileSaveAs.Click();
     EXPECT_EQ(written("c:\\tm\\b50progs\\new.b50"), "mine");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\b50progs\\new.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\b50progs\\new.b50");
     EXPECT_EQ(t.editor().TabStrip1.Tabs(1).Caption.get(), "new.b50");
     EXPECT_TRUE(t.files.fileExists("c:\\tarvex\\Rtf\\new.b50"));
     EXPECT_TRUE(t.files.fileExists("c:\\tarvex\\Backup\\untitled.b50")) << "the tab still showed the old name";
@@ -156,7 +156,7 @@ TEST_F(SaveTest, SaveAsStartsInTheDocumentsFolderWhileNoProgramsFolderIsSet)
 
 TEST_F(SaveTest, SaveAsSwapsTheOtherKindsExtensionInTheSuggestedName)
 {
-    t.editor().pair.JoystickFileName = "odd.m50";
+    t.editor().joystick.FileName = "odd.m50";
     t.dialogues.filesToSave = {std::nullopt};
     t.menus().mnuFileSaveAs.Click();
     EXPECT_EQ(t.dialogues.saveRequests[0].suggestedName, "odd.b50");
@@ -174,8 +174,8 @@ TEST_F(SaveTest, SaveAsOverAnExistingFileAsksAndNoSavesNothing)
     EXPECT_EQ(t.lastBox().icon, BoxIcon::Question);
     EXPECT_EQ(t.lastBox().buttons, BoxButtons::YesNo);
     EXPECT_EQ(written(mig), "precious");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST_F(SaveTest, SaveAsOverAnExistingFileWithYesReplacesIt)
@@ -204,7 +204,7 @@ TEST_F(SaveTest, AReadOnlyFileLeadsToSaveAs)
     EXPECT_EQ(written(mig), "BTN S1 x\r\n");
 }
 
-TEST_F(SaveTest, AFailedSaveTellsTheUserRunsSaveAsAndStaysModified)
+TEST_F(SaveTest, AFailedSaveShowsABoxRunsSaveAsAndStaysModified)
 {
     openPair();
     t.typeJoystick("x");
@@ -220,8 +220,8 @@ TEST_F(SaveTest, AFailedSaveTellsTheUserRunsSaveAsAndStaysModified)
         "Preferences. In the meantime, I'll take you to the File Save As routine to make sure that your file is "
         "correctly saved.");
     EXPECT_EQ(t.dialogues.saveRequests.size(), 1U);
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
+    EXPECT_EQ(t.editor().joystick.FilePath, mig);
     EXPECT_EQ(t.program().shared.errors.ErrorLastDllError, "28");
     EXPECT_EQ(written(mig), "BTN S1 x\r\n");
 }
@@ -233,8 +233,8 @@ TEST_F(SaveTest, AFailedSaveIsSavedByTheSaveAsThatFollows)
     t.files.failWrites(mig, RuntimeError(ErrorCode::DiskFull, "No space left on device"));
     t.dialogues.filesToSave = {"c:\\tm\\b50progs\\other.b50"};
     t.menus().mnuFileSave.Click();
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\b50progs\\other.b50");
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\b50progs\\other.b50");
     EXPECT_EQ(t.editor().TabStrip1.Tabs(1).Caption.get(), "other.b50");
     EXPECT_EQ(written("c:\\tm\\b50progs\\other.b50"), "xBTN S1 x\r\n");
 }
@@ -246,10 +246,10 @@ TEST_F(SaveTest, ASaveAsThatFailsKeepsTheNameTheDocumentHad)
     t.files.failWrites("c:\\full\\a.b50", RuntimeError(ErrorCode::DiskFull, "full"));
     t.dialogues.filesToSave = {"c:\\full\\a.b50", std::nullopt};
     t.menus().mnuFileSaveAs.Click();
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "mig.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, mig);
+    EXPECT_EQ(t.editor().joystick.FileName, "mig.b50");
     EXPECT_EQ(t.editor().TabStrip1.Tabs(1).Caption.get(), "mig.b50");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST_F(SaveTest, AFailedBackupIsNamedAndTheFileStaysSavedWhereItIs)
@@ -265,8 +265,8 @@ TEST_F(SaveTest, AFailedBackupIsNamedAndTheFileStaysSavedWhereItIs)
               "c:\\tarvex\\Backup\\mig.b50, and the error message generated by Windows was: No space left on device.");
     EXPECT_TRUE(t.dialogues.saveRequests.empty()) << "there is nothing to save under another name";
     EXPECT_EQ(written(mig), "xBTN S1 x\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, mig);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
+    EXPECT_EQ(t.editor().joystick.FilePath, mig);
 }
 
 TEST_F(SaveTest, AFailedShadowIsNoMatterForTheUser)
@@ -276,7 +276,7 @@ TEST_F(SaveTest, AFailedShadowIsNoMatterForTheUser)
     t.files.failWrites("c:\\tarvex\\Rtf\\mig.b50", RuntimeError(ErrorCode::DiskFull, "full"));
     t.menus().mnuFileSave.Click();
     EXPECT_TRUE(t.dialogues.boxes.empty());
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_SaveColouredTextJF");
 }
 
@@ -291,7 +291,7 @@ TEST_F(SaveTest, ADocumentInTheShadowsOwnFolderStaysPlainText)
     EXPECT_EQ(t.editor().JoystickText.Text(), "mine");
 }
 
-TEST_F(SaveTest, AFailedBackupIsToldInItsOwnWordsAlsoWhenTheShadowFailsToo)
+TEST_F(SaveTest, AFailedBackupIsReportedInItsOwnWordsAlsoWhenTheShadowFailsToo)
 {
     openPair();
     t.files.failWrites("c:\\tarvex\\Backup\\mig.b50", RuntimeError(ErrorCode::DiskFull, "the backup's words"));
@@ -310,7 +310,7 @@ TEST_F(SaveTest, AMacroFileSavedBySaveAsAfterAFailureIsAnalysedOnce)
     t.editor().TabStrip1.Select(2);
     t.menus().mnuFileSave.Click();
     EXPECT_EQ(updates, 1);
-    EXPECT_EQ(t.editor().pair.MacroFileName, "other.m50");
+    EXPECT_EQ(t.editor().macro.FileName, "other.m50");
     t.dialogues.filesToSave = {"c:\\tm\\b50progs\\third.m50"};
     t.menus().mnuFileSaveAs.Click();
     EXPECT_EQ(updates, 2);
@@ -347,8 +347,8 @@ TEST_F(SaveTest, UndoIsKeptByASaveUnlessUndoClearOnSaveAsksOtherwise)
     t.settings().UndoClearOnSave = 1;
     t.menus().mnuFileSave.Click();
     EXPECT_FALSE(t.menus().mnuEditUndo.Enabled);
-    EXPECT_EQ(t.editor().JoystickUndo.Levels.size(), 1U);
-    EXPECT_EQ(t.editor().JoystickUndo.Levels[0].Text.text(), "xBTN S1 x\r\n");
+    EXPECT_EQ(t.editor().joystick.Undo.Levels.size(), 1U);
+    EXPECT_EQ(t.editor().joystick.Undo.Levels[0].Text.text(), "xBTN S1 x\r\n");
 }
 
 TEST_F(SaveTest, ASavedPathEntersThePreviousFiles)
@@ -369,9 +369,9 @@ TEST_F(SaveTest, TheTimerSavesAfterItsMinutes)
     t.typeJoystick("x");
     t.editor().Timer1.Tick();
     t.editor().Timer1.Tick();
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
     t.editor().Timer1.Tick();
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.editor().AutoSaveMinutes, 0);
     EXPECT_EQ(written(mig), "xBTN S1 x\r\n");
     EXPECT_TRUE(t.files.fileExists("c:\\tarvex\\Backup\\mig.b50"));
@@ -412,7 +412,7 @@ TEST_F(SaveTest, AFailedAutomaticSaveStaysModifiedAndSaysSoWithoutABox)
     t.typeJoystick("x");
     t.files.failWrites(mig, RuntimeError(ErrorCode::DiskFull, "No space left on device"));
     AutoSaveFile(t.editor());
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
     EXPECT_NE(t.status().find("No space left on device"), std::string::npos);
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
@@ -423,7 +423,7 @@ TEST_F(SaveTest, AnAutomaticSaveWithoutItsBackupSaysSo)
     t.typeJoystick("x");
     t.files.failWrites("c:\\tarvex\\Backup\\mig.b50", RuntimeError(ErrorCode::DiskFull, "No space left on device"));
     AutoSaveFile(t.editor());
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.status(), "mig.b50 was saved, but its backup wasn't: No space left on device");
 }
 

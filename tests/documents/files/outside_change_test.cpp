@@ -80,7 +80,7 @@ TEST_F(OutsideChangeTest, AFileThatHoldsTheNewTextAlreadyIsSavedUnasked)
     t.typeJoystick("x");
     save();
     EXPECT_TRUE(t.dialogues.boxes.empty());
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
 }
 
 TEST_F(OutsideChangeTest, AFileThatCannotBeReadCountsAsChanged)
@@ -137,7 +137,7 @@ TEST_F(OutsideChangeTest, CancelLeavesTheFileAndTheModifiedDocument)
     t.dialogues.answers = {Answer::Cancel};
     save();
     EXPECT_EQ(t.fileText(mig), "theirs");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
     EXPECT_EQ(t.editor().JoystickText.Text(), "xBTN S1 x\r\n");
     EXPECT_FALSE(t.files.fileExists(keptMig));
     EXPECT_TRUE(t.dialogues.saveRequests.empty());
@@ -152,7 +152,7 @@ TEST_F(OutsideChangeTest, SaveAnywayKeepsTheOutsideVersionAndAsksNoMore)
     EXPECT_EQ(t.fileText(mig), "xBTN S1 x\r\n");
     EXPECT_EQ(t.fileText(keptMig), "theirs");
     EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\mig.b50"), "xBTN S1 x\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     t.typeJoystick("y");
     save();
     EXPECT_EQ(questions(), 1);
@@ -167,8 +167,8 @@ TEST_F(OutsideChangeTest, AnotherNameKeepsBoth)
     save();
     EXPECT_EQ(t.fileText(mig), "theirs");
     EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\mine.b50"), "xBTN S1 x\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "mine.b50");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.FileName, "mine.b50");
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_FALSE(t.files.fileExists(keptMig));
 }
 
@@ -220,7 +220,7 @@ TEST_F(OutsideChangeTest, AVersionThatCannotBeKeptIsNotOverwritten)
     EXPECT_EQ(t.fileText(mig), "theirs");
     EXPECT_EQ(t.lastBox().title, "Error generated when trying to save your file");
     EXPECT_NE(t.lastBox().text.find("No space left on device"), std::string::npos);
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST_F(OutsideChangeTest, ABackupDirectoryThatIsGoneIsMadeAgain)
@@ -255,7 +255,7 @@ TEST_F(OutsideChangeTest, SaveAsOntoTheDocumentsOwnChangedFileAsks)
     t.menus().mnuFileSaveAs.Click();
     EXPECT_EQ(questions(), 1);
     EXPECT_EQ(t.fileText(mig), "theirs");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
 }
 
 TEST_F(OutsideChangeTest, SaveAsOntoAnotherFileAsksOnlyItsOwnQuestion)
@@ -333,7 +333,7 @@ TEST_F(OutsideChangeTest, AnAutomaticSaveSkipsAChangedFileAndSaysSo)
     t.typeJoystick("x");
     AutoSaveFile(t.editor());
     EXPECT_EQ(t.fileText(mig), "theirs");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
     EXPECT_TRUE(t.dialogues.boxes.empty());
     EXPECT_EQ(t.status(), "mig.b50 was changed by another program since I opened it, so I haven't saved it "
                           "automatically. Save it yourself, and I'll ask you what to do.");

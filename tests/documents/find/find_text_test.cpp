@@ -19,8 +19,8 @@ TEST_F(Find_, FindsFirstThenNextAndSelectsEachMatch)
     find("BTN");
     expectSelected(joystick, 0, 3);
     EXPECT_EQ(window.Command1.Caption.get(), "Find next");
-    EXPECT_EQ(editor.pair.JoystickCaret, 3);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 3);
+    EXPECT_EQ(editor.joystick.Caret, 3);
+    EXPECT_EQ(editor.joystick.SelectionLength, 3);
     EXPECT_EQ(t.status(3), "Line no: 1");
     window.Command1.Click();
     expectSelected(joystick, 13, 3);
@@ -41,7 +41,7 @@ TEST_F(Find_, FindNextAfterTheLastMatchShowsTheMessageAndGoesBackToFindFirst)
     expectSelected(joystick, 0, 3);
 }
 
-TEST_F(Find_, ATextThatIsNowhereIsToldAndTheCaretGoesToTheTop)
+TEST_F(Find_, AMissingTextIsReportedAndTheCaretGoesToTheTop)
 {
     joystick.setSelStart(7);
     int focused = 0;
@@ -63,7 +63,7 @@ TEST_F(Find_, WithoutATextToFindSaysSo)
     EXPECT_TRUE(window.ComboTextFind.Items.get().empty());
 }
 
-TEST_F(Find_, AnEmptyPaneIsToldByTheCaptionOfItsTab)
+TEST_F(Find_, AnEmptyPaneIsReportedByTheCaptionOfItsTab)
 {
     joystick.setText("");
     find("x");
@@ -82,8 +82,8 @@ TEST_F(Find_, SearchesTheChosenFileAndBringsItToTheFront)
     find("fire");
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 2);
     expectSelected(macro, 0, 4);
-    EXPECT_EQ(editor.pair.MacroCaret, 4);
-    EXPECT_EQ(editor.pair.MacroSelectionLength, 4);
+    EXPECT_EQ(editor.macro.Caret, 4);
+    EXPECT_EQ(editor.macro.SelectionLength, 4);
     expectSelected(joystick, 0, 0);
 }
 
@@ -181,7 +181,7 @@ TEST_F(Find_, ALineThatFlashesComesToRestFirst)
     expectSelected(joystick, 7, 4);
 }
 
-TEST_F(Find_, ATextOf10000CharactersIsFoundAndToldInFull)
+TEST_F(Find_, ATextOf10000CharactersIsFoundAndNamedInFull)
 {
     const std::string text(10'000, 'x');
     joystick.setText("ab" + text + "c");
@@ -243,7 +243,7 @@ TEST_F(Find_, OpeningItAgainComesToTheFrontAndKeepsTheSearchGoing)
     EXPECT_EQ(window.Command1.Caption.get(), "Find next");
 }
 
-TEST_F(Find_, ClosingByEveryRoadUnloadsIt)
+TEST_F(Find_, ClosingInEveryWayUnloadsIt)
 {
     const std::vector<std::function<void()>> roads{
         [&] { window.form.Close(); },     [&] { window.Command2.Click(); },
@@ -287,7 +287,7 @@ TEST_F(Find_, ANewlyLoadedWindowHasTheOldTextsAndBeginsAtTheTop)
 
 TEST_F(Find_, ExitTakesTheWindowDown)
 {
-    editor.pair.JoystickChanged = editor.pair.MacroChanged = changed::saved;
+    editor.joystick.Changed = editor.macro.Changed = changed::saved;
     EXPECT_TRUE(t.program().exit());
     EXPECT_FALSE(window.form.Visible);
 }

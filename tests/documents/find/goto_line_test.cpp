@@ -32,8 +32,8 @@ TEST_F(GotoLine, SelectsTheWholeLineWithItsEnd)
 {
     go("2");
     expectSelected(joystick, 5, 9);
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 9);
+    EXPECT_EQ(editor.joystick.Caret, 5);
+    EXPECT_EQ(editor.joystick.SelectionLength, 9);
     EXPECT_EQ(t.status(3), "Line no: 2");
     go("3");
     expectSelected(joystick, 14, 2);
@@ -104,7 +104,7 @@ TEST_F(GotoLine, ALineOfMoreThan32767CharactersIsSelectedWholeAndRecordedIn16Bit
     joystick.setText(std::string(40'000, 'x'));
     go("1");
     expectSelected(joystick, 0, 40'000);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 40'000 - 65'536);
+    EXPECT_EQ(editor.joystick.SelectionLength, 40'000 - 65'536);
 }
 
 TEST_F(GotoLine, ComesUpWithTheNumberSelected)

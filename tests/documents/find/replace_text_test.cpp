@@ -12,7 +12,7 @@ struct Replace : FindFixture {
     {
         joystick.setText("ab ab ab");
         t.menus().mnuEditReplace.Click();
-        editor.pair.JoystickChanged = changed::saved;
+        editor.joystick.Changed = changed::saved;
     }
     void expectReplaced(const std::string& count, const std::string& file = "untitled.b50")
     {
@@ -35,16 +35,16 @@ TEST_F(Replace, IsOfferedOnlyAfterASuccessfulFind)
 TEST_F(Replace, ReplacesWhatTheLastFindSelectedAndTheNextSearchSkipsAsMuch)
 {
     joystick.setText("ab ab ab    ab");
-    editor.pair.JoystickChanged = changed::saved;
+    editor.joystick.Changed = changed::saved;
     findToReplace("ab");
     window.Command3.Click();
     window.ComboTextReplaceWith.Text = "xyz";
     window.Command5.Click();
     EXPECT_EQ(joystick.Text(), "ab xyz ab    ab");
-    EXPECT_EQ(editor.pair.JoystickCaret, 5 + 3) << "behind the match, and the replacement's length on top";
+    EXPECT_EQ(editor.joystick.Caret, 5 + 3) << "behind the match, and the replacement's length on top";
     EXPECT_FALSE(window.Command5.Enabled);
     EXPECT_FALSE(window.Command6.Enabled);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     EXPECT_EQ(window.ComboTextReplaceWith.Items.get(), std::vector<std::string>{"xyz"});
     window.Command3.Click();
     expectSelected(joystick, 13, 2);
@@ -56,7 +56,7 @@ TEST_F(Replace, AnEmptyReplacementDeletesAndLeavesCaretAndHistory)
     findToReplace("ab");
     window.Command5.Click();
     EXPECT_EQ(joystick.Text(), " ab ab");
-    EXPECT_EQ(editor.pair.JoystickCaret, 2);
+    EXPECT_EQ(editor.joystick.Caret, 2);
     EXPECT_TRUE(window.ComboTextReplaceWith.Items.get().empty());
 }
 
@@ -92,9 +92,9 @@ TEST_F(Replace, WritesIntoTheChosenFile)
     window.ComboTextReplaceWith.Text = "x";
     window.Command5.Click();
     EXPECT_EQ(macro.Text(), "x");
-    EXPECT_EQ(editor.pair.MacroChanged, changed::modified);
+    EXPECT_EQ(editor.macro.Changed, changed::modified);
     EXPECT_EQ(joystick.Text(), "ab ab ab");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
 }
 
 TEST_F(Replace, OfATextTypedByTheUserWritesTheCodePagesBytes)
@@ -109,7 +109,7 @@ struct ProtectedReplace : Replace {
     ProtectedReplace()
     {
         macro.setText("ab ab");
-        editor.pair.MacroChanged = changed::saved;
+        editor.macro.Changed = changed::saved;
         t.menus().mnuPreferencesProtectMacroFile.Click();
         window.OptionMacroR.Click();
         findToReplace("ab");
@@ -120,7 +120,7 @@ struct ProtectedReplace : Replace {
     {
         EXPECT_EQ(t.status(), "untitled.m50 is protected and can't be edited.");
         EXPECT_EQ(macro.Text(), "ab ab");
-        EXPECT_EQ(editor.pair.MacroChanged, changed::saved);
+        EXPECT_EQ(editor.macro.Changed, changed::saved);
         EXPECT_EQ(t.program().shared.IsLoading, 0);
         EXPECT_TRUE(t.dialogues.boxes.empty());
     }
@@ -146,7 +146,7 @@ TEST_F(Replace, AllReplacesEveryMatchAndCountsOneLess)
     EXPECT_EQ(joystick.Text(), "xyz xyz xyz");
     expectReplaced("2");
     expectSelected(joystick, 11, 0);
-    EXPECT_EQ(editor.pair.JoystickCaret, 11);
+    EXPECT_EQ(editor.joystick.Caret, 11);
     EXPECT_EQ(window.Command3.Caption.get(), "Find first");
     EXPECT_FALSE(window.Command5.Enabled);
     EXPECT_FALSE(window.Command6.Enabled);
@@ -170,9 +170,9 @@ TEST_F(Replace, AllForATextThatDoesntOccurInsertsTheReplacementOnceAndReportsZer
     replaceAll("nowhere", "xyz");
     EXPECT_EQ(joystick.Text(), "abxyz ab ab");
     expectReplaced("0");
-    EXPECT_EQ(editor.pair.JoystickCaret, 2) << "the replacement's length less one";
+    EXPECT_EQ(editor.joystick.Caret, 2) << "the replacement's length less one";
     expectSelected(joystick, 2, 0);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
 }
 
 TEST_F(Replace, AllForATextThatDoesntOccurOverwritesTheSelection)
@@ -191,21 +191,21 @@ TEST_F(Replace, AllForATextThatDoesntOccurByNothingPutsTheCaretBeforeTheTextWhic
     EXPECT_EQ(joystick.Text(), "ab ab ab");
     expectReplaced("0");
     EXPECT_EQ(failedIn(), "FIND Command6_Click");
-    EXPECT_EQ(editor.pair.JoystickCaret, -1);
+    EXPECT_EQ(editor.joystick.Caret, -1);
     expectSelected(joystick, 4, 0);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 
-TEST_F(Replace, AllOfNothingOrInNothingIsToldLikeASearch)
+TEST_F(Replace, AllOfNothingOrInNothingIsReportedLikeASearch)
 {
     replaceAll("", "x");
     expectBox("Please enter text to search", "You haven't specified the text to search for", BoxIcon::Exclamation);
     joystick.setText("");
-    editor.pair.JoystickChanged = changed::saved;
+    editor.joystick.Changed = changed::saved;
     replaceAll("ab", "x");
     expectBox("No text in joystick file", "untitled.b50 has no text to highlight.", BoxIcon::Exclamation);
     EXPECT_EQ(joystick.Text(), "");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
     macro.setText("");
     window.OptionMacroR.Click();
     window.Command6.Click();
@@ -215,11 +215,11 @@ TEST_F(Replace, AllOfNothingOrInNothingIsToldLikeASearch)
 TEST_F(Replace, AllIsOneUndoLevel)
 {
     t.typeJoystick("Z");
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     replaceAll("ab", "x");
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
-    EXPECT_EQ(editor.pair.JoystickTakeNewLevel, 1);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.TakeNewLevel, 1);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "Zab ab ab");
     t.menus().mnuEditRedo.Click();
@@ -229,14 +229,14 @@ TEST_F(Replace, AllIsOneUndoLevel)
 TEST_F(Replace, AllInTheMacroFileShowsItAndMarksIt)
 {
     macro.setText("ab");
-    editor.pair.MacroChanged = changed::saved;
+    editor.macro.Changed = changed::saved;
     window.OptionMacroR.Click();
     replaceAll("ab", "x");
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 2);
     EXPECT_EQ(macro.Text(), "x");
     expectReplaced("0", "untitled.m50");
-    EXPECT_EQ(editor.pair.MacroChanged, changed::modified);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.macro.Changed, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
 }
 
 TEST_F(Replace, AllObeysCaseAndWholeWords)
@@ -294,7 +294,7 @@ TEST_F(Replace, AllEndsAtAMatchThatComesToStandAtPosition65535)
     replaceAll("ab", "xyz");
     expectReplaced("0");
     EXPECT_EQ(joystick.Text(), "xyz" + blanks + "   ab ab");
-    EXPECT_EQ(editor.pair.JoystickCaret, 3);
+    EXPECT_EQ(editor.joystick.Caret, 3);
     expectSelected(joystick, 3, 0);
 }
 

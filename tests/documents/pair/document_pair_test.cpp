@@ -30,11 +30,11 @@ struct PairTest : testing::Test {
 
 TEST_F(PairTest, NewDocumentsHaveNoTextAndAreUntitled)
 {
-    EXPECT_EQ(editor.pair.JoystickFileName, "untitled.b50");
-    EXPECT_EQ(editor.pair.MacroFileName, "untitled.m50");
-    EXPECT_EQ(editor.pair.JoystickFilePath, "c:\\tm\\b50progs\\untitled.b50");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
-    EXPECT_EQ(editor.pair.MacroChanged, changed::noText);
+    EXPECT_EQ(editor.joystick.FileName, "untitled.b50");
+    EXPECT_EQ(editor.macro.FileName, "untitled.m50");
+    EXPECT_EQ(editor.joystick.FilePath, "c:\\tm\\b50progs\\untitled.b50");
+    EXPECT_EQ(editor.joystick.Changed, changed::noText);
+    EXPECT_EQ(editor.macro.Changed, changed::noText);
     EXPECT_EQ(savedPicture(), 1);
     EXPECT_EQ(savedTip(), "untitled.b50 has no text and isn't saved");
 }
@@ -42,8 +42,8 @@ TEST_F(PairTest, NewDocumentsHaveNoTextAndAreUntitled)
 TEST_F(PairTest, TypingMarksTheDocumentModified)
 {
     t.typeJoystick("x");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(editor.pair.MacroChanged, changed::noText);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
+    EXPECT_EQ(editor.macro.Changed, changed::noText);
     EXPECT_EQ(savedPicture(), 3);
     EXPECT_EQ(savedTip(), "untitled.b50 has been modified and isn't saved");
 }
@@ -53,7 +53,7 @@ TEST_F(PairTest, ANewDocumentTypedIntoAndEmptiedAgainStaysModified)
     t.typeJoystick("x");
     editor.JoystickText.userEdit(0, 1, "");
     EXPECT_EQ(editor.JoystickText.Text(), "");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
 }
 
 TEST_F(PairTest, TheSavedStateFollowsTheSelectedTab)
@@ -69,18 +69,18 @@ TEST_F(PairTest, ChangesWhileLoadingDontCount)
 {
     t.program().shared.IsLoading = 1;
     t.typeJoystick("x");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
+    EXPECT_EQ(editor.joystick.Changed, changed::noText);
 }
 
 TEST_F(PairTest, AChangeTakesAnUndoLevelAndOpensANewOneForTheNext)
 {
     t.typeJoystick("x");
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), 2U);
-    editor.pair.JoystickTakeNewLevel = 0;
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), 2U);
+    editor.joystick.TakeNewLevel = 0;
     t.typeJoystick("y");
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), 2U);
-    EXPECT_EQ(editor.JoystickUndo.Levels[0].Text.text(), "xy");
-    EXPECT_EQ(editor.pair.JoystickTakeNewLevel, 1);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), 2U);
+    EXPECT_EQ(editor.joystick.Undo.Levels[0].Text.text(), "xy");
+    EXPECT_EQ(editor.joystick.TakeNewLevel, 1);
 }
 
 TEST_F(PairTest, EmptyingAPaneBringsItsIndentBack)
@@ -122,9 +122,9 @@ TEST_F(PairTest, NewJoystickEmptiesNameStateAndCaret)
     editor.JoystickText.setSelStart(3);
     t.menus().mnuFileNewJoystick.Click();
     EXPECT_EQ(editor.JoystickText.Text(), "");
-    EXPECT_EQ(editor.pair.JoystickFileName, "untitled.b50");
+    EXPECT_EQ(editor.joystick.FileName, "untitled.b50");
     EXPECT_EQ(editor.TabStrip1.Tabs(1).Caption.get(), "untitled.b50");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
+    EXPECT_EQ(editor.joystick.Changed, changed::noText);
     EXPECT_EQ(t.status(), "New joystick file created");
     EXPECT_EQ(t.status(3), "Line no: 1");
     EXPECT_EQ(t.program().shared.IsLoading, 0);
@@ -328,7 +328,7 @@ TEST_F(PairTest, ATinyWindowLeavesTheMoveOut)
 TEST_F(PairTest, AClickIntoTheOtherTileSelectsItsTab)
 {
     t.menus().mnuViewTileVertically.Click();
-    MacroText_GotFocus(editor);
+    Text_GotFocus(editor, editor.macro);
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 2);
     EXPECT_EQ(t.status(), "Editing untitled.m50");
 }
@@ -336,11 +336,11 @@ TEST_F(PairTest, AClickIntoTheOtherTileSelectsItsTab)
 TEST_F(PairTest, GettingTheFocusShowsTheLineUnlessHelpIsAskedFor)
 {
     t.typeJoystick("a\r\nb\r\nc");
-    JoystickText_GotFocus(editor);
+    Text_GotFocus(editor, editor.joystick);
     EXPECT_EQ(t.status(3), "Line no: 3");
     t.program().mum.StatusBar.Panels(3).Text = "kept";
     t.program().mum.MousePointer = MousePointer::ArrowQuestion;
-    JoystickText_GotFocus(editor);
+    Text_GotFocus(editor, editor.joystick);
     EXPECT_EQ(t.status(3), "kept");
 }
 
@@ -420,10 +420,10 @@ TEST_F(PairTest, AnotherJoystickRenamesUntitledDocumentsAndLeavesNamedOnesAlone)
     t.openBoth("c:\\a\\x.m50");
     ComboJoystick_Click(t.program().shared, 4);
     HardwareHasChanged(editor);
-    EXPECT_EQ(editor.pair.JoystickFileName, "untitled.adv");
-    EXPECT_EQ(editor.pair.JoystickFilePath, "c:\\tm\\b50progs\\untitled.adv");
+    EXPECT_EQ(editor.joystick.FileName, "untitled.adv");
+    EXPECT_EQ(editor.joystick.FilePath, "c:\\tm\\b50progs\\untitled.adv");
     EXPECT_EQ(editor.TabStrip1.Tabs(1).Caption.get(), "untitled.adv");
-    EXPECT_EQ(editor.pair.MacroFileName, "x.m50");
+    EXPECT_EQ(editor.macro.FileName, "x.m50");
     EXPECT_EQ(t.program().shared.HardwareChangedMark, 0);
 }
 
@@ -518,7 +518,7 @@ TEST_F(PairTest, CutAndPasteMoveTextWithItsColours)
     t.menus().mnuEditPaste.Click();
     EXPECT_EQ(editor.MacroText.Text(), "Rem");
     EXPECT_EQ(editor.MacroText.formatAt(0).colour, 255);
-    EXPECT_EQ(editor.pair.MacroChanged, changed::modified);
+    EXPECT_EQ(editor.macro.Changed, changed::modified);
 }
 
 TEST_F(PairTest, PlainTextFromElsewhereIsPastedWithQuestionMarksForWhatTheCodePageLacks)
@@ -531,7 +531,7 @@ TEST_F(PairTest, PlainTextFromElsewhereIsPastedWithQuestionMarksForWhatTheCodePa
 TEST_F(PairTest, AnEmptyClipboardPastesNothing)
 {
     t.menus().mnuEditPaste.Click();
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
+    EXPECT_EQ(editor.joystick.Changed, changed::noText);
 }
 
 TEST_F(PairTest, AProtectedPaneTakesNoPasteCutOrDelete)

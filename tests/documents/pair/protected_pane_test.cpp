@@ -21,21 +21,21 @@ struct ProtectedPaneTest : testing::Test {
         macro.setText(text);
         editor.TabStrip1.Select(2);
         t.menus().mnuPreferencesProtectMacroFile.Click();
-        editor.pair.MacroChanged = changed::saved;
+        editor.macro.Changed = changed::saved;
         macro.setSelLength(14);
     }
     /// The command only reports that the pane is protected.
     template <typename Command> void expectRefused(Command command)
     {
-        const std::size_t levels = editor.MacroUndo.Levels.size();
+        const std::size_t levels = editor.macro.Undo.Levels.size();
         t.files.clearWrites();
         editor.status("");
         command();
         EXPECT_EQ(t.status(), "untitled.m50 is protected and can't be edited.");
         EXPECT_EQ(macro.Text(), text);
         EXPECT_EQ(macro.SelLength(), 14);
-        EXPECT_EQ(editor.pair.MacroChanged, changed::saved);
-        EXPECT_EQ(editor.MacroUndo.Levels.size(), levels);
+        EXPECT_EQ(editor.macro.Changed, changed::saved);
+        EXPECT_EQ(editor.macro.Undo.Levels.size(), levels);
         EXPECT_EQ(t.program().shared.IsLoading, 0);
         EXPECT_TRUE(t.files.writes().empty());
     }

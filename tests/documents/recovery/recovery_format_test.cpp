@@ -168,7 +168,7 @@ TEST(ReadJournal, AnEditOutsideTheTextIsNotMade)
     EXPECT_EQ(textOf(huge.bytes), "axyc");
 }
 
-TEST(ReadJournal, AnotherVersionIsToldFromDamage)
+TEST(ReadJournal, AnotherVersionIsNotDamage)
 {
     EXPECT_EQ(stateOf("Tarvex journal 2\x1A\nS"), JournalState::OtherVersion);
     EXPECT_EQ(stateOf("Tarvex journal 10\x1A\n"), JournalState::OtherVersion);

@@ -57,7 +57,7 @@ TEST(ReplaceEach, WithoutAMatchLeavesTextAndSelectionAlone)
     EXPECT_EQ(pane.SelLength(), 2);
 }
 
-TEST(ReplaceEach, EndsAtTheFirstMatchThatMayNotBeReplacedAndTellsItsPlaceByThen)
+TEST(ReplaceEach, EndsAtTheFirstMatchThatMayNotBeReplacedAndReturnsItsPositionThen)
 {
     Pane pane;
     pane.setText("a a a a");

@@ -353,7 +353,7 @@ TEST(PaneInsertionFormat, ReplacingTextTakesTheFormatOfTheFirstCharacterReplaced
     EXPECT_THAT(colours(pane), ElementsAre(0, red, red, red));
 }
 
-TEST(PaneFont, ChangesNoCharacterAndTellsOnce)
+TEST(PaneFont, ChangesNoCharacterAndNotifiesOnce)
 {
     Pane pane;
     pane.setText("abc");
@@ -411,7 +411,7 @@ TEST(PaneSelIndent, LineWithoutCharactersKeepsItForTheNextText)
 
 // ---- signals ----
 
-TEST(PaneSignals, EditTellsTextThenSelectionThenChange)
+TEST(PaneSignals, EditReportsTextThenSelectionThenChange)
 {
     Pane pane;
     pane.setText("abc");
@@ -421,7 +421,7 @@ TEST(PaneSignals, EditTellsTextThenSelectionThenChange)
     EXPECT_THAT(told.log, ElementsAre("edited 1 1 3", "selection", "Change"));
 }
 
-TEST(PaneSignals, ColourTellsOnlyWhatChangedButAlwaysRunsChange)
+TEST(PaneSignals, ColourReportsOnlyWhatChangedButAlwaysRunsChange)
 {
     Pane pane;
     pane.setText("abcdef");
@@ -435,7 +435,7 @@ TEST(PaneSignals, ColourTellsOnlyWhatChangedButAlwaysRunsChange)
     EXPECT_THAT(told.log, ElementsAre("Change"));
 }
 
-TEST(PaneSignals, ColourOfACaretTellsNothing)
+TEST(PaneSignals, ColourOfACaretReportsNothing)
 {
     Pane pane;
     pane.setText("abc");
@@ -453,7 +453,7 @@ TEST(PaneSignals, SameTextWrittenAgainRunsChangeAlone)
     EXPECT_THAT(told.log, ElementsAre("Change"));
 }
 
-TEST(PaneSignals, SnapshotPutBackTellsTheSmallestChange)
+TEST(PaneSignals, SnapshotPutBackReportsTheSmallestChange)
 {
     Pane pane;
     pane.setText("one two three");

@@ -2,6 +2,7 @@
 
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
+#include "documents/pair/noted_caret.h"
 #include "documents/pair/tabs.h"
 #include "documents/window/toolbar.h"
 #include "support/test_program.h"
@@ -33,7 +34,7 @@ TEST_F(ColourSelectorTest, ThePictureShowsTheColourAtTheCaret)
     editor.TabStrip1.Select(1);
     EXPECT_EQ(picture.get(), 255);
     pane().setSelStart(8);
-    JoystickText_GotFocus(editor);
+    Text_GotFocus(editor, editor.joystick);
     EXPECT_EQ(picture.get(), 0);
 }
 
@@ -62,7 +63,7 @@ TEST_F(ColourSelectorTest, AClickOnThePictureOpensTheColoursBelowIt)
 TEST_F(ColourSelectorTest, AColourByHandPaintsTheSelectionAndDoesntCountAsAnEdit)
 {
     t.typeJoystick("BTN S1 a");
-    editor.pair.JoystickChanged = changed::saved;
+    editor.joystick.Changed = changed::saved;
     UpdateSavedIcon(editor);
     t.settings().BTNColour = 0xFF0000;
     pane().setSelStart(0);
@@ -74,7 +75,7 @@ TEST_F(ColourSelectorTest, AColourByHandPaintsTheSelectionAndDoesntCountAsAnEdit
     EXPECT_EQ(pane().formatAt(0).colour, 0xFF0000);
     EXPECT_EQ(pane().formatAt(3).colour, 0);
     EXPECT_EQ(t.program().mum.Picture1.get(), 0xFF0000);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
     EXPECT_EQ(t.program().mum.StatusBar.Panels(2).Picture.get(), 2);
     EXPECT_EQ(focus, 1);
     EXPECT_FALSE(editor.ColourSelector.form.Visible);
@@ -83,13 +84,13 @@ TEST_F(ColourSelectorTest, AColourByHandPaintsTheSelectionAndDoesntCountAsAnEdit
 TEST_F(ColourSelectorTest, AColourByHandHasAnUndoLevelOfItsOwn)
 {
     t.pressKeys(pane(), "BTN");
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     pane().setSelStart(0);
     pane().setSelLength(3);
     t.settings().SlashColour = 255;
     Picture1_Click(editor);
     editor.ColourSelector.Command1[4].Click();
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
     mnuEditUndo_Click(editor);
     EXPECT_EQ(pane().Text(), "BTN");
     EXPECT_EQ(pane().formatAt(0).colour, 0);
@@ -100,15 +101,15 @@ TEST_F(ColourSelectorTest, AColourByHandHasAnUndoLevelOfItsOwn)
 TEST_F(ColourSelectorTest, WithoutASelectionTheColourIsForWhatIsTypedNext)
 {
     t.typeJoystick("BTN ");
-    editor.pair.JoystickChanged = changed::saved;
+    editor.joystick.Changed = changed::saved;
     t.settings().RAWColour = 0x8000;
     Picture1_Click(editor);
     editor.ColourSelector.Command1[3].Click();
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
     t.typeJoystick("S1");
     EXPECT_EQ(pane().formatAt(3).colour, 0);
     EXPECT_EQ(pane().formatAt(4).colour, 0x8000);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified) << "typing is an edit";
+    EXPECT_EQ(editor.joystick.Changed, changed::modified) << "typing is an edit";
 }
 
 TEST_F(ColourSelectorTest, AProtectedPaneKeepsItsColours)

@@ -21,19 +21,5 @@ TEST(PreferencesPage, EachCommandAsksForItsPage)
     }
 }
 
-TEST(PreferencesPage, WithoutPreferencesTheCommandsAreGrey)
-{
-    TestProgram t;
-    Menus& menus = t.menus();
-    const MenuItem* const items[] = {&menus.mnuViewEditColours, &menus.mnuAppsEdit, &menus.mnuFavsEdit,
-                                     &menus.mnuGamesEdit};
-    menus.mnuPreferencesEdit.handler = nullptr;
-    wirePreferencesPages(t.editor());
-    for (const MenuItem* item : items) EXPECT_FALSE(item->Enabled) << item->Name;
-    menus.mnuPreferencesEdit.handler = [] {};
-    wirePreferencesPages(t.editor());
-    for (const MenuItem* item : items) EXPECT_TRUE(item->Enabled) << item->Name;
-}
-
 } // namespace
 } // namespace tarvex

@@ -2,6 +2,7 @@
 
 #include "documents/editing/clipboard_commands.h"
 #include "documents/pair/document_status.h"
+#include "documents/pair/noted_caret.h"
 #include "documents/pair/tabs.h"
 #include "support/test_program.h"
 
@@ -156,7 +157,7 @@ TEST_F(ToolbarTest, Button2WithTab2SelectedAndOpenBothOffOpensAMacroFile)
     editor.TabStrip1.Select(2);
     t.dialogues.filesToOpen = {"c:\\tm\\b50progs\\lance.m50"};
     Toolbar1_ButtonClick(editor, 2);
-    EXPECT_EQ(editor.pair.MacroFileName, "lance.m50");
+    EXPECT_EQ(editor.macro.FileName, "lance.m50");
     EXPECT_EQ(editor.MacroText.Text(), "Fire = a");
 }
 
@@ -254,7 +255,7 @@ constexpr HoverText hoverTexts[] = {
     {48, welcome},
 };
 
-TEST_F(ToolbarTest, EachButtonTellsWhatItIsForWhenTheMouseIsOverIt)
+TEST_F(ToolbarTest, EachButtonSaysWhatItIsForWhenTheMouseIsOverIt)
 {
     layOut();
     t.settings().OpenBothOnToolbar = 0;
@@ -384,7 +385,7 @@ TEST_F(ToolbarTest, TheProgramStartsWithTipsAndWithoutTheExtraButtons)
 TEST_F(ToolbarTest, TheMacroListsHaveATipWhileTipsAreWanted)
 {
     t.typeMacro("Fire = a\r\n");
-    editor.pair.MacroChanged = changed::saved; // no question
+    editor.macro.Changed = changed::saved; // no question
     t.menus().mnuEditUpdateMacros.Click();
     const auto& lists = editor.FrameMacros.List1;
     ASSERT_GT(lists.size(), 0U);
@@ -427,7 +428,7 @@ TEST_F(ToolbarTest, CutAndCopyFollowTheSelectionAndPasteTheClipboard)
 {
     t.typeJoystick("BTN S1 a");
     const auto buttons = [&] { return CCP{bar.Buttons(7).Enabled, bar.Buttons(8).Enabled, bar.Buttons(9).Enabled}; };
-    JoystickText_GotFocus(editor);
+    Text_GotFocus(editor, editor.joystick);
     EXPECT_EQ(offered(t.menus()), (CCP{false, false, false}));
     EXPECT_EQ(buttons(), (CCP{false, false, false}));
     pane().setSelStart(0);
@@ -438,10 +439,10 @@ TEST_F(ToolbarTest, CutAndCopyFollowTheSelectionAndPasteTheClipboard)
     EXPECT_EQ(offered(t.menus()), (CCP{true, true, true})) << "at once, without a key or a click in the pane";
     EXPECT_EQ(buttons(), (CCP{true, true, true}));
     t.clipboard.content = {};
-    JoystickText_GotFocus(editor);
+    Text_GotFocus(editor, editor.joystick);
     EXPECT_EQ(offered(t.menus()), (CCP{true, true, false}));
     t.clipboard.content.rtf = "{\\rtf1 x}";
-    JoystickText_GotFocus(editor);
+    Text_GotFocus(editor, editor.joystick);
     EXPECT_TRUE(t.menus().mnuEditPaste.Enabled);
     Toolbar1_ButtonClick(editor, 7);
     EXPECT_EQ(offered(t.menus()), (CCP{false, false, true})) << "nothing is selected any more";

@@ -189,16 +189,16 @@ TEST_F(ColourTest, SlashesBeforeADefinitionAreACommentToTheColouring)
 
 // ---- the run --------------------------------------------------------------------------------------------------------
 
-TEST_F(ColourTest, EmptyTextIsOnlyTold)
+TEST_F(ColourTest, EmptyTextIsOnlyReported)
 {
     t.editor().TabStrip1.Select(2);
-    t.editor().pair.JoystickCaret = 7;
+    t.editor().joystick.Caret = 7;
     joystick().BackColor = 0x123456;
     t.files.clearWrites();
     t.menus().mnuViewColourJoystick.Click();
     EXPECT_EQ(t.status(), "untitled.b50 has no text to highlight.");
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2);
-    EXPECT_EQ(t.editor().pair.JoystickCaret, 7);
+    EXPECT_EQ(t.editor().joystick.Caret, 7);
     EXPECT_EQ(joystick().BackColor, 0x123456);
     EXPECT_FALSE(t.program().mum.ProgressBar1.Visible);
     EXPECT_TRUE(t.files.writes().empty());
@@ -297,11 +297,11 @@ TEST_F(ColourTest, WhetherTheFilesAreChangedStaysAsItWas)
 {
     for (const std::int16_t state : {changed::noText, changed::saved, changed::modified}) {
         joystick().setText("BTN S1 x");
-        t.editor().pair.JoystickChanged = state;
-        t.editor().pair.MacroChanged = state;
+        t.editor().joystick.Changed = state;
+        t.editor().macro.Changed = state;
         t.menus().mnuViewColourJoystick.Click();
-        EXPECT_EQ(t.editor().pair.JoystickChanged, state);
-        EXPECT_EQ(t.editor().pair.MacroChanged, state);
+        EXPECT_EQ(t.editor().joystick.Changed, state);
+        EXPECT_EQ(t.editor().macro.Changed, state);
         EXPECT_EQ(t.program().shared.IsLoading, 0);
     }
 }
@@ -310,13 +310,13 @@ TEST_F(ColourTest, BothCaretsComeBack)
 {
     t.typeJoystick("BTN S1 x\r\nRem y");
     t.typeMacro("A = a");
-    t.editor().pair.JoystickCaret = 4;
-    t.editor().pair.MacroCaret = 2;
+    t.editor().joystick.Caret = 4;
+    t.editor().macro.Caret = 2;
     t.menus().mnuViewColourJoystick.Click();
     EXPECT_EQ(joystick().SelStart(), 4);
     EXPECT_EQ(joystick().SelLength(), 0);
     EXPECT_EQ(macro().SelStart(), 2);
-    EXPECT_EQ(t.editor().pair.JoystickCaret, 4);
+    EXPECT_EQ(t.editor().joystick.Caret, 4);
 }
 
 TEST_F(ColourTest, ACaretOnBothSidesOf32767StaysInPaneAndRecord)
@@ -328,15 +328,15 @@ TEST_F(ColourTest, ACaretOnBothSidesOf32767StaysInPaneAndRecord)
     for (const int caret : {32767, 32768, 35000, 65536, 70000}) {
         for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuViewColourMacro,
                                   &t.menus().mnuRemoveColourJoystick, &t.menus().mnuRemoveColourMacro}) {
-            t.editor().pair.JoystickCaret = caret;
-            t.editor().pair.MacroCaret = caret - 1;
+            t.editor().joystick.Caret = caret;
+            t.editor().macro.Caret = caret - 1;
             joystick().setSelStart(caret);
             macro().setSelStart(caret - 1);
             command->Click();
             EXPECT_EQ(joystick().SelStart(), caret) << command->Name;
-            EXPECT_EQ(t.editor().pair.JoystickCaret, caret) << command->Name;
+            EXPECT_EQ(t.editor().joystick.Caret, caret) << command->Name;
             EXPECT_EQ(macro().SelStart(), caret - 1) << command->Name;
-            EXPECT_EQ(t.editor().pair.MacroCaret, caret - 1) << command->Name;
+            EXPECT_EQ(t.editor().macro.Caret, caret - 1) << command->Name;
         }
     }
 }
@@ -345,10 +345,10 @@ TEST_F(ColourTest, ARecordedCaretBeyondTheTextComesBackAsThePanesOwn)
 {
     joystick().setText("BTN S1 x");
     for (MenuItem* command : {&t.menus().mnuViewColourJoystick, &t.menus().mnuRemoveColourJoystick}) {
-        t.editor().pair.JoystickCaret = 20;
+        t.editor().joystick.Caret = 20;
         command->Click();
         EXPECT_EQ(joystick().SelStart(), 8);
-        EXPECT_EQ(t.editor().pair.JoystickCaret, 8);
+        EXPECT_EQ(t.editor().joystick.Caret, 8);
     }
 }
 
@@ -357,12 +357,12 @@ TEST_F(ColourTest, TheColouredTextGoesToTheUndoLevelThatIsShowing)
     t.typeJoystick("BTN S1 x");
     t.pressKeys(joystick(), " y");
     t.menus().mnuEditUndo.Click();
-    const std::size_t levels = t.editor().JoystickUndo.Levels.size();
-    ASSERT_EQ(t.editor().JoystickUndo.Position, 2U);
+    const std::size_t levels = t.editor().joystick.Undo.Levels.size();
+    ASSERT_EQ(t.editor().joystick.Undo.Position, 2U);
     t.menus().mnuViewColourJoystick.Click();
-    EXPECT_EQ(t.editor().JoystickUndo.Levels.size(), levels);
-    EXPECT_EQ(t.editor().JoystickUndo.Levels[1].Text, joystick().TextRTF());
-    EXPECT_NE(t.editor().JoystickUndo.Levels[0].Text, joystick().TextRTF());
+    EXPECT_EQ(t.editor().joystick.Undo.Levels.size(), levels);
+    EXPECT_EQ(t.editor().joystick.Undo.Levels[1].Text, joystick().TextRTF());
+    EXPECT_NE(t.editor().joystick.Undo.Levels[0].Text, joystick().TextRTF());
 }
 
 TEST_F(ColourTest, TheColouredTextIsSavedAsTheShadow)
@@ -410,8 +410,8 @@ TEST_F(ColourTest, AFileIsColouredWhenItIsOpened)
     t.openBoth("c:\\tm\\b50progs\\mig.b50");
     EXPECT_EQ(coloursOf(joystick(), t.settings()), "BBBBBB....");
     EXPECT_EQ(coloursOf(macro(), t.settings()), "....SS....");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved);
 }
 
 TEST_F(ColourTest, ThePopUpMenuColoursTheFileOfTheSelectedTab)
@@ -431,22 +431,22 @@ struct RemoveColourTest : ColourTest {
     {
         joystickColours("BTN S1 x");
         macroColours("A = /P a");
-        t.editor().pair.JoystickChanged = changed::saved;
-        t.editor().pair.MacroChanged = changed::saved;
+        t.editor().joystick.Changed = changed::saved;
+        t.editor().macro.Changed = changed::saved;
     }
     std::string now(const Pane& pane) { return coloursOf(pane, t.settings()); }
 };
 
 TEST_F(RemoveColourTest, FromTheJoystickFileMakesAllOfItBlackAndKeepsTheCaret)
 {
-    t.editor().pair.JoystickCaret = 3;
+    t.editor().joystick.Caret = 3;
     Watched status(t.program().mum.StatusBar.Panels(panel::progress).Text);
     t.menus().mnuRemoveColourJoystick.Click();
     EXPECT_EQ(now(joystick()), "........");
     EXPECT_EQ(now(macro()), "....SS..");
     EXPECT_EQ(joystick().SelStart(), 3);
     EXPECT_EQ(joystick().SelLength(), 0);
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
     EXPECT_EQ(status.seen,
               (std::vector<std::string>{"Removing colour highlighting from untitled.b50. Please wait ...", "Done"}));
@@ -454,12 +454,12 @@ TEST_F(RemoveColourTest, FromTheJoystickFileMakesAllOfItBlackAndKeepsTheCaret)
 
 TEST_F(RemoveColourTest, FromTheMacroFile)
 {
-    t.editor().pair.MacroCaret = 5;
+    t.editor().macro.Caret = 5;
     t.menus().mnuRemoveColourMacro.Click();
     EXPECT_EQ(now(joystick()), "BBBBBB..");
     EXPECT_EQ(now(macro()), "........");
     EXPECT_EQ(macro().SelStart(), 5);
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved);
 }
 
 TEST_F(RemoveColourTest, FromTheSelectionOfTheSelectedTab)
@@ -472,12 +472,12 @@ TEST_F(RemoveColourTest, FromTheSelectionOfTheSelectedTab)
     t.menus().mnuRemoveColourSelectedText.Click();
     EXPECT_EQ(now(joystick()), "BB..BB..");
     EXPECT_EQ(now(macro()), "....SS..");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::saved);
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
     EXPECT_EQ(t.status(), "Done");
     t.editor().TabStrip1.Select(2);
     t.menus().mnuRemoveColourSelectedText.Click();
     EXPECT_EQ(now(macro()), ".....S..");
-    EXPECT_EQ(t.editor().pair.MacroChanged, changed::saved);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 

@@ -43,7 +43,7 @@ TEST_F(InsertionTest, InsertColouredStringWritesTheSchemesFontAndLeavesThePanePl
     EXPECT_TRUE(format.bold);
     EXPECT_EQ(format.indent, 20);
     EXPECT_EQ(joystick.SelStart(), 6);
-    EXPECT_EQ(editor.pair.JoystickCaret, 6);
+    EXPECT_EQ(editor.joystick.Caret, 6);
     EXPECT_EQ(focused, 1);
     t.typeJoystick("x");
     EXPECT_EQ(joystick.formatAt(6).colour, 0);
@@ -69,7 +69,7 @@ TEST_F(InsertionTest, ARemIntoTheMacroPaneIsBlackByInsertColouredStringAndColour
     EXPECT_EQ(macro.Text(), "Rem aRem b");
     EXPECT_EQ(macro.formatAt(0).colour, 0);
     EXPECT_EQ(macro.formatAt(5).colour, red);
-    EXPECT_EQ(editor.pair.MacroCaret, 10);
+    EXPECT_EQ(editor.macro.Caret, 10);
     EXPECT_EQ(joystick.Text(), "");
 }
 
@@ -116,7 +116,7 @@ TEST_F(InsertionTest, InsertBlackBlanksWritesFiveInColour0)
     InsertBlackBlanks(editor);
     EXPECT_EQ(joystick.Text(), "R     ");
     EXPECT_EQ(joystick.formatAt(1).colour, 0);
-    EXPECT_EQ(editor.pair.JoystickCaret, 6);
+    EXPECT_EQ(editor.joystick.Caret, 6);
     EXPECT_EQ(t.program().mum.Picture1.get(), 77);
 }
 
@@ -127,7 +127,7 @@ TEST_F(InsertionTest, InsertCarriageReturnWritesOneLineEndAndLeavesASelectionAlo
     InsertCarriageReturn(editor);
     EXPECT_EQ(joystick.Text(), "a\r\nbcd");
     EXPECT_EQ(joystick.SelStart(), 3);
-    EXPECT_EQ(editor.pair.JoystickCaret, 3);
+    EXPECT_EQ(editor.joystick.Caret, 3);
 }
 
 // ---- one edit -------------------------------------------------------------------------------------------------------
@@ -135,7 +135,7 @@ TEST_F(InsertionTest, InsertCarriageReturnWritesOneLineEndAndLeavesASelectionAlo
 TEST_F(InsertionTest, AWholeInsertionIsOneEditAndOneUndoStep)
 {
     typeAt("ab\r\n", 4);
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     BeginColInsert(editor);
     EXPECT_EQ(t.program().shared.IsLoading, 1);
     InsertColouredString(editor, "BTN ", red);
@@ -143,8 +143,8 @@ TEST_F(InsertionTest, AWholeInsertionIsOneEditAndOneUndoStep)
     InsertCarriageReturn(editor);
     EndColInsert(editor);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     EXPECT_EQ(joystick.Text(), "ab\r\nBTN      \r\n");
     EXPECT_TRUE(t.menus().mnuEditUndo.Enabled);
     t.menus().mnuEditUndo.Click();
@@ -186,8 +186,8 @@ TEST_F(InsertionTest, TheMacroPaneHasItsOwnUndoStep)
     BeginColInsert(editor);
     InsertColouredStringNoSpace(editor, "b", red);
     EndColInsert(editor);
-    EXPECT_EQ(editor.pair.MacroChanged, changed::modified);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::noText);
+    EXPECT_EQ(editor.macro.Changed, changed::modified);
+    EXPECT_EQ(editor.joystick.Changed, changed::noText);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(macro.Text(), "A = a");
 }
@@ -224,7 +224,7 @@ TEST_F(InsertionTest, CheckAtLineBeginningOpensALineBehindTheCaretsLineAlsoFromI
         CheckAtLineBeginning(editor);
         EXPECT_EQ(joystick.Text(), "abc\r\n\r\nd") << caret;
         EXPECT_EQ(joystick.SelStart(), 5);
-        EXPECT_EQ(editor.pair.JoystickCaret, 5);
+        EXPECT_EQ(editor.joystick.Caret, 5);
         EXPECT_EQ(t.status(3), "Line no: 2");
     }
 }

@@ -159,7 +159,7 @@ TEST_F(IdentifyTest, TheUsersPaneKeepsItsSelection)
     EXPECT_EQ(editor.JoystickText.SelLength(), 2);
 }
 
-TEST_F(IdentifyTest, AListIsToldOfItsTicksOnce)
+TEST_F(IdentifyTest, AListIsNotifiedOfItsTicksOnce)
 {
     list({"A", "B", "C"});
     t.typeJoystick("e A B C \r\n");
@@ -211,7 +211,7 @@ TEST_F(IdentifyTest, AnEmptyMacroFileGetsTheJokeToo)
 
 TEST_F(IdentifyTest, TicksAreNotSavedButMadeAgainOnRequest)
 {
-    editor.pair.MacroChanged = changed::saved;
+    editor.macro.Changed = changed::saved;
     t.files.addFile("c:\\a\\x.b50", "BTN S1 Fire\r\n");
     t.files.addFile("c:\\a\\x.m50", "Fire = f\r\n");
     t.openBoth("c:\\a\\x.b50");
@@ -245,8 +245,8 @@ TEST_F(FindMacroTest, SelectsTheNameWithoutTheBlankBehindIt)
     find("BTN S1 fire2 fire /R", "Fire");
     EXPECT_EQ(pane.SelStart(), 13);
     EXPECT_EQ(pane.SelText(), "fire");
-    EXPECT_EQ(editor.pair.JoystickCaret, 13);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 4);
+    EXPECT_EQ(editor.joystick.Caret, 13);
+    EXPECT_EQ(editor.joystick.SelectionLength, 4);
     EXPECT_EQ(editor.TabStrip1.SelectedItem, 1);
 }
 
@@ -254,7 +254,7 @@ TEST_F(FindMacroTest, SelectsTheCarriageReturnToo)
 {
     find("BTN S1 Fire\r\n", "Fire");
     EXPECT_EQ(pane.SelText(), "Fire\r");
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 5);
+    EXPECT_EQ(editor.joystick.SelectionLength, 5);
 }
 
 TEST_F(FindMacroTest, AUseBeforeABlankComesBeforeAnEarlierOneBeforeALineEnd)
@@ -265,11 +265,11 @@ TEST_F(FindMacroTest, AUseBeforeABlankComesBeforeAnEarlierOneBeforeALineEnd)
 
 TEST_F(FindMacroTest, WithoutAUseNothingMoves)
 {
-    editor.pair.JoystickCaret = 3;
+    editor.joystick.Caret = 3;
     find("Fire, Fire2 Fire", "Fire");
     EXPECT_EQ(pane.SelStart(), 1);
     EXPECT_EQ(pane.SelLength(), 0);
-    EXPECT_EQ(editor.pair.JoystickCaret, 3);
+    EXPECT_EQ(editor.joystick.Caret, 3);
 }
 
 // ---- ExtractButtonDefinition ----------------------------------------------------------------------------------------
@@ -289,8 +289,8 @@ struct StatementTest : testing::Test {
 TEST_F(StatementTest, EndsBeforeTheNextStatementWithoutTheLineEnds)
 {
     EXPECT_EQ(statement("BTN S1 /P a\r\n   /R b\r\n\r\nBTN S2 c", "BTN S1"), "BTN S1 /P a\r\n   /R b");
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 20);
-    EXPECT_EQ(editor.pair.JoystickCaret, 0);
+    EXPECT_EQ(editor.joystick.SelectionLength, 20);
+    EXPECT_EQ(editor.joystick.Caret, 0);
 }
 
 TEST_F(StatementTest, EachStatementWordEndsIt)
@@ -321,17 +321,17 @@ TEST_F(StatementTest, AHeadWithNothingBehindItIsTheWholeStatement)
 TEST_F(StatementTest, WithoutTheHeadTheCaretGoesBack)
 {
     pane.setText("BTN S10 x");
-    editor.pair.JoystickCaret = 5;
+    editor.joystick.Caret = 5;
     EXPECT_FALSE(ExtractButtonDefinition(editor, "BTN S1"));
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.joystick.Caret, 5);
     EXPECT_EQ(pane.SelStart(), 5);
 }
 
 TEST_F(StatementTest, AnEmptyPaneHasNone)
 {
-    editor.pair.JoystickCaret = 5;
+    editor.joystick.Caret = 5;
     EXPECT_EQ(statement("", "BTN S1"), "(none)");
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.joystick.Caret, 5);
 }
 
 TEST_F(StatementTest, PortBTakesTheFourCharactersBeforeItAndAsMuchLessAtItsEnd)

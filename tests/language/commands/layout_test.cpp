@@ -41,7 +41,7 @@ TEST_F(LayoutTest, ReformatTakesColoursAndFontsFromTheWholeText)
 {
     t.typeJoystick("BTN S1 x\r\nUSE TQS");
     paint(joystick, 2, 9);
-    editor.pair.JoystickCaret = 4;
+    editor.joystick.Caret = 4;
     t.menus().mnuViewReformat.Click();
     EXPECT_EQ(joystick.Text(), "BTN S1 x\r\nUSE TQS");
     ASSERT_EQ(joystick.runs().size(), 1U);
@@ -62,10 +62,10 @@ TEST_F(LayoutTest, ReformatLeavesTheChangedFlagAsItWas)
     for (const std::int16_t state : {changed::noText, changed::saved, changed::modified}) {
         joystick.setText("x");
         paint(joystick, 0, 1);
-        editor.pair.JoystickChanged = state;
+        editor.joystick.Changed = state;
         t.menus().mnuViewReformat.Click();
         EXPECT_EQ(joystick.formatAt(0).colour, 0);
-        EXPECT_EQ(editor.pair.JoystickChanged, state);
+        EXPECT_EQ(editor.joystick.Changed, state);
     }
 }
 
@@ -73,16 +73,16 @@ TEST_F(LayoutTest, ReformatPutsTheNewStateIntoTheNewestUndoLevel)
 {
     t.typeJoystick("abc");
     paint(joystick, 0, 3);
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     t.menus().mnuViewReformat.Click();
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels);
-    EXPECT_TRUE(editor.JoystickUndo.Levels[0].Text == joystick.TextRTF());
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels);
+    EXPECT_TRUE(editor.joystick.Undo.Levels[0].Text == joystick.TextRTF());
 }
 
 TEST_F(LayoutTest, ReformatWithARecordedCaretBelow0PutsTheCaretTo0AndGoesOn)
 {
     t.typeJoystick("BTN S1");
-    editor.pair.JoystickCaret = -1;
+    editor.joystick.Caret = -1;
     t.menus().mnuViewReformat.Click();
     EXPECT_EQ(joystick.SelStart(), 0);
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_mnuViewReformat_Click");
@@ -103,7 +103,7 @@ TEST_F(LayoutTest, ReformatActsOnTheSelectedTabOnly)
     EXPECT_EQ(macro.formatAt(0).colour, 0);
 }
 
-TEST_F(LayoutTest, ReformatTellsThatItIsAtWork)
+TEST_F(LayoutTest, ReformatShowsThatItIsAtWork)
 {
     t.typeJoystick("j");
     std::vector<std::string> lines;
@@ -134,14 +134,14 @@ TEST_F(LayoutTest, AlignSlashesRewritesThePaneAsOneEditInThePlainFormat)
     t.settings().ApplyColoursOnFileOpen = 0;
     t.typeJoystick("BTN T2   /I Chaff\r\n/O Flare");
     paint(joystick, 0, 5);
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
-    editor.pair.JoystickChanged = changed::saved;
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
+    editor.joystick.Changed = changed::saved;
     t.menus().mnuViewAlignSlashes.Click();
     EXPECT_EQ(joystick.Text(), "BTN T2 /I Chaff\r\n       /O Flare\r\n");
     EXPECT_EQ(joystick.runs().size(), 1U);
     EXPECT_EQ(joystick.formatAt(0).colour, 0);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
     EXPECT_EQ(t.status(), " OK - done!");
     EXPECT_FALSE(t.files.fileExists("c:\\TXalign.txt"));
     EXPECT_FALSE(t.files.fileExists("c:\\TXalign2.txt"));
@@ -233,8 +233,8 @@ TEST_F(LayoutTest, REMblockCommentsOutTheCaretsLine)
     EXPECT_EQ(joystick.Text(), "one\r\nRem two\r\nthree");
     EXPECT_EQ(joystick.formatAt(5).colour, t.settings().RemStatements);
     EXPECT_EQ(joystick.SelStart(), 11);
-    EXPECT_EQ(editor.pair.JoystickCaret, 11);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 0);
+    EXPECT_EQ(editor.joystick.Caret, 11);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
     t.settings().HighlightLineOnUndo = 0;
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "one\r\ntwo\r\nthree");
@@ -271,7 +271,7 @@ TEST_F(LayoutTest, REMunblockTakesTheCommentWordBackAndLeavesOtherLines)
     t.menus().mnuEditREMunblock.Click();
     EXPECT_EQ(joystick.Text(), "one\r\ntwo Rem\r\n Rem three\r\n\r\nfour");
     EXPECT_EQ(joystick.SelStart(), 0);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 0);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
     EXPECT_EQ(t.status(3), "Line no: 1");
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "REM one\r\ntwo Rem\r\n Rem three\r\nrem\r\nRem four");
@@ -360,17 +360,17 @@ TEST_F(LayoutTest, REMunblockTakesTheCommentWordBeforeWhatIsNoWordCharacter)
 TEST_F(LayoutTest, REMunblockOverLinesWithoutACommentChangesNothing)
 {
     joystick.setText("one\r\nRemark\r\n");
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
-    editor.pair.JoystickChanged = changed::saved;
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
+    editor.joystick.Changed = changed::saved;
     select(5, 6);
     t.menus().mnuEditREMunblock.Click();
     EXPECT_EQ(joystick.Text(), "one\r\nRemark\r\n");
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::saved);
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels);
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels);
     EXPECT_EQ(t.program().shared.IsLoading, 0);
     EXPECT_EQ(joystick.SelStart(), 5);
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
-    EXPECT_EQ(editor.pair.JoystickSelectionLength, 0);
+    EXPECT_EQ(editor.joystick.Caret, 5);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
     EXPECT_EQ(t.status(3), "Line no: 2");
 }
 
@@ -378,11 +378,11 @@ TEST_F(LayoutTest, AfterREMunblockTheRecordedCaretIsThePanesEvenWhereTheTextHasB
 {
     joystick.setText("Rem ");
     select(4, 0);
-    editor.pair.JoystickCaret = 1;
+    editor.joystick.Caret = 1;
     t.menus().mnuEditREMunblock.Click();
     EXPECT_EQ(joystick.Text(), "");
     EXPECT_EQ(joystick.SelStart(), 0);
-    EXPECT_EQ(editor.pair.JoystickCaret, 0);
+    EXPECT_EQ(editor.joystick.Caret, 0);
 }
 
 TEST_F(LayoutTest, REMblockOfOneLineOpensAnUndoLevelThoughAKeyChangedNothing)

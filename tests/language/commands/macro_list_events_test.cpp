@@ -39,7 +39,7 @@ struct ListEventsTest : testing::Test {
     {
         joystick.setText(text);
         joystick.setSelStart(caret);
-        editor.pair.JoystickCaret = caret;
+        editor.joystick.Caret = caret;
     }
 };
 
@@ -111,8 +111,8 @@ TEST_F(ListEventsTest, TheDefinitionIsSelectedWhereTheMacroPaneIsSeen)
     pick(0, 1);
     List1_KeyDown(editor, 0, shiftKey::none);
     EXPECT_EQ(editor.MacroText.SelText(), "Stop = s");
-    EXPECT_EQ(editor.pair.MacroSelectionLength, 8);
-    EXPECT_EQ(editor.pair.MacroCaret, editor.MacroText.SelStart());
+    EXPECT_EQ(editor.macro.SelectionLength, 8);
+    EXPECT_EQ(editor.macro.Caret, editor.MacroText.SelStart());
 
     editor.TabStrip1.Select(1);
     editor.MacroText.setSelStart(0);
@@ -238,7 +238,7 @@ TEST_F(ListEventsTest, DoubleClickAtTheStartOfTheTextAddsNoBlankInFront)
     doubleClickFire();
     EXPECT_EQ(joystick.Text(), "Fire abc");
     EXPECT_EQ(joystick.SelStart(), 5);
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.joystick.Caret, 5);
 }
 
 TEST_F(ListEventsTest, DoubleClickBehindABlankAddsNoBlankInFront)
@@ -255,7 +255,7 @@ TEST_F(ListEventsTest, DoubleClickBehindAWordAddsABlankAndStopsBeforeTheTrailing
     doubleClickFire();
     EXPECT_EQ(joystick.Text(), "ab Fire ");
     EXPECT_EQ(joystick.SelStart(), 7);
-    EXPECT_EQ(editor.pair.JoystickCaret, 7);
+    EXPECT_EQ(editor.joystick.Caret, 7);
 }
 
 TEST_F(ListEventsTest, AfterColouringOrRemovingColourDoubleClickWritesAtACaretBeyond32767)
@@ -266,7 +266,7 @@ TEST_F(ListEventsTest, AfterColouringOrRemovingColourDoubleClickWritesAtACaretBe
         doubleClickFire();
         EXPECT_EQ(joystick.Text().find("Fire "), 35000U);
         EXPECT_EQ(joystick.SelStart(), 35005);
-        EXPECT_EQ(editor.pair.JoystickCaret, 35005);
+        EXPECT_EQ(editor.joystick.Caret, 35005);
     }
 }
 
@@ -278,11 +278,11 @@ TEST_F(ListEventsTest, AfterAReplaceAllThatFoundNothingDoubleClickStillWritesAnd
     t.menus().mnuEditReplace.Click();
     window.ComboTextReplaceFind.Text = "absent";
     window.Command6.Click();
-    ASSERT_EQ(editor.pair.JoystickCaret, -1);
+    ASSERT_EQ(editor.joystick.Caret, -1);
     ASSERT_EQ(joystick.SelStart(), 3);
     doubleClickFire();
     EXPECT_EQ(joystick.Text(), "oneFire two") << "the one character that was read was a blank";
-    EXPECT_EQ(editor.pair.JoystickCaret, 4);
+    EXPECT_EQ(editor.joystick.Caret, 4);
     EXPECT_EQ(joystick.SelStart(), 4);
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_List1_DblClick");
 }
@@ -294,21 +294,21 @@ TEST_F(ListEventsTest, DoubleClickReplacesASelection)
     doubleClickFire();
     EXPECT_EQ(joystick.Text(), "one Fire  three");
     EXPECT_EQ(joystick.SelStart(), 9);
-    EXPECT_EQ(editor.pair.JoystickCaret, 9);
+    EXPECT_EQ(editor.joystick.Caret, 9);
 }
 
-TEST_F(ListEventsTest, DoubleClickWritesInColour0AsOneEditOfTheUsers)
+TEST_F(ListEventsTest, DoubleClickWritesInColour0AsOneUserEdit)
 {
     caretAt("ab ", 0);
     joystick.setSelLength(3);
     joystick.setSelColor(255);
     caretAt("ab ", 3);
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     doubleClickFire();
     EXPECT_EQ(joystick.formatAt(0).colour, 255);
     EXPECT_EQ(joystick.formatAt(3).colour, 0);
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
 }
 
 TEST_F(ListEventsTest, OneUndoAfterDoubleClickOverASelectionBringsTheOldTextWithItsColoursBack)
@@ -318,10 +318,10 @@ TEST_F(ListEventsTest, OneUndoAfterDoubleClickOverASelectionBringsTheOldTextWith
     joystick.setSelLength(3);
     joystick.setSelColor(255);
     const RichText before = joystick.TextRTF();
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     doubleClickFire();
     EXPECT_EQ(joystick.formatAt(4).colour, 0);
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "one two three");
     EXPECT_TRUE(joystick.TextRTF() == before);

@@ -21,8 +21,8 @@ struct MacroListTest : testing::Test {
     void analyse(const std::string& file)
     {
         t.files.addFile("c:\\a\\x.m50", file);
-        editor.pair.MacroFilePath = "c:\\a\\x.m50";
-        editor.pair.MacroFileName = "x.m50";
+        editor.macro.FilePath = "c:\\a\\x.m50";
+        editor.macro.FileName = "x.m50";
         ClearAllForNewMacroFile(editor);
         GetEachLineFromMacroFile(editor);
         ExtractMacrosAndTitles(editor);
@@ -52,7 +52,7 @@ TEST_F(MacroListTest, TheFrameShowsHeadingsAndAllMacros)
               "Double click macro to insert into Joystick file, or use drag and drop");
 }
 
-TEST_F(MacroListTest, StatusLinesTellTheFileByItsTitle)
+TEST_F(MacroListTest, StatusLinesNameTheFileByItsTitle)
 {
     std::vector<std::string> lines;
     const auto listening =
@@ -81,7 +81,7 @@ TEST_F(MacroListTest, AFailureToWriteTheDebrisFileGoesToTheReporterAndTheListIsT
 TEST_F(MacroListTest, AMissingFileLeavesTheLinesAsTheyAre)
 {
     analyse("A = a");
-    editor.pair.MacroFilePath = "c:\\a\\gone.m50";
+    editor.macro.FilePath = "c:\\a\\gone.m50";
     t.files.clearWrites();
     GetEachLineFromMacroFile(editor);
     EXPECT_THAT(editor.macros.MacroFileLines, ElementsAre("A = a"));

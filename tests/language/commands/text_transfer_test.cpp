@@ -100,17 +100,17 @@ TEST_F(TransferTest, AnEmptyTextTransfersNothing)
     EXPECT_EQ(joystick.SelLength(), 3);
 }
 
-TEST_F(TransferTest, ATransferReplacesTheSelectionAsOneEditOfTheUsers)
+TEST_F(TransferTest, ATransferReplacesTheSelectionAsOneUserEdit)
 {
     settings.HighlightLineOnUndo = 0;
     t.typeJoystick("one two");
     joystick.setSelStart(4);
     joystick.setSelLength(3);
-    const std::size_t levels = editor.JoystickUndo.Levels.size();
+    const std::size_t levels = editor.joystick.Undo.Levels.size();
     SafeinTransferText(editor, "2");
     EXPECT_EQ(joystick.Text(), "one 2");
-    EXPECT_EQ(editor.JoystickUndo.Levels.size(), levels + 1);
-    EXPECT_EQ(editor.pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
+    EXPECT_EQ(editor.joystick.Changed, changed::modified);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(joystick.Text(), "one two");
 }
@@ -139,12 +139,12 @@ TEST_F(TransferTest, ABlockForTheMacroPaneGoesThereInTheJoystickFilesColours)
 TEST_F(TransferTest, ThePanesCaretsAndTheProgressBarAreLeftAlone)
 {
     t.typeJoystick("x ");
-    editor.pair.JoystickCaret = 1;
-    editor.pair.MacroCaret = 5;
+    editor.joystick.Caret = 1;
+    editor.macro.Caret = 5;
     editor.status("before");
     transferMacro("BTN S1 Rem x");
-    EXPECT_EQ(editor.pair.JoystickCaret, 1);
-    EXPECT_EQ(editor.pair.MacroCaret, 5);
+    EXPECT_EQ(editor.joystick.Caret, 1);
+    EXPECT_EQ(editor.macro.Caret, 5);
     EXPECT_EQ(t.status(), "before");
     EXPECT_FALSE(t.program().mum.ProgressBar1.Visible);
 }

@@ -72,7 +72,7 @@ TEST_F(UpdateMacrosTest, UnsavedTextIsSavedOnYesAndThenListed)
     EXPECT_EQ(box.icon, BoxIcon::Question);
     EXPECT_EQ(t.fileText(macroPath), "New = n\r\nA = a\r\n");
     EXPECT_EQ(listed(), 2U);
-    EXPECT_EQ(editor.pair.MacroChanged, changed::saved);
+    EXPECT_EQ(editor.macro.Changed, changed::saved);
 }
 
 TEST_F(UpdateMacrosTest, OnNoTheUserIsWarnedAndTheListStays)

@@ -3,7 +3,7 @@
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/pane_keys.h"
 #include "documents/files/auto_save.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/noted_caret.h"
 #include "documents/recovery/recovery_format.h"
 #include "documents/text/drag_move.h"
 #include "language/commands/macro_list_events.h"

@@ -2,6 +2,8 @@
 
 #include "desktop/text.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QSignalBlocker>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -10,11 +12,12 @@ namespace tarvex {
 
 namespace {
 
-/// Layouts notify the document of their change; this lets it lay them out before it reports anything else. One block at
-/// a time: for a stretch of several the document repaints everything in sight.
+/// Layouts notify the document of their change; this lets it lay them out before it reports anything else. Its own
+/// report is held back: it would repaint everything in sight, because it counts the characters twice.
 void relayout(const QTextBlock& block)
 {
     auto* document = const_cast<QTextDocument*>(block.document()); // NOLINT: a block only hands out a constant one
+    const QSignalBlocker quiet(document->documentLayout());
     document->markContentsDirty(block.position(), block.length());
 }
 
@@ -74,19 +77,22 @@ QList<QTextLayout::FormatRange> PaneFormats::ranges(const QTextBlock& block)
     return result;
 }
 
-void PaneFormats::format(QTextBlock first, const QTextBlock& last)
+std::vector<PaneFormats::Changed> PaneFormats::format(QTextBlock first, const QTextBlock& last)
 {
+    std::vector<Changed> changed;
     for (QTextBlock block = first; block.isValid(); block = block.next()) {
         if (block.userState() == stale && block.layout()->preeditAreaText().isEmpty()) {
             block.setUserState(formatted);
             const QList<QTextLayout::FormatRange> wanted = ranges(block);
             if (wanted != block.layout()->formats()) {
+                changed.push_back({block, block.layout()->boundingRect().height()});
                 block.layout()->setFormats(wanted);
                 relayout(block);
             }
         }
         if (block == last) break;
     }
+    return changed;
 }
 
 void PaneFormats::formatComposing(QTextBlock block)

@@ -24,10 +24,15 @@ public:
 
     /// The block must be formatted again before it is shown.
     static void markStale(QTextBlock block) { block.setUserState(stale); }
+    /// A block with other formats than before. Nobody repaints it but the caller.
+    struct Changed {
+        QTextBlock block;
+        qreal oldHeight = 0; ///< 0: it wasn't laid out
+    };
     /// Formats those blocks from `first` that are stale, up to `last`.
-    void format(QTextBlock first, const QTextBlock& last);
+    std::vector<Changed> format(QTextBlock first, const QTextBlock& last);
 
-    /// Shows the formats also around the text that an input method composes in the block.
+    /// Shows the formats also around the text that an input method composes in the block; the caller repaints it.
     void formatComposing(QTextBlock block);
 
     /// Formats of the block's characters as the pane has them, a text that is being composed left out.

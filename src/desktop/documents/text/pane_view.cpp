@@ -180,6 +180,16 @@ void PaneView::formatAll()
 {
     settle();
     m_mirror.formats().format(document()->firstBlock(), document()->lastBlock());
+    viewport()->update();
+}
+
+/// A line that became higher or lower moves all below it.
+void PaneView::repaintLine(const PaneFormats::Changed& line)
+{
+    const QRectF place = blockBoundingGeometry(line.block).translated(contentOffset());
+    if (line.oldHeight > 0 && line.oldHeight != place.height()) return viewport()->update();
+    viewport()->update(
+        QRect(0, static_cast<int>(place.top()), viewport()->width(), static_cast<int>(place.height()) + 2));
 }
 
 /// Formats the lines that can be in sight, and the caret's, whose place is asked for also when it is out of sight.
@@ -189,7 +199,8 @@ void PaneView::formatShown()
     const QTextBlock first = firstVisibleBlock();
     const int lines = 2 * viewport()->height() / std::max(1, fontMetrics().lineSpacing()) + 2;
     const int last = std::min(first.blockNumber() + lines, blockCount() - 1);
-    m_mirror.formats().format(first, document()->findBlockByNumber(last));
+    for (const PaneFormats::Changed& line : m_mirror.formats().format(first, document()->findBlockByNumber(last)))
+        repaintLine(line);
     const QTextBlock caretLine = textCursor().block();
     m_mirror.formats().format(caretLine, caretLine);
 }

@@ -85,6 +85,7 @@ private:
     void showFont();
     void showColours();
     void formatShown();
+    void repaintLine(const PaneFormats::Changed& line);
     bool zoomByKey(const QKeyEvent& event);
     void announceKey(const QKeyEvent& event);
     void announceCharacter(int code);

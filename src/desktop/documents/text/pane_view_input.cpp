@@ -193,6 +193,7 @@ void PaneView::inputMethodEvent(QInputMethodEvent* event)
     QPlainTextEdit::inputMethodEvent(event);
     settle();
     m_mirror.formats().formatComposing(textCursor().block());
+    viewport()->update();
 }
 
 void PaneView::focusInEvent(QFocusEvent* event)

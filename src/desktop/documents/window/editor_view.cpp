@@ -5,6 +5,7 @@
 #include "documents/editing/pane_events.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/editor_layout.h"
+#include "documents/pair/noted_caret.h"
 #include "documents/pair/tabs.h"
 #include "platform/input.h"
 
@@ -43,15 +44,6 @@ bool writesText(const QKeyEvent& event)
 
 } // namespace
 
-/// The procedures of one pane.
-struct EditorView::PaneEvents {
-    void (*gotFocus)(Editor&);
-    bool (*keyDown)(Editor&, std::string_view);
-    void (*keyUp)(Editor&);
-    void (*click)(Editor&);
-    void (*mouseDown)(Editor&, int, bool);
-};
-
 EditorView::EditorView(Editor& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_tabs(new DocumentTabs(this)),
       m_joystick(new PaneView(editor.JoystickText, this)), m_macro(new PaneView(editor.MacroText, this)),
@@ -63,11 +55,8 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     m_joystick->setAccessibleName(QStringLiteral("Joystick file"));
     m_macro->setObjectName(QStringLiteral("MacroText"));
     m_macro->setAccessibleName(QStringLiteral("Macro file"));
-    addPane(
-        editor.joystick, *m_joystick,
-        {JoystickText_GotFocus, JoystickText_KeyDown, JoystickText_KeyUp, JoystickText_Click, JoystickText_MouseDown});
-    addPane(editor.macro, *m_macro,
-            {MacroText_GotFocus, MacroText_KeyDown, MacroText_KeyUp, MacroText_Click, MacroText_MouseDown});
+    addPane(editor.joystick, *m_joystick);
+    addPane(editor.macro, *m_macro);
     bindPlaces();
     m_bindings.follow(editor.platform.clipboard.changed, [this] { m_editor.operations.UpdateCCPButtons(); });
     m_bindings.timer(editor.Timer1, *this);
@@ -99,22 +88,22 @@ void EditorView::addTabs()
     });
 }
 
-void EditorView::addPane(Side& side, PaneView& view, const PaneEvents& events)
+void EditorView::addPane(Side& side, PaneView& view)
 {
-    view.pressKey = [this, keyDown = events.keyDown](std::string_view keys) { return keyDown(m_editor, keys); };
-    connect(&view, &PaneView::gotFocus, this, [this, &side, gotFocus = events.gotFocus](bool returned) {
-        if (!returned || m_editor.selected().tab != side.tab) gotFocus(m_editor); // a result in the status bar stays
+    view.pressKey = [this, &side](std::string_view keys) { return Text_KeyDown(m_editor, side, keys); };
+    connect(&view, &PaneView::gotFocus, this, [this, &side](bool returned) {
+        if (!returned || m_editor.selected().tab != side.tab)
+            Text_GotFocus(m_editor, side); // a result in the status bar stays
     });
     connect(&view, &PaneView::caretMoved, this, [this, &side] {
         if (m_editor.mum.MousePointer != MousePointer::ArrowQuestion) noteCaret(m_editor, side);
     });
-    connect(&view, &PaneView::keyReleased, this, [this, keyUp = events.keyUp] { keyUp(m_editor); });
-    connect(&view, &PaneView::clicked, this, [this, click = events.click] { click(m_editor); });
-    connect(&view, &PaneView::mousePressed, this, [this, mouseDown = events.mouseDown](Qt::MouseButton button) {
-        mouseDown(m_editor, toLogic(button), false);
-    });
+    connect(&view, &PaneView::keyReleased, this, [this, &side] { Text_KeyUp(m_editor, side); });
+    connect(&view, &PaneView::clicked, this, [this, &side] { Text_Click(m_editor, side); });
+    connect(&view, &PaneView::mousePressed, this,
+            [this, &side](Qt::MouseButton button) { Text_MouseDown(m_editor, side, toLogic(button)); });
     connect(&view, &PaneView::popUpWanted, this,
-            [this, mouseDown = events.mouseDown](bool byKey) { mouseDown(m_editor, mouseButton::right, byKey); });
+            [this, &side](bool byKey) { Text_MouseDown(m_editor, side, mouseButton::right, byKey); });
     connect(&view, &PaneView::paneShown, this, [this] {
         showCaretColour(m_editor);
         m_editor.operations.UpdateCCPButtons();
@@ -142,7 +131,7 @@ bool EditorView::eventFilter(QObject* watched, QEvent* event)
 
 void EditorView::bindPlaces()
 {
-    for (const Side* side : {&m_editor.joystick, &m_editor.macro}) {
+    for (Side* side : {&m_editor.joystick, &m_editor.macro}) {
         Pane& state = side->pane;
         PaneView* view = &pane(*side);
         m_bindings.bind(state.Place, [this, view](const Placement& place) {

@@ -30,8 +30,7 @@ protected:
 
 private:
     void addTabs();
-    struct PaneEvents;
-    void addPane(Side& side, PaneView& view, const PaneEvents& events);
+    void addPane(Side& side, PaneView& view);
     void bindPlaces();
     void reportSize();
     int headerShift() const;

@@ -139,14 +139,14 @@ void MacroFrameView::paintEvent(QPaintEvent*)
 }
 
 /// While the edge is dragged the mouse counts as over it, however fast it moves.
-void MacroFrameView::tellMouse(const QMouseEvent& event)
+void MacroFrameView::reportMouse(const QMouseEvent& event)
 {
     const int x = static_cast<int>(event.position().x());
     FrameMacros_MouseMove(m_editor, event.buttons().testFlag(Qt::LeftButton), toTwips(x),
                           m_dragging || x >= width() - edge);
 }
 
-void MacroFrameView::mouseMoveEvent(QMouseEvent* event) { tellMouse(*event); }
+void MacroFrameView::mouseMoveEvent(QMouseEvent* event) { reportMouse(*event); }
 
 void MacroFrameView::mousePressEvent(QMouseEvent* event)
 {
@@ -156,7 +156,7 @@ void MacroFrameView::mousePressEvent(QMouseEvent* event)
 void MacroFrameView::mouseReleaseEvent(QMouseEvent* event)
 {
     m_dragging = false;
-    tellMouse(*event);
+    reportMouse(*event);
 }
 
 void MacroFrameView::leaveEvent(QEvent*)

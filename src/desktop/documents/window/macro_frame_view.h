@@ -31,7 +31,7 @@ private:
     QComboBox* makeHeadings();
     QGridLayout* makeButtons();
     QWidget* makeButton(std::size_t index);
-    void tellMouse(const QMouseEvent& event);
+    void reportMouse(const QMouseEvent& event);
     QRect grip() const;
 
     Editor& m_editor;

@@ -77,7 +77,8 @@ void append(Editor& editor, JournalRecord& journal, const std::string& bytes)
     if (!written) giveUpForNow(editor, journal, step.whyNot());
 }
 
-void onEdited(Editor& editor, Side& side, const Pane::Edit& edit)
+/// Only notes the edit: each edit is followed by the pane's Change, and that writes it down when it is the user's.
+void onEdited(Side& side, const Pane::Edit& edit)
 {
     JournalRecord& journal = side.Journal;
     const auto length = static_cast<std::int64_t>(side.pane.TextLength());
@@ -85,7 +86,6 @@ void onEdited(Editor& editor, Side& side, const Pane::Edit& edit)
     if (!journal.Unwritten) journal.Unwritten = now;
     journal.Unwritten->before = std::min(journal.Unwritten->before, now.before);
     journal.Unwritten->after = std::min(journal.Unwritten->after, now.after);
-    if (editor.shared.IsLoading != 1) writeDownChanges(editor, side);
 }
 
 /// The edits since the journal was written last, as one.
@@ -177,8 +177,7 @@ std::uint64_t journalNumber(const std::string& name)
 void followEdits(Editor& editor)
 {
     for (Side* side : {&editor.joystick, &editor.macro}) {
-        side->Journal.following =
-            side->pane.edited.connect([&editor, side](const Pane::Edit& edit) { onEdited(editor, *side, edit); });
+        side->Journal.following = side->pane.edited.connect([side](const Pane::Edit& edit) { onEdited(*side, edit); });
     }
     editor.TimerJournal.Tick = [&editor] { TimerJournal_Timer(editor); };
 }

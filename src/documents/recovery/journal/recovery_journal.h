@@ -21,7 +21,8 @@ void followEdits(Editor& editor);
 /// The pane's text is where it belongs, in a file (`file` sums its contents) or nowhere: there is nothing to keep of
 /// what went before.
 void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& file);
-/// Writes down what has changed while IsLoading was 1, for a change that counts as the user's after all.
+/// Appends one record with all that changed since the last one. Run once per edit by the user; changes under IsLoading
+/// wait until one of them turns out to count as the user's.
 void writeDownChanges(Editor& editor, Side& side);
 /// Begins a journal with the document as it is; the one of that number (0: none) goes once the disk has the new one.
 void beginJournal(Editor& editor, Side& side, std::uint64_t replaces);

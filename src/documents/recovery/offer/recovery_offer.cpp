@@ -1,10 +1,9 @@
 #include "documents/recovery/offer/recovery_offer.h"
 
-#include "documents/files/file_open.h"
-#include "documents/files/text_files.h"
+#include "documents/files/file_load.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
-#include "documents/pair/tabs.h"
+#include "documents/pair/noted_caret.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/journal/recovery_names.h"
 #include "documents/recovery/offer/recovery_find.h"
@@ -62,14 +61,14 @@ void showBase(Editor& editor, Side& side, const std::string& path, const std::st
 {
     if (!base.empty()) return showFile(editor, side, path, fileNameOf(path), base);
     const Loading loading(editor.shared);
-    showDocument(editor, side, path, fileNameOf(path), base); // no macros to list
+    showText(editor, side, path, fileNameOf(path), base); // no macros to list
 }
 
 /// The document's name as the user knows it.
 std::string shownName(const LeftJournal& found) { return fileNameFor(found.journal.start.name); }
 
 /// The journal stays, for another time.
-void tellOfWrongText(Editor& editor, const LeftJournal& found)
+void reportWrongText(Editor& editor, const LeftJournal& found)
 {
     editor.platform.dialogues.show(
         {.title = "That's not quite it ...",
@@ -96,7 +95,7 @@ std::string bringBack(Editor& editor, const LeftJournal& found)
         beginJournal(editor, side, found.number);
     } else {
         writeDownChanges(editor, side);
-        tellOfWrongText(editor, found);
+        reportWrongText(editor, found);
     }
     return path;
 }
@@ -195,7 +194,7 @@ std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
 }
 
 /// They have been renamed, so this is said once.
-void tellUnreadable(Editor& editor, const std::vector<std::string>& paths)
+void reportUnreadable(Editor& editor, const std::vector<std::string>& paths)
 {
     if (paths.empty()) return;
     std::string text = "These are notes that I took of something that wasn't saved, and they've gone bad, so I can't "
@@ -226,7 +225,7 @@ std::vector<std::string> offerRecovery(Editor& editor)
 {
     FoundJournals found = findJournals(editor);
     std::vector<std::string> open = offerTexts(editor, std::move(found.withText));
-    tellUnreadable(editor, found.unreadable);
+    reportUnreadable(editor, found.unreadable);
     return open;
 }
 

@@ -18,7 +18,7 @@ public:
     }
     void forget() { m_region = {}; }
     bool paints(const QRect& rect) const { return m_region.intersects(rect); }
-    bool isEmpty() const { return m_region.isEmpty(); }
+    QRect bounds() const { return m_region.boundingRect(); }
 
 private:
     QRegion m_region;
@@ -33,7 +33,7 @@ struct PaneRepaint : testing::Test {
 
     PaneRepaint()
     {
-        shown.view.setCursorWidth(0); // it blinks
+        QApplication::setCursorFlashTime(0); // a blinking caret is repainted at any time
         for (int line = 0; line < lines; ++line) shown.colour(line * lineLength, 3, blue);
         shown.caretTo(10 * (lineLength - 1) + 4);
         finish();
@@ -110,11 +110,12 @@ TEST_F(PaneRepaint, ReturnRepaintsTheLinesThatMove)
     for (int line = 10; line < lines; ++line) EXPECT_TRUE(painted.paints(rectOf(line))) << line;
 }
 
-TEST_F(PaneRepaint, AKeyWithoutEffectRepaintsNothing)
+TEST_F(PaneRepaint, AKeyWithoutEffectRepaintsNoMoreThanTheCaret)
 {
     shown.press(Qt::Key_Shift);
     finish();
-    EXPECT_TRUE(painted.isEmpty());
+    EXPECT_LE(painted.bounds().width(), 10);
+    EXPECT_LE(painted.bounds().height(), rectOf(1).top() - rectOf(0).top());
 }
 
 TEST_F(PaneRepaint, ColourRepaintsTheLinesThatGotIt)

@@ -37,7 +37,7 @@ TEST_F(EditorViewTest, ArrowKeysShowTheLineTheyReach)
 {
     press(Qt::Key_Down);
     EXPECT_EQ(t.status(3), "Line no: 2");
-    EXPECT_EQ(editor.pair.JoystickCaret, 5);
+    EXPECT_EQ(editor.joystick.Caret, 5);
     press(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(editor.HighlightLength, 1);
 }

@@ -268,7 +268,7 @@ TEST_F(FrameViewTest, KeyWithShiftSelectsWhereTheMacroIsUsed)
     EXPECT_EQ(editor.JoystickText.SelText(), "Gear");
 }
 
-TEST_F(FrameViewTest, ReleasedKeyTellsItselfWithWhatIsHeld)
+TEST_F(FrameViewTest, ReleasedKeyIsReportedWithTheKeysHeld)
 {
     click(name(1));
     editor.status("");
@@ -351,7 +351,7 @@ TEST_F(FrameViewTest, ButtonInsertsItsModifierAndThePaneKeepsTheKeyboard)
     EXPECT_FALSE(button(5)->isVisible()) << "it has no use";
 }
 
-TEST_F(FrameViewTest, PointerOverAButtonTellsWhatItDoes)
+TEST_F(FrameViewTest, PointerOverAButtonShowsWhatItDoes)
 {
     frame.MousePointer = MousePointer::SizeWestEast;
     const QPointF at(4, 4);

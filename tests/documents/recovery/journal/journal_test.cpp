@@ -26,7 +26,7 @@ TEST(Journal, EachEditOfEitherPaneIsInItsFileAtOnce)
     EXPECT_EQ(t.journals(), 2U);
 }
 
-TEST(Journal, TellsNamePathSizeAndCheckSumOfTheFile)
+TEST(Journal, HoldsNamePathSizeAndChecksumOfTheFile)
 {
     OpenPair t;
     t.typeMacro("c");
@@ -160,7 +160,7 @@ TEST(Journal, IsLookedAfterUntilTheDiskHasIt)
     EXPECT_FALSE(t.editor().TimerJournal.Enabled);
 }
 
-TEST(Journal, ThatTheDiskDidNotTakeIsToldOnceAndWrittenAnew)
+TEST(Journal, WhoseSyncFailedIsReportedOnceAndWrittenAnew)
 {
     OpenPair t;
     t.files.failSyncs(RuntimeError(ErrorCode::DeviceInputOutput, "Input/output error"));
@@ -277,7 +277,7 @@ TEST(Journal, IsWrittenAnewWhenItHasOutgrownTheText)
 
 // ---- a journal that can't be written ----
 
-TEST(Journal, ThatCannotBeWrittenDisturbsNobodyAndIsToldOnce)
+TEST(Journal, ThatCannotBeWrittenInterruptsNothingAndIsReportedOnce)
 {
     OpenPair t;
     t.files.failAppends(RuntimeError(ErrorCode::DiskFull, "No space left on device"));

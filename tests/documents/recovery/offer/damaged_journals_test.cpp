@@ -189,10 +189,10 @@ TEST(LeftJournal, WhoseNameLeadsOutOfTheFolderComesBackInTheDocumentsFolder)
         t.put("3.journal", journalOf(name, "BTN S1 a"));
         t.start({Answer::Yes});
         EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 a");
-        const std::string& path = t.editor().pair.JoystickFilePath;
-        EXPECT_EQ(path, "c:\\tm\\b50progs\\" + t.editor().pair.JoystickFileName);
+        const std::string& path = t.editor().joystick.FilePath;
+        EXPECT_EQ(path, "c:\\tm\\b50progs\\" + t.editor().joystick.FileName);
         EXPECT_EQ(path.find('/'), std::string::npos) << path;
-        EXPECT_TRUE(t.editor().pair.JoystickFileName.starts_with("untitled")) << path;
+        EXPECT_TRUE(t.editor().joystick.FileName.starts_with("untitled")) << path;
     }
 }
 

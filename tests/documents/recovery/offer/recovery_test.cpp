@@ -27,8 +27,8 @@ TEST(Recovery, BringsBackBothPanesModifiedAndUndoable)
     EXPECT_EQ(t.editor().MacroText.Text(), "gear = g\r\nfire = x\r\n");
     EXPECT_EQ(t.joystick().Changed, changed::modified);
     EXPECT_EQ(t.macro().Changed, changed::modified);
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, joystickPath);
-    EXPECT_EQ(t.editor().pair.MacroFilePath, macroPath);
+    EXPECT_EQ(t.editor().joystick.FilePath, joystickPath);
+    EXPECT_EQ(t.editor().macro.FilePath, macroPath);
     EXPECT_EQ(t.editor().tabCaption(t.macro()), "mig.m50");
     EXPECT_EQ(t.fileText(joystickPath), "BTN S1 fire\r\n") << "nothing is saved by itself";
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
@@ -97,7 +97,7 @@ TEST(Recovery, OpensTheFileThatStoodBesideIt)
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().MacroText.Text(), "xfire = x\r\n");
     EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, joystickPath);
+    EXPECT_EQ(t.editor().joystick.FilePath, joystickPath);
     EXPECT_EQ(t.joystick().Changed, changed::saved);
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2) << "where there is something to save";
 }
@@ -140,9 +140,9 @@ TEST(Recovery, AnUntitledDocumentComesBackUntitled)
     t.dialogues.answers = {Answer::Yes};
     t.start();
     EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 a");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled.b50");
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\b50progs\\untitled.b50");
-    EXPECT_EQ(t.editor().pair.JoystickChanged, changed::modified);
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\b50progs\\untitled.b50");
+    EXPECT_EQ(t.editor().joystick.Changed, changed::modified);
     EXPECT_FALSE(t.menus().mnuViewMacros.Checked) << "no macro file was opened";
     t.dialogues.filesToSave = {"c:\\tm\\b50progs\\new.b50"};
     t.menus().mnuFileSave.Click();
@@ -171,7 +171,7 @@ TEST(Recovery, AFileThatHasChangedSinceIsLeftAloneAndTheTextGetsANewName)
     t.killAndStart({Answer::Yes});
     EXPECT_NE(t.lastBox().text.find("untitled-mig.b50"), std::string::npos);
     EXPECT_EQ(t.editor().JoystickText.Text(), "mine BTN S1 fire\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled-mig.b50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled-mig.b50");
     EXPECT_EQ(t.editor().tabCaption(t.joystick()), "untitled-mig.b50");
     EXPECT_EQ(t.joystick().Changed, changed::modified);
     AutoSaveFile(t.editor());
@@ -191,8 +191,8 @@ TEST(Recovery, AFileThatIsGoneOrUnreadableCountsAsChanged)
     t.files.removeFile(joystickPath);
     t.files.failReads(macroPath, RuntimeError(ErrorCode::PathFileAccess, "Path/File access error"));
     t.killAndStart({Answer::Yes});
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled-mig.b50");
-    EXPECT_EQ(t.editor().pair.MacroFileName, "untitled-mig.m50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled-mig.b50");
+    EXPECT_EQ(t.editor().macro.FileName, "untitled-mig.m50");
     EXPECT_EQ(t.editor().MacroText.Text(), "too fire = x\r\n");
 }
 
@@ -203,10 +203,10 @@ TEST(Recovery, TheNewNameIsNoFilesName)
     t.files.addFile(joystickPath, "theirs");
     t.files.addFile("c:\\tm\\b50progs\\untitled-mig.b50", "of another day");
     t.killAndStart({Answer::Yes});
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\b50progs\\untitled-mig-2.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\b50progs\\untitled-mig-2.b50");
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "mine BTN S1 fire\r\n") << "a second time, too";
-    EXPECT_EQ(t.editor().pair.JoystickFilePath, "c:\\tm\\b50progs\\untitled-mig-2.b50");
+    EXPECT_EQ(t.editor().joystick.FilePath, "c:\\tm\\b50progs\\untitled-mig-2.b50");
 }
 
 TEST(Recovery, AnUntitledTextIsNotPutOverAFileOfThatNameMadeSince)
@@ -216,7 +216,7 @@ TEST(Recovery, AnUntitledTextIsNotPutOverAFileOfThatNameMadeSince)
     t.files.addFile("c:\\tm\\b50progs\\untitled.b50", "theirs");
     t.dialogues.answers = {Answer::Yes};
     t.start();
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled-2.b50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled-2.b50");
     AutoSaveFile(t.editor());
     EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\untitled.b50"), "theirs");
 }
@@ -287,7 +287,7 @@ TEST(Recovery, EditsTakenBackInATextThatStandsInNoFileAreNoReasonToDropIt)
     t.killAndStart({Answer::Yes});
     ASSERT_EQ(t.dialogues.boxes.size(), 1U);
     EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
-    EXPECT_EQ(t.editor().pair.JoystickFileName, "untitled-mig.b50");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled-mig.b50");
     EXPECT_EQ(t.joystick().Changed, changed::modified);
 }
 

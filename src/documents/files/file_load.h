@@ -1,0 +1,23 @@
+#pragma once
+
+#include "documents/pair/editor.h"
+
+#include <string>
+
+namespace tarvex {
+
+/// Reads a file and shows it in its pane. False: it can't be read or is larger than 64 MB; the user was informed, and
+/// nothing changed.
+bool loadFile(Editor& editor, Side& side, const std::string& path, const std::string& name);
+/// Shows `bytes` as the contents of a file: its text as showText does, and a macro file's macros.
+void showFile(Editor& editor, Side& side, const std::string& path, const std::string& name, const std::string& bytes);
+/// The text alone: from the coloured shadow when that still has the same plain text, else plain, laid out anew and,
+/// where the settings ask for it, coloured. Name, path, tab and state of the document follow; its tab is selected, and
+/// undo and journal start anew. The caller keeps a Loading.
+void showText(Editor& editor, Side& side, const std::string& path, const std::string& name, const std::string& bytes);
+
+/// Adds to the status text what the user should know of the files that were opened last: line ends that a save will
+/// change, colouring that couldn't be finished.
+void showOpeningRemarks(Editor& editor);
+
+} // namespace tarvex
