@@ -4,6 +4,7 @@
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/qt_machine.h"
 #include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/preferences/preferences_view.h"
@@ -12,6 +13,7 @@
 #include "desktop/text.h"
 #include "desktop/theme.h"
 #include "documents/files/file_open.h"
+#include "platform/machine_settings.h"
 #include "platform/posix/command_line.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
@@ -68,24 +70,41 @@ void openDropped(tarvex::Program& program, const tarvex::DriveMap& drives, const
     }
 }
 
+/// The drives that the user chose take the places of those that were found.
+void chooseDrives(tarvex::DriveMap& drives, tarvex::FileSystem& files, const std::string& directory)
+{
+    tarvex::ProfileFile ini(files, tarvex::platformIniPath(drives.toDos(directory)));
+    const auto chosen = tarvex::MachineSettings(ini).drives();
+    for (const auto& [letter, folder] : chosen) drives.choose(letter, folder);
+}
+
 int runProgram(tarvex::Application& application, const std::string& file)
 {
     using namespace tarvex;
     const std::string directory = findProgramDirectory(readProgramPlaces());
-    const DriveMap drives({.winePrefix = fromEnvironment("WINEPREFIX"),
-                           .home = fromEnvironment("HOME"),
-                           .programDirectory = directory,
-                           .workingDirectory = fromQt(QDir::currentPath())});
+    DriveMap drives({.winePrefix = fromEnvironment("WINEPREFIX"),
+                     .home = fromEnvironment("HOME"),
+                     .programDirectory = directory,
+                     .workingDirectory = fromQt(QDir::currentPath())});
     SystemCalls calls;
     SafeWriter writer(directory + "/Recover", calls);
     PosixFiles files(drives, writer);
+    chooseDrives(drives, files, directory);
     QtDialogues dialogues(drives);
     QtDesktop desktop(directory);
     SdlSound sound(drives);
     QtClipboard clipboard;
     QtProcesses processes(drives, files, dialogues, drives.toDos(directory));
-    Platform platform{
-        files, dialogues, desktop, sound, clipboard, processes, drives.toDos(directory), drives.fromArgument(file)};
+    QtMachine machine(drives, processes);
+    Platform platform{files,
+                      dialogues,
+                      desktop,
+                      sound,
+                      clipboard,
+                      processes,
+                      machine,
+                      drives.toDos(directory),
+                      drives.fromArgument(file)};
 
     Program program(platform);
     application.setErrorRecord(&program.shared.errors);

@@ -80,6 +80,14 @@ public:
     {
         throw RuntimeError(ErrorCode::PermissionDenied, "Permission denied: " + path + " to " + newPath);
     }
+    /// The file or directory lies in the directory, behind all symbolic links too; false when one of them isn't there.
+    /// A disk without directories has nothing in them.
+    virtual bool liesWithin(const std::string& path, const std::string& directory) const
+    {
+        static_cast<void>(path);
+        static_cast<void>(directory);
+        return false;
+    }
     /// Names (not paths) of the files and directories in a directory, in no particular order.
     virtual std::vector<std::string> list(const std::string& path) const = 0;
 };

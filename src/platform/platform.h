@@ -56,6 +56,8 @@ public:
     Signal<> changed; ///< the contents may have changed, in this program or another
 };
 
+class Machine;
+
 /// The world as the program sees it. All members outlive the program.
 struct Platform {
     FileSystem& files;
@@ -64,6 +66,7 @@ struct Platform {
     Sound& sound;
     Clipboard& clipboard;
     Processes& processes;
+    Machine& machine;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
     std::string commandLine;      ///< one DOS path or nothing
 };

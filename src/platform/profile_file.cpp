@@ -199,6 +199,7 @@ void ProfileFile::refresh() const
 
 void ProfileFile::flush() noexcept
 {
+    m_whyNotWritten.clear();
     if (!m_dirty) return;
     m_dirty = false;
     m_loaded = m_loaded && m_files.stamp(m_path).size <= largestProfile; // it may have grown meanwhile
@@ -208,7 +209,8 @@ void ProfileFile::flush() noexcept
         for (const std::string& line : m_lines) bytes += line;
         m_files.write(m_path, m_utf16 ? utf16FromUtf8(bytes, *m_utf16) : bytes);
         m_stamp = m_files.stamp(m_path);
-    } catch (const std::exception&) {
+    } catch (const std::exception& error) {
+        m_whyNotWritten = error.what();
         m_loaded = false; // what the file holds counts
     }
 }

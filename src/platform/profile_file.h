@@ -20,7 +20,7 @@ constexpr std::uint64_t largestProfile = std::uint64_t{16} << 20;
 
 /// One INI file and the three profile calls on it. Section and key names match without regard to case and surrounding
 /// blanks; the first section of a name and the first key in it count. Nothing here throws: a missing or unreadable file
-/// gives the defaults, and a write that fails is lost in silence.
+/// gives the defaults, and a write that fails only leaves its reason.
 ///
 /// Values are UTF-8 here. In the file they are Windows-1252; a value that the code page can't hold, or whose bytes
 /// would read as UTF-8, is written as UTF-8, and bytes that are valid UTF-8 are read as that. A file that begins with
@@ -34,6 +34,8 @@ public:
     ProfileFile(FileSystem& files, std::string path);
 
     const std::string& path() const { return m_path; }
+    /// Why the last write failed; empty when it didn't.
+    const std::string& whyNotWritten() const { return m_whyNotWritten; }
 
     /// The value with blanks and one pair of quotes around it removed, cut to `buffer` - 1 characters; the default,
     /// treated alike, when there is no such key.
@@ -74,6 +76,7 @@ private:
     std::string m_path;
     int m_batches = 0;
     bool m_dirty = false;
+    std::string m_whyNotWritten;
     mutable bool m_loaded = false;
     mutable bool m_readable = false; ///< a file that is there but can't be read, or is too large, is never written over
     mutable FileStamp m_stamp;

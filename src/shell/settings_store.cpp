@@ -151,6 +151,16 @@ SettingsStore::Batch::Batch(SettingsStore& store)
         m_files[static_cast<std::size_t>(which)].emplace(store.file(which));
 }
 
+std::vector<SettingsStore::WriteFailure> SettingsStore::writeFailures() const
+{
+    std::vector<WriteFailure> failures;
+    for (const auto& profile : m_profiles) {
+        if (profile && !profile->whyNotWritten().empty())
+            failures.push_back({profile->path(), profile->whyNotWritten()});
+    }
+    return failures;
+}
+
 std::string SettingsStore::pathOf(IniFile which) const
 {
     return m_programDirectory + "\\" + std::string(fileNameOf(which));

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarvex {
 
@@ -43,6 +44,13 @@ public:
     private:
         std::array<std::optional<ProfileFile::Batch>, 4> m_files;
     };
+
+    /// A file whose last write failed. Its settings are in memory all the same, and are written with the next change.
+    struct WriteFailure {
+        std::string path;
+        std::string reason;
+    };
+    std::vector<WriteFailure> writeFailures() const;
 
     /// Full path of an INI file.
     std::string pathOf(IniFile file) const;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/machine_settings.h"
 #include "platform/platform.h"
 #include "shell/current_directory.h"
 #include "shell/errors.h"
+#include "shell/extras.h"
 #include "shell/settings.h"
 #include "shell/settings_store.h"
 
@@ -15,6 +17,7 @@ namespace tarvex {
 struct Shared {
     explicit Shared(Platform& platform)
         : store(platform.files, platform.programDirectory, settings, errors),
+          platformIni(platform.files, platformIniPath(platform.programDirectory)), extras(platformIni),
           currentDirectory(platform.files, platform.programDirectory)
     {
     }
@@ -23,7 +26,9 @@ struct Shared {
 
     Settings settings;
     ErrorRecord errors;
-    SettingsStore store; ///< moves `settings` to and from the INI files
+    SettingsStore store;     ///< moves `settings` to and from the INI files
+    ProfileFile platformIni; ///< what belongs to this machine
+    Extras extras;
     CurrentDirectory currentDirectory;
 
     std::string IniFilePath;                ///< of Tarvex.ini

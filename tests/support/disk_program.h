@@ -2,6 +2,7 @@
 
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
+#include "platform/posix/processes/posix_machine.h"
 #include "platform/posix/processes/posix_processes.h"
 #include "platform/posix/safe_writer.h"
 #include "platform/posix/system_calls.h"
@@ -23,15 +24,16 @@ struct DiskProgram {
     explicit DiskProgram(const std::string& folder, const std::string& commandLine = {})
         : drives({.winePrefix = {}, .home = {}, .programDirectory = folder, .workingDirectory = folder}),
           writer(folder + "/Recover", calls), files(drives, writer),
-          processes(drives, files, dialogues, drives.toDos(folder)), platform{.files = files,
-                                                                              .dialogues = dialogues,
-                                                                              .desktop = desktop,
-                                                                              .sound = sound,
-                                                                              .clipboard = clipboard,
-                                                                              .processes = processes,
-                                                                              .programDirectory = drives.toDos(folder),
-                                                                              .commandLine =
-                                                                                  drives.fromArgument(commandLine)}
+          processes(drives, files, dialogues, drives.toDos(folder)),
+          machine(drives, processes), platform{.files = files,
+                                               .dialogues = dialogues,
+                                               .desktop = desktop,
+                                               .sound = sound,
+                                               .clipboard = clipboard,
+                                               .processes = processes,
+                                               .machine = machine,
+                                               .programDirectory = drives.toDos(folder),
+                                               .commandLine = drives.fromArgument(commandLine)}
     {
         std::filesystem::create_directories(folder + "/drive_c");
     }
@@ -52,6 +54,7 @@ struct DiskProgram {
     FakeSound sound;
     FakeClipboard clipboard;
     PosixProcesses processes;
+    PosixMachine machine;
     Platform platform;
     std::unique_ptr<Program> program;
 };

@@ -48,6 +48,12 @@ void MemoryFiles::changeSecretly(const std::string& path, const std::string& byt
     fileAt(path).bytes = bytes;
 }
 
+void MemoryFiles::makeLinkOutside(const std::string& path)
+{
+    if (!find(path)) fail(ErrorCode::FileNotFound, "File not found");
+    m_linksOutside.push_back(key(path));
+}
+
 void MemoryFiles::removeDirectory(const std::string& path) { m_entries.erase(key(path)); }
 
 void MemoryFiles::setReadOnly(const std::string& path, bool readOnly) { fileAt(path).readOnly = readOnly; }
@@ -196,6 +202,18 @@ void MemoryFiles::renameFile(const std::string& path, const std::string& newPath
     entry.path = cleaned(newPath);
     m_entries.erase(key(path));
     m_entries[key(newPath)] = std::move(entry);
+}
+
+bool MemoryFiles::liesWithin(const std::string& path, const std::string& directory) const
+{
+    const std::string inner = key(path);
+    const std::string outer = key(directory);
+    if (!find(path) || !find(directory)) return false;
+    if (inner != outer && !inner.starts_with(outer + "\\")) return false;
+    return std::none_of(m_linksOutside.begin(), m_linksOutside.end(), [&](const std::string& link) {
+        const bool below = link.starts_with(outer + "\\");
+        return below && (inner == link || inner.starts_with(link + "\\"));
+    });
 }
 
 std::vector<std::string> MemoryFiles::list(const std::string& path) const

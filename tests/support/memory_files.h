@@ -21,6 +21,8 @@ public:
     void addDirectory(const std::string& path);
     /// Other bytes of the same number, under the time and identity that the file had.
     void changeSecretly(const std::string& path, const std::string& bytes);
+    /// The file or directory, which must be there, is a link to somewhere outside of all directories above it.
+    void makeLinkOutside(const std::string& path);
     void removeDirectory(const std::string& path);
     void setReadOnly(const std::string& path, bool readOnly = true);
     /// Every write (read) of the path fails with the error from now on, or no longer.
@@ -63,6 +65,7 @@ public:
     std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;
     void removeFile(const std::string& path) override;
     void renameFile(const std::string& path, const std::string& newPath) override;
+    bool liesWithin(const std::string& path, const std::string& directory) const override;
     std::vector<std::string> list(const std::string& path) const override;
 
 private:
@@ -82,6 +85,7 @@ private:
     std::map<std::string, Entry> m_entries;            ///< by key(path)
     std::map<std::string, RuntimeError> m_writeErrors; ///< by key(path), also of files that don't exist
     std::vector<Write> m_writes;
+    std::vector<std::string> m_linksOutside; ///< key(path)
     std::uint64_t m_clock = 0;
     std::optional<RuntimeError> m_appendError;
     std::size_t m_appendRoom = 0; ///< bytes until the error

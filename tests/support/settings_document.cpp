@@ -1,5 +1,6 @@
 #include "support/settings_document.h"
 
+#include "shell/extras.h"
 #include "shell/settings_table.h"
 
 #include <utility>
@@ -109,6 +110,27 @@ constexpr std::string_view introduction =
     "file keeps the whole text, and a path of which only the whole one leads anywhere is taken whole; *colour* the "
     "decimal number 0x00BBGGRR, so 255 is red; *twips* 1/1440 inch. *new* is what a new installation gets.\n";
 
+constexpr std::string_view ofThisMachine =
+    "\n## `Platform.ini`\n\n"
+    "What belongs to this machine, and choices beyond those above; the page \"Extras\" of the preferences and the View "
+    "menu set it. Paths are those of this system, from \"/\" on.\n\n"
+    "| Section | Key | Default | Meaning |\n|---|---|---|---|\n"
+    "| `Appearance` | `Theme` | as the desktop | `light` or `dark` |\n"
+    "| `Programs` | `Wine`, `DOSBox` | the one in `PATH` | what runs Windows and DOS programs |\n"
+    "| `Drives` | `c`, `d`, ... | as found | folder of a drive |\n";
+
+std::string extrasRows()
+{
+    std::string rows;
+    for (const ExtraTick& tick : extraTicks()) {
+        std::string caption = tick.caption;
+        std::erase(caption, '&');
+        rows += "| `Extras` | `" + std::string(tick.key) + "` | `" + (tick.standard ? "1" : "0") + "` | " + caption +
+                " |\n";
+    }
+    return rows;
+}
+
 } // namespace
 
 std::string settingsDocument()
@@ -124,7 +146,7 @@ std::string settingsDocument()
         heading = here;
         text += rowOf(row);
     }
-    return text;
+    return text + std::string(ofThisMachine) + extrasRows();
 }
 
 } // namespace tarvex

@@ -3,6 +3,8 @@
 #include "documents/files/file_open.h"
 #include "platform/profile_file.h"
 
+#include <algorithm>
+
 namespace tarvex {
 
 namespace {
@@ -10,6 +12,54 @@ namespace {
 void type(Pane& pane, const std::string& text) { pane.userEdit(pane.SelStart(), pane.SelLength(), text); }
 
 } // namespace
+
+std::vector<DriveFolder> FakeMachine::drivesWith(const DriveChoices& choices) const
+{
+    std::map<char, DriveFolder> drives;
+    for (const DriveFolder& drive : found) drives[drive.letter] = drive;
+    for (const auto& [letter, folder] : choices) drives[letter] = {letter, folder, DriveFolder::Origin::User};
+    std::vector<DriveFolder> rows;
+    for (const auto& [letter, drive] : drives) rows.push_back(drive);
+    return rows;
+}
+
+void FakeMachine::setDrive(char letter, const std::string& folder)
+{
+    if (folder.empty()) {
+        chosen.erase(letter);
+    } else {
+        chosen[letter] = folder;
+    }
+}
+
+std::string FakeMachine::nativePath(const std::string& dosPath) const
+{
+    for (const DriveFolder& drive : drives()) {
+        if (dosPath.empty() || drive.letter != dosPath[0]) continue;
+        std::string rest = dosPath.substr(2);
+        std::replace(rest.begin(), rest.end(), '\\', '/');
+        return drive.folder == "/" ? rest : drive.folder + (rest == "/" ? "" : rest);
+    }
+    throw RuntimeError(ErrorCode::PathNotFound, "Path not found");
+}
+
+std::string FakeMachine::findRunner(Runner which) const
+{
+    const auto runner = runners.find(which);
+    return runner == runners.end() ? "" : runner->second;
+}
+
+ProgramOutput FakeMachine::askForVersion(const std::string& path)
+{
+    if (!whenAsked) throw RuntimeError(ErrorCode::FileNotFound, "File not found");
+    return whenAsked(path);
+}
+
+bool FakeMachine::showFolder(const std::string& path)
+{
+    shown.push_back(path);
+    return hasFileManager;
+}
 
 TestMachine::TestMachine() { files.addDirectory(programDirectory); }
 

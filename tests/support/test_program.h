@@ -1,13 +1,16 @@
 #pragma once
 
+#include "platform/machine.h"
 #include "platform/platform.h"
 #include "program/program.h"
 #include "support/memory_files.h"
 #include "support/scripted_dialogues.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -70,6 +73,27 @@ struct FakeProcesses final : Processes {
     std::string windowsDirectory() const override { return "c:\\windows"; }
 };
 
+/// A machine with c: on a folder of its own, "/" as z:, and folders in the test's hands.
+struct FakeMachine final : Machine {
+    std::vector<DriveFolder> found{{'c', "/home/pilot/tarvex/drive_c", DriveFolder::Origin::Tarvex},
+                                   {'z', "/", DriveFolder::Origin::Tarvex}};
+    DriveChoices chosen;
+    std::set<std::string> folders{"/", "/home/pilot", "/mnt/disk"};
+    std::map<Runner, std::string> runners;
+    std::function<ProgramOutput(const std::string&)> whenAsked; ///< for its version
+    std::vector<std::string> shown;                             ///< folders
+    bool hasFileManager = true;
+
+    std::vector<DriveFolder> drives() const override { return drivesWith(chosen); }
+    std::vector<DriveFolder> drivesWith(const DriveChoices& choices) const override;
+    void setDrive(char letter, const std::string& folder) override;
+    bool folderExists(const std::string& path) const override { return folders.count(path) != 0; }
+    std::string nativePath(const std::string& dosPath) const override;
+    std::string findRunner(Runner which) const override;
+    ProgramOutput askForVersion(const std::string& path) override;
+    bool showFolder(const std::string& path) override;
+};
+
 struct FakeSound final : Sound {
     std::vector<std::string> played;
     void play(const std::string& path) override { played.push_back(path); }
@@ -96,7 +120,8 @@ struct TestMachine {
     FakeSound sound;
     FakeClipboard clipboard;
     FakeProcesses processes;
-    Platform platform{files, dialogues, desktop, sound, clipboard, processes, programDirectory, {}};
+    FakeMachine machine;
+    Platform platform{files, dialogues, desktop, sound, clipboard, processes, machine, programDirectory, {}};
 
     /// Sets a key of Tarvex.ini, as a user with a text editor would.
     void setIni(const std::string& section, const std::string& key, const std::string& value);

@@ -186,11 +186,42 @@ DriveMap::DriveMap(const DriveEnvironment& environment)
 {
     std::string prefix = environment.winePrefix;
     if (prefix.empty() && !environment.home.empty()) prefix = environment.home + "/.wine";
-    if (!prefix.empty()) m_drives = wineDrives(prefix);
-    if (!has(m_drives, 'c')) {
+    if (!prefix.empty()) m_found = wineDrives(prefix);
+    if (!has(m_found, 'c')) {
         const std::string root = tidy(fs::path(environment.programDirectory) / "drive_c");
-        m_drives = {{'c', {root}, true}};
-        addSpelling(m_drives.front().roots, canonical(root));
+        m_found = {{'c', {root}, true}};
+        addSpelling(m_found.front().roots, canonical(root));
+    }
+    gather();
+}
+
+void DriveMap::choose(char letter, const std::string& folder)
+{
+    if (!isDriveLetter(letter)) return;
+    if (folder.starts_with('/')) {
+        m_chosen[lowerLetter(letter)] = tidy(fs::path(folder).lexically_normal());
+    } else {
+        m_chosen.erase(lowerLetter(letter));
+    }
+    gather();
+}
+
+void DriveMap::forgetChoices()
+{
+    m_chosen.clear();
+    gather();
+}
+
+void DriveMap::gather()
+{
+    m_drives.clear();
+    for (const auto& [letter, root] : m_chosen) {
+        Drive drive{letter, {root}, false, true, true};
+        addSpelling(drive.roots, canonical(root));
+        m_drives.push_back(drive);
+    }
+    for (const Drive& drive : m_found) {
+        if (m_chosen.count(drive.letter) == 0) m_drives.push_back(drive);
     }
     addRootDrive(m_drives);
     std::sort(m_drives.begin(), m_drives.end(), [](const Drive& a, const Drive& b) { return a.letter < b.letter; });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,21 +16,28 @@ struct DriveEnvironment {
 };
 
 /// The DOS drives of this machine: those of the Wine prefix when it has a c:, otherwise c: is drive_c in the program
-/// directory. "/" is reachable in any case: as z:, or as the last free letter where the prefix uses z: for something
-/// else.
+/// directory; the user's own choices take their place. "/" is reachable in any case: as z:, or as the last free letter
+/// where z: is used for something else.
 class DriveMap {
 public:
     struct Drive {
         char letter;                    ///< 'a' to 'z'
         std::vector<std::string> roots; ///< spellings of its native root, the one to use first; no "/" at the end
         bool makeRoot = false;          ///< the root is made when it is first needed
-        bool isOwn = false;             ///< the letter is the program's own choice: Wine doesn't know it
+        bool isOwn = false;             ///< a choice of the program or its user: Wine doesn't know it
+        bool isChosen = false;          ///< the user's
     };
 
     explicit DriveMap(const DriveEnvironment& environment);
 
     /// In the order of their letters.
     const std::vector<Drive>& drives() const { return m_drives; }
+
+    /// Puts a folder, an absolute native path, behind a letter; an empty one takes the user's choice back. A folder
+    /// that isn't there yet is taken all the same: its disk may be mounted later.
+    void choose(char letter, const std::string& folder);
+    /// As they were found.
+    void forgetChoices();
 
     /// The native path of a DOS path; "/" separates, too. Names are looked up without regard to case, the exact one
     /// first; those that don't exist are kept as they are given. "." and ".." are resolved in the text and never leave
@@ -51,6 +59,10 @@ private:
     std::string rootOfDrive(char letter) const;
     std::string dosFromAbsolute(const std::string& path) const;
 
+    void gather();
+
+    std::vector<Drive> m_found; ///< without the user's choices
+    std::map<char, std::string> m_chosen;
     std::vector<Drive> m_drives;
     std::string m_workingDirectory;
 };

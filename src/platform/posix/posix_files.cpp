@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -173,6 +174,17 @@ void PosixFiles::renameFile(const std::string& path, const std::string& newPath)
             throwSystemError();
         }
     });
+}
+
+bool PosixFiles::liesWithin(const std::string& path, const std::string& directory) const
+{
+    try {
+        const std::filesystem::path inner = std::filesystem::canonical(m_drives.toNative(path));
+        const std::filesystem::path outer = std::filesystem::canonical(m_drives.toNative(directory));
+        return std::mismatch(outer.begin(), outer.end(), inner.begin(), inner.end()).first == outer.end();
+    } catch (const std::exception&) {
+        return false;
+    }
 }
 
 std::vector<std::string> PosixFiles::list(const std::string& path) const

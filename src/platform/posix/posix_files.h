@@ -27,6 +27,7 @@ public:
     std::unique_ptr<AppendFile> createAppendFile(const std::string& path) override;
     void removeFile(const std::string& path) override;
     void renameFile(const std::string& path, const std::string& newPath) override;
+    bool liesWithin(const std::string& path, const std::string& directory) const override;
     std::vector<std::string> list(const std::string& path) const override;
 
 private:

@@ -5,13 +5,16 @@
 #include "platform/posix/processes/command_line.h"
 #include "platform/posix/processes/runners.h"
 #include "platform/posix/processes/spawn.h"
+#include "platform/posix/system_error.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <poll.h>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -33,6 +36,9 @@ void waitAWhile(int file, int timeout)
     pollfd polled{file, POLLIN, 0};
     ::poll(&polled, file < 0 ? 0 : 1, timeout);
 }
+
+/// Bytes of a program's output that are read.
+constexpr std::size_t mostOutput = 4096;
 
 bool isArgumentPath(const std::string& argument) { return isDosPath(argument) && argument.size() > 2; }
 
@@ -158,6 +164,27 @@ std::string PosixProcesses::wineArgument(const std::string& argument) const
 {
     const std::string native = nativeArgument(argument);
     return native == argument || isKnownToWine(argument, native) ? argument : winePath(native);
+}
+
+// ---- output ---------------------------------------------------------------------------------------------------------
+
+ProgramOutput PosixProcesses::run(const std::vector<std::string>& arguments, std::int32_t timeout)
+{
+    reap();
+    const FileDescriptor output(::memfd_create("output", MFD_CLOEXEC));
+    if (!output) throwSystemError();
+    const pid_t process = spawn(arguments, "/", -1, output.get());
+    adopt(process, nullptr);
+    ProgramOutput result;
+    result.ended = wait(process, timeout) == waitResult::ended;
+    if (!result.ended) {
+        ::kill(-process, SIGKILL); // the session that spawn gave it, with what it has started
+        wait(process, -1);
+    }
+    result.text.resize(mostOutput);
+    const ssize_t size = ::pread(output.get(), result.text.data(), result.text.size(), 0);
+    result.text.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    return result;
 }
 
 // ---- children -------------------------------------------------------------------------------------------------------

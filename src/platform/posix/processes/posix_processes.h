@@ -2,6 +2,7 @@
 
 #include "platform/dialogues.h"
 #include "platform/files.h"
+#include "platform/machine.h"
 #include "platform/posix/dosbox/dosbox_run.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/file_descriptor.h"
@@ -34,6 +35,10 @@ public:
     ProcessId start(const ProgramCommand& command, int style, const std::string& directory) override;
     std::int32_t wait(ProcessId process, std::int32_t timeout) override;
     std::string windowsDirectory() const override { return "c:\\windows"; }
+
+    /// Runs a program of this system, by its native path, to its end, and stops it after `timeout` milliseconds. Throws
+    /// RuntimeError when it can't be started.
+    ProgramOutput run(const std::vector<std::string>& arguments, std::int32_t timeout);
 
     /// Reaps the exited programs that nobody waits for.
     void reap();

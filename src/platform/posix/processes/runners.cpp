@@ -1,6 +1,6 @@
 #include "platform/posix/processes/runners.h"
 
-#include "platform/profile_file.h"
+#include "platform/machine_settings.h"
 #include "platform/runner_missing.h"
 
 #include <cstdlib>
@@ -13,7 +13,6 @@ namespace tarvex {
 namespace {
 
 struct RunnerRow {
-    const char* key; ///< in section Programs of Platform.ini
     const char* command;
     const char* package;
     const char* programs; ///< what it runs, as the box names it
@@ -21,8 +20,8 @@ struct RunnerRow {
 
 const RunnerRow& rowOf(Runner which)
 {
-    static constexpr RunnerRow wine{"Wine", "wine", "wine", "a Windows program"};
-    static constexpr RunnerRow dosBox{"DOSBox", "dosbox", "dosbox", "a DOS program"};
+    static constexpr RunnerRow wine{"wine", "wine", "a Windows program"};
+    static constexpr RunnerRow dosBox{"dosbox", "dosbox", "a DOS program"};
     return which == Runner::Wine ? wine : dosBox;
 }
 
@@ -31,9 +30,6 @@ bool isExecutable(const std::string& path)
     std::error_code error;
     return std::filesystem::is_regular_file(path, error) && ::access(path.c_str(), X_OK) == 0;
 }
-
-/// The longest path that the system takes.
-constexpr std::size_t longestPath = 4096;
 
 } // namespace
 
@@ -46,22 +42,29 @@ std::string findCommand(const std::string& path, const std::string& command)
     return {};
 }
 
+std::string findRunnerInPath(Runner which)
+{
+    const char* path = std::getenv("PATH");
+    return findCommand(path != nullptr ? path : "", rowOf(which).command);
+}
+
 std::string findRunner(FileSystem& files, Dialogues& dialogues, const std::string& programDirectory, Runner which,
                        const std::string& program)
 {
     const RunnerRow& row = rowOf(which);
-    const std::string iniPath = programDirectory + "\\Platform.ini";
-    const std::string set = ProfileFile(files, iniPath).readString("Programs", row.key, "", longestPath);
-    const char* path = std::getenv("PATH");
-    const std::string found = !set.empty() ? set : findCommand(path != nullptr ? path : "", row.command);
+    const std::string name = nameOf(which);
+    ProfileFile ini(files, platformIniPath(programDirectory));
+    const MachineSettings settings(ini);
+    const std::string set = settings.runner(which);
+    const std::string found = !set.empty() ? set : findRunnerInPath(which);
     if (found.starts_with('/') && isExecutable(found)) return found;
 
     const std::string expected = set.empty() ? "" : " You've told me that it is here: " + set;
-    dialogues.show({.title = "Where is " + std::string(row.key) + "?",
-                    .text = program + " is " + row.programs + ", and I need " + row.key +
+    dialogues.show({.title = "Where is " + name + "?",
+                    .text = program + " is " + row.programs + ", and I need " + name +
                             " to run it, which I couldn't find." + expected + "\n\nInstall it (the package is called " +
-                            row.package + "), or write its full path after " + row.key +
-                            "= in the section [Programs] of " + iniPath + ".",
+                            row.package + "), or choose it on the Extras page of the preferences, which keep it in " +
+                            ini.path() + ".",
                     .icon = BoxIcon::Exclamation});
     throw RunnerMissing();
 }

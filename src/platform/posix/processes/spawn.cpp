@@ -23,10 +23,14 @@ void check(int error)
 /// What is done in the child before the program takes over.
 class FileActions {
 public:
-    FileActions(const std::string& directory, int kept)
+    FileActions(const std::string& directory, int kept, int output)
     {
         check(::posix_spawn_file_actions_init(&m_actions));
         check(::posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
+        if (output >= 0) {
+            for (const int standard : {STDOUT_FILENO, STDERR_FILENO})
+                check(::posix_spawn_file_actions_adddup2(&m_actions, output, standard));
+        }
         int first = STDERR_FILENO + 1;
         if (kept >= 0) check(::posix_spawn_file_actions_adddup2(&m_actions, kept, first++));
         check(::posix_spawn_file_actions_addclosefrom_np(&m_actions, first));
@@ -81,9 +85,9 @@ RuntimeError startError(int error)
 
 } // namespace
 
-pid_t spawn(const std::vector<std::string>& arguments, const std::string& directory, int kept)
+pid_t spawn(const std::vector<std::string>& arguments, const std::string& directory, int kept, int output)
 {
-    const FileActions actions(directory, kept);
+    const FileActions actions(directory, kept, output);
     const Attributes attributes;
     std::vector<std::string> texts = arguments;
     std::vector<char*> pointers;

@@ -1,0 +1,37 @@
+#include "shell/extras.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+namespace tarvex {
+
+namespace {
+
+constexpr std::string_view section = "Extras";
+
+constexpr ExtraTick ticks[] = {
+    {extraKey::askForFiles, "Ask where m&y files are while I have no folder for them",
+     "Asks at once when the preferences close, and then no more until this is ticked again", true},
+};
+
+const ExtraTick& rowOf(std::string_view key)
+{
+    const auto* row =
+        std::find_if(std::begin(ticks), std::end(ticks), [=](const ExtraTick& t) { return t.key == key; });
+    if (row == std::end(ticks)) throw std::out_of_range(std::string(key));
+    return *row;
+}
+
+} // namespace
+
+std::span<const ExtraTick> extraTicks() { return ticks; }
+
+bool Extras::on(std::string_view key) const { return m_ini.readInt(section, key, rowOf(key).standard ? 1 : 0) == 1; }
+
+void Extras::set(std::string_view key, bool isOn)
+{
+    if (on(key) != isOn) m_ini.writeString(section, key, isOn ? "1" : "0");
+}
+
+} // namespace tarvex
