@@ -31,6 +31,7 @@ void Bindings::focus(Focusable& state, QWidget& widget)
 void Bindings::comboBox(ComboBox& state, QComboBox& widget)
 {
     focus(state, widget);
+    bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
     if (widget.isEditable()) return editableComboBox(state, widget);
     const auto showText = [&state, &widget] {
         const QSignalBlocker quiet(widget);
@@ -111,6 +112,7 @@ void Bindings::optionButton(OptionButton& state, QRadioButton& widget)
     bind(state.Value, [&widget](bool on) {
         if (on) widget.setChecked(true); // which clears the others
     });
+    bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
     QObject::connect(&widget, &QRadioButton::clicked, &widget, [&state] {
         if (state.Click) state.Click();
     });
@@ -162,6 +164,7 @@ void Bindings::listBox(ListBox& state, QListWidget& widget, Runs runs)
     });
     bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
     bind(state.Visible, [&widget](bool on) { widget.setVisible(on); });
+    bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
     const auto click = [&state] {
         if (state.Click && state.ListIndex >= 0) state.Click();
     };

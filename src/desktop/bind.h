@@ -43,13 +43,14 @@ public:
 
     /// Caption, enabling, visibility and tool tip; a click of the user runs Click.
     void button(Button& state, QAbstractButton& widget);
-    /// Items and text; a choice of the user sets Text and runs Click. In an editable one what the user writes is Text.
+    /// Items, text and tool tip; a choice of the user sets Text and runs Click. In an editable one what the user writes
+    /// is Text.
     void comboBox(ComboBox& state, QComboBox& widget);
     /// Text both ways, enabling and tool tip.
     void textBox(TextBox& state, QLineEdit& widget);
     /// Caption and tick; a click of the user sets Value and runs Click.
     void checkBox(CheckBox& state, QCheckBox& widget);
-    /// Caption and choice; a click of the user runs Click.
+    /// Caption, choice and tool tip; a click of the user runs Click.
     void optionButton(OptionButton& state, QRadioButton& widget);
     /// Captions, and the tab in front both ways; the widget has its pages already.
     void tabs(TabStrip& state, QTabWidget& widget);
@@ -57,7 +58,7 @@ public:
     void pages(SSTab& state, QTabWidget& widget);
     /// What runs the Click of a list: choosing an entry in any way, or only a mouse click or the Return key on it.
     enum class Runs { OnChoice, OnClickOrReturn };
-    /// Items, choice, enabling and visibility; a choice of the user sets ListIndex.
+    /// Items, choice, enabling, visibility and tool tip; a choice of the user sets ListIndex.
     void listBox(ListBox& state, QListWidget& widget, Runs runs = Runs::OnChoice);
     void progressBar(ProgressBar& state, QProgressBar& widget);
     /// Runs Tick at its interval while it is enabled. `owner` owns the clockwork and bounds its life.

@@ -147,6 +147,7 @@ struct CheckBox {
 struct OptionButton {
     Property<std::string> Caption;
     Property<bool> Value = false;
+    Property<std::string> ToolTipText;
     std::function<void()> Click;
 };
 
@@ -154,6 +155,7 @@ struct ComboBox : Focusable {
     Property<std::vector<std::string>> Items;
     Property<std::string> Text;  ///< the text shown: one of Items, or where the view lets the user write, any
     std::function<void()> Click; ///< the user chose an item
+    Property<std::string> ToolTipText;
     Signal<> selectAllWanted;
     void SelectAll() const { selectAllWanted(); }
 };
@@ -164,6 +166,7 @@ struct ListBox : Focusable {
     Property<int> ListIndex = -1; ///< from 0; -1: none
     Property<bool> Enabled = true;
     Property<bool> Visible = true;
+    Property<std::string> ToolTipText;
     std::function<void()> Click;
 };
 
