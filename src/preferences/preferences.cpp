@@ -2,16 +2,16 @@
 
 #include "documents/window/hardware_changes.h"
 #include "lists/custom_apps.h"
+#include "platform/runner_missing.h"
 #include "preferences/previous_loaders.h"
 #include "preferences/scheme_in_force.h"
 
 #include <string_view>
+#include <vector>
 
 namespace tarvex {
 
 namespace {
-
-constexpr std::string_view formName = "Preferences";
 
 /// The first box of a page; none: the page has no box to begin with.
 const Focusable* firstBoxOf(Preferences& preferences, int page)
@@ -68,6 +68,7 @@ void writeSettings(Preferences& preferences, const Steps& step)
     Editor& editor = preferences.editor;
     Shared& shared = editor.shared;
     const SettingsStore::Batch together(shared.store);
+    const ProfileFile::Batch machine(shared.platformIni);
     shared.store.SaveOptions();
     step([&] { SaveFilesPath(editor); });
     step([&] { SaveColourScheme(editor); });
@@ -78,6 +79,34 @@ void writeSettings(Preferences& preferences, const Steps& step)
     const Settings& settings = shared.settings;
     if (!settings.B50LoadPath.empty() && !settings.WinLoadString.empty())
         step([&] { SaveWinLoadStuff(preferences.winLoadPage); });
+    step([&] { takeExtras(preferences.extrasPage); });
+}
+
+using Unwritten = std::vector<SettingsStore::WriteFailure>;
+
+/// What the write just done has not brought to the disk.
+Unwritten unwrittenFiles(Preferences& preferences)
+{
+    const Shared& shared = preferences.editor.shared;
+    Unwritten failures = shared.store.writeFailures();
+    const std::string& reason = shared.platformIni.whyNotWritten();
+    preferences.extrasPage.unwritten = !reason.empty();
+    if (!reason.empty()) failures.push_back({shared.platformIni.path(), reason});
+    return failures;
+}
+
+/// The settings are in memory all the same: said once, whatever number of keys there are.
+void reportUnwritten(Preferences& preferences, const Unwritten& failures)
+{
+    if (failures.empty()) return;
+    std::string files;
+    for (const auto& [path, reason] : failures) files += "\n    " + path + ": " + reason;
+    preferences.editor.platform.dialogues.show(
+        {.title = "Ooops!",
+         .text = "I couldn't write this:\n" + files +
+                 "\n\nWhat you've set counts until you close me, and I'll try again the next time that you close the "
+                 "preferences.",
+         .icon = BoxIcon::Exclamation});
 }
 
 void restartAutoSave(Editor& editor)
@@ -94,6 +123,7 @@ void putIntoForce(Preferences& preferences, const Steps& step)
 {
     Editor& editor = preferences.editor;
     step([&] { restartAutoSave(editor); });
+    step([&] { moveDrives(preferences.extrasPage); });
     if (editor.shared.HardwareChangedMark == 1) step([&] { HardwareHasChanged(editor); });
     step([&] { showSettingsInFrame(editor); });
     step([&] { AddmnuFavouritesArray(preferences.lists.favourites); });
@@ -102,12 +132,27 @@ void putIntoForce(Preferences& preferences, const Steps& step)
     if (preferences.coloursPage.coloursChanged) step([&] { showColourScheme(editor); });
 }
 
+/// WinLoad's own help is a file for the viewer of Windows. False: there is no such file, or no viewer.
+bool showStickyHelp(Platform& platform)
+{
+    const std::string file = platform.programDirectory + "\\sticky.hlp";
+    if (!platform.files.fileExists(file)) return false;
+    const Steps step;
+    return step([&] {
+        try {
+            platform.processes.start({platform.processes.windowsDirectory() + "\\winhlp32.exe ", file},
+                                     windowStyle::normal, platform.programDirectory);
+        } catch (const RunnerMissing&) { // a box has said so
+        }
+    });
+}
+
 } // namespace
 
 Preferences::Preferences(Editor& theEditor, Lists& theLists)
     : editor(theEditor), lists(theLists), fileLocationsPage(theEditor, SSTab1.Pages(winLoad)), coloursPage(theEditor),
       appsPage(theEditor), favouritesPage(theLists.favourites), gamesPage(theLists.games), savingPage(theEditor),
-      miscellaneousPage(theEditor), winLoadPage(theEditor.shared)
+      miscellaneousPage(theEditor), winLoadPage(theEditor.shared), extrasPage(theEditor)
 {
     Form.Caption = "Preferences";
     Form.Close = [this] { Form.Visible = false; };
@@ -118,7 +163,7 @@ Preferences::Preferences(Editor& theEditor, Lists& theLists)
     Command6.handler = [this] { PREFS_Command6_Click(*this); };
 }
 
-void PREFS_Form_Load(Preferences& preferences)
+void loadSettingsPages(Preferences& preferences)
 {
     const Steps step(preferences.editor.shared.errors, "PREFS Form_Load");
     step([&] { loadFileLocations(preferences.fileLocationsPage); });
@@ -129,6 +174,13 @@ void PREFS_Form_Load(Preferences& preferences)
     step([&] { loadSaving(preferences.savingPage); });
     step([&] { loadMiscellaneous(preferences.miscellaneousPage); });
     step([&] { GetWinloadStuff(preferences.winLoadPage); });
+}
+
+void PREFS_Form_Load(Preferences& preferences)
+{
+    loadSettingsPages(preferences);
+    const Steps step(preferences.editor.shared.errors, "PREFS Form_Load");
+    step([&] { loadExtras(preferences.extrasPage); });
 }
 
 void PREFS_Form_Activate(Preferences& preferences)
@@ -154,7 +206,9 @@ void PREFS_Form_Unload(Preferences& preferences)
     const Steps step(preferences.editor.shared.errors, "PREFS Form_Unload");
     takePages(preferences, step);
     step([&] { writeSettings(preferences, step); });
+    const Unwritten failures = unwrittenFiles(preferences);
     putIntoForce(preferences, step);
+    step([&] { reportUnwritten(preferences, failures); });
 }
 
 void PREFS_Command6_Click(Preferences& preferences)
@@ -162,6 +216,7 @@ void PREFS_Command6_Click(Preferences& preferences)
     const Steps step(preferences.editor.shared.errors, "PREFS Command6_Click");
     step([&] {
         if (preferences.SSTab1.Tab == Preferences::winLoad) {
+            if (showStickyHelp(preferences.editor.platform)) return;
             preferences.editor.platform.dialogues.show(
                 {.title = "See Ned's ReadMe.txt file",
                  .text = "There is no help in the help file for the Sticky tab. You should instead refer to the "
@@ -170,25 +225,6 @@ void PREFS_Command6_Click(Preferences& preferences)
         }
         preferences.editor.operations.HelpKeyword("Preferences");
     });
-}
-
-void mnuPreferencesEdit_Click(Preferences& preferences)
-{
-    Editor& editor = preferences.editor;
-    const Steps step(editor.shared.errors, "ED_mnuPreferencesEdit_Click");
-    PREFS_Form_Load(preferences);
-    PREFS_Form_Activate(preferences);
-    step([&] { editor.platform.dialogues.showModal(std::string(formName)); });
-    PREFS_Form_Unload(preferences);
-    editor.shared.PreferencesPage = 0; // the plain command opens at the first page
-    if (editor.shared.FontChanged == 1) step([&] { editor.operations.DamnFontWasChanged(); });
-}
-
-void wirePreferences(Preferences& preferences)
-{
-    Editor& editor = preferences.editor;
-    editor.menus.mnuPreferencesEdit.handler = [&preferences] { mnuPreferencesEdit_Click(preferences); };
-    editor.operations.DamnFontWasChanged = [&editor] { DamnFontWasChanged(editor); };
 }
 
 } // namespace tarvex

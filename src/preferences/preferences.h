@@ -3,9 +3,12 @@
 #include "lists/lists.h"
 #include "preferences/apps_page.h"
 #include "preferences/colours_page.h"
+#include "preferences/extras_page.h"
 #include "preferences/favourites_page.h"
 #include "preferences/file_locations_page.h"
+#include "preferences/files_home.h"
 #include "preferences/games_page.h"
+#include "preferences/import_form.h"
 #include "preferences/miscellaneous_page.h"
 #include "preferences/saving_page.h"
 #include "preferences/winload_page.h"
@@ -20,13 +23,13 @@ struct Preferences {
     Preferences& operator=(const Preferences&) = delete;
 
     /// Pages of SSTab1.
-    enum Page { fileLocations, colours, apps, favourites, games, saving, miscellaneous, winLoad };
+    enum Page { fileLocations, colours, apps, favourites, games, saving, miscellaneous, winLoad, extras };
 
     Editor& editor;
     Lists& lists;
     tarvex::Form Form;
-    SSTab SSTab1{"&File locations", "&Colours/Fonts",  "&Apps",          "Fa&vourites",
-                 "&Games",          "&Open/Save/Undo", "&Miscellaneous", "&Sticky"};
+    SSTab SSTab1{"&File locations", "&Colours/Fonts", "&Apps",   "Fa&vourites", "&Games",
+                 "&Open/Save/Undo", "&Miscellaneous", "&Sticky", "E&xtras"};
     FileLocationsPage fileLocationsPage;
     ColoursPage coloursPage;
     AppsPage appsPage;
@@ -35,11 +38,16 @@ struct Preferences {
     SavingPage savingPage;
     MiscellaneousPage miscellaneousPage;
     WinLoadPage winLoadPage;
+    ExtrasPage extrasPage;
+    ImportForm importForm;
+    FilesHome filesHome;
     Button Command3; ///< OK
     Button Command6; ///< help on the page that is shown
 };
 
-/// Fills every control from the settings.
+/// Fills the controls of the eight pages that show the settings.
+void loadSettingsPages(Preferences& preferences);
+/// Fills every control.
 void PREFS_Form_Load(Preferences& preferences);
 /// Shows the page that was asked for, with the keyboard in its first box.
 void PREFS_Form_Activate(Preferences& preferences);
@@ -48,11 +56,5 @@ void SSTab1_Click(Preferences& preferences);
 /// The dialogue closes: takes, writes and puts into force what its pages hold.
 void PREFS_Form_Unload(Preferences& preferences);
 void PREFS_Command6_Click(Preferences& preferences);
-
-/// Loads the dialogue, shows it modally and unloads it.
-void mnuPreferencesEdit_Click(Preferences& preferences);
-
-/// Takes the command that shows the preferences, and the operation that follows a change of the font.
-void wirePreferences(Preferences& preferences);
 
 } // namespace tarvex

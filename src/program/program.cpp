@@ -21,6 +21,7 @@
 #include "download/download_commands.h"
 #include "download/own_tools.h"
 #include "language/commands/language_commands.h"
+#include "preferences/preferences_command.h"
 #include "safein/safein.h"
 #include "shell/frame/mum_window.h"
 #include "shell/handler.h"

@@ -125,6 +125,21 @@ TEST_F(WinLoadPageTest, ThePageIsForWinLoadOnlyWithRegardToCase)
     });
 }
 
+TEST_F(WinLoadPageTest, HelpOnThePageShowsWinLoadsOwnHelpWhereThereIsSuchAFile)
+{
+    files.write("c:\\tarvex\\sticky.hlp", "?");
+    inPreferences([this] {
+        preferences().SSTab1.Tab = Preferences::winLoad;
+        preferences().Command6.Click();
+        ASSERT_EQ(processes.starts.size(), 1U);
+        EXPECT_EQ(processes.starts[0].commandLine, "c:\\windows\\winhlp32.exe c:\\tarvex\\sticky.hlp");
+        EXPECT_TRUE(dialogues.boxes.empty());
+        processes.failure = RuntimeError(ErrorCode::FileNotFound, "File not found");
+        preferences().Command6.Click();
+        EXPECT_EQ(lastBox().title, "See Ned's ReadMe.txt file");
+    });
+}
+
 TEST_F(WinLoadPageTest, HelpOnThePageSendsTheUserToTheReadMe)
 {
     inPreferences([this] {

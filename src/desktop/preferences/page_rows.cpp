@@ -112,6 +112,8 @@ void PageRows::comboRow(const QString& caption, ComboBox& state, const QString& 
     row(caption, box);
 }
 
+void PageRows::below(QWidget* widget) { m_rows->addWidget(widget, m_rows->rowCount(), 1, 1, columns - 1); }
+
 void PageRows::wide(QWidget* widget, Qt::Alignment alignment)
 {
     m_rows->addWidget(widget, m_rows->rowCount(), 0, 1, columns, alignment);

@@ -45,6 +45,8 @@ public:
     /// A line with a number of some digits.
     QLineEdit* numberRow(const QString& caption, TextBox& state, const QString& name);
     void comboRow(const QString& caption, ComboBox& state, const QString& name);
+    /// Something below a box, as wide as the boxes are.
+    void below(QWidget* widget);
     /// Something across the whole width, or where it is aligned in it.
     void wide(QWidget* widget, Qt::Alignment alignment = {});
     void gap();

@@ -18,5 +18,6 @@ QWidget* gamesPageView(GamesPage& page, Bindings& bindings);
 QWidget* savingPageView(SavingPage& page, Bindings& bindings);
 QWidget* miscellaneousPageView(MiscellaneousPage& page, Bindings& bindings);
 QWidget* winLoadPageView(WinLoadPage& page, Bindings& bindings);
+QWidget* extrasPageView(ExtrasPage& page, Bindings& bindings);
 
 } // namespace tarvex

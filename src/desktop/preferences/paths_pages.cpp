@@ -20,7 +20,7 @@ QWidget* fileLocationsPageView(FileLocationsPage& page, Bindings& bindings)
     loader->setEditable(true);
     loader->setInsertPolicy(QComboBox::NoInsert);
     loader->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    loader->setMinimumContentsLength(30);
+    loader->setMinimumContentsLength(12);
     bindings.comboBox(page.Text1, *loader);
     bindings.bind(page.Text1.Text, [loader](const std::string& path) { loader->setToolTip(toQt(path)); });
     QPushButton* browse = rows->button(page.Command1, QStringLiteral("Command1"));

@@ -1,13 +1,18 @@
 #include "desktop/preferences/preferences_view.h"
 
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/preferences/files_home_view.h"
+#include "desktop/preferences/import_view.h"
 #include "desktop/preferences/pages.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -34,10 +39,31 @@ QSize roomyDialogue(QTabWidget& tabs, const QSize& hint)
     return hint.expandedTo(others + around);
 }
 
+/// In upper case; null: none.
+QChar accessKey(const QString& caption)
+{
+    const QKeySequence keys = QKeySequence::mnemonic(caption);
+    return keys.isEmpty() ? QChar() : QChar(keys[0].key());
+}
+
+QSet<QChar> accessKeysOf(const QWidget& page)
+{
+    QSet<QChar> keys;
+    for (const auto* button : page.findChildren<QAbstractButton*>()) keys.insert(accessKey(button->text()));
+    for (const auto* label : page.findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr) keys.insert(accessKey(label->text()));
+    }
+    for (const auto* tabs : page.findChildren<QTabBar*>()) {
+        for (int i = 0; i < tabs->count(); ++i) keys.insert(accessKey(tabs->tabText(i)));
+    }
+    keys.remove(QChar());
+    return keys;
+}
+
 } // namespace
 
 PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
-    : FormWindow(preferences.Form, QStringLiteral("Preferences"), parent)
+    : FormWindow(preferences.Form, QStringLiteral("Preferences"), parent), m_preferences(preferences)
 {
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("SSTab1"));
@@ -49,7 +75,10 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     addPage(*tabs, savingPageView(preferences.savingPage, m_bindings));
     addPage(*tabs, miscellaneousPageView(preferences.miscellaneousPage, m_bindings));
     addPage(*tabs, winLoadPageView(preferences.winLoadPage, m_bindings));
+    addPage(*tabs, extrasPageView(preferences.extrasPage, m_bindings));
     m_bindings.pages(preferences.SSTab1, *tabs);
+    connect(tabs, &QTabWidget::currentChanged, this, [this, tabs] { clearAccessKeys(*tabs); });
+    m_bindings.follow(preferences.SSTab1.Tab, [this, tabs] { clearAccessKeys(*tabs); });
 
     auto* box = new QDialogButtonBox(this);
     QPushButton* ok = box->addButton(QDialogButtonBox::Ok);
@@ -67,6 +96,19 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     resize(roomyDialogue(*tabs, sizeHint()).boundedTo(screen()->availableSize() * 9 / 10));
 }
 
+/// The controls of the page that is shown have their access keys to themselves: a tab of the same one has none
+/// meanwhile. With two of one key, neither would do what it says at the first press.
+void PreferencesView::clearAccessKeys(QTabWidget& tabs)
+{
+    const QSet<QChar> taken = accessKeysOf(*tabs.currentWidget());
+    for (int i = 0; i < tabs.count(); ++i) {
+        QString caption = toQt(m_preferences.SSTab1.Pages(i).Caption.get());
+        const QChar key = accessKey(caption);
+        if (!key.isNull() && taken.contains(key)) caption.remove(QLatin1Char('&'));
+        tabs.setTabText(i, caption);
+    }
+}
+
 void PreferencesView::addPage(QTabWidget& tabs, QWidget* page)
 {
     auto* area = new QScrollArea(&tabs);
@@ -79,6 +121,12 @@ void PreferencesView::addPage(QTabWidget& tabs, QWidget* page)
 void addPreferencesForm(QtDialogues& dialogues, Preferences& preferences, QWidget* parent)
 {
     dialogues.addForm("Preferences", [&preferences, parent] { PreferencesView(preferences, parent).showModally(); });
+    dialogues.addForm("Import", [&form = preferences.importForm, parent] {
+        QWidget* before = QApplication::activeModalWidget();
+        ImportView(form, before != nullptr ? before : parent).showModally();
+    });
+    dialogues.addForm("FilesHome",
+                      [&form = preferences.filesHome, parent] { FilesHomeView(form, parent).showModally(); });
 }
 
 } // namespace tarvex

@@ -17,9 +17,12 @@ public:
 
 private:
     void addPage(QTabWidget& tabs, QWidget* page);
+    void clearAccessKeys(QTabWidget& tabs);
+
+    Preferences& m_preferences;
 };
 
-/// Lets the dialogues show the preferences.
+/// Lets the dialogues show the preferences and what they ask.
 void addPreferencesForm(QtDialogues& dialogues, Preferences& preferences, QWidget* parent);
 
 } // namespace tarvex

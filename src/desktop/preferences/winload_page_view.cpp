@@ -65,7 +65,7 @@ QWidget* extraPage(WinLoadPage& page, Bindings& bindings)
 {
     auto* rows = new PageRows(bindings);
     rows->wide(rows->check(page.CheckUseBlanker, QStringLiteral("CheckUseBlanker")));
-    rows->lineRow(QStringLiteral("Extra te&xt:"), page.ExtraText, QStringLiteral("ExtraText"));
+    rows->lineRow(QStringLiteral("Ext&ra text:"), page.ExtraText, QStringLiteral("ExtraText"));
     rows->wide(rows->check(page.CheckStatusBarErrors, QStringLiteral("CheckStatusBarErrors")));
     rows->end();
     return rows;

@@ -47,17 +47,6 @@ void nameEmptyDocuments(Editor& editor)
     editor.mum.StatusBar.Panels(panel::macroFile).Text = "No macro file analysed";
 }
 
-/// Choices that live in menu ticks take them from their settings.
-void tickMenus(Editor& editor)
-{
-    const Settings& settings = editor.shared.settings;
-    Menus& menus = editor.menus;
-    menus.mnuJoyPopUpSingleFile.Checked = settings.OpenSingleFileOnly == 1;
-    menus.mnuUseWakeWarning.Checked = settings.WakeUpWarning == 1;
-    menus.mnuMacrosSaveOptions1.Checked = settings.MacroSaveUpdateMacros == 1;
-    menus.mnuMacrosSaveOptions2.Checked = settings.MacroSaveIdentifyJF == 1;
-}
-
 void readLists(Editor& editor, const Steps& step)
 {
     Operations& operations = editor.operations;
@@ -182,6 +171,16 @@ std::string loadDocuments(Editor& editor, const Steps& step)
 }
 
 } // namespace
+
+void tickMenus(Editor& editor)
+{
+    const Settings& settings = editor.shared.settings;
+    Menus& menus = editor.menus;
+    menus.mnuJoyPopUpSingleFile.Checked = settings.OpenSingleFileOnly == 1;
+    menus.mnuUseWakeWarning.Checked = settings.WakeUpWarning == 1;
+    menus.mnuMacrosSaveOptions1.Checked = settings.MacroSaveUpdateMacros == 1;
+    menus.mnuMacrosSaveOptions2.Checked = settings.MacroSaveIdentifyJF == 1;
+}
 
 void Form_Load(Editor& editor)
 {

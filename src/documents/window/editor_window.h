@@ -13,6 +13,9 @@ void Form_Activate(Editor& editor);
 bool Form_QueryUnload(Editor& editor);
 void Form_Unload(Editor& editor);
 
+/// Choices that live in menu ticks take them from their settings.
+void tickMenus(Editor& editor);
+
 /// Clears CommandLineFile when no such file exists.
 void TestCommandLine(Editor& editor);
 

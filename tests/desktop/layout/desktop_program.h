@@ -22,6 +22,7 @@ struct DesktopProgram {
                       machine.sound,
                       machine.clipboard,
                       machine.processes,
+                      machine.machine,
                       TestMachine::programDirectory,
                       {}};
     std::unique_ptr<Program> program;

@@ -39,11 +39,11 @@ struct PreferencesViewTest : testing::Test, TestProgram {
     std::unique_ptr<PreferencesView> view;
 };
 
-TEST_F(PreferencesViewTest, ShowsEightPagesByTheirCaptions)
+TEST_F(PreferencesViewTest, ShowsItsPagesByTheirCaptions)
 {
     auto* tabs = child<QTabWidget>("SSTab1");
-    const QStringList captions{"&File locations", "&Colours/Fonts",  "&Apps",          "Fa&vourites",
-                               "&Games",          "&Open/Save/Undo", "&Miscellaneous", "&Sticky"};
+    const QStringList captions{"&File locations", "&Colours/Fonts", "&Apps",   "Fa&vourites", "&Games",
+                               "&Open/Save/Undo", "&Miscellaneous", "&Sticky", "E&xtras"};
     ASSERT_EQ(tabs->count(), captions.size());
     for (int i = 0; i < tabs->count(); ++i) EXPECT_EQ(tabs->tabText(i), captions[i]);
 }

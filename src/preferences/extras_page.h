@@ -1,0 +1,74 @@
+#pragma once
+
+#include "documents/pair/editor.h"
+#include "platform/machine.h"
+
+#include <array>
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+/// The page "Extras": what belongs to this machine, and choices that go beyond the program's settings. Platform.ini
+/// takes it when the preferences close; the appearance is in force and written at once.
+struct ExtrasPage {
+    explicit ExtrasPage(Editor& theEditor);
+    ExtrasPage(const ExtrasPage&) = delete;
+    ExtrasPage& operator=(const ExtrasPage&) = delete;
+
+    /// What runs programs of another system: chosen by its native path, or with an empty box the one that PATH has.
+    struct RunnerRow {
+        Runner which = Runner::Wine;
+        TextBox Path;
+        Property<std::string> Found; ///< where PATH has it; empty: nowhere
+        Button Browse;
+        Button Test;
+        Label Answer; ///< what the last test gave
+    };
+
+    Editor& editor;
+    Property<std::vector<DriveFolder>> Drives; ///< as they will be
+    Property<int> DriveRow = -1;               ///< the row that is chosen, from 0; -1: none
+    Button DriveBrowse;                        ///< asks for the folder of the chosen drive
+    Button DriveAdd;                           ///< asks for a folder and puts it behind the first free letter from d
+    Button DriveReset;                         ///< takes the user's choice for the chosen drive back
+    std::array<RunnerRow, 2> Runners;
+    std::array<OptionButton, 3> Appearance; ///< as the desktop; light; dark
+    TextBox SettingsFolder;                 ///< native path; not to be changed
+    Button OpenFolder;
+    Button Import;              ///< brings an old installation along
+    std::deque<CheckBox> Ticks; ///< one for each row of extraTicks()
+
+    bool unwritten = false;    ///< the file didn't take the page: what it shows counts until it does
+    DriveChoices chosenDrives; ///< of the user
+    DriveChoices drivesBefore; ///< the same when the page was loaded
+
+private:
+    std::array<Connection, 3> m_appearanceChanged;
+    Connection m_rowChanged;
+};
+
+void loadExtras(ExtrasPage& page);
+/// Takes the page into Platform.ini.
+void takeExtras(ExtrasPage& page);
+/// Puts the changed drives into force. One that the open files or the settings are on keeps its folder until the next
+/// start; a box says so.
+void moveDrives(ExtrasPage& page);
+
+/// The drive with the whole disk stays as it is: without it, files could get out of reach.
+bool mayChange(const DriveFolder& drive);
+/// The user wrote a folder into a row of the table; empty: the one that was found. A folder that isn't there is refused
+/// with a box.
+void writeDriveFolder(ExtrasPage& page, int row, const std::string& folder);
+void DriveBrowse_Click(ExtrasPage& page);
+void DriveAdd_Click(ExtrasPage& page);
+void DriveReset_Click(ExtrasPage& page);
+void RunnerBrowse_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row);
+void RunnerTest_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row);
+
+/// What the answer of a runner to the question for its version means to the user.
+std::string verdict(Runner which, const ProgramOutput& output);
+
+} // namespace tarvex

@@ -1,0 +1,138 @@
+#include "preferences/files_home.h"
+
+#include "preferences_fixture.h"
+#include "shell/extras.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// A first start, with a user who closes the preferences without setting a folder.
+struct FilesHomeTest : testing::Test, PreferencesProgram {
+    FilesHomeTest() : PreferencesProgram(false)
+    {
+        setIni("FileLocations", "FirstTimeUsed", "1");
+        setIni("FileLocations", "ProgramFilesPath", "");
+        files.removeDirectory("c:\\tm\\b50progs"); // or the start would find them
+        files.removeDirectory("c:\\tm");
+    }
+    FilesHome& form() { return preferences().filesHome; }
+    /// What the user does in the question, each time it is asked.
+    void startAndAnswer(const std::function<void()>& answer)
+    {
+        dialogues.whileModal = [this, answer] {
+            if (dialogues.modalForms.back() == "FilesHome") answer();
+        };
+        start();
+    }
+    void choose(int choice)
+    {
+        form().Choices[static_cast<std::size_t>(choice)].Click();
+        form().Ok.Click();
+    }
+    long asked() { return std::count(dialogues.modalForms.begin(), dialogues.modalForms.end(), "FilesHome"); }
+};
+
+TEST_F(FilesHomeTest, OffersANewFolderOnTheDrive)
+{
+    startAndAnswer([this] {
+        EXPECT_EQ(form().Choices[0].Caption.get(), "In a &new folder, c:\\tm (/home/pilot/tarvex/drive_c/tm)");
+        EXPECT_TRUE(form().Choices[0].Value);
+        form().Ok.Click();
+    });
+    EXPECT_EQ(asked(), 1);
+    EXPECT_TRUE(files.directoryExists("c:\\tm"));
+    EXPECT_EQ(settings().ProgramFilesPath, "c:\\tm\\");
+    EXPECT_EQ(ini("FileLocations", "ProgramFilesPath"), "c:\\tm\\");
+    EXPECT_EQ(ini("Launcher", "FilesDirectory"), "c:\\tm\\");
+}
+
+TEST_F(FilesHomeTest, TakesAFolderOfTheUsersInLowerCase)
+{
+    startAndAnswer([this] {
+        dialogues.folders.emplace_back("z:\\Home\\Pilot");
+        choose(FilesHome::ownFolder);
+    });
+    EXPECT_EQ(ini("FileLocations", "ProgramFilesPath"), "z:\\home\\pilot\\");
+}
+
+TEST_F(FilesHomeTest, ACancelledFolderLeadsBackToTheQuestion)
+{
+    startAndAnswer([this] {
+        if (asked() > 1) return choose(FilesHome::later);
+        dialogues.folders.emplace_back(std::nullopt);
+        choose(FilesHome::ownFolder);
+    });
+    EXPECT_EQ(asked(), 2);
+    EXPECT_EQ(settings().ProgramFilesPath, "");
+}
+
+TEST_F(FilesHomeTest, LaterIsNotAskedAgainUntilTheUserWantsIt)
+{
+    startAndAnswer([this] { choose(FilesHome::later); });
+    EXPECT_EQ(asked(), 1);
+    start();
+    inPreferences([] {});
+    EXPECT_EQ(asked(), 1);
+    inPreferences([this] {
+        if (dialogues.modalForms.back() == "FilesHome") return;
+        preferences().extrasPage.Ticks[0].Value = true;
+    });
+    EXPECT_EQ(asked(), 2) << "ticked anew";
+}
+
+TEST_F(FilesHomeTest, ClosingTheQuestionIsLater)
+{
+    startAndAnswer([this] { form().Form.Visible = false; });
+    EXPECT_EQ(asked(), 1);
+    EXPECT_FALSE(program().shared.extras.on(extraKey::askForFiles));
+}
+
+TEST_F(FilesHomeTest, IsNotAskedWhenTheDialogueSetTheFolder)
+{
+    dialogues.whileModal = [this] { preferences().fileLocationsPage.Text2.Text = "C:\\TM"; };
+    start();
+    EXPECT_THAT(dialogues.modalForms, ElementsAre("Preferences"));
+    inPreferences([this] { preferences().fileLocationsPage.Text2.Text = ""; });
+    EXPECT_EQ(asked(), 0) << "the first use is over";
+}
+
+TEST_F(FilesHomeTest, AnOldInstallationBringsItsFolder)
+{
+    files.addFile("d:\\tarvex\\Tarvex.ini",
+                  "[FileLocations]\r\nProgramFilesPath=c:\\tm\\old\r\n[Colours]\r\nRAWColour=255\r\n");
+    dialogues.whileModal = [this] {
+        if (dialogues.modalForms.back() == "Import") preferences().importForm.ImportButton.Click();
+        if (dialogues.modalForms.back() != "FilesHome") return;
+        dialogues.folders.emplace_back("d:\\");
+        choose(FilesHome::oldInstallation);
+    };
+    start();
+    EXPECT_EQ(asked(), 1);
+    EXPECT_EQ(settings().ProgramFilesPath, "c:\\tm\\old");
+    EXPECT_EQ(ini("Colours", "RAWColour"), "255");
+    EXPECT_EQ(ini("FileLocations", "FirstTimeUsed"), "0");
+}
+
+TEST_F(FilesHomeTest, AFolderThatCannotBeMadeIsSaidAndAskedAgain)
+{
+    files.addFile("c:\\tm", "a file");
+    startAndAnswer([this] { choose(asked() > 1 ? FilesHome::later : FilesHome::newFolder); });
+    EXPECT_EQ(asked(), 2);
+    EXPECT_THAT(lastBox().text, HasSubstr("couldn't make c:\\tm"));
+}
+
+TEST_F(FilesHomeTest, WithoutAnyWindowTheStartGoesOn)
+{
+    dialogues.modalFormsExist = false;
+    start();
+    EXPECT_EQ(settings().ProgramFilesPath, "");
+}
+
+} // namespace
+} // namespace tarvex
