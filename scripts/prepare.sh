@@ -11,6 +11,8 @@ display   xvfb
 picture   openbox wmctrl imagemagick
 test      python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool
 desktop   desktop-file-utils appstream shared-mime-info libglib2.0-bin xdg-utils mandoc zsh fish
+release   git dpkg-dev file binutils xz-utils
+package   lintian debootstrap flatpak-builder
 tidy      clang-tidy-14
 sanitize  clang-14 libclang-rt-14-dev llvm-14
 bench     libbenchmark-dev libx11-dev libxdamage-dev

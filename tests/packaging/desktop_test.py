@@ -55,10 +55,7 @@ class Desktop(unittest.TestCase):
         self.assertIn("Validation was successful", done.stdout)
 
     def test_the_store_entry_with_pictures_is_valid_and_they_exist(self):
-        build = self.data.parent / "build"
-        output("cmake", "-S", SOURCES, "-B", build, "-G", "Ninja", "-DTARVEX_WEB_ADDRESS=https://tarvex.invalid",
-               "-DTARVEX_TESTS=OFF")
-        entry = build / "packaging/org.tarvex.Tarvex.metainfo.xml"
+        entry = self.configured("TARVEX_WEB_ADDRESS=https://tarvex.invalid") / "org.tarvex.Tarvex.metainfo.xml"
         done = run("appstreamcli", "validate", "--no-net", entry)
         self.assertEqual(done.returncode, 0, done.stdout)
         self.assertIn("Validation was successful", done.stdout)
@@ -66,6 +63,17 @@ class Desktop(unittest.TestCase):
         self.assertEqual(len(pictures), 3)
         for picture in pictures:
             self.assertTrue((SOURCES / picture.split("</image>")[0]).is_file(), picture)
+
+    def test_without_tarvexctl_nothing_speaks_of_it(self):
+        packaging = self.configured("TARVEX_CLI=OFF")
+        for name in ("tarvex.desktop", "org.tarvex.Tarvex.metainfo.xml"):
+            self.assertNotIn("tarvexctl", (packaging / name).read_text())
+        self.assertEqual(output("desktop-file-validate", packaging / "tarvex.desktop"), "")
+
+    def configured(self, setting):
+        build = self.data.parent / "build"
+        output("cmake", "-S", SOURCES, "-B", build, "-G", "Ninja", "-DTARVEX_TESTS=OFF", "-D" + setting)
+        return build / "packaging"
 
     def test_the_database_takes_the_file_types_without_a_complaint(self):
         self.assertEqual([line for line in self.complaints.splitlines() if "thrustmaster" in line or "tarvex" in line], [])
