@@ -97,7 +97,7 @@ bool isInUse(ExtrasPage& page, char letter)
 {
     const Editor& editor = page.editor;
     for (const std::string& path :
-         {editor.platform.programDirectory, editor.pair.JoystickFilePath, editor.pair.MacroFilePath}) {
+         {editor.platform.programDirectory, editor.joystick.FilePath, editor.macro.FilePath}) {
         if (!path.empty() && lowerUtf8(path.substr(0, 1)) == std::string(1, letter)) return true;
     }
     return false;

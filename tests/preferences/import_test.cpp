@@ -81,7 +81,7 @@ TEST_F(ImportTest, SettingsAreInMemoryOnThePagesAndInTheFiles)
     EXPECT_EQ(menus().mnuFavArray[1].Caption.get(), "Old flight");
     EXPECT_EQ(preferences().fileLocationsPage.ComboJoystick.Text.get(), "FCS");
     EXPECT_EQ(editor().JoystickText.Font().name, "Old Font") << "in force without a restart";
-    EXPECT_EQ(editor().pair.JoystickFileName, "untitled.adv");
+    EXPECT_EQ(editor().joystick.FileName, "untitled.adv");
     EXPECT_EQ(fileText("c:\\tarvex\\Templates\\Hat.rtf"), "{\\rtf1 hat}");
     EXPECT_FALSE(files.fileExists("c:\\tarvex\\Templates\\program.exe"));
     EXPECT_EQ(fileText("c:\\tarvex\\Backup\\f22.b50.bak"), "BTN S1 a");
