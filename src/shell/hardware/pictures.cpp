@@ -12,33 +12,33 @@ namespace {
 constexpr std::array f22AndF16Controls{
     PictureControl{"BTN(1)", "S2", "button"},
     PictureControl{"HAT(0)", "H1", "hat"},
-    PictureControl{"HAT(2)", "H3", "hat"},
     PictureControl{"HAT(1)", "H2", "hat"},
-    PictureControl{"TRIG", "TG1 TG2", "trigger"},
+    PictureControl{"HAT(2)", "H3", "hat"},
     PictureControl{"BTN(0)", "S1", "button"},
+    PictureControl{"TRIG", "TG1 TG2", "trigger"},
+    PictureControl{"ROTARY(4)", "SWAPTG", "trigger order"},
     PictureControl{"HAT(3)", "H4", "hat"},
     PictureControl{"BTN(2)", "S3", "button"},
     PictureControl{"BTN(3)", "S4", "paddle"},
-    PictureControl{"ROTARY(4)", "SWAPTG", "trigger order"},
-    PictureControl{"ROTARY(7)", "PORT", "game port"},
-    PictureControl{"ROTARY(3)", "JSX", "axis"},
     PictureControl{"ROTARY(6)", "JSY", "axis"},
+    PictureControl{"ROTARY(3)", "JSX", "axis"},
+    PictureControl{"ROTARY(7)", "PORT", "game port"},
     PictureControl{"ROTARY(2)", "Rudder", "pedals"},
 };
 
 constexpr std::array olderStickControls{
-    PictureControl{"HAT(4)", "H", "hat"},      PictureControl{"BTN(5)", "UB", "button"},
-    PictureControl{"BTN(6)", "TG", "trigger"}, PictureControl{"BTN(7)", "MB", "button"},
-    PictureControl{"BTN(8)", "LB", "button"},  PictureControl{"ROTARY(8)", "Rudder", "pedals"},
+    PictureControl{"BTN(5)", "UB", "button"}, PictureControl{"HAT(4)", "H", "hat"},
+    PictureControl{"BTN(7)", "MB", "button"}, PictureControl{"BTN(6)", "TG", "trigger"},
+    PictureControl{"BTN(8)", "LB", "button"}, PictureControl{"ROTARY(8)", "Rudder", "pedals"},
 };
 
 constexpr std::array tqsControls{
+    PictureControl{"ROTARY(0)", "RNG", "knob"},      PictureControl{"BTN(11)", "T6", "button"},
     PictureControl{"ROTARY(1)", "ANT", "knob"},      PictureControl{"BTN(24)", "T2", "switch"},
     PictureControl{"BTN(27)", "T3", "switch"},       PictureControl{"BTN(26)", "T4", "switch"},
     PictureControl{"BTN(25)", "T5", "switch"},       PictureControl{"BTN(12)", "T7", "switch"},
     PictureControl{"BTN(13)", "T8", "switch"},       PictureControl{"BTN(14)", "T9", "switch"},
-    PictureControl{"BTN(15)", "T10", "switch"},      PictureControl{"ROTARY(0)", "RNG", "knob"},
-    PictureControl{"BTN(11)", "T6", "button"},       PictureControl{"BTN(32)", "T1", "button"},
+    PictureControl{"BTN(15)", "T10", "switch"},      PictureControl{"BTN(32)", "T1", "button"},
     PictureControl{"BTN(30)", "T11", "switch"},      PictureControl{"BTN(29)", "T12", "switch"},
     PictureControl{"BTN(28)", "T13", "switch"},      PictureControl{"BTN(31)", "T14", "switch"},
     PictureControl{"ROTARY(5)", "Throttle", "axis"},

@@ -208,13 +208,13 @@ TEST(HardwarePicture, SpaceAndReturnClickTheFocusedControl)
 
 TEST(HardwarePicture, ArrowsPassOverWhatIsHiddenOrDisabled)
 {
-    Shown t(PictureOf::OlderStick); // H, UB, TG, MB, LB
-    t.control("BTN(5)").hide();
+    Shown t(PictureOf::OlderStick); // UB, H, MB, TG, LB
+    t.control("BTN(7)").hide();
     t.control("BTN(6)").setEnabled(false);
     t.settle();
     t.control("HAT(4)").setFocus();
     t.key(Qt::Key_Right);
-    EXPECT_EQ(t.focused(), "BTN(7)");
+    EXPECT_EQ(t.focused(), "BTN(8)");
     t.key(Qt::Key_Left);
     EXPECT_EQ(t.focused(), "HAT(4)");
 }
