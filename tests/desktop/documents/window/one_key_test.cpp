@@ -108,7 +108,7 @@ TEST_F(OneKey, ShowsOneCaretColour)
     caretColours = 0;
     press(Qt::Key_Up);
     EXPECT_EQ(caretColours, 1);
-    EXPECT_EQ(editor.mum.Picture1, 0xFF0000U);
+    EXPECT_EQ(editor.mum.Picture1, 0xFF0000);
 }
 
 TEST_F(OneKey, ShowsNothingAgainWhenItIsReleased)
