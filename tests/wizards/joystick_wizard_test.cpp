@@ -96,6 +96,7 @@ TEST_F(JoystickWizardTest, ComposerButtonsOpenItAndShowTheirPlaceInIt)
 TEST_F(JoystickWizardTest, TheComposerIsShownAtTheSectionThatAButtonNames)
 {
     InsertOptions& composer = t.program().composer;
+    t.menus().mnuShowInsertWindow.handler = [&composer] { composer.form.open(); };
     click(3);
     EXPECT_TRUE(composer.form.Visible);
     click(6);

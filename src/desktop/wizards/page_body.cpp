@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -58,6 +59,7 @@ QWidget* PageMaker::page(const WizardPage& page, bool withTitle)
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(body);
+    area->setMinimumWidth(body->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
     return area;
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/wizards/wizard_view.h"
 
+#include "desktop/line_box.h"
 #include "desktop/wizards/page_body.h"
 
 #include <QHBoxLayout>
@@ -28,6 +29,7 @@ WizardView::WizardView(const std::vector<WizardPage>& pages, Parts parts, const 
     column->addWidget(m_pages, 1);
     addFoot(parts.turner);
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+    if (parts.maker != nullptr) keepFocusOnPage(parts.maker->Text1[0]);
     m_bindings.bind(parts.turner.PageNumber, [this](int page) { showPage(page); });
 }
 
@@ -37,6 +39,15 @@ QSize WizardView::sizeHint() const
     const QFontMetrics metrics = fontMetrics();
     return QSize(charactersWide * metrics.averageCharWidth(), linesHigh * metrics.lineSpacing())
         .boundedTo(screen()->availableSize() * 9 / 10);
+}
+
+/// A box that stands on several pages gets the keyboard on the one that is shown.
+void WizardView::keepFocusOnPage(TextBox& box)
+{
+    m_bindings.follow(box.focusWanted, [this] {
+        for (LineBox* shown : m_pages->currentWidget()->findChildren<LineBox*>(QStringLiteral("Text1_0")))
+            shown->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 void WizardView::addFoot(PageTurner& turner)

@@ -28,6 +28,7 @@ public:
     QSize sizeHint() const override;
 
 private:
+    void keepFocusOnPage(TextBox& box);
     void addFoot(PageTurner& turner);
     void showPage(int page);
 

@@ -52,10 +52,12 @@ struct Dialogue : TestProgram {
         EXPECT_NE(widget, nullptr) << name;
         return *widget;
     }
-    static void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text)); }
+    /// The widget of the dialogue that the keys go to.
+    static QWidget* focused() { return QApplication::activeModalWidget()->focusWidget(); }
+    static void type(const char* text) { QTest::keyClicks(focused(), QLatin1String(text)); }
     static void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier)
     {
-        QTest::keyClick(QApplication::focusWidget(), key, with);
+        QTest::keyClick(focused(), key, with);
         QApplication::processEvents();
     }
     const std::string& joystick() { return editor().JoystickText.Text(); }
@@ -67,19 +69,19 @@ TEST(TitleView, IsFilledInByKeysAlone)
     Dialogue t;
     t.run(t.menus().mnuInsertTitle, [&](QWidget& window) {
         QApplication::processEvents();
-        ASSERT_EQ(QApplication::focusWidget()->objectName(), "Text2");
+        ASSERT_EQ(Dialogue::focused()->objectName(), "Text2");
         Dialogue::type("Mig Alley"); // over the example
         Dialogue::press(Qt::Key_Tab);
         Dialogue::type("Ned");
         Dialogue::press(Qt::Key_Tab);
         Dialogue::press(Qt::Key_Tab);
         Dialogue::press(Qt::Key_Tab);
-        ASSERT_EQ(QApplication::focusWidget()->objectName(), "RichTextBox1");
+        ASSERT_EQ(Dialogue::focused()->objectName(), "RichTextBox1");
         Dialogue::type("one");
         Dialogue::press(Qt::Key_Return);
         Dialogue::type("two");
         Dialogue::press(Qt::Key_Tab);
-        ASSERT_EQ(QApplication::focusWidget()->objectName(), "Command1");
+        ASSERT_EQ(Dialogue::focused()->objectName(), "Command1");
         Dialogue::press(Qt::Key_Space);
         EXPECT_FALSE(window.isVisible());
     });
@@ -143,7 +145,7 @@ TEST(SingleTextView, ReturnInsertsTheStatementAndTheTickDecidesOnTheLineEnd)
         EXPECT_TRUE(tick.isChecked());
         Dialogue::type("eject");
         Dialogue::press(Qt::Key_Tab);
-        ASSERT_EQ(QApplication::focusWidget(), &tick);
+        ASSERT_EQ(Dialogue::focused(), &tick);
         Dialogue::press(Qt::Key_Space);
         Dialogue::press(Qt::Key_Backtab);
         Dialogue::press(Qt::Key_Return);

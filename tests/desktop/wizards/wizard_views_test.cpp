@@ -115,6 +115,7 @@ TEST(WizardView, ButtonsOnThePagesRunTheirActions)
 TEST(WizardView, ExamplesAreColouredLikeFiles)
 {
     Shown t;
+    t.settings().SlashColour = 255;
     QWidget& window = t.open(t.menus().mnuWixUnderstandSlash, "SlashWizard");
     auto& example = child<QLabel>(pageOf(window), "Example");
     EXPECT_TRUE(example.text().contains("BTN T4"));
