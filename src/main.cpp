@@ -114,6 +114,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
     dialogues.addPopUp(program.safein.mnuDelay, program.safein.delayMenu());
+    dialogues.addPopUp(program.templateEditor.mnuPopShow, program.templateEditor.popUpMenu());
     addGeneratorForms(dialogues, program.generators, &window);
     addListForms(dialogues, program.lists, &window);
     addPreferencesForm(dialogues, program.preferences, &window);

@@ -25,6 +25,7 @@
 #include "safein/safein.h"
 #include "shell/frame/mum_window.h"
 #include "shell/handler.h"
+#include "templates/template_editor.h"
 #include "wizards/composer_places.h"
 
 namespace tarvex {
@@ -110,8 +111,8 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor), lists(editor),
-      preferences(editor, lists)
+      findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor),
+      templateEditor(editor), lists(editor), preferences(editor, lists)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -123,6 +124,7 @@ Program::Program(Platform& thePlatform)
     wireComposer(composer);
     wireGenerators(generators);
     wireWizards(wizards);
+    wireTemplateEditor(templateEditor);
     wizards.joystick.composer = composerPlaces(composer);
     safein.MirrorStatement = [this](const std::string& statement) { takeKeys(wizards, statement); };
     wireFrame(editor);
@@ -134,7 +136,9 @@ Program::Program(Platform& thePlatform)
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = [this] { Form_Load(editor); };
-    operations.QueryUnloadEditor = [this](bool& cancel) { cancel = !Form_QueryUnload(editor); };
+    operations.QueryUnloadEditor = [this](bool& cancel) {
+        cancel = !Form_QueryUnload(editor) || !closeTemplateEditor(templateEditor);
+    };
     operations.UnloadEditor = [this] { Form_Unload(editor); };
     shared.errors.exitInEmergency = [this] {
         operations.ReleaseGradient();

@@ -12,6 +12,7 @@
 #include "shell/mum.h"
 #include "shell/operations.h"
 #include "shell/shared.h"
+#include "templates/template_form.h"
 #include "wizards/wizards.h"
 
 namespace tarvex {
@@ -41,6 +42,7 @@ public:
     InsertOptions composer;
     Generators generators;
     Wizards wizards;
+    TemplateForm templateEditor;
     Lists lists;
     Preferences preferences;
 };

@@ -16,11 +16,10 @@ using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
 const Names commandsToCome = {
-    "mnuAppsImageViewer", "mnuAppsJoyAnalyser",   "mnuAppsTemplate",     "mnuComposerPlugin",
-    "mnuEditTmCFG",       "mnuFilePrintJoystick", "mnuFilePrintMacro",   "mnuFilePrinterSetup",
-    "mnuHelpAbout",       "mnuHelpContents",      "mnuHelpTips",         "mnuHowDoIArray",
-    "mnuInsertQuickTip",  "mnuSendToKeyTest",     "mnuShowInsertWindow", "mnuTMhelp",
-    "mnuWebTarvex",
+    "mnuAppsImageViewer",  "mnuAppsJoyAnalyser",  "mnuComposerPlugin", "mnuFilePrintJoystick",
+    "mnuFilePrintMacro",   "mnuFilePrinterSetup", "mnuHelpAbout",      "mnuHelpContents",
+    "mnuHelpTips",         "mnuHowDoIArray",      "mnuInsertQuickTip", "mnuSendToKeyTest",
+    "mnuShowInsertWindow", "mnuTMhelp",           "mnuWebTarvex",
 };
 
 /// Operations that nobody carries out yet.

@@ -9,6 +9,7 @@
 #include "desktop/safein/safein_view.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/status_bar_view.h"
+#include "desktop/templates/template_view.h"
 #include "desktop/wizards/wizard_forms.h"
 #include "documents/editing/pane_keys.h"
 #include "documents/window/editor_window.h"
@@ -66,6 +67,8 @@ MumWindow::MumWindow(Program& program)
     bindTitle();
     makeWhenShown(program.findAndReplace.form, m_bindings,
                   [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
+    makeWhenShown(program.templateEditor.form, m_bindings,
+                  [this] { return new TemplateView(m_program.templateEditor, this); });
     makeWizardsWhenShown(program.wizards, m_bindings, this);
     makeWhenShown(program.safein.form, m_bindings, [this] { return new SafeinView(m_program.safein, this); });
     m_bindings.follow(program.mum.form.frontWanted, [this] {

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "templates/template_form.h"
+
+#include <concepts>
+
+namespace tarvex {
+
+// The text of the Template Editor: undo, clipboard, colours, layout.
+
+/// What `write` does to the text is no edit of the user's.
+template <std::invocable Write> void writeWithoutEdit(TemplateForm& window, Write&& write)
+{
+    const std::int16_t before = std::exchange(window.IsLoading, 1);
+    write();
+    window.IsLoading = before;
+}
+
+void TemplateText_Change(TemplateForm& window);
+/// A character key is about to change the text; `key` as in Pane::KeyPress.
+void TemplateText_KeyPress(TemplateForm& window, int key);
+/// The user is about to change it by something else.
+void templateEditComing(TemplateForm& window);
+/// The right button, or the key of the pop-up menu.
+void popUpTemplateMenu(TemplateForm& window, bool atCaret);
+
+/// The present text is where undo ends.
+void beginHistory(TemplateForm& window);
+void mnuUndo_Click(TemplateForm& window);
+void mnuRedo_Click(TemplateForm& window);
+void updateEditMenu(TemplateForm& window);
+
+void mnuCut_Click(TemplateForm& window);
+void mnuCopy_Click(TemplateForm& window);
+void mnuPaste_Click(TemplateForm& window);
+void mnuSelectAll_Click(TemplateForm& window);
+
+/// Colours the whole text by the language's rules.
+void ColourTemplateText(TemplateForm& window);
+/// The selection becomes black.
+void mnuTextToBlack_Click(TemplateForm& window);
+/// The selection, or what is typed next, takes a colour; that is no change of the file.
+void GetCustomColour(TemplateForm& window, Colour colour);
+/// ColourLabel1 shows the colour at the caret.
+void UpdateLabelColours(TemplateForm& window);
+
+/// Font and background of the settings.
+void DoTheFonts(TemplateForm& window);
+/// Font and indent of the whole text; its colours stay.
+void refreshLayout(TemplateForm& window);
+void mnuViewrefreshLayout_Click(TemplateForm& window);
+/// The indent alone.
+void mnuRefreshIndent_Click(TemplateForm& window);
+
+} // namespace tarvex

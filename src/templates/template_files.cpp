@@ -1,0 +1,249 @@
+#include "templates/template_files.h"
+
+#include "documents/files/text_files.h"
+#include "documents/text/rtf/rtf.h"
+#include "platform/dos_path.h"
+#include "platform/windows1252.h"
+#include "templates/shipped_templates.h"
+#include "templates/template_edit.h"
+
+namespace tarvex {
+
+namespace {
+
+constexpr const char* filter = "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|"
+                               "Macro files |*.m22;*.m50;*.mdf|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|"
+                               "All files (*.*)|*.*";
+
+constexpr std::string_view forbiddenInNames = "\\/:*?\"<>|";
+
+void status(TemplateForm& window, const std::string& text) { window.editor.status(text); }
+
+void nameFile(TemplateForm& window, const std::string& fullName, const std::string& name)
+{
+    window.TemplateFullName = fullName;
+    window.TemplatePath = directoryOf(fullName);
+    window.TemplateName = name;
+    window.Text1.Text = name;
+}
+
+/// The text of a file takes the place of the present one; one that can't be read leaves it. A file that isn't RTF,
+/// whatever its name, is plain text.
+bool load(TemplateForm& window, const std::string& path, const std::string& name, bool plain)
+{
+    const auto bytes = readForOpening(window.editor, path, name);
+    if (!bytes) return false;
+    Pane& pane = window.TemplateText;
+    writeWithoutEdit(window, [&] {
+        if (!plain && looksLikeRtf(*bytes))
+            pane.setTextRTF(readRtf(*bytes, pane.formats()));
+        else
+            pane.setText(*bytes);
+    });
+    nameFile(window, path, name);
+    refreshLayout(window);
+    beginHistory(window);
+    window.TemplateChanged = 0;
+    return true;
+}
+
+std::string bytesFor(const TemplateForm& window, const std::string& path)
+{
+    return lastThree(path) == "rtf" ? writeRtf(window.TemplateText.TextRTF()) : window.TemplateText.Text();
+}
+
+/// Writes the text; a failure leaves the old file and is reported.
+void save(TemplateForm& window, const std::string& path, const std::string& name)
+{
+    Editor& editor = window.editor;
+    const Steps step(editor.shared.errors, "TEMPLATE Command1_Click");
+    if (!step([&] { editor.platform.files.write(path, bytesFor(window, path)); })) {
+        editor.platform.dialogues.show({.title = "Ooops!",
+                                        .text = name + " wasn't saved. I was trying to save it with this path: " +
+                                                path + ", and the error message was: " + step.whyNot() + ".",
+                                        .icon = BoxIcon::Exclamation});
+        return;
+    }
+    nameFile(window, path, name);
+    window.TemplateChanged = 0;
+    status(window, name + " was saved successfully");
+}
+
+void saveUnderItsName(TemplateForm& window)
+{
+    const std::string name = window.Text1.Text;
+    if (name.empty() || name == TemplateForm::untitled) return mnuFileSaveAs_Click(window);
+    if (name.find_first_of(forbiddenInNames) != std::string::npos) {
+        window.editor.platform.dialogues.show(
+            {.title = "Ooops!", .text = "No file can have the name " + name, .icon = BoxIcon::Exclamation});
+        return;
+    }
+    save(window, window.TemplatePath + name, name);
+}
+
+void openByDialogue(TemplateForm& window)
+{
+    Editor& editor = window.editor;
+    if (!mayGiveUpText(window, "before opening another file",
+                       " for some reason. I won't proceed in opening up another file"))
+        return;
+    changeToFolderOf(editor.shared.currentDirectory, window.TemplatePath, Steps());
+    const auto chosen = editor.platform.dialogues.openFile(
+        {.title = "", .filter = filter, .directory = window.TemplatePath, .defaultExtension = "rtf"});
+    if (!chosen) return;
+    const std::string name = fileNameOf(*chosen);
+    if (load(window, lowerUtf8(*chosen), name, false)) status(window, name + " was opened successfully");
+}
+
+/// Where the loaders' configuration may be: in the folder that is set, above it or beside the loader.
+std::vector<std::string> configurationFolders(const Settings& settings)
+{
+    const auto withoutEnd = [](std::string folder) {
+        while (folder.ends_with('\\')) folder.pop_back();
+        return folder;
+    };
+    const std::string set = withoutEnd(settings.ProgramFilesPath.whole());
+    return {set, withoutEnd(directoryOf(set)), withoutEnd(directoryOf(settings.B50LoadPath.whole()))};
+}
+
+} // namespace
+
+bool mayGiveUpText(TemplateForm& window, const std::string& purpose, const std::string& refusal)
+{
+    if (window.TemplateChanged != 1) return true;
+    Dialogues& dialogues = window.editor.platform.dialogues;
+    const std::string name = window.TemplateName;
+    const Answer answer =
+        dialogues.show({.title = " Save " + name + " now?",
+                        .text = name + " has changed and isn't saved. Do you want to save it " + purpose + "?",
+                        .icon = BoxIcon::Question,
+                        .buttons = BoxButtons::YesNoCancel});
+    if (answer != Answer::Yes) return answer == Answer::No;
+    Command1_Click(window, 1);
+    if (window.TemplateChanged != 1) return true;
+    dialogues.show({.title = "Ooops!", .text = name + " wasn't saved" + refusal, .icon = BoxIcon::Exclamation});
+    return false;
+}
+
+void Command1_Click(TemplateForm& window, std::size_t Index)
+{
+    const Steps step(window.editor.shared.errors, "TEMPLATE Command1_Click");
+    step([&] {
+        if (Index == 0) return openByDialogue(window);
+        if (Index == 1) return saveUnderItsName(window);
+        if (!mayGiveUpText(window, "before creating a new file",
+                           " for some reason. I won't proceed in creating a new file"))
+            return;
+        beginNewTemplate(window);
+        status(window, "New file created");
+    });
+}
+
+void mnuFileSaveAs_Click(TemplateForm& window)
+{
+    const Steps step(window.editor.shared.errors, "TEMPLATE mnuFileSaveAs_Click");
+    step([&] {
+        const auto chosen = window.editor.platform.dialogues.saveFile({.title = "",
+                                                                       .filter = filter,
+                                                                       .directory = window.TemplatePath,
+                                                                       .suggestedName = window.Text1.Text,
+                                                                       .defaultExtension = "rtf"});
+        if (chosen) save(window, lowerUtf8(*chosen), fileNameOf(lowerUtf8(*chosen)));
+    });
+}
+
+void Command2_Click(TemplateForm& window)
+{
+    const Steps step(window.editor.shared.errors, "TEMPLATE Command2_Click");
+    step([&] {
+        if (!mayGiveUpText(window, "before opening another file",
+                           " for some reason. I won't proceed in opening up another file"))
+            return;
+        const std::string path = window.editor.shared.settings.TextFilePath.whole();
+        const std::string name = fileNameOf(path);
+        if (load(window, path, name, false)) status(window, name + " was opened successfully");
+    });
+}
+
+void mnuFileLoadDefault_Click(TemplateForm& window)
+{
+    if (window.Command2.Enabled) return Command2_Click(window);
+    window.editor.platform.dialogues.show(
+        {.title = "Have a beer instead",
+         .text = "You don't have a default template to open. You can set one here or in Preferences.",
+         .icon = BoxIcon::Information});
+}
+
+void mnuFileSetAsDefault_Click(TemplateForm& window)
+{
+    Editor& editor = window.editor;
+    const Steps step(editor.shared.errors, "TEMPLATE mnuFileSetAsDefault_Click");
+    step([&] {
+        Command1_Click(window, 1);
+        if (window.TemplateFullName.empty()) return; // neither saved now nor before
+        editor.shared.settings.TextFilePath = window.TemplateFullName;
+        editor.shared.store.SaveOptions();
+        showDefaultTemplate(window);
+    });
+}
+
+void showDefaultTemplate(TemplateForm& window)
+{
+    const Editor& editor = window.editor;
+    const std::string path = editor.shared.settings.TextFilePath.whole();
+    window.Command2.Enabled = !path.empty() && editor.platform.files.fileExists(path);
+    window.Command2.ToolTipText =
+        window.Command2.Enabled ? "Open " + path : "Open default template/text file (see Preferences)";
+}
+
+void mnuEditTmCFG_Click(TemplateForm& window)
+{
+    Editor& editor = window.editor;
+    const Steps step(editor.shared.errors, "TEMPLATE mnuEditTmCFG_Click");
+    step([&] {
+        const std::vector<std::string> folders = configurationFolders(editor.shared.settings);
+        for (const std::string& folder : folders) {
+            const std::string path = folder + "\\tm.cfg";
+            if (folder.empty() || !editor.platform.files.fileExists(path)) continue;
+            if (!mayGiveUpText(window, "before opening another file",
+                               " for some reason. I won't proceed in opening up another file"))
+                return;
+            changeToFolderOf(editor.shared.currentDirectory, path, Steps());
+            load(window, path, "Tm.cfg", true);
+            return;
+        }
+        editor.platform.dialogues.show(
+            {.title = "Couldn't locate Tm.cfg",
+             .text = "Hmmm...I couldn't find your Tm.cfg file - I was looking for it here: " + folders.front(),
+             .icon = BoxIcon::Exclamation});
+    });
+}
+
+void FindDLDELAY(TemplateForm& window)
+{
+    const Steps step;
+    Pane& pane = window.TemplateText;
+    step([&] { pane.Find("DLDELAY", 0, static_cast<std::int64_t>(pane.TextLength())); });
+}
+
+void Text1_LostFocus(TemplateForm& window)
+{
+    const std::string name = window.Text1.Text;
+    if (name.empty())
+        window.Text1.Text = TemplateForm::untitled;
+    else if (!lowerUtf8(name).ends_with(".rtf"))
+        window.Text1.Text = name + ".rtf";
+}
+
+void beginNewTemplate(TemplateForm& window)
+{
+    writeWithoutEdit(window, [&] { window.TemplateText.setText(""); });
+    window.TemplateFullName.clear();
+    window.TemplateName = TemplateForm::untitled;
+    window.Text1.Text = TemplateForm::untitled;
+    window.TemplateChanged = 0;
+    refreshLayout(window);
+    beginHistory(window);
+}
+
+} // namespace tarvex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "templates/template_form.h"
+
+namespace tarvex {
+
+/// Whether the text may go: it is saved, the user had it saved or gives it up. `purpose` ends the question, e.g.
+/// "before exiting"; `refusal` ends the message when the save failed.
+bool mayGiveUpText(TemplateForm& window, const std::string& purpose, const std::string& refusal);
+
+/// Index 0 opens a file of the user's choice, 1 saves, 2 begins a new one.
+void Command1_Click(TemplateForm& window, std::size_t Index);
+/// Opens the default template.
+void Command2_Click(TemplateForm& window);
+void mnuFileSaveAs_Click(TemplateForm& window);
+void mnuFileSetAsDefault_Click(TemplateForm& window);
+void mnuFileLoadDefault_Click(TemplateForm& window);
+/// Loads the configuration file of the loaders.
+void mnuEditTmCFG_Click(TemplateForm& window);
+/// Selects the entry of the download delay.
+void FindDLDELAY(TemplateForm& window);
+
+void Text1_LostFocus(TemplateForm& window);
+/// Command2 follows the setting and the file that it names.
+void showDefaultTemplate(TemplateForm& window);
+
+/// An empty text without a file.
+void beginNewTemplate(TemplateForm& window);
+
+} // namespace tarvex

@@ -1,0 +1,461 @@
+#include "templates/template_editor.h"
+
+#include "documents/text/rtf/rtf.h"
+#include "support/test_program.h"
+#include "templates/template_edit.h"
+#include "templates/template_files.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+const std::string folder = "c:\\tarvex\\Templates\\";
+
+struct TemplateEditorTest : testing::Test {
+    TestProgram t;
+    TemplateForm& window = t.program().templateEditor;
+    Pane& pane = window.TemplateText;
+
+    TemplateEditorTest()
+    {
+        t.files.addDirectory("c:\\tarvex\\Templates");
+        t.menus().mnuAppsTemplate.Click();
+    }
+    void type(const std::string& text) { pane.userEdit(pane.SelStart(), pane.SelLength(), text); }
+    void open(const std::string& path)
+    {
+        t.dialogues.filesToOpen = {path};
+        window.Command1[0].Click();
+    }
+    void saveAs(const std::string& path)
+    {
+        t.dialogues.filesToSave = {path};
+        window.mnuFileSaveAs.Click();
+    }
+    std::string text() { return pane.Text(); }
+    const MessageBox& box() { return t.lastBox(); }
+};
+
+TEST_F(TemplateEditorTest, ComesUpWithANewFileInTheTemplatesFolder)
+{
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(window.form.Caption, "Template Editor");
+    EXPECT_EQ(window.WindowOpen, 1);
+    EXPECT_EQ(window.TemplatePath, folder);
+    EXPECT_EQ(window.Text1.Text, "untitled.rtf");
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_EQ(pane.BackColor, t.settings().BackgroundColour);
+}
+
+TEST_F(TemplateEditorTest, OpensAPlainFileUnderItsLowerCasedName)
+{
+    t.files.addFile(folder + "Hat.TXT", "BTN H1U a\r\n");
+    open(folder + "Hat.TXT");
+    EXPECT_EQ(text(), "BTN H1U a\r\n");
+    EXPECT_EQ(window.TemplateFullName, "c:\\tarvex\\templates\\hat.txt");
+    EXPECT_EQ(window.Text1.Text, "Hat.TXT");
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_EQ(t.status(), "Hat.TXT was opened successfully");
+    const FileRequest& request = t.dialogues.openRequests.back();
+    EXPECT_EQ(request.directory, folder);
+    EXPECT_EQ(request.defaultExtension, "rtf");
+    EXPECT_EQ(request.filter, "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files "
+                              "|*.m22;*.m50;*.mdf|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files "
+                              "(*.*)|*.*");
+}
+
+TEST_F(TemplateEditorTest, OpensRtfWithItsColoursInTheFontOfTheSettings)
+{
+    Pane written;
+    written.setText("red");
+    written.setSelLength(3);
+    written.setSelColor(255);
+    t.settings().TextFontName = "Courier New";
+    t.files.addFile(folder + "a.rtf", writeRtf(written.TextRTF()));
+    open(folder + "a.rtf");
+    EXPECT_EQ(text(), "red");
+    EXPECT_EQ(pane.formatAt(0).colour, 255);
+    EXPECT_EQ(pane.formatAt(0).fontName, "Courier New");
+    EXPECT_EQ(pane.formatAt(0).indent, 20);
+}
+
+TEST_F(TemplateEditorTest, AFileWithThatExtensionThatIsNoRtfIsPlainText)
+{
+    t.files.addFile(folder + "a.rtf", "{just words");
+    open(folder + "a.rtf");
+    EXPECT_EQ(text(), "{just words");
+}
+
+TEST_F(TemplateEditorTest, AFileThatCannotBeReadLeavesTextAndName)
+{
+    type("mine");
+    window.TemplateChanged = 0;
+    t.files.addFile(folder + "a.rtf", "x");
+    t.files.failReads(folder + "a.rtf", RuntimeError(ErrorCode::PathNotFound, "gone"));
+    open(folder + "a.rtf");
+    EXPECT_EQ(text(), "mine");
+    EXPECT_EQ(window.Text1.Text, "untitled.rtf");
+}
+
+TEST_F(TemplateEditorTest, ACancelledOpenDialogueLeavesEverything)
+{
+    t.dialogues.filesToOpen = {std::nullopt};
+    window.Command1[0].Click();
+    EXPECT_EQ(window.Text1.Text, "untitled.rtf");
+}
+
+TEST_F(TemplateEditorTest, EditingIsAChangeAndTheStatusSaysSo)
+{
+    type("a");
+    EXPECT_EQ(window.TemplateChanged, 1);
+    EXPECT_EQ(t.status(), "Editing untitled.rtf");
+}
+
+TEST_F(TemplateEditorTest, UnsavedTextIsAskedAboutBeforeAnotherFileIsOpened)
+{
+    type("mine");
+    t.dialogues.answers = {Answer::Cancel};
+    window.Command1[0].Click();
+    EXPECT_EQ(box().title, " Save untitled.rtf now?");
+    EXPECT_EQ(box().text,
+              "untitled.rtf has changed and isn't saved. Do you want to save it before opening another file?");
+    EXPECT_TRUE(t.dialogues.openRequests.empty());
+    EXPECT_EQ(text(), "mine");
+}
+
+TEST_F(TemplateEditorTest, ACancelKeepsTextAndNameBeforeANewFile)
+{
+    type("mine");
+    t.dialogues.answers = {Answer::Cancel};
+    window.Command1[2].Click();
+    EXPECT_EQ(box().text,
+              "untitled.rtf has changed and isn't saved. Do you want to save it before creating a new file?");
+    EXPECT_EQ(text(), "mine");
+    EXPECT_EQ(window.Text1.Text, "untitled.rtf");
+    EXPECT_EQ(window.TemplateChanged, 1);
+}
+
+TEST_F(TemplateEditorTest, ANoGivesTheTextUp)
+{
+    type("mine");
+    t.dialogues.answers = {Answer::No};
+    window.Command1[2].Click();
+    EXPECT_EQ(text(), "");
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_EQ(t.status(), "New file created");
+}
+
+TEST_F(TemplateEditorTest, AYesSavesFirst)
+{
+    saveAs(folder + "a.txt");
+    type("mine");
+    t.dialogues.answers = {Answer::Yes};
+    window.Command1[2].Click();
+    EXPECT_EQ(t.fileText(folder + "a.txt"), "mine");
+    EXPECT_EQ(text(), "");
+}
+
+TEST_F(TemplateEditorTest, WhenTheSaveOfAYesFailsTheCommandEnds)
+{
+    saveAs(folder + "a.txt");
+    type("mine");
+    t.files.failWrites("c:\\tarvex\\templates\\a.txt", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    t.dialogues.answers = {Answer::Yes, Answer::Yes};
+    window.Command1[2].Click();
+    EXPECT_EQ(box().title, "Ooops!");
+    EXPECT_EQ(box().text, "a.txt wasn't saved for some reason. I won't proceed in creating a new file");
+    EXPECT_EQ(text(), "mine");
+    window.Command1[0].Click();
+    EXPECT_EQ(box().text, "a.txt wasn't saved for some reason. I won't proceed in opening up another file");
+}
+
+TEST_F(TemplateEditorTest, AFailedSaveIsReportedAndKeepsTheOldFile)
+{
+    saveAs(folder + "a.txt");
+    type("new");
+    t.files.addFile(folder + "a.txt", "old");
+    t.files.failWrites("c:\\tarvex\\templates\\a.txt", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    window.Command1[1].Click();
+    EXPECT_NE(box().text.find("Disk full"), std::string::npos);
+    EXPECT_EQ(t.fileText(folder + "a.txt"), "old");
+    EXPECT_EQ(window.TemplateChanged, 1);
+}
+
+TEST_F(TemplateEditorTest, SavingAnUntitledFileAsksForAName)
+{
+    type("a");
+    t.dialogues.filesToSave = {std::string(folder + "My.RTF")};
+    window.Command1[1].Click();
+    EXPECT_EQ(t.dialogues.saveRequests.size(), 1U);
+    EXPECT_TRUE(t.fileText(folder + "my.rtf").starts_with("{\\rtf1"));
+    EXPECT_EQ(window.Text1.Text, "my.rtf");
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_EQ(t.status(), "my.rtf was saved successfully");
+    window.Text1.Text = "";
+    t.dialogues.filesToSave = {std::nullopt};
+    window.Command1[1].Click();
+    EXPECT_EQ(t.dialogues.saveRequests.size(), 2U);
+}
+
+TEST_F(TemplateEditorTest, AnyOtherExtensionThanRtfLosesTheColours)
+{
+    type("red");
+    pane.setSelStart(0);
+    pane.setSelLength(3);
+    pane.setSelColor(255);
+    saveAs(folder + "a.f22");
+    EXPECT_EQ(t.fileText(folder + "a.f22"), "red");
+}
+
+TEST_F(TemplateEditorTest, SavesUnderTheNameThatTheUserTypedOver)
+{
+    saveAs(folder + "a.rtf");
+    window.Text1.Text = "b.txt";
+    type("x");
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "b.txt"), "x");
+    EXPECT_EQ(window.TemplateName, "b.txt");
+}
+
+TEST_F(TemplateEditorTest, ANameThatNoFileCanHaveIsRefused)
+{
+    type("x");
+    for (const char* name : {"a?.txt", "..\\Tarvex.ini", "c:x.rtf"}) {
+        window.Text1.Text = name;
+        window.Command1[1].Click();
+        EXPECT_EQ(box().text, std::string("No file can have the name ") + name);
+        EXPECT_EQ(window.TemplateChanged, 1);
+    }
+}
+
+TEST_F(TemplateEditorTest, LeavingTheNameCompletesIt)
+{
+    for (const auto& [typed, left] : {std::pair("", "untitled.rtf"),
+                                      {"Tm.cfg", "Tm.cfg.rtf"},
+                                      {"a", "a.rtf"},
+                                      {"a.RTF", "a.RTF"},
+                                      {"b.rtf", "b.rtf"}}) {
+        window.Text1.Text = typed;
+        window.Text1.LostFocus();
+        EXPECT_EQ(window.Text1.Text, left);
+    }
+}
+
+TEST_F(TemplateEditorTest, SetAsDefaultSavesAndRemembersTheFile)
+{
+    EXPECT_FALSE(window.Command2.Enabled);
+    EXPECT_EQ(window.Command2.ToolTipText, "Open default template/text file (see Preferences)");
+    type("x");
+    t.dialogues.filesToSave = {std::string(folder + "a.rtf")};
+    window.mnuSetAsDefault.Click();
+    EXPECT_EQ(t.ini("Apps", "TextFilePath"), "c:\\tarvex\\templates\\a.rtf");
+    EXPECT_TRUE(window.Command2.Enabled);
+    EXPECT_EQ(window.Command2.ToolTipText, "Open c:\\tarvex\\templates\\a.rtf");
+    window.Command1[2].Click();
+    window.Command2.Click();
+    EXPECT_EQ(text(), "x");
+}
+
+TEST_F(TemplateEditorTest, WithoutADefaultItsCommandSaysSo)
+{
+    window.mnuFileLoadDefault.Click();
+    EXPECT_EQ(box().title, "Have a beer instead");
+    EXPECT_EQ(box().text, "You don't have a default template to open. You can set one here or in Preferences.");
+}
+
+TEST_F(TemplateEditorTest, ADefaultThatIsGoneDisablesItsButton)
+{
+    window.form.unload();
+    t.settings().TextFilePath = "c:\\gone.rtf";
+    t.menus().mnuAppsTemplate.Click();
+    EXPECT_FALSE(window.Command2.Enabled);
+}
+
+TEST_F(TemplateEditorTest, TmCfgIsFoundAndItsDelaySelected)
+{
+    t.files.addFile("c:\\tm\\tm.cfg", "THROTTLETYPE=TQS\r\nDLDELAY=20\r\n");
+    t.menus().mnuEditTmCFG.Click();
+    EXPECT_EQ(window.Text1.Text, "Tm.cfg");
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_EQ(pane.SelText(), "DLDELAY");
+    EXPECT_EQ(pane.SelStart(), 18);
+}
+
+TEST_F(TemplateEditorTest, TmCfgIsTakenFromTheFolderThatIsSetBeforeOthers)
+{
+    t.files.addFile("c:\\tm\\tm.cfg", "above");
+    t.files.addFile("c:\\tm\\b50progs\\tm.cfg", "\x01\x02 no delay");
+    t.menus().mnuEditTmCFG.Click();
+    EXPECT_EQ(text(), "\x01\x02 no delay");
+    EXPECT_EQ(pane.SelLength(), 0);
+}
+
+TEST_F(TemplateEditorTest, AMissingTmCfgIsReportedWithItsFolder)
+{
+    t.settings().ProgramFilesPath = "c:\\tm\\b50progs\\\\";
+    window.mnuEditTmCFG.Click();
+    EXPECT_EQ(box().title, "Couldn't locate Tm.cfg");
+    EXPECT_EQ(box().text, "Hmmm...I couldn't find your Tm.cfg file - I was looking for it here: c:\\tm\\b50progs");
+}
+
+TEST_F(TemplateEditorTest, WrapIsHeldOrReleased)
+{
+    EXPECT_TRUE(window.ToggleButton1.isHeld());
+    EXPECT_EQ(window.RightMargin, 0);
+    window.ToggleButton1.Click();
+    EXPECT_FALSE(window.ToggleButton1.isHeld());
+    EXPECT_EQ(window.RightMargin, 2000);
+    window.ToggleButton1.Click();
+    EXPECT_EQ(window.RightMargin, 0);
+}
+
+TEST_F(TemplateEditorTest, ColoursAreAppliedByTheRulesOfTheLanguage)
+{
+    type("BTN S1 a\r\n");
+    window.mnuColourApply.Click();
+    EXPECT_EQ(pane.formatAt(0).colour, t.settings().BTNColour);
+    EXPECT_EQ(pane.formatAt(7).colour, 0);
+    EXPECT_EQ(window.TemplateChanged, 1);
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "BTN S1 a\r\n");
+    EXPECT_EQ(pane.formatAt(0).colour, 0);
+}
+
+TEST_F(TemplateEditorTest, AColourByHandIsNoChangeOfTheFile)
+{
+    type("red");
+    window.TemplateChanged = 0;
+    pane.setSelStart(0);
+    pane.setSelLength(3);
+    window.ColourLabel1_Click();
+    EXPECT_EQ(t.editor().ColourSelector.target, ColourTarget::Template);
+    t.editor().ColourSelector.Command1[1].Click();
+    EXPECT_EQ(pane.formatAt(0).colour, t.settings().RemStatements);
+    EXPECT_EQ(window.ColourLabel1, t.settings().RemStatements);
+    EXPECT_EQ(window.TemplateChanged, 0);
+    window.mnuPopBlack.Click();
+    EXPECT_EQ(pane.formatAt(0).colour, 0);
+}
+
+TEST_F(TemplateEditorTest, LayoutRefreshKeepsColoursAndTheSavedState)
+{
+    type("red");
+    pane.setSelStart(0);
+    pane.setSelLength(3);
+    pane.setSelColor(255);
+    window.TemplateChanged = 0;
+    t.settings().TextFontName = "Courier New";
+    window.mnuViewrefreshLayout.Click();
+    EXPECT_EQ(pane.formatAt(0).colour, 255);
+    EXPECT_EQ(pane.formatAt(0).fontName, "Courier New");
+    EXPECT_EQ(pane.SelLength(), 3);
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_EQ(t.status(), "Layout refreshed ... (I wish I was!)");
+}
+
+TEST_F(TemplateEditorTest, UndoGoesBackWordByWordAndRedoForward)
+{
+    t.pressKeys(pane, "one two");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "one");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "");
+    EXPECT_FALSE(window.mnuUndo.Enabled);
+    window.mnuRedo.Click();
+    window.mnuRedo.Click();
+    EXPECT_EQ(text(), "one two");
+    EXPECT_FALSE(window.mnuRedo.Enabled);
+}
+
+TEST_F(TemplateEditorTest, UndoDoesNotReachIntoTheFileBefore)
+{
+    type("mine");
+    window.TemplateChanged = 0;
+    t.files.addFile(folder + "a.txt", "other");
+    open(folder + "a.txt");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "other");
+}
+
+TEST_F(TemplateEditorTest, TheClipboardCarriesColours)
+{
+    type("red");
+    pane.setSelStart(0);
+    pane.setSelLength(3);
+    pane.setSelColor(255);
+    window.mnuCut.Click();
+    EXPECT_EQ(text(), "");
+    EXPECT_EQ(t.clipboard.content.text, "red");
+    window.mnuPaste.Click();
+    EXPECT_EQ(text(), "red");
+    EXPECT_EQ(pane.formatAt(0).colour, 255);
+}
+
+TEST_F(TemplateEditorTest, ThePopUpOffersWhatSelectionAndClipboardAllow)
+{
+    type("abc");
+    popUpTemplateMenu(window, false);
+    EXPECT_EQ(t.dialogues.popUps.back(), "mnuPopShow");
+    EXPECT_FALSE(window.mnuCut.Enabled);
+    EXPECT_FALSE(window.mnuCopy.Enabled);
+    EXPECT_FALSE(window.mnuPaste.Enabled);
+    window.mnuSelectAll.Click();
+    t.clipboard.content.text = "x";
+    popUpTemplateMenu(window, true);
+    EXPECT_TRUE(window.mnuCut.Enabled);
+    EXPECT_TRUE(window.mnuCopy.Enabled);
+    EXPECT_TRUE(window.mnuPaste.Enabled);
+}
+
+TEST_F(TemplateEditorTest, ClosingAsksAndACancelKeepsItOpen)
+{
+    type("mine");
+    t.dialogues.answers = {Answer::Cancel};
+    window.form.unload();
+    EXPECT_EQ(box().text, "untitled.rtf has changed and isn't saved. Do you want to save it before exiting?");
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(window.WindowOpen, 1);
+    t.dialogues.answers = {Answer::Yes};
+    t.dialogues.filesToSave = {std::nullopt};
+    window.form.unload();
+    EXPECT_EQ(box().text, "untitled.rtf wasn't saved. Exit Template Editor aborted.");
+    EXPECT_EQ(window.WindowOpen, 1);
+    t.dialogues.answers = {Answer::No};
+    window.form.unload();
+    EXPECT_EQ(window.WindowOpen, 0);
+    EXPECT_FALSE(window.form.Visible);
+}
+
+TEST_F(TemplateEditorTest, TheProgramsExitAsksToo)
+{
+    type("mine");
+    t.dialogues.answers = {Answer::Cancel};
+    EXPECT_FALSE(t.program().exit());
+    EXPECT_EQ(text(), "mine");
+    t.dialogues.answers = {Answer::No};
+    EXPECT_TRUE(t.program().exit());
+}
+
+TEST_F(TemplateEditorTest, ATextOfTenMegabytesIsOpenedAndSaved)
+{
+    const std::string large(10 * 1024 * 1024, 'x');
+    t.files.addFile(folder + "a.txt", large);
+    open(folder + "a.txt");
+    EXPECT_EQ(pane.TextLength(), large.size());
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "a.txt"), large);
+}
+
+TEST_F(TemplateEditorTest, WithoutATemplatesFolderASaveIsReported)
+{
+    t.files.removeDirectory("c:\\tarvex\\Templates");
+    type("x");
+    window.Text1.Text = "a.rtf";
+    window.Command1[1].Click();
+    EXPECT_EQ(box().title, "Ooops!");
+    EXPECT_EQ(window.TemplateChanged, 1);
+}
+
+} // namespace
+} // namespace tarvex
