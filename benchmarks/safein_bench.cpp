@@ -1,14 +1,10 @@
-#include "desktop/program/mum_window.h"
 #include "safein/keys/key_table.h"
-#include "support/test_program.h"
-#include "timing.h"
+#include "shown_program.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QMouseEvent>
 
-#include <stdexcept>
 #include <vector>
 
 // What the user of Safein waits for, from a command or a click to the painted window.
@@ -16,44 +12,7 @@
 namespace tarvex::benchmarks {
 namespace {
 
-/// Counts how often a widget of some name is painted.
-class PaintsOf : public QObject {
-public:
-    explicit PaintsOf(const char* name) : m_name(QLatin1String(name)) { qApp->installEventFilter(this); }
-
-    /// Lets events run until it has been painted.
-    void wait()
-    {
-        constexpr double longest = 5; // seconds
-        const auto start = Clock::now();
-        for (m_painted = false; !m_painted && secondsSince(start) < longest;) QApplication::processEvents();
-        if (!m_painted) throw std::runtime_error("not painted: " + m_name.toStdString());
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint && watched->objectName() == m_name) m_painted = true;
-        return false;
-    }
-
-private:
-    QString m_name;
-    bool m_painted = false;
-};
-
-/// The program with its frame on the screen.
-struct ShownProgram {
-    TestProgram program;
-    MumWindow window{program.program()};
-
-    ShownProgram()
-    {
-        window.showNormal();
-        QApplication::processEvents();
-    }
-    void openSafein() { program.menus().mnuInsertRAW.Click(); }
-};
+void openSafein(ShownProgram& shown) { shown.program.menus().mnuInsertRAW.Click(); }
 
 /// The window is made; "first_ms" is its very first time in the process.
 void safeinOpening(benchmark::State& state)
@@ -63,7 +22,7 @@ void safeinOpening(benchmark::State& state)
         ShownProgram shown;
         PaintsOf pad("KeyPad");
         const auto start = Clock::now();
-        shown.openSafein();
+        openSafein(shown);
         pad.wait();
         times.push_back(secondsSince(start));
         state.SetIterationTime(times.back());
@@ -76,14 +35,14 @@ void safeinShownAgain(benchmark::State& state)
 {
     ShownProgram shown;
     PaintsOf pad("KeyPad");
-    shown.openSafein();
+    openSafein(shown);
     pad.wait();
     std::vector<double> times;
     for (auto _ : state) {
         shown.program.program().safein.Command2.Click(); // hides it
         QApplication::processEvents();
         const auto start = Clock::now();
-        shown.openSafein();
+        openSafein(shown);
         pad.wait();
         times.push_back(secondsSince(start));
         state.SetIterationTime(times.back());
@@ -108,7 +67,7 @@ void safeinKeyClick(benchmark::State& state)
 {
     ShownProgram shown;
     PaintsOf field("RCombinedText");
-    shown.openSafein();
+    openSafein(shown);
     field.wait();
     const auto keys = keyTable();
     std::vector<double> times;

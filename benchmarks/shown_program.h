@@ -1,0 +1,51 @@
+#pragma once
+
+#include "desktop/program/mum_window.h"
+#include "support/test_program.h"
+#include "timing.h"
+
+#include <QApplication>
+
+#include <stdexcept>
+
+namespace tarvex::benchmarks {
+
+/// Counts how often a widget of some name is painted.
+class PaintsOf : public QObject {
+public:
+    explicit PaintsOf(const char* name) : m_name(QLatin1String(name)) { qApp->installEventFilter(this); }
+
+    /// Lets events run until it has been painted.
+    void wait()
+    {
+        constexpr double longest = 5; // seconds
+        const auto start = Clock::now();
+        for (m_painted = false; !m_painted && secondsSince(start) < longest;) QApplication::processEvents();
+        if (!m_painted) throw std::runtime_error("not painted: " + m_name.toStdString());
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && watched->objectName() == m_name) m_painted = true;
+        return false;
+    }
+
+private:
+    QString m_name;
+    bool m_painted = false;
+};
+
+/// The program with its frame on the screen.
+struct ShownProgram {
+    TestProgram program;
+    MumWindow window{program.program()};
+
+    ShownProgram()
+    {
+        window.showNormal();
+        QApplication::processEvents();
+    }
+};
+
+} // namespace tarvex::benchmarks
