@@ -1,4 +1,4 @@
-// What the program selects comes into sight.
+// Text that the program selects is scrolled into view.
 
 #include "desktop/documents/text/pane_view.h"
 
