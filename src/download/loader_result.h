@@ -51,8 +51,8 @@ struct LoaderResult {
 /// Bytes of a result file that are read; a loader writes less than one hundredth of that.
 constexpr std::size_t largestResult = std::size_t{1} << 20;
 
-/// What can't be read or converted stays at its initial value, and is dealt with by `step`. Throws RuntimeError when
-/// the file itself can't be read.
+/// A value that can't be read or converted keeps its initial value, and `step` handles the failure. Throws
+/// RuntimeError when the file itself can't be read.
 LoaderResult readLoaderResult(const FileSystem& files, const std::string& path, const Steps& step);
 /// The same from a reader that has seen the whole file.
 LoaderResult loaderResult(const LoaderResultReader& reader, const Steps& step);

@@ -14,7 +14,7 @@ void mnuAppsTMScope_Click(Editor& editor);
 void mnuAppsProPanel_Click(Editor& editor);
 void mnuAppsCTFJ_Click(Editor& editor);
 void mnuLauncher_Click(Editor& editor);
-/// One of the user's programs, by its place on the menu from 0. It is started as it stands.
+/// Starts a user program, by its place on the menu from 0, with its command line unchanged.
 void mnuCustomApp_Click(Editor& editor, int index);
 /// The preferences, where the user's programs are set.
 void mnuAppsEdit_Click(Editor& editor);

@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-/// What stands before the joystick text while it is searched, so that a name at its very start has blanks before it.
+/// Put before the joystick text while it is searched, so that a name at its very start has blanks before it.
 constexpr std::string_view blanksBeforeText = "   ";
 
 /// Whether a name (bytes) stands in the pane as a whole word, in any case, with a blank or a line end right behind it.

@@ -46,7 +46,7 @@ bool keepCopy(Editor& editor, const Side& side)
     return answer == Answer::Yes;
 }
 
-/// What can't be saved is kept as a copy. False: the game isn't to start.
+/// Keeps a copy of a document that can't be saved. False: the game isn't to start.
 bool saveDocuments(Editor& editor)
 {
     for (const Side* side : modifiedSides(editor)) saveSide(editor, *side);

@@ -4,7 +4,7 @@
 
 namespace tarvex {
 
-// What the preferences change is in force when they close, without a restart.
+// Puts changed preferences into force when the dialogue closes, without a restart.
 
 /// Both panes take the font of the settings and keep their colours; no edit, and no undo level.
 void DamnFontWasChanged(Editor& editor);

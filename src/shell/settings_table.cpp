@@ -188,7 +188,7 @@ const SettingRow table[] = {
      &S::CustomAppName,
      Access::GetCustomApps,
      Access::SaveApps,
-     "caption of a program of the user's choice",
+     "caption of a user program",
      {},
      4},
     {IniFile::Tarvex,

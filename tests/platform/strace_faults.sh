@@ -26,7 +26,7 @@ prepare() {
     rm -rf "$place/work" && mkdir "$place/work" && printf %s "$old" >"$file" && chmod 664 "$file"
 }
 
-# complain TEXT: counts and tells a broken promise
+# complain TEXT: counts and reports a broken promise
 complain() {
     echo "FAILED: $1"
     failures=$((failures + 1))

@@ -8,8 +8,8 @@ class QMimeData;
 
 namespace tarvex {
 
-/// What the program puts on the clipboard or into a drag, as other programs take it, and back. RTF goes by all the
-/// names that word processors know it by.
+/// Converts between the clipboard's contents and their form in other programs. RTF is offered under every name that
+/// word processors use for it.
 std::unique_ptr<QMimeData> toMime(const ClipboardContent& content);
 ClipboardContent fromMime(const QMimeData& data);
 bool holdsContent(const QMimeData& data);

@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-// What the user does in a pane with keys and mouse, except writing and moving the caret. One procedure serves both
+// User input in a pane with keys and mouse, except writing and moving the caret. One procedure serves both
 // panes: Text_KeyDown is JoystickText_KeyDown and MacroText_KeyDown, and so are the others.
 
 /// `keys` names a key as "Ctrl+S", "Esc" or "F1"; keys without a command may come without a name. True: the key is

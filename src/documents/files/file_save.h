@@ -24,7 +24,7 @@ void EmergencySaveFiles(Editor& editor);
 
 /// Backup copy of a document, when the settings ask for it.
 void writeBackup(Editor& editor, Side& side);
-/// What follows once the file itself is safely written: state, lists, status and coloured shadow.
+/// The steps after the file itself was written: state, lists, status and coloured shadow.
 void noteSaved(Editor& editor, Side& side);
 
 } // namespace tarvex

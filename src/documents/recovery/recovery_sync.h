@@ -4,7 +4,7 @@
 
 namespace tarvex {
 
-// What of a journal is safe from the end of the machine. Nobody ever waits for the disk here.
+// Syncs journals in the background, so that they survive a power failure. Nothing here waits for the disk.
 
 /// Looks how the last sync of the open file has ended, and has what was written since go to the disk. Throws
 /// RuntimeError when the disk didn't take it. True: one has ended well, and the file is safe as it was at its begin.

@@ -31,7 +31,7 @@ struct OpenPair : TestProgram {
         start();
     }
     void fifteenSecondsLater() { editor().TimerJournal.Tick(); }
-    /// What was written goes to the disk, and the disk says that it has it.
+    /// Syncs the journals until the disk has them.
     void diskIsDone()
     {
         fifteenSecondsLater();

@@ -10,7 +10,7 @@ namespace {
 constexpr const char* joystickFiles[] = {"mig.b50", "su27.b50", "f22.f22"};
 constexpr const char* macroFiles[] = {"mig.m50", "su27.m50", "f22.m22"};
 
-/// What was lost in a crash is always wanted back.
+/// Text lost in a crash is always restored.
 Answer anyAnswer(Random& random, const MessageBox& box)
 {
     if (box.title.starts_with("Phew")) return Answer::Yes;

@@ -99,7 +99,7 @@ PaneMirror::Stretch PaneMirror::typedStretch(Common typed, int caret) const
     if (stretch.begin == stretch.end || stretch.from == stretch.to) return stretch;
     const QString old = paneStretch(stretch.begin, stretch.end);
     const QString now = documentStretch(stretch.from, stretch.to);
-    // What was typed ends at the caret, whatever equal characters stand around it.
+    // Typed text ends at the caret, even between characters equal to it.
     const int most = caret >= stretch.from && caret <= stretch.to ? stretch.to - caret : 0;
     const int after = commonEnd(old, now, most);
     const int before = commonStart(old.chopped(after), now.chopped(after));

@@ -17,8 +17,8 @@ struct PaneText {
     std::string bytes; ///< line ends are CR LF
     bool exact = true; ///< false: the document has to show something else than was put into it
 };
-/// What the user put into a document, as the pane takes it: characters that Windows-1252 lacks become "?", every kind
-/// of line separator a line end. Decomposed letters are composed first.
+/// Converts user input to the bytes of a pane: characters that Windows-1252 lacks become "?", every kind of line
+/// separator becomes a line end. Decomposed letters are composed first.
 PaneText paneText(const QString& text);
 
 } // namespace tarvex

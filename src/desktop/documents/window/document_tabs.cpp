@@ -18,7 +18,7 @@ DocumentTabs::DocumentTabs(QWidget* parent) : QTabBar(parent)
 
 bool DocumentTabs::isCut(int index) const { return QTabBar::tabSizeHint(index).width() > tabRect(index).width(); }
 
-/// What the others leave of the bar, but at least an equal share.
+/// The width that the other tabs leave, but at least an equal share.
 QSize DocumentTabs::tabSizeHint(int index) const
 {
     QSize size = QTabBar::tabSizeHint(index);

@@ -116,7 +116,7 @@ void EditorView::addPane(Side& side, PaneView& view)
     });
 }
 
-/// What is typed while the tabs have the keyboard is meant for the text below them.
+/// Text typed while the tabs have the keyboard goes to the pane below them.
 bool EditorView::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != m_tabs || event->type() != QEvent::KeyPress || !writesText(*static_cast<QKeyEvent*>(event)))

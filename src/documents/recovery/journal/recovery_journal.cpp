@@ -49,7 +49,7 @@ JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
             .edit = std::move(edit)};
 }
 
-/// What is on the disk stays there, as far as it is whole.
+/// Keeps the records that were written completely.
 void giveUpForNow(Editor& editor, JournalRecord& journal, const std::string& whyNot)
 {
     closeFile(journal);

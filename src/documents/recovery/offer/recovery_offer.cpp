@@ -131,7 +131,7 @@ Offer sortedOut(std::vector<LeftJournal> journals)
     return offer;
 }
 
-/// What becomes of a text whose file somebody else has written.
+/// The sentence about a text whose file was changed by another program.
 std::string newNameInBox(Editor& editor, const LeftJournal& found)
 {
     if (found.fileIsSame) return {};

@@ -16,7 +16,7 @@ constexpr RtfCodePage windows = 1252; ///< the page of our texts; of a file that
 constexpr RtfCodePage mac = 10000;
 } // namespace rtfCodePage
 
-/// The page of a font's "\fcharset". The symbol set counts as Windows-1252: its bytes number the signs of the font, so
+/// The page of a font's "\fcharset". The symbol set counts as Windows-1252: its bytes number the glyphs of the font, so
 /// they only show right in that font and unchanged. An unknown set has the page of the file.
 RtfCodePage codePageOfCharset(int charset);
 

@@ -105,7 +105,7 @@ std::string DosboxPaths::letterFor(const std::string& nativeDirectory)
     return m_letters[nativeDirectory] = rootOfLetter(letter);
 }
 
-/// What a DOS program opens may want its neighbours: a loader takes the macro file beside the joystick file.
+/// Mounts the whole folder: a loader that is given the joystick file opens the macro file beside it, too.
 std::string DosboxPaths::aliasFor(const std::string& nativeFile)
 {
     const std::string directory = parentOf(nativeFile);

@@ -1,4 +1,4 @@
-// What is typed and not saved is written down.
+// Unsaved typing is written to a journal.
 
 #include "documents/files/auto_save.h"
 #include "documents/recovery/journal/recovery_journal.h"

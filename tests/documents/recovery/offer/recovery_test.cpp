@@ -1,4 +1,4 @@
-// What was typed and not saved comes back, however the program ended.
+// Unsaved typing is restored after any end of the program.
 
 #include "documents/files/auto_save.h"
 #include "documents/recovery/journal/recovery_journal.h"
