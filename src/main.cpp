@@ -1,4 +1,5 @@
 #include "desktop/application.h"
+#include "desktop/composer/composer_menus.h"
 #include "desktop/generators/generator_forms.h"
 #include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_clipboard.h"
@@ -114,6 +115,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);
     dialogues.addPopUp(program.safein.mnuDelay, program.safein.delayMenu());
+    addComposerMenus(dialogues, program.composer);
     dialogues.addPopUp(program.templateEditor.mnuPopShow, program.templateEditor.popUpMenu());
     addGeneratorForms(dialogues, program.generators, &window);
     addListForms(dialogues, program.lists, &window);

@@ -1,5 +1,6 @@
 #include "composer/find_button.h"
 
+#include "composer/insertion.h"
 #include "documents/editing/line_highlight.h"
 #include "language/commands/side_caret.h"
 #include "language/statements.h"
@@ -46,6 +47,7 @@ void FindButton(InsertOptions& window, std::string_view text)
     Side& side = editor.joystick;
     window.InsertNeeded = 1;
     if (side.pane.TextLength() == 0 || editor.shared.settings.AlwaysInsert == 1) return;
+    leaveShownUse(window);
     endBlinking(editor);
     if (editor.TabStrip1.SelectedItem != side.tab) step([&] { editor.TabStrip1.Select(side.tab); });
     step([&] {

@@ -190,6 +190,7 @@ void mnuPort_Click(InsertOptions& window, int Index)
 void SlashButton_Click(InsertOptions& window, int Index)
 {
     tagged(window, "COMPOSER SlashButton_Click", [&] {
+        leaveShownUse(window);
         InsertSlashModifier(window.editor, window.SlashButton.at(static_cast<std::size_t>(Index)).Caption);
         returnFocus(window);
     });

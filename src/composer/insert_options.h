@@ -210,6 +210,9 @@ struct InsertOptions {
     Timer TimerAssigned{150}; ///< runs from an edit to the renewal of Assigned
     ProfileFile PlatformIni;
 
+    Placement
+        PopUpPlace; ///< where a menu of a picture opens, on the screen in pixels; the view sets it with each click
+
     std::vector<MenuEntry> hatMenu();
     std::vector<MenuEntry> triggerMenu();
     std::vector<MenuEntry> portMenu();

@@ -2,6 +2,7 @@
 
 #include "documents/window/tool_keys.h"
 #include "language/commands/coloured_insertion.h"
+#include "language/commands/side_caret.h"
 #include "platform/windows1252.h"
 
 namespace tarvex {
@@ -35,6 +36,7 @@ void insertText(InsertOptions& window, const std::string& text, Colour colour, L
 {
     Editor& editor = window.editor;
     InsertionRecord& insertion = editor.insertion;
+    leaveShownUse(window);
     BeginColInsert(editor);
     if (startsLine(text)) CheckAtLineBeginning(editor);
     if (editor.shared.settings.InsertWithColour == 1) {
@@ -54,6 +56,7 @@ void insertStatement(InsertOptions& window, const StatementText& statement)
 {
     Editor& editor = window.editor;
     const Settings& settings = editor.shared.settings;
+    leaveShownUse(window);
     BeginColInsert(editor);
     CheckAtLineBeginning(editor);
     if (settings.InsertWithColour == 1)
@@ -67,10 +70,22 @@ void insertStatement(InsertOptions& window, const StatementText& statement)
 
 void insertLineEnd(InsertOptions& window)
 {
+    leaveShownUse(window);
     BeginColInsert(window.editor);
     InsertCarriageReturn(window.editor);
     EndColInsert(window.editor);
     returnFocus(window);
+}
+
+void leaveShownUse(InsertOptions& window)
+{
+    MacroTab& tab = window.macros;
+    Side& side = window.editor.joystick;
+    if (tab.BeforeClick && MacroTab::Selection{side.pane.SelStart(), side.pane.SelLength()} == tab.AfterClick) {
+        putCaret(side, tab.BeforeClick->start);
+        side.pane.setSelLength(tab.BeforeClick->length);
+    }
+    tab.BeforeClick.reset();
 }
 
 void returnFocus(InsertOptions& window)

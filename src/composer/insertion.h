@@ -34,6 +34,10 @@ template <typename Fields> std::string valuesOf(const Fields& fields)
     return values;
 }
 
+/// A click on a macro shows where it is used by selecting that place (MacroTab::BeforeClick). Nothing is to be written
+/// there: the caret or selection that the user had comes back, unless the user has moved it since.
+void leaveShownUse(InsertOptions& window);
+
 /// After an action the keyboard goes back to the document window, if the user wants that.
 void returnFocus(InsertOptions& window);
 

@@ -78,6 +78,7 @@ void insertBlock(InsertOptions& window, const std::string& text)
 {
     if (text.empty()) return;
     Editor& editor = window.editor;
+    leaveShownUse(window);
     BeginColInsert(editor);
     CheckAtLineBeginning(editor);
     editor.TempRichTextBox.setText(text);

@@ -63,17 +63,6 @@ void showUse(InsertOptions& window, std::size_t list)
     tab.AfterClick = selectionOf(editor.JoystickText);
 }
 
-void selectAgain(InsertOptions& window)
-{
-    MacroTab& tab = window.macros;
-    Side& side = window.editor.joystick;
-    if (tab.BeforeClick && selectionOf(side.pane) == tab.AfterClick) {
-        putCaret(side, tab.BeforeClick->start);
-        side.pane.setSelLength(tab.BeforeClick->length);
-    }
-    tab.BeforeClick.reset();
-}
-
 std::string textToInsert(const Pane& pane, const std::string& name)
 {
     const bool touches =
@@ -148,7 +137,7 @@ void List1_DblClick(InsertOptions& window, std::size_t list)
         endBlinking(editor);
         if (editor.TabStrip1.SelectedItem != editor.joystick.tab) editor.TabStrip1.Select(editor.joystick.tab);
         if (!pick(window, list)) return;
-        selectAgain(window);
+        leaveShownUse(window);
         insertMacro(window);
     });
 }

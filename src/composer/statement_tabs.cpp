@@ -65,6 +65,7 @@ void insertBlanks(InsertOptions& window)
     const std::int16_t count = blanksWanted(window);
     editor.shared.settings.NumberOfBlanks = count;
     if (count == 0) return;
+    leaveShownUse(window);
     BeginColInsert(editor);
     InsertColouredStringNoSpace(editor, std::string(static_cast<std::size_t>(count), ' '),
                                 editor.shared.DefaultTextColour);
@@ -151,6 +152,7 @@ void DlyRptButtons_Click(InsertOptions& window, int Index)
 {
     tagged(window, "COMPOSER DlyRptButtons_Click", [&] {
         const TextBox& field = Index == 0 ? window.fields.DLYText : window.fields.TextRPT;
+        leaveShownUse(window);
         InsertTimedItem(window.editor, Index == 0 ? "DLY(" : "RPT(", windows1252FromUtf8(field.Text.get()));
         returnFocus(window);
     });

@@ -79,6 +79,7 @@ void insertTemplate(InsertOptions& window, Side& side)
     const Pane& preview = window.templates.TemplatesPreview;
     if (preview.TextLength() == 0) return;
     if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab);
+    leaveShownUse(window);
     BeginColInsert(editor);
     if (!side.pane.Locked) {
         if (!isAtLineStart(side.pane)) InsertCarriageReturn(editor);
@@ -96,6 +97,9 @@ void insertTemplate(InsertOptions& window, Side& side)
 void FillTemplates(InsertOptions& window)
 {
     TemplateTab& tab = window.templates;
+    const Settings& settings = window.editor.shared.settings;
+    tab.TemplatesPreview.BackColor = settings.BackgroundColour;
+    setPaneFont(tab.TemplatesPreview, settings);
     std::vector<std::string> names;
     const Steps step;
     step([&] { names = window.editor.platform.files.list(tab.Folder); });
@@ -158,6 +162,7 @@ void wireTemplates(InsertOptions& window)
     window.mnuJoystick.handler = tab.Command11[0].handler;
     window.mnuMacrofile.handler = tab.Command11[1].handler;
     window.mnuQuickie.Enabled = false;
+    tab.TemplatesPreview.Locked = true;
 }
 
 } // namespace tarvex

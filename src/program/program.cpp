@@ -122,6 +122,7 @@ Program::Program(Platform& thePlatform)
     wireFindAndReplace(findAndReplace);
     wireSafein(safein);
     wireComposer(composer);
+    offerComposer(composer);
     wireGenerators(generators);
     wireWizards(wizards);
     wireTemplateEditor(templateEditor);

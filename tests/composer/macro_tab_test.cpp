@@ -171,6 +171,21 @@ TEST_F(MacroTabTest, ADoubleClickOnAMacroThatIsUsedInsertsAtTheCaretAllTheSame)
     EXPECT_EQ(joystick.Text(), "BTN S1 Fire \r\nBTN S2 Fire ");
 }
 
+TEST_F(MacroTabTest, WhatIsInsertedAfterAClickDoesntReplaceTheMacroThatWasShown)
+{
+    const std::string text = "BTN S1 Fire \r\nBTN S2 ";
+    write(text);
+    press(0);
+    window.SlashButton[0].Click();
+    EXPECT_EQ(joystick.Text(), text + "/U ");
+    press(0);
+    window.DlyRptButtons[0].Click();
+    EXPECT_EQ(joystick.Text(), text + "/U DLY(60) ");
+    press(0);
+    window.BTN[2].Click();
+    EXPECT_EQ(joystick.Text(), text + "/U DLY(60) BTN S3 ");
+}
+
 TEST_F(MacroTabTest, ACaretThatTheUserMovedMeanwhileIsWhereTheMacroGoes)
 {
     write("BTN S1 Fire \r\nBTN S2 \r\n");

@@ -16,10 +16,9 @@ using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
 const Names commandsToCome = {
-    "mnuAppsImageViewer",  "mnuAppsJoyAnalyser",  "mnuComposerPlugin", "mnuFilePrintJoystick",
-    "mnuFilePrintMacro",   "mnuFilePrinterSetup", "mnuHelpAbout",      "mnuHelpContents",
-    "mnuHelpTips",         "mnuHowDoIArray",      "mnuInsertQuickTip", "mnuSendToKeyTest",
-    "mnuShowInsertWindow", "mnuTMhelp",           "mnuWebTarvex",
+    "mnuAppsImageViewer", "mnuAppsJoyAnalyser", "mnuFilePrintJoystick", "mnuFilePrintMacro", "mnuFilePrinterSetup",
+    "mnuHelpAbout",       "mnuHelpContents",    "mnuHelpTips",          "mnuHowDoIArray",    "mnuInsertQuickTip",
+    "mnuSendToKeyTest",   "mnuTMhelp",          "mnuWebTarvex",
 };
 
 /// Operations that nobody carries out yet.

@@ -234,7 +234,12 @@ bool QtDialogues::showModal(const std::string& formName)
     return true;
 }
 
-void QtDialogues::popUp(const MenuItem& root) { popUpAt(root, QCursor::pos()); }
+void QtDialogues::popUp(const MenuItem& root)
+{
+    const auto added = m_popUps.find(&root);
+    const bool placed = added != m_popUps.end() && added->second.place;
+    popUpAt(root, placed ? added->second.place() : QCursor::pos());
+}
 
 void QtDialogues::popUpAtCaret(const MenuItem& root)
 {
@@ -249,7 +254,7 @@ void QtDialogues::popUpAt(const MenuItem& root, const QPoint& place)
     Bindings bindings;
     QMenu menu(m_parent);
     const auto added = m_popUps.find(&root);
-    fillMenu(menu, added != m_popUps.end() ? added->second : popUpMenu(*m_menus, root), bindings);
+    fillMenu(menu, added != m_popUps.end() ? added->second.entries : popUpMenu(*m_menus, root), bindings);
     if (!menu.isEmpty()) menu.exec(place);
 }
 

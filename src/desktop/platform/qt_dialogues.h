@@ -27,8 +27,12 @@ public:
     /// The window that the boxes belong to, and the menus that can pop up; none before they are set.
     void setParent(QWidget* parent) { m_parent = parent; }
     void setMenus(Menus* menus) { m_menus = menus; }
-    /// What pops up for a menu that isn't one of the program's own; root and items outlive this.
-    void addPopUp(const MenuItem& root, std::vector<MenuEntry> entries) { m_popUps[&root] = std::move(entries); }
+    /// What pops up for a menu that isn't one of the program's own, and where on the screen if not at the mouse; root
+    /// and items outlive this.
+    void addPopUp(const MenuItem& root, std::vector<MenuEntry> entries, std::function<QPoint()> place = {})
+    {
+        m_popUps[&root] = {std::move(entries), std::move(place)};
+    }
     /// What showModal of that name runs.
     void addForm(const std::string& name, std::function<void()> show) { m_forms[name] = std::move(show); }
 
@@ -51,7 +55,11 @@ private:
     const DriveMap& m_drives;
     QWidget* m_parent = nullptr;
     Menus* m_menus = nullptr;
-    std::map<const MenuItem*, std::vector<MenuEntry>> m_popUps;
+    struct PopUp {
+        std::vector<MenuEntry> entries;
+        std::function<QPoint()> place;
+    };
+    std::map<const MenuItem*, PopUp> m_popUps;
     std::map<std::string, std::function<void()>> m_forms;
 };
 

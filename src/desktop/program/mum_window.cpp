@@ -1,5 +1,6 @@
 #include "desktop/program/mum_window.h"
 
+#include "desktop/composer/composer_view.h"
 #include "desktop/documents/find/find_and_replace_view.h"
 #include "desktop/documents/window/colour_selector_view.h"
 #include "desktop/documents/window/toolbar_view.h"
@@ -70,6 +71,7 @@ MumWindow::MumWindow(Program& program)
     makeWhenShown(program.templateEditor.form, m_bindings,
                   [this] { return new TemplateView(m_program.templateEditor, this); });
     makeWizardsWhenShown(program.wizards, m_bindings, this);
+    makeWhenShown(program.composer.form, m_bindings, [this] { return new ComposerView(m_program.composer, this); });
     makeWhenShown(program.safein.form, m_bindings, [this] { return new SafeinView(m_program.safein, this); });
     m_bindings.follow(program.mum.form.frontWanted, [this] {
         raise();

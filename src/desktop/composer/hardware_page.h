@@ -1,0 +1,46 @@
+#pragma once
+
+#include "composer/insert_options.h"
+#include "desktop/bind.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QPlainTextEdit;
+class QTabWidget;
+
+namespace tarvex {
+
+class HardwareControl;
+class HardwarePicture;
+
+/// The first page of the Composer: the pictures of the controllers under their tabs, what the control at hand has in
+/// the joystick file, slash modifiers, delays and remarks.
+class HardwarePage : public QWidget {
+    Q_OBJECT
+public:
+    /// `bindings` go before this does.
+    HardwarePage(InsertOptions& window, Bindings& bindings, QWidget* parent = nullptr);
+
+private:
+    QTabWidget* makePictures();
+    QWidget* makeStatement();
+    QLayout* makeSlashRow();
+    QLayout* makeItemRow();
+    QLayout* makeRemarkRow();
+    void bindControls();
+    void showControls();
+    void showControl(std::string_view id);
+    void showState(HardwareControl& view, std::string_view id);
+    void click(const QString& id);
+    void attend(const QString& id);
+
+    InsertOptions& m_window;
+    Bindings& m_bindings;
+    std::array<HardwarePicture*, 4> m_pictures{};
+    QPlainTextEdit* m_statement = nullptr;
+    QString m_attended; ///< id of the control at hand
+};
+
+} // namespace tarvex
