@@ -1,6 +1,6 @@
 #include "templates/template_files.h"
 
-#include "documents/files/text_files.h"
+#include "documents/files/file_load.h"
 #include "documents/text/rtf/rtf.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"

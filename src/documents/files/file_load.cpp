@@ -8,8 +8,6 @@
 #include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
 
-#include <optional>
-
 namespace tarvex {
 
 namespace {
@@ -32,19 +30,6 @@ void showUnreadable(Editor& editor, const std::string& name)
                                             ", so I've left everything just as it was. Is it still there, and are you "
                                             "allowed to read it?",
                                     .icon = BoxIcon::Exclamation});
-}
-
-std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name)
-{
-    const Steps step(editor.shared.errors, "ED_readForOpening");
-    std::optional<std::string> bytes;
-    if (isTooLarge(editor, path)) {
-        showTooLarge(editor, name);
-        return bytes;
-    }
-    step([&] { bytes = editor.platform.files.read(path); });
-    if (!bytes) showUnreadable(editor, name);
-    return bytes;
 }
 
 // ---- showing --------------------------------------------------------------------------------------------------------
@@ -115,6 +100,19 @@ void listMacros(Editor& editor, const std::string& name, const Steps& step)
 }
 
 } // namespace
+
+std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name)
+{
+    const Steps step(editor.shared.errors, "ED_readForOpening");
+    std::optional<std::string> bytes;
+    if (isTooLarge(editor, path)) {
+        showTooLarge(editor, name);
+        return bytes;
+    }
+    step([&] { bytes = editor.platform.files.read(path); });
+    if (!bytes) showUnreadable(editor, name);
+    return bytes;
+}
 
 bool loadFile(Editor& editor, Side& side, const std::string& path, const std::string& name)
 {

@@ -2,9 +2,14 @@
 
 #include "documents/pair/editor.h"
 
+#include <optional>
 #include <string>
 
 namespace tarvex {
+
+/// The bytes of a file that is to be opened; nothing when it can't be read or is larger than 64 MB, and the user was
+/// informed.
+std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name);
 
 /// Reads a file and shows it in its pane. False: it can't be read or is larger than 64 MB; the user was informed, and
 /// nothing changed.
