@@ -12,9 +12,14 @@
 namespace tarvex {
 
 /// Gives its answers in turn and keeps what was asked. A question with several answers that nobody scripted fails the
-/// test; a box with nothing but OK needs no script.
+/// test, and so does an answer that nobody asked for; a box with nothing but OK needs no script.
 class ScriptedDialogues final : public Dialogues {
 public:
+    ScriptedDialogues() = default;
+    ~ScriptedDialogues() override { expectUsedUp(); }
+    ScriptedDialogues(const ScriptedDialogues&) = delete;
+    ScriptedDialogues& operator=(const ScriptedDialogues&) = delete;
+
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> filesToOpen; ///< nothing: the user cancels
     std::deque<std::optional<std::string>> filesToSave;
@@ -95,6 +100,15 @@ public:
     {
         popUpsAtCaret.push_back(root.Name);
         if (whilePoppedUp) whilePoppedUp();
+    }
+
+    /// Everything scripted so far was asked for.
+    void expectUsedUp() const
+    {
+        EXPECT_EQ(answers.size(), 0U) << "scripted, but not asked for: answers to boxes";
+        EXPECT_EQ(filesToOpen.size(), 0U) << "scripted, but not asked for: files to open";
+        EXPECT_EQ(filesToSave.size(), 0U) << "scripted, but not asked for: files to save";
+        EXPECT_EQ(folders.size(), 0U) << "scripted, but not asked for: folders";
     }
 
 private:
