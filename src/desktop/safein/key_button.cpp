@@ -58,6 +58,7 @@ void KeyButton::paintEvent(QPaintEvent*)
     constexpr int letterShare = 42; // per cent of the height
     constexpr int wordShare = 30;
     constexpr int signShare = 34;
+    constexpr int mostPixels = 60; // on larger keys letters don't grow any more
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
@@ -66,14 +67,14 @@ void KeyButton::paintEvent(QPaintEvent*)
 
     const QRect cap = rect().adjusted(margin, margin / 2, -margin, -margin / 2);
     const QString label = text().replace(QLatin1String("&&"), QLatin1String("&"));
-    const int side = std::min(height(), 3 * width() / 2); // high keys have the letters of the others
+    const int edge = std::min(m_usualEdge, mostPixels);
     const bool alone = m_secondSign.isEmpty();
     const int labelShare = label.size() > 1 ? wordShare : letterShare;
-    painter.setFont(fitted(font(), label, std::min(side, 60) * labelShare / 100, cap.width()));
+    painter.setFont(fitted(font(), label, edge * labelShare / 100, cap.width()));
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
     painter.drawText(cap, static_cast<int>(alone ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop), label);
     if (alone) return;
-    painter.setFont(fitted(font(), m_secondSign, side * signShare / 100, cap.width()));
+    painter.setFont(fitted(font(), m_secondSign, edge * signShare / 100, cap.width()));
     painter.setPen(palette().color(m_lit ? QPalette::HighlightedText : QPalette::Link));
     painter.drawText(cap, static_cast<int>(Qt::AlignRight | Qt::AlignBottom), m_secondSign);
 }

@@ -14,6 +14,8 @@ public:
     KeyButton(int index, QWidget* parent);
 
     int index() const { return m_index; }
+    /// Edge of a usual key in pixels; all keys take the size of their letters from it.
+    void setUsualEdge(int pixels) { m_usualEdge = pixels; }
     void setSecondSign(const QString& sign);
     QString secondSign() const { return m_secondSign; }
     /// Shows the key as one that is pressed on the real keyboard.
@@ -28,6 +30,7 @@ protected:
 
 private:
     int m_index;
+    int m_usualEdge = 0;
     QString m_secondSign;
     bool m_lit = false;
 };

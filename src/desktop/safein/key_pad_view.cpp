@@ -15,7 +15,6 @@ namespace {
 
 constexpr int usualQuarter = 10; // pixels of a quarter of a usual key
 constexpr int leastQuarter = 6;
-constexpr int quartersOfAKey = 4;
 constexpr int firstTabStop = 83; // Esc
 constexpr int gap = 1;
 
@@ -64,7 +63,7 @@ QSize KeyPadView::sizeHint() const { return QSize(padWidth, padHeight) * usualQu
 QSize KeyPadView::minimumSizeHint() const
 {
     constexpr int frame = 2 * (2 + gap);
-    const int line = (fontMetrics().height() + frame + quartersOfAKey - 1) / quartersOfAKey;
+    const int line = (fontMetrics().height() + frame + usualKey - 1) / usualKey;
     return QSize(padWidth, padHeight) * std::max(leastQuarter, line);
 }
 
@@ -77,6 +76,7 @@ void KeyPadView::resizeEvent(QResizeEvent*)
     for (const KeyPlace& key : padLayout()) {
         const QPoint from(edge(left, key.x), edge(top, key.y));
         const QPoint to(edge(left, key.x + key.width), edge(top, key.y + key.height));
+        button(key.index)->setUsualEdge(static_cast<int>(std::lround(quarter * usualKey)));
         button(key.index)->setGeometry(QRect(from, to - QPoint(1, 1)).adjusted(gap, gap, -gap, -gap));
     }
 }

@@ -182,6 +182,17 @@ TEST_F(SafeinViewTest, ItFitsOnASmallScreen)
     EXPECT_LE(least.height(), 480);
 }
 
+TEST_F(SafeinViewTest, APlaceBeyondTheRealScreenOpensItOnTheScreen)
+{
+    safein.form.unload();
+    events();
+    t.setIni("Miscellaneous", "SafeinTop", "15000"); // 1000 pixels, which the logic's screen has
+    t.setIni("Miscellaneous", "SafeinLeft", "18000");
+    t.menus().mnuInsertRAW.Click();
+    events();
+    EXPECT_TRUE(form()->screen()->geometry().contains(form()->pos())) << form()->x() << " " << form()->y();
+}
+
 TEST_F(SafeinViewTest, AKeyGrowsWithTheWindow)
 {
     const QSize before = key("a")->size();

@@ -8,6 +8,7 @@
 #include "documents/text/drag_move.h"
 #include "language/commands/macro_list_events.h"
 #include "language/commands/text_transfer.h"
+#include "safein/keys/key_table.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -228,6 +229,19 @@ void resize(Walk& walk)
     walk.editor().ScaleHeight = static_cast<int>(below(walk.random, 1000));
 }
 
+/// A key of Safein, something of it for the statement, and one of the five insertions.
+void useSafein(Walk& walk)
+{
+    RAWform& safein = walk.program().safein;
+    if (!safein.form.Visible) return walk.menus().mnuInsertRAW.Click();
+    oneOf(walk.random, std::array{&safein.ToggleButton1, &safein.ToggleButton2, &safein.ToggleButton3})->Click();
+    safein.Command1[static_cast<std::size_t>(oneOf(walk.random, keyTable()).index)].Click();
+    oneOf(walk.random, std::array{&safein.Command5, &safein.Command10[0], &safein.Command10[2], &safein.Command3[0],
+                                  &safein.Command4, &safein.Command14, &safein.Command2})
+        ->Click();
+    oneOf(walk.random, safein.CommandPasteJ).Click();
+}
+
 template <MenuItem Menus::*item> void click(Walk& walk) { (walk.menus().*item).Click(); }
 
 constexpr Action actions[] = {
@@ -240,6 +254,7 @@ constexpr Action actions[] = {
     {"cut, copy, paste", 6, copyOrPaste},
     {"drag text", 2, dragText},
     {"transfer text", 2, transferText},
+    {"Safein", 3, useSafein},
     {"undo", 10, click<&Menus::mnuEditUndo>},
     {"redo", 8, click<&Menus::mnuEditRedo>},
     {"undo and redo", 4, undoRoundTrip},
