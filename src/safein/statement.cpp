@@ -114,6 +114,7 @@ void Command7_Click(RAWform& window)
     std::string& remark = window.editor.shared.HeadingText;
     remark.clear();
     window.editor.platform.dialogues.showModal("SingleTextForm");
+    window.form.Show(); // the box belongs to the frame, which got the keyboard when it closed
     if (!remark.empty()) append(window, " Rem " + remark, lastAppend::other);
 }
 

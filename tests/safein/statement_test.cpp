@@ -113,6 +113,15 @@ TEST_F(Statement, ARemarkIsAskedForAndAnEmptyOneChangesNothing)
     EXPECT_EQ(window.LastAppend, lastAppend::other);
 }
 
+TEST_F(Statement, AfterTheBoxForTheRemarkSafeinHasTheKeyboardAgain)
+{
+    int front = 0;
+    const Connection connection = window.form.frontWanted.connect([&] { ++front; });
+    t.dialogues.whileModal = [&] { EXPECT_EQ(front, 0); };
+    window.Command7.Click();
+    EXPECT_EQ(front, 1);
+}
+
 TEST_F(Statement, ClearEmptiesItAndGivesItTheBackgroundOfTheSettings)
 {
     appendMake(keyA);

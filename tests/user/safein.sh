@@ -10,6 +10,7 @@ ctrl_held="137 340"
 capture="733 340"
 slash_t="309 368"
 delay="739 368"
+remark="825 368"
 name_to_statement="848 398"
 codes_to_statement="848 488"
 insert_name="908 398"
@@ -69,7 +70,7 @@ click_key $key_a
 press Return
 saved_line "CTL SHF a"
 
-# A statement from a name, a slash modifier, a delay of the pop-up menu and codes; it is one step for Undo.
+# A statement from a name, a slash modifier, a delay of the pop-up menu, codes and a remark; it is one step for Undo.
 open_safein
 click_key $key_a
 click $name_to_statement
@@ -80,8 +81,13 @@ more() { [ "$(menus_open)" -gt "$before" ]; }
 until_true 10 more || fail "no delays popped up"
 press Down Return
 click $codes_to_statement
+click $remark
+expect_active "Insert a Rem statement"
+type_text "fire"
+press Return
+expect_active "Safein - "
 click $insert_statement
-statement="CTL SHF a /T DLY(20) RAW (#14 #12 #1C #F0 #1C #F0 #12 #F0 #14)"
+statement="CTL SHF a /T DLY(20) RAW (#14 #12 #1C #F0 #1C #F0 #12 #F0 #14) Rem  fire"
 saved_line "$statement"
 press ctrl+z ctrl+s
 expect_not_in_file "$place/walk.b50" "$statement"
