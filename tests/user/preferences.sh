@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A user sets a machine up from nothing: the first start leads to the preferences, where the joystick and the loader are
-# set; a question asks for the folder of the files; then a pair is opened, downloaded, and the next start asks nothing.
+# set; a question asks for the folder of the files; then a pair is opened and downloaded. The next start asks nothing.
 . "$(dirname "$0")/user.sh"
 
 loader=${2:?the stand-in for the loader}
@@ -48,7 +48,12 @@ expect_active "Tarvex - walk.b50"
 press alt+f x
 expect_gone
 
-start_again
-expect_active "Tarvex - untitled."
+# A drive that the user chose: nothing is asked any more, and its files open.
+mkdir "$place/disk"
+cp "$place/drive_c/tm/walk.b50" "$place/drive_c/tm/walk.m50" "$place/disk"
+printf '[Drives]\r\nd=%s\r\n' "$place/disk" >>"$place/Platform.ini"
+start_again 'd:\walk.b50'
+expect_active "Tarvex - walk.b50"
 press alt+f x
 expect_gone
+expect_in_file "$place/Tarvex.ini" 'JFPath1=d:\walk.b50'

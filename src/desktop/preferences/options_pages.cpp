@@ -42,6 +42,7 @@ QWidget* coloursPageView(ColoursPage& page, Bindings& bindings)
                                    Bindings::Runs::OnClickOrReturn); // arrow keys mustn't ask for a colour each
     auto* samples = new QTabWidget(rows);
     samples->setObjectName(QStringLiteral("SSTab2"));
+    samples->setAccessibleName(QStringLiteral("Samples"));
     samples->addTab(sampleView(page.ExampleJoystickText, QStringLiteral("ExampleJoystickText"),
                                QStringLiteral("Sample of a joystick file")),
                     {});

@@ -96,6 +96,13 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     resize(roomyDialogue(*tabs, sizeHint()).boundedTo(screen()->availableSize() * 9 / 10));
 }
 
+/// The first box of the page can take the keyboard only now that it is there.
+void PreferencesView::showEvent(QShowEvent* event)
+{
+    FormWindow::showEvent(event);
+    PREFS_Form_Activate(m_preferences);
+}
+
 /// The controls of the page that is shown have their access keys to themselves: a tab of the same one has none
 /// meanwhile. With two of one key, neither would do what it says at the first press.
 void PreferencesView::clearAccessKeys(QTabWidget& tabs)

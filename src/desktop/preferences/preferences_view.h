@@ -15,6 +15,9 @@ class PreferencesView : public FormWindow {
 public:
     PreferencesView(Preferences& preferences, QWidget* parent);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void addPage(QTabWidget& tabs, QWidget* page);
     void clearAccessKeys(QTabWidget& tabs);

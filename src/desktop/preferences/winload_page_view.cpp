@@ -84,6 +84,7 @@ QWidget* winLoadPageView(WinLoadPage& page, Bindings& bindings)
     rows->row(QStringLiteral("Options:"), options);
     auto* tabs = new QTabWidget(rows);
     tabs->setObjectName(QStringLiteral("SSTab3"));
+    tabs->setAccessibleName(QStringLiteral("WinLoad options"));
     tabs->addTab(throttlePage(page, bindings), {});
     tabs->addTab(mousePage(page, bindings), {});
     tabs->addTab(extraPage(page, bindings), {});

@@ -167,7 +167,7 @@ TEST_F(PreferencesPagesTest, ExtrasShowsTheDrivesAndTakesAWrittenFolder)
     editor->selectAll();
     QTest::keyClicks(editor, "/mnt/disk");
     QTest::keyClick(editor, Qt::Key_Return);
-    QApplication::processEvents();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !extras().chosenDrives.empty(); }));
     EXPECT_EQ(extras().chosenDrives, (DriveChoices{{'c', "/mnt/disk"}}));
     EXPECT_EQ(table->item(0, 1)->text(), "/mnt/disk");
     EXPECT_EQ(table->item(0, 2)->text(), "you");

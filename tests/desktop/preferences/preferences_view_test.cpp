@@ -71,6 +71,18 @@ TEST_F(PreferencesViewTest, StickyIsGreyedForAnotherLoader)
     EXPECT_FALSE(tabs->isTabEnabled(Preferences::winLoad));
 }
 
+TEST_F(PreferencesViewTest, OpensAtTheWantedPageWithTheKeyboardInItsFirstBox)
+{
+    QApplication::setActiveWindow(view.get());
+    EXPECT_EQ(QApplication::focusWidget(), child<QComboBox>("Text1"));
+    program().shared.PreferencesPage = Preferences::games;
+    PreferencesView again(preferences(), nullptr);
+    again.show();
+    QApplication::setActiveWindow(&again);
+    EXPECT_EQ(again.findChild<QTabWidget*>("SSTab1")->currentIndex(), Preferences::games);
+    EXPECT_EQ(QApplication::focusWidget(), again.findChild<QLineEdit*>("Text12"));
+}
+
 TEST_F(PreferencesViewTest, ChoosingAPageGivesTheKeyboardToItsFirstBox)
 {
     QApplication::setActiveWindow(view.get());
