@@ -98,7 +98,7 @@ std::vector<Tip> tipsOfMiscellaneous(MiscellaneousPage& page)
         {page.CheckIdentify.ToolTipText, "Ticks the macros that the joystick file uses"},
         {page.CheckAggressiveFocus.ToolTipText, "Even before the windows of other programs"},
         {page.ComboGamesCaption.ToolTipText, "Choose a caption, or write your own; \"&\" stands before its access key"},
-        {page.DLYText.ToolTipText, "In milliseconds"},
+        {page.DLYText.ToolTipText, "The number that a new DLY( ) is offered"},
     };
 }
 
