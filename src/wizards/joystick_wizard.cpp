@@ -44,7 +44,11 @@ struct Action {
 constexpr Action actions[] = {
     {"Open up a macro file", [](JoystickWiz& w) { w.editor.menus.MnuFileMacroLoad.Click(); }},
     {"Give me a new joystick file please", [](JoystickWiz& w) { w.editor.menus.mnuFileNewJoystick.Click(); }},
-    {"Save this joystick file please", [](JoystickWiz& w) { w.editor.menus.mnuFileSave.Click(); }},
+    {"Save this joystick file please",
+     [](JoystickWiz& w) {
+         selectJoystickTab(w.editor);
+         w.editor.menus.mnuFileSave.Click();
+     }},
     {"Show me this Composer thing you're so proud of then", [](JoystickWiz& w) { showComposer(w, {}); }, true},
     {"Put me in the correct position in the joystick file please.", [](JoystickWiz& w) { caretToStart(w.editor); }},
     {"Clear the joystick file and insert a title please", [](JoystickWiz& w) { clearAndInsertTitle(w.editor); }},

@@ -90,7 +90,7 @@ constexpr Action actions[] = {
     {"New macro file please",
      [](MacroMaker& m) {
          m.editor.menus.mnuFileNewMacro.Click();
-         m.editor.menus.mnuFileSave.Click();
+         onMacroPane(m, m.editor.menus.mnuFileSave);
      }},
     {"Insert a title please", [](MacroMaker& m) { onMacroPane(m, m.editor.menus.mnuInsertTitle); }},
     {"Show me Safein again - I need his advice !", [](MacroMaker& m) { m.editor.menus.mnuInsertRAW.Click(); }},
@@ -98,7 +98,7 @@ constexpr Action actions[] = {
     {"Insert into macro file", insertMacro},
     {"Clear text", clearBoxes},
     {"", [](MacroMaker& m) { m.editor.mum.toolWindows.show("RAWform"); }},
-    {"Save the macro file I've just created", [](MacroMaker& m) { m.editor.menus.mnuFileSave.Click(); }},
+    {"Save the macro file I've just created", [](MacroMaker& m) { onMacroPane(m, m.editor.menus.mnuFileSave); }},
     {"Transfer these macros I created into the Editor's macro list",
      [](MacroMaker& m) { m.editor.menus.mnuEditUpdateMacros.Click(); }},
 };

@@ -225,6 +225,15 @@ TEST_F(MacroWizardTest, ButtonsRunTheCommandsOfTheMenus)
                                              "mnuInsertHeading", "mnuFileSave", "mnuEditUpdateMacros"}));
 }
 
+TEST_F(MacroWizardTest, TheNewFileIsSavedAlsoWhenTheJoystickFileWasOnTop)
+{
+    editor.TabStrip1.Select(1);
+    t.dialogues.filesToSave = {std::string("c:\\tm\\b50progs\\a.m50")};
+    click(0);
+    EXPECT_EQ(editor.TabStrip1.SelectedItem, 2);
+    EXPECT_EQ(editor.TabStrip1.Tabs(2).Caption, "a.m50");
+}
+
 TEST_F(MacroWizardTest, SafeinComesUpAndItsStatementBecomesTheKeys)
 {
     click(6);

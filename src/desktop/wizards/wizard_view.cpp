@@ -13,8 +13,8 @@ namespace tarvex {
 
 namespace {
 
-constexpr int charactersWide = 66;
-constexpr int linesHigh = 27;
+constexpr int charactersWide = 76;
+constexpr int linesHigh = 38;
 
 constexpr const char* footNames[footButton::count] = {"FootClose", "FootNext", "FootBack", "FootHelp"};
 
@@ -38,6 +38,7 @@ QSize WizardView::sizeHint() const
 {
     const QFontMetrics metrics = fontMetrics();
     return QSize(charactersWide * metrics.averageCharWidth(), linesHigh * metrics.lineSpacing())
+        .expandedTo(minimumSizeHint())
         .boundedTo(screen()->availableSize() * 9 / 10);
 }
 
