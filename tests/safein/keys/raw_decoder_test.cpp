@@ -167,6 +167,13 @@ TEST(RawSummary, SaysKeyByKeyWhatHappens)
     EXPECT_EQ(rawSummary(""), "");
 }
 
+TEST(RawSummary, NamesTwelveOfTheKeysThatStayDown)
+{
+    const std::string twelve = "#1C #32 #21 #23 #24 #2B #34 #33 #43 #3B #42 #4B";
+    EXPECT_TRUE(rawSummary(twelve).ends_with("; stays down: a b c d e f g h i j k l")) << rawSummary(twelve);
+    EXPECT_TRUE(rawSummary(twelve + " #3A").ends_with("; stays down: a b c d e f g h i j k l ..."));
+}
+
 TEST(RawSummary, BreaksOffAfterTheGivenNumberOfEvents)
 {
     EXPECT_EQ(rawSummary("#1C #F0 #1C #32 #F0 #32", 2), "a down, a up, ...");
