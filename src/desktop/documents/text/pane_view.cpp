@@ -238,6 +238,7 @@ void PaneView::showFont()
     QFont shown(toQt(wanted.name));
     shown.setPointSizeF(std::max(1.0, static_cast<double>(wanted.size) * m_zoom / 100));
     shown.setBold(wanted.bold);
+    shown.setKerning(false); // else a colour moves the characters behind it, and a key lays its line out twice
     setFont(shown);
     setTabStopDistance(tabColumns * QFontMetricsF(shown).averageCharWidth());
     m_mirror.formats().setZoom(m_zoom / 100.0);

@@ -18,6 +18,7 @@ QFont fontOf(const std::string& name, float size, bool bold, int zoom)
     QFont font(toQt(name));
     font.setPointSizeF(static_cast<double>(size) * zoom / 100);
     font.setBold(bold);
+    font.setKerning(false);
     return font;
 }
 
