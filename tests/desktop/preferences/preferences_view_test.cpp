@@ -76,11 +76,12 @@ TEST_F(PreferencesViewTest, OpensAtTheWantedPageWithTheKeyboardInItsFirstBox)
     QApplication::setActiveWindow(view.get());
     EXPECT_EQ(QApplication::focusWidget(), child<QComboBox>("Text1"));
     program().shared.PreferencesPage = Preferences::games;
-    PreferencesView again(preferences(), nullptr);
-    again.show();
-    QApplication::setActiveWindow(&again);
-    EXPECT_EQ(again.findChild<QTabWidget*>("SSTab1")->currentIndex(), Preferences::games);
-    EXPECT_EQ(QApplication::focusWidget(), again.findChild<QLineEdit*>("Text12"));
+    view.reset(); // or its boxes would take the keyboard, too
+    view = std::make_unique<PreferencesView>(preferences(), nullptr);
+    view->show();
+    QApplication::setActiveWindow(view.get());
+    EXPECT_EQ(child<QTabWidget>("SSTab1")->currentIndex(), Preferences::games);
+    EXPECT_EQ(QApplication::focusWidget(), child<QLineEdit>("Text12"));
 }
 
 TEST_F(PreferencesViewTest, ChoosingAPageGivesTheKeyboardToItsFirstBox)
