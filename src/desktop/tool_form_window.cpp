@@ -70,7 +70,9 @@ void ToolFormWindow::reject()
 
 void ToolFormWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return FormWindow::keyPressEvent(event);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool hasDefaultButton = windowType() != Qt::Window;
+    if (!isEnter || hasDefaultButton) return FormWindow::keyPressEvent(event);
     if (auto* focused = qobject_cast<QAbstractButton*>(focusWidget())) focused->click();
 }
 

@@ -24,8 +24,8 @@ protected:
     virtual bool takesKey(const QKeyEvent&) { return false; }
     /// Keys that belong to the control with the keyboard, whatever the form's KeyDown would do with them.
     virtual bool keepsKey(const QKeyEvent&) const { return false; }
-    /// Return presses the button that has the keyboard. There is no default button, which a Return in a text box would
-    /// press.
+    /// Return presses the button that has the keyboard. A Qt::Window has no default button, which a Return in a text
+    /// box would press; a Qt::Dialog has one.
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
