@@ -75,13 +75,13 @@ TEST_F(PreferencesViewTest, OpensAtTheWantedPageWithTheKeyboardInItsFirstBox)
 {
     QApplication::setActiveWindow(view.get());
     EXPECT_EQ(QApplication::focusWidget(), child<QComboBox>("Text1"));
-    program().shared.PreferencesPage = Preferences::games;
+    program().shared.PreferencesPage = Preferences::favourites;
     view.reset(); // or its boxes would take the keyboard, too
     view = std::make_unique<PreferencesView>(preferences(), nullptr);
     view->show();
     QApplication::setActiveWindow(view.get());
-    EXPECT_EQ(child<QTabWidget>("SSTab1")->currentIndex(), Preferences::games);
-    EXPECT_EQ(QApplication::focusWidget(), child<QLineEdit>("Text12"));
+    EXPECT_EQ(child<QTabWidget>("SSTab1")->currentIndex(), Preferences::favourites);
+    EXPECT_EQ(QApplication::focusWidget(), child<QLineEdit>("Text7"));
 }
 
 TEST_F(PreferencesViewTest, ChoosingAPageGivesTheKeyboardToItsFirstBox)
