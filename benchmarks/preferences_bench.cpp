@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTemporaryDir>
 
@@ -101,7 +102,7 @@ public:
     void showPage(int page)
     {
         m_tabs->setCurrentIndex(page);
-        paint(*m_tabs->widget(page));
+        paint(*static_cast<QScrollArea*>(m_tabs->widget(page))->widget());
     }
 
 private:
