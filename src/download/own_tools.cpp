@@ -13,7 +13,6 @@ struct OwnTool {
 constexpr OwnTool tools[] = {
     {&Menus::mnuAppsImageViewer, "ViewImage"},
     {&Menus::mnuSendToKeyTest, "KeyTestForm"},
-    {&Menus::mnuAppsTemplate, "TemplateForm"},
 };
 
 constexpr const char* joystickAnalyser = "JoyPlot";

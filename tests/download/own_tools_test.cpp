@@ -9,8 +9,7 @@ namespace {
 
 /// A program whose own tools have windows; which of them were shown.
 struct OwnTools : TestProgram {
-    explicit OwnTools(const std::vector<std::string>& windows = {"ViewImage", "KeyTestForm", "TemplateForm", "JoyPlot",
-                                                                 "TCAform"})
+    explicit OwnTools(const std::vector<std::string>& windows = {"ViewImage", "KeyTestForm", "JoyPlot", "TCAform"})
     {
         for (const std::string& name : windows) {
             program().mum.toolWindows.add({.name = name, .form = &form, .show = [this, name] { shown += name + " "; }});
@@ -26,8 +25,7 @@ TEST(OwnTools, EachCommandShowsItsWindow)
     OwnTools t;
     t.menus().mnuAppsImageViewer.Click();
     t.menus().mnuSendToKeyTest.Click();
-    t.menus().mnuAppsTemplate.Click();
-    EXPECT_EQ(t.shown, "ViewImage KeyTestForm TemplateForm ");
+    EXPECT_EQ(t.shown, "ViewImage KeyTestForm ");
 }
 
 TEST(OwnTools, UseTcaChoosesTheAnalyser)
@@ -42,8 +40,7 @@ TEST(OwnTools, UseTcaChoosesTheAnalyser)
 
 TEST(OwnTools, ACommandWhoseWindowIsNotThereHasNoHandler)
 {
-    OwnTools t({"TemplateForm", "JoyPlot"});
-    EXPECT_TRUE(t.menus().mnuAppsTemplate.handler);
+    OwnTools t({"JoyPlot"});
     for (const MenuItem* item :
          {&t.menus().mnuAppsImageViewer, &t.menus().mnuSendToKeyTest, &t.menus().mnuAppsJoyAnalyser})
         EXPECT_FALSE(item->handler) << item->Name;
