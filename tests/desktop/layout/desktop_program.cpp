@@ -22,6 +22,7 @@ DesktopProgram::DesktopProgram()
     window = std::make_unique<MumWindow>(*program);
     dialogues.setParent(window.get());
     dialogues.setMenus(&program->menus);
+    addGeneratorForms(dialogues, program->generators, window.get());
     addListForms(dialogues, program->lists, window.get());
     addPreferencesForm(dialogues, program->preferences, window.get());
     EXPECT_TRUE(program->start());

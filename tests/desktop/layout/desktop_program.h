@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/generators/generator_forms.h"
 #include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_dialogues.h"
 #include "desktop/preferences/preferences_view.h"

@@ -70,13 +70,19 @@ QList<QWidget*> visibleChildren(const QWidget& parent)
 
 // ---- places ---------------------------------------------------------------------------------------------------------
 
+/// Where a widget is drawn and clicked, in its parent.
+QRegion placeOf(const QWidget& widget)
+{
+    return widget.mask().isEmpty() ? QRegion(widget.geometry()) : widget.mask().translated(widget.pos());
+}
+
 void lookForOverlaps(const QWidget& parent, Faults& faults)
 {
     if (qobject_cast<const QTabWidget*>(&parent)) return; // its tabs hide the frame below them
     const QList<QWidget*> children = visibleChildren(parent);
     for (qsizetype i = 0; i < children.size(); ++i) {
         for (qsizetype k = i + 1; k < children.size(); ++k) {
-            if (!children[i]->geometry().intersects(children[k]->geometry())) continue;
+            if (!placeOf(*children[i]).intersects(placeOf(*children[k]))) continue;
             faults.insert(nameOf(*children[i]) + " and " + nameOf(*children[k]) + " overlap");
         }
     }

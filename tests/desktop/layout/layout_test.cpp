@@ -79,6 +79,17 @@ TEST(LayoutFaults, AWidgetOutsideItsParentIsOneAndAHiddenOneIsNot)
     EXPECT_EQ(box.faults().size(), 1U);
 }
 
+TEST(LayoutFaults, WidgetsWithMasksThatDoNotMeetAreNone)
+{
+    Box box;
+    box.add({0, 0, 50, 50})->setMask(QRegion(0, 0, 20, 50));
+    QWidget* beside = box.add({10, 0, 50, 50});
+    beside->setMask(QRegion(20, 0, 30, 50));
+    EXPECT_THAT(box.faults(), IsEmpty());
+    beside->setMask(QRegion(0, 0, 30, 50));
+    EXPECT_EQ(box.faults().size(), 1U);
+}
+
 TEST(LayoutFaults, AWidgetThatIsInNoLayoutIsOne)
 {
     Box box;
@@ -123,6 +134,9 @@ TEST(LayoutFaults, APageIsLookedAtThroughItsScrollAreaAndMustNotScrollSideways)
 /// Commands that end the program, or undo the choice of the walk.
 const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
 
+/// Forms that only other forms show.
+constexpr const char* withoutCommand[] = {"FilesHome", "Import"};
+
 /// Dialogues of the toolkit's own making.
 bool isToolkits(const QWidget& window) { return qobject_cast<const QFileDialog*>(&window) != nullptr; }
 
@@ -154,6 +168,10 @@ public:
             if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
             QApplication::processEvents();
             lookAtOpenWindows();
+        }
+        for (const char* form : withoutCommand) {
+            m_command = form;
+            m_desktop.dialogues.showModal(form);
         }
         QList<QPointer<QAbstractButton>> buttons; // some close the window that others are in
         for (QAbstractButton* button : m_desktop.window->findChildren<QAbstractButton*>()) buttons.append(button);
