@@ -140,7 +140,7 @@ TEST_F(ImportTest, WithoutATickThereIsNothingToImport)
 
 TEST_F(ImportTest, ADamagedIniIsLeftOutAndSaidSo)
 {
-    files.addFile(std::string(old) + "\\Tarvex.ini", std::string("\x00\xFF[[[\r\n=\r\nProgramFilesPath\x00", 33));
+    files.addFile(std::string(old) + "\\Tarvex.ini", std::string("\x00\xFF[[[\r\n=\r\nProgramFilesPath\x00", 27));
     importFrom(old, [this] {
         EXPECT_EQ(caption(ImportPart::Settings), "&Settings (none)");
         EXPECT_FALSE(form().Parts[0].Enabled);

@@ -14,11 +14,14 @@ start "$place/walk.b50"
 press F12
 expect_in_file "$place/loader/winld.dat" "Unknown key"
 expect_active "Tarvex - "
-# The line may still flash, or not yet, and then the keys reach something else: they are taken back and pressed again.
+# While the line flashes the keys reach something else: they are taken back, and the loader leads to the line again.
+patience=0
 line_is_out() {
+    sleep $patience
+    patience=$((patience + 1))
     press shift+End Delete ctrl+s
     until_true 2 file_lacks "$place/walk.b50" "Unknown key" && return
-    press ctrl+z ctrl+s
+    press ctrl+z ctrl+s F12
     return 1
 }
 until_true 30 line_is_out || fail "the line of the error is not where the caret is"

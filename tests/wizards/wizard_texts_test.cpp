@@ -55,7 +55,7 @@ TEST(WizardTexts, EveryPageHasATitleAndSomethingToRead)
             EXPECT_FALSE(page.title.empty()) << name;
             ASSERT_FALSE(page.blocks.empty()) << page.title;
             EXPECT_EQ(page.blocks.front().kind, WizardBlock::Kind::Paragraph) << page.title;
-            for (const WizardBlock& block : page.blocks) EXPECT_NE(block.text.front(), '[') << block.text;
+            for (const WizardBlock& block : page.blocks) EXPECT_FALSE(block.text.starts_with('[')) << block.text;
         }
     }
 }
