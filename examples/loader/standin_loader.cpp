@@ -1,5 +1,5 @@
-// Stands in for a loader, so that the road from the joystick file to the controller and back can be walked without one.
-// It compiles nothing; README.md tells what it makes of the file.
+// Stands in for a loader, so that a download can be tried from the joystick file to the result without one.
+// It compiles nothing; README.md says what it makes of the file.
 
 #include <charconv>
 #include <chrono>

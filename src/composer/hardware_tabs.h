@@ -6,7 +6,7 @@ namespace tarvex {
 
 /// Values of the setting ComposerImages.
 namespace composerImages {
-constexpr std::int16_t hardware = 0; ///< of the user's own controllers
+constexpr std::int16_t hardware = 0; ///< the controllers that the user has
 constexpr std::int16_t all = 1;
 constexpr std::int16_t document = 2; ///< of the controllers that the joystick file is for
 } // namespace composerImages

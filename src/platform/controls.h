@@ -281,7 +281,7 @@ private:
     std::deque<Slot> m_buttons;
 };
 
-/// Interval in milliseconds. Whoever runs the timers calls Tick while Enabled.
+/// Interval in milliseconds. The code that runs the timers calls Tick while Enabled.
 struct Timer {
     explicit Timer(int interval) : Interval(interval) {}
     Property<int> Interval;

@@ -92,7 +92,7 @@ struct RAWform {
     ToggleLabel Capture;       ///< while it is held, real keys are looked up; the view gives them to captureKey
     KeyStrings keysBeforeCtrl; ///< what a captured Ctrl replaced
     Property<int> LitKey = -1; ///< index of the key that was captured last; -1: none
-    TextBox RawToRead;         ///< raw codes of the user's choice
+    TextBox RawToRead;         ///< raw codes that the user wants to read
     Label RawKeys;             ///< the keys that they stand for
 
     std::vector<MenuEntry> menuBar();

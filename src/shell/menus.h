@@ -8,7 +8,7 @@
 
 namespace tarvex {
 
-/// The commands of the program. Whoever owns a command sets its handler and may call any other by `Click`, so that no
+/// The commands of the program. The owner of a command sets its handler and may call any other by `Click`, so that no
 /// unit needs to know the unit that does the work.
 struct Menus {
     Menus();

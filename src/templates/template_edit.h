@@ -8,7 +8,7 @@ namespace tarvex {
 
 // The text of the Template Editor: undo, clipboard, colours, layout.
 
-/// What `write` does to the text is no edit of the user's.
+/// What `write` does to the text does not count as an edit by the user.
 template <std::invocable Write> void writeWithoutEdit(TemplateForm& window, Write&& write)
 {
     const std::int16_t before = std::exchange(window.IsLoading, 1);

@@ -8,7 +8,7 @@ namespace tarvex {
 /// "before exiting"; `refusal` ends the message when the save failed.
 bool mayGiveUpText(TemplateForm& window, const std::string& purpose, const std::string& refusal);
 
-/// Index 0 opens a file of the user's choice, 1 saves, 2 begins a new one.
+/// Index 0 opens a file that the user chooses, 1 saves, 2 begins a new one.
 void Command1_Click(TemplateForm& window, std::size_t Index);
 /// Opens the default template.
 void Command2_Click(TemplateForm& window);

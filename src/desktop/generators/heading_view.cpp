@@ -20,7 +20,7 @@ HeadingView::HeadingView(Heading& form, QWidget* parent) : FormWindow(form.Form,
     names->setObjectName(QStringLiteral("Combo1"));
     names->setEditable(true);
     names->setInsertPolicy(QComboBox::NoInsert);
-    names->setCompleter(nullptr); // it would make "Views" of the user's own "View"
+    names->setCompleter(nullptr); // it would complete a typed "View" to "Views"
     names->setMaxVisibleItems(namesShown);
     names->setMinimumWidth(names->fontMetrics().averageCharWidth() * widthInCharacters);
     m_bindings.comboBox(form.Combo1, *names);
