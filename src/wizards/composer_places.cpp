@@ -1,5 +1,7 @@
 #include "wizards/composer_places.h"
 
+#include "composer/composer.h"
+
 namespace tarvex {
 
 namespace {
@@ -24,17 +26,11 @@ JoystickWiz::Composer composerPlaces(InsertOptions& composer)
 {
     return {.UseStatements =
                 [&composer] {
-                    composer.SSTab1.Tab = composerPage::setUp;
+                    showComposerPage(composer, composerPage::setUp);
                     composer.Command1[0].SetFocus();
                 },
             .Statements = [&composer] { writeStatement(composer); },
-            .Rate =
-                [&composer] {
-                    composer.SSTab1.Tab = composerPage::setUp;
-                    TextBox& rate = composer.fields.Text1[valueField::rate];
-                    rate.Text = "80";
-                    rate.SetFocus();
-                },
+            .Rate = [&composer] { showComposerRate(composer, "80"); },
             .MainTab = [&composer] { composer.SSTab1.Tab = composerPage::hardware; }};
 }
 
