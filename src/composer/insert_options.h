@@ -204,7 +204,7 @@ struct InsertOptions {
 
     std::int16_t InsertNeeded = 0; ///< FindButton: 1 when the statement isn't there yet
 
-    /// What the joystick file has on the controls of the pictures; empty while that isn't to be shown.
+    /// What the joystick file has on the controls of the pictures; empty while the user hides it.
     std::vector<AssignedControl> Assigned;
     Signal<> AssignedChanged;
     Timer TimerAssigned{150}; ///< runs from an edit to the renewal of Assigned

@@ -262,7 +262,7 @@ struct ProgressBar {
 class ToolBar {
 public:
     struct Slot : Button {
-        Placement Place; ///< inside the bar, set by the view; empty while the button isn't to be seen
+        Placement Place; ///< inside the bar, set by the view; empty while the button is hidden
     };
     explicit ToolBar(int count) : m_buttons(static_cast<std::size_t>(count)) {}
 

@@ -56,7 +56,7 @@ Texts textsOf(Walk& walk);
 /// Fails the test unless the program is as it has to be after any action; `before` are the texts before it.
 void check(Walk& walk, const Texts& before);
 
-/// What a kill of the program has to leave of a document.
+/// What must remain of a document after the program is killed.
 struct Unsaved {
     std::string text;
     bool mustComeBack;
