@@ -199,8 +199,14 @@ void PaneView::formatShown()
     const QTextBlock first = firstVisibleBlock();
     const int lines = 2 * viewport()->height() / std::max(1, fontMetrics().lineSpacing()) + 2;
     const int last = std::min(first.blockNumber() + lines, blockCount() - 1);
-    for (const PaneFormats::Changed& line : m_mirror.formats().format(first, document()->findBlockByNumber(last)))
-        repaintLine(line);
+    const auto changed = m_mirror.formats().format(first, document()->findBlockByNumber(last));
+    // The place of a line is the sum of the heights above it: for many lines that costs more than painting them all.
+    constexpr std::size_t fewLines = 8;
+    if (changed.size() > fewLines) {
+        viewport()->update();
+    } else {
+        for (const PaneFormats::Changed& line : changed) repaintLine(line);
+    }
     const QTextBlock caretLine = textCursor().block();
     m_mirror.formats().format(caretLine, caretLine);
 }
