@@ -56,7 +56,11 @@ void wireGenerators(Generators& generators)
     windows.add({.name = "SingleTextForm", .form = &generators.rem.Form});
 }
 
-void mnuInsertTitle_Click(Generators& generators) { generators.editor.platform.dialogues.showModal("Title"); }
+void mnuInsertTitle_Click(Generators& generators)
+{
+    const Steps step;
+    step([&] { generators.editor.platform.dialogues.showModal("Title"); });
+}
 
 void mnuInsertHeading_Click(Generators& generators)
 {

@@ -269,7 +269,9 @@ private:
 void runPasses(const PassRun& run, std::span<const ColourPass> passes)
 {
     Runner runner(run);
-    for (const ColourPass& pass : passes) runner.run(pass);
+    for (const ColourPass& pass : passes) {
+        run.step([&] { runner.run(pass); });
+    }
 }
 
 } // namespace tarvex
