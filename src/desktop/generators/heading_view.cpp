@@ -1,9 +1,9 @@
 #include "desktop/generators/heading_view.h"
 
+#include "desktop/closing_buttons.h"
+
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QPushButton>
 
 namespace tarvex {
 
@@ -25,14 +25,9 @@ HeadingView::HeadingView(Heading& form, QWidget* parent) : FormWindow(form.Form,
     names->setMinimumWidth(names->fontMetrics().averageCharWidth() * widthInCharacters);
     m_bindings.comboBox(form.Combo1, *names);
 
-    auto* buttons = new QDialogButtonBox;
-    QPushButton* ok = buttons->addButton(QDialogButtonBox::Ok);
-    QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
-    ok->setObjectName(QStringLiteral("Command1_0"));
-    cancel->setObjectName(QStringLiteral("Command1_1"));
-    ok->setDefault(true);
-    m_bindings.button(form.Command1[0], *ok);
-    m_bindings.button(form.Command1[1], *cancel);
+    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1[0], QStringLiteral("Command1_0")},
+                                    {QDialogButtonBox::Cancel, form.Command1[1], QStringLiteral("Command1_1")}},
+                                   m_bindings);
 
     auto* rows = new QFormLayout(this);
     rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

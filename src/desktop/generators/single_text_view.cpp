@@ -1,10 +1,9 @@
 #include "desktop/generators/single_text_view.h"
 
+#include "desktop/closing_buttons.h"
 #include "desktop/generators/text_area.h"
 
 #include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tarvex {
@@ -20,14 +19,9 @@ SingleTextView::SingleTextView(SingleTextForm& form, QWidget* parent)
     lineEnd->setObjectName(QStringLiteral("CheckAddCR"));
     m_bindings.checkBox(form.CheckAddCR, *lineEnd);
 
-    auto* buttons = new QDialogButtonBox;
-    QPushButton* ok = buttons->addButton(QDialogButtonBox::Ok);
-    QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
-    ok->setObjectName(QStringLiteral("Command1"));
-    cancel->setObjectName(QStringLiteral("Command2"));
-    ok->setDefault(true);
-    m_bindings.button(form.Command1, *ok);
-    m_bindings.button(form.Command2, *cancel);
+    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+                                    {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
+                                   m_bindings);
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(words);

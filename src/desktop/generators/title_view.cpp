@@ -1,11 +1,10 @@
 #include "desktop/generators/title_view.h"
 
+#include "desktop/closing_buttons.h"
 #include "desktop/generators/text_area.h"
 #include "desktop/line_box.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QPushButton>
 
 namespace tarvex {
 
@@ -27,14 +26,9 @@ TitleView::TitleView(Title& form, QWidget* parent) : FormWindow(form.Form, QStri
     rows->addRow(QStringLiteral("&Comment:"),
                  new TextArea(form.RichTextBox1, QStringLiteral("RichTextBox1"), commentLines));
 
-    auto* buttons = new QDialogButtonBox;
-    QPushButton* ok = buttons->addButton(QDialogButtonBox::Ok);
-    QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
-    ok->setObjectName(QStringLiteral("Command1"));
-    cancel->setObjectName(QStringLiteral("Command2"));
-    ok->setDefault(true);
-    m_bindings.button(form.Command1, *ok);
-    m_bindings.button(form.Command2, *cancel);
+    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+                                    {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
+                                   m_bindings);
     rows->addRow(buttons);
     findChild<QLineEdit*>(QStringLiteral("Text2"))->setFocus();
 }

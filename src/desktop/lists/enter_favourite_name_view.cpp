@@ -1,11 +1,10 @@
 #include "desktop/lists/enter_favourite_name_view.h"
 
+#include "desktop/closing_buttons.h"
 #include "desktop/line_box.h"
 #include "desktop/shell/elided_label.h"
 
-#include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QPushButton>
 
 namespace tarvex {
 
@@ -31,14 +30,9 @@ EnterFavouriteNameView::EnterFavouriteNameView(EnterFavouritename& form, QWidget
     auto* name = new LineBox(form.Text1, QStringLiteral("Text1"), m_bindings);
     name->setMinimumWidth(name->fontMetrics().averageCharWidth() * widthInCharacters);
 
-    auto* buttons = new QDialogButtonBox;
-    QPushButton* take = buttons->addButton(QDialogButtonBox::Ok);
-    QPushButton* cancel = buttons->addButton(QDialogButtonBox::Cancel);
-    take->setObjectName(QStringLiteral("Command1"));
-    cancel->setObjectName(QStringLiteral("Command2"));
-    take->setDefault(true);
-    m_bindings.button(form.Command1, *take);
-    m_bindings.button(form.Command2, *cancel);
+    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+                                    {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
+                                   m_bindings);
 
     auto* rows = new QFormLayout(this);
     rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

@@ -1,9 +1,9 @@
 #include "desktop/lists/enter_game_name_view.h"
 
+#include "desktop/closing_buttons.h"
 #include "desktop/line_box.h"
 
 #include <QBoxLayout>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -77,16 +77,10 @@ void EnterGameNameView::addRow(QGridLayout& rows, const QString& caption, QWidge
 
 QBoxLayout* EnterGameNameView::closingButtons(EnterGameName& form)
 {
-    auto* box = new QDialogButtonBox(this);
-    QPushButton* ok = box->addButton(QDialogButtonBox::Ok);
-    QPushButton* cancel = box->addButton(QDialogButtonBox::Cancel);
-    ok->setObjectName(QStringLiteral("Command3"));
-    cancel->setObjectName(QStringLiteral("Command4"));
-    ok->setDefault(true);
-    m_bindings.button(form.Command3, *ok);
-    m_bindings.button(form.Command4, *cancel);
     auto* line = new QHBoxLayout;
-    line->addWidget(box);
+    line->addWidget(tarvex::closingButtons({{QDialogButtonBox::Ok, form.Command3, QStringLiteral("Command3")},
+                                            {QDialogButtonBox::Cancel, form.Command4, QStringLiteral("Command4")}},
+                                           m_bindings));
     return line;
 }
 

@@ -1,9 +1,9 @@
 #include "desktop/preferences/files_home_view.h"
 
+#include "desktop/closing_buttons.h"
+
 #include <QBoxLayout>
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 namespace tarvex {
@@ -29,12 +29,7 @@ FilesHomeView::FilesHomeView(FilesHome& form, QWidget* parent)
         column->addWidget(choice);
         if (form.Choices[i].Value) choice->setFocus();
     }
-    auto* box = new QDialogButtonBox(this);
-    QPushButton* ok = box->addButton(QDialogButtonBox::Ok);
-    ok->setObjectName(QStringLiteral("Ok"));
-    ok->setDefault(true);
-    m_bindings.button(form.Ok, *ok);
-    column->addWidget(box);
+    column->addWidget(closingButtons({{QDialogButtonBox::Ok, form.Ok, QStringLiteral("Ok")}}, m_bindings));
 }
 
 } // namespace tarvex

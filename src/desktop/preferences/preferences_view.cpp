@@ -1,5 +1,6 @@
 #include "desktop/preferences/preferences_view.h"
 
+#include "desktop/closing_buttons.h"
 #include "desktop/platform/qt_dialogues.h"
 #include "desktop/preferences/files_home_view.h"
 #include "desktop/preferences/import_view.h"
@@ -7,9 +8,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSet>
@@ -80,18 +79,11 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     connect(tabs, &QTabWidget::currentChanged, this, [this, tabs] { clearAccessKeys(*tabs); });
     m_bindings.follow(preferences.SSTab1.Tab, [this, tabs] { clearAccessKeys(*tabs); });
 
-    auto* box = new QDialogButtonBox(this);
-    QPushButton* ok = box->addButton(QDialogButtonBox::Ok);
-    QPushButton* help = box->addButton(QDialogButtonBox::Help);
-    ok->setObjectName(QStringLiteral("Command3"));
-    help->setObjectName(QStringLiteral("Command6"));
-    ok->setDefault(true);
-    m_bindings.button(preferences.Command3, *ok);
-    m_bindings.button(preferences.Command6, *help);
-
     auto* column = new QVBoxLayout(this);
     column->addWidget(tabs);
-    column->addWidget(box);
+    column->addWidget(closingButtons({{QDialogButtonBox::Ok, preferences.Command3, QStringLiteral("Command3")},
+                                      {QDialogButtonBox::Help, preferences.Command6, QStringLiteral("Command6")}},
+                                     m_bindings));
     ensurePolished();
     resize(roomyDialogue(*tabs, sizeHint()).boundedTo(screen()->availableSize() * 9 / 10));
 }
