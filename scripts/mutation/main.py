@@ -4,9 +4,11 @@ import argparse
 import random
 import sys
 import time
+from collections import Counter
 from pathlib import Path
 
 from changes import changes_of
+from results import Results, share_text, survivor_text
 from workshop import Workshop
 
 
@@ -19,6 +21,7 @@ def parsed():
     parser.add_argument("--seed", type=int)
     parser.add_argument("--minutes", type=float)
     parser.add_argument("--jobs", type=int, default=1)
+    parser.add_argument("--report", action="store_true")
     return parser.parse_args()
 
 
@@ -47,43 +50,11 @@ def in_random_order(top, paths, chance):
             del by_kind[kind]
 
 
-def described(top, change):
-    """The place and the line before and after, as a reader finds it."""
-    source = (Path(top) / change.path).read_text(encoding="utf-8")
-    number = source.count("\n", 0, change.start) + 1
-    begin = source.rfind("\n", 0, change.start) + 1
-    behind = source.find("\n", change.end)
-    before = " ".join(source[begin:behind].split())
-    after = " ".join((source[begin : change.start] + change.text + source[change.end : behind]).split())
-    return f"{change.path}:{number} ({change.kind})\n    - {before}\n    + {after}"
-
-
-class Report:
-    def __init__(self, top, seed):
-        self.top = top
-        self.seed = seed
-        self.counts = {"caught": 0, "survived": 0, "no build": 0}
-        self.survivors = []
-
-    def note(self, change, outcome, by):
-        self.counts[outcome] += 1
-        if outcome == "survived":
-            self.survivors.append(change)
-            print("SURVIVED " + described(self.top, change), flush=True)
-        line = f"{self.real()} {outcome} {change.path} ({change.kind}) {by}"
-        print(line, file=sys.stderr, flush=True)
-
-    def real(self):
-        return self.counts["caught"] + self.counts["survived"]
-
-    def close(self):
-        rate = 100 * self.counts["caught"] / self.real() if self.real() else 0
-        print(f"Seed {self.seed}: {self.counts['caught']} of {self.real()} changes caught ({rate:.1f} %), "
-              f"{self.counts['survived']} survived, {self.counts['no build']} more did not build.")
-
-
 def main():
     asked = parsed()
+    results = Results(asked.top)
+    if asked.report:
+        return results.print_all()
     seed = asked.seed if asked.seed is not None else random.SystemRandom().randrange(1_000_000)
     end = time.monotonic() + 60 * asked.minutes if asked.minutes else None
     workshop = Workshop(asked.top, asked.jobs, asked.tests)
@@ -97,15 +68,23 @@ def main():
     for program, failed in workshop.not_run.items():
         if failed:
             print(f"Not used, because they fail without a change: {program} {', '.join(failed)}", flush=True)
-    report = Report(asked.top, seed)
+    counts = Counter()
     try:
         for change in in_random_order(asked.top, paths, random.Random(seed)):
-            if report.real() >= asked.count or (end and time.monotonic() > end):
+            real = counts["caught"] + counts["survived"]
+            if real >= asked.count or (end and time.monotonic() > end):
                 break
-            report.note(change, *workshop.try_change(change, workshop.test_programs(change.path)))
+            if results.has(change):
+                continue
+            outcome, by = workshop.try_change(change, workshop.test_programs(change.path))
+            counts[outcome] += 1
+            entry = results.add(change, outcome, by)
+            if outcome == "survived":
+                print(survivor_text(entry), flush=True)
+            print(f"{sum(counts.values())} {outcome} {change.path}:{entry.line} ({change.kind}) {by}", file=sys.stderr, flush=True)
     except KeyboardInterrupt:
         print("Interrupted.", file=sys.stderr)
-    report.close()
+    print(f"Seed {seed}: {share_text(counts)}.")
 
 
 main()
