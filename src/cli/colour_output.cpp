@@ -66,6 +66,7 @@ std::string jsonText(const ColouredText& text)
 std::string ansiText(const ColouredText& text)
 {
     std::string out;
+    out.reserve(2 * text.pane.Text().size()); // the codes of the colours are about as long as the words
     for (const ColourRun& run : text.runs) {
         if (run.colour != 0) {
             const Rgb rgb = rgbOf(run.colour);

@@ -3,6 +3,8 @@
 #include "platform/utf8.h"
 #include "platform/windows1252.h"
 
+#include <algorithm>
+
 namespace tarvex::cli {
 
 namespace {
@@ -21,12 +23,22 @@ char32_t shown(char32_t character)
     return character > deleteCharacter && character < 0xA0 ? replacement : character;
 }
 
+/// Whether the byte shows itself as it is: most of a text does, and is copied in stretches.
+bool isPlain(char byte)
+{
+    return (byte >= ' ' && byte != static_cast<char>(deleteCharacter)) || byte == '\n' || byte == '\t';
+}
+
 } // namespace
 
 void appendShown(std::string& out, std::string_view bytes)
 {
-    for (const char byte : bytes) {
-        if (byte != '\r') appendUtf8(out, shown(windows1252ToUnicode[static_cast<unsigned char>(byte)]));
+    for (auto at = bytes.begin(); at != bytes.end();) {
+        const auto plainEnd = std::find_if_not(at, bytes.end(), isPlain);
+        out.append(at, plainEnd);
+        if (plainEnd == bytes.end()) return;
+        if (*plainEnd != '\r') appendUtf8(out, shown(windows1252ToUnicode[static_cast<unsigned char>(*plainEnd)]));
+        at = plainEnd + 1;
     }
 }
 

@@ -98,13 +98,14 @@ std::string withWindowsLineEnds(std::string_view text)
 {
     std::string result;
     result.reserve(text.size() + text.size() / 16);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\r' && text[i] != '\n') {
-            result += text[i];
-            continue;
-        }
-        if (text.substr(i, 2) == "\r\n") ++i;
+    const auto endsLine = [](char character) { return character == '\r' || character == '\n'; };
+    for (auto at = text.begin(); at != text.end();) {
+        const auto lineEnd = std::find_if(at, text.end(), endsLine);
+        result.append(at, lineEnd);
+        if (lineEnd == text.end()) break;
         result += "\r\n";
+        const bool isPair = *lineEnd == '\r' && lineEnd + 1 != text.end() && lineEnd[1] == '\n';
+        at = lineEnd + (isPair ? 2 : 1);
     }
     return result;
 }

@@ -73,12 +73,22 @@ RichText translated(const RichText& text, const std::shared_ptr<FormatTable>& fo
 
 bool hasOnlyPairs(std::string_view text, char before, char after)
 {
-    char last = before;
-    for (const char next : text) {
-        if ((last == '\r') != (next == '\n')) return false;
-        last = next;
+    std::size_t lineBegin = 0;
+    if (before == '\r' && !text.empty()) {
+        if (text.front() != '\n') return false;
+        lineBegin = 1;
     }
-    return (last == '\r') == (after == '\n');
+    bool endsInCr = before == '\r' && text.empty();
+    while (!endsInCr) {
+        const std::size_t cr = text.find('\r', lineBegin);
+        const std::size_t lf = text.substr(0, cr).find('\n', lineBegin);
+        if (lf != std::string_view::npos) return false;
+        if (cr == std::string_view::npos) break;
+        endsInCr = cr + 1 == text.size();
+        if (!endsInCr && text[cr + 1] != '\n') return false;
+        lineBegin = cr + 2;
+    }
+    return endsInCr == (after == '\n');
 }
 
 RichText withWindowsLineEnds(const RichText& given)

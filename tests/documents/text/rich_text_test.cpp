@@ -22,6 +22,27 @@ std::size_t sharedChunks(const RichText& a, const RichText& b)
     return shared;
 }
 
+bool hasOnlyPairsByCharacter(const std::string& text, char before, char after)
+{
+    const std::string whole = before + text + after;
+    for (std::size_t i = 1; i < whole.size(); ++i) {
+        if ((whole[i - 1] == '\r') != (whole[i] == '\n')) return false;
+    }
+    return true;
+}
+
+/// All texts of the characters up to a length.
+std::vector<std::string> textsOf(std::string_view characters, std::size_t length)
+{
+    std::vector<std::string> texts{""};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const std::string begin = texts[i];
+        if (begin.size() == length) break;
+        for (const char character : characters) texts.push_back(begin + character);
+    }
+    return texts;
+}
+
 } // namespace
 
 TEST(FormatTable, KeepsEachFormatOnce)
@@ -203,6 +224,19 @@ TEST(PaneSelRTF, HoldsTheSelectionWithItsFormats)
     EXPECT_EQ(pane.SelStart(), 10);
     EXPECT_EQ(pane.formatAt(7).colour, 0);
     EXPECT_EQ(pane.formatAt(8).colour, 255);
+}
+
+TEST(HasOnlyPairs, EveryShortTextInEveryNeighbourhoodIsAsItsCharactersSay)
+{
+    for (const std::string& text : textsOf("a\r\n", 6)) {
+        for (const char before : {' ', '\r', '\n'}) {
+            for (const char after : {' ', '\r', '\n'}) {
+                const bool expected = hasOnlyPairsByCharacter(text, before, after);
+                EXPECT_EQ(hasOnlyPairs(text, before, after), expected)
+                    << testing::PrintToString(text) << " between " << int{before} << " and " << int{after};
+            }
+        }
+    }
 }
 
 } // namespace tarvex
