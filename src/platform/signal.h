@@ -39,8 +39,8 @@ public:
     void operator()(Args... args) const
     {
         if (!m_listeners) return;
-        const List told = *m_listeners;
-        for (const auto& weak : told) {
+        const List called = *m_listeners;
+        for (const auto& weak : called) {
             if (const auto listener = weak.lock()) (*listener)(args...);
         }
     }

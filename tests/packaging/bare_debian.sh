@@ -97,6 +97,6 @@ check_in_bare_debian() {
     check "a bare Debian installs the package with nothing else" install_package "$work/older.deb"
     check "an example is opened there by its file type" opens_by_its_type
     check "an upgrade keeps the settings" upgrade_keeps_settings "$1"
-    check "the program wrote nothing outside of the user's home" nothing_outside
+    check "the program wrote nothing outside of the home folder" nothing_outside
     check "removing it leaves nothing but the user's own files" leaves_no_trace
 }

@@ -13,7 +13,7 @@ class CommandLine(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
-        # Whoever gets past the command line fails to open a window, at once and without touching a display.
+        # A start that gets past the command line fails to open a window, at once and without touching a display.
         self.environment = environment(HOME=self.folder, QT_QPA_PLATFORM="none-there")
 
     def tarvex(self, *arguments):

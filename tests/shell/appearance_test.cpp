@@ -25,10 +25,10 @@ TEST(Appearance, ChosenCommandIsTickedKeptAndReadAgain)
     files.createDirectory("c:\\tarvex");
     Menus menus;
     Appearance appearance(files, "c:\\tarvex", menus);
-    int told = 0;
-    const Connection connection = appearance.theme.changed.connect([&] { ++told; });
+    int changes = 0;
+    const Connection connection = appearance.theme.changed.connect([&] { ++changes; });
     menus.mnuAppearanceDark.Click();
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(changes, 1);
     EXPECT_TRUE(menus.mnuAppearanceDark.Checked);
     EXPECT_FALSE(menus.mnuAppearanceSystem.Checked);
     Menus nextMenus;

@@ -11,7 +11,7 @@
 
 namespace tarvex {
 
-inline bool tell(const char* file, const std::string& text)
+inline bool writeTo(const char* file, const std::string& text)
 {
     std::ofstream stream(file);
     stream << text;
@@ -24,8 +24,8 @@ inline bool enterNameSpace()
     const std::string user = std::to_string(::geteuid());
     const std::string group = std::to_string(::getegid());
     if (user == "0") return ::unshare(CLONE_NEWNS) == 0;
-    return ::unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && tell("/proc/self/uid_map", "0 " + user + " 1") &&
-           tell("/proc/self/setgroups", "deny") && tell("/proc/self/gid_map", "0 " + group + " 1");
+    return ::unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && writeTo("/proc/self/uid_map", "0 " + user + " 1") &&
+           writeTo("/proc/self/setgroups", "deny") && writeTo("/proc/self/gid_map", "0 " + group + " 1");
 }
 
 /// Mounts it for this process only. False: the machine allows no mount.

@@ -69,12 +69,12 @@ TEST(WizardTexts, TeachWithTheKnownExamples)
     const std::string slash = textOf("slash");
     for (const char* line : {"    BTN S1 /I Eject\n", "    BTN S3 Rem Leave this line with a Rem statement here\n"})
         EXPECT_NE(slash.find(line), std::string::npos) << line;
-    bool told = false;
+    bool found = false;
     for (const WizardPage& page : pagesOf("slash"))
         for (const WizardBlock& block : page.blocks)
-            told = told || block.text.find("They refer to the position of the rocker switch on the WCS MkII or the "
-                                           "Dogfight switch (T7,T8) on the TQS") != std::string::npos;
-    EXPECT_TRUE(told);
+            found = found || block.text.find("They refer to the position of the rocker switch on the WCS MkII or the "
+                                             "Dogfight switch (T7,T8) on the TQS") != std::string::npos;
+    EXPECT_TRUE(found);
 }
 
 } // namespace

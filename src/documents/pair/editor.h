@@ -103,7 +103,7 @@ struct Editor {
     std::int64_t HighlightLength = 0;        ///< characters of the line highlighted
     int AutoSaveMinutes = 0;                 ///< since the last automatic save
     std::uint64_t LastJournal = 0;           ///< number of the newest journal; 0: not looked for yet
-    bool ToldJournalFailure = false;         ///< the user knows that journals can't be written
+    bool JournalFailureShown = false;        ///< the user knows that journals can't be written
     std::set<std::uint64_t> DamagedJournals; ///< numbers of those that can be read in part; they are kept aside
 
     /// The document of the selected tab.

@@ -110,7 +110,7 @@ void Pane::replace(Range range, std::string_view text, const std::vector<FormatI
     }
     select(range.begin + text.size(), 0);
     if (writes) edited(edit);
-    tellSelection(oldStart, oldLength);
+    reportSelection(oldStart, oldLength);
 }
 
 void Pane::putText(Range range, std::string_view text)
@@ -144,7 +144,7 @@ void Pane::setSelStart(std::int64_t position)
     const std::int64_t oldStart = m_selStart;
     const std::int64_t oldLength = m_selLength;
     select(cut(position, m_text.size()), 0);
-    tellSelection(oldStart, oldLength);
+    reportSelection(oldStart, oldLength);
 }
 
 void Pane::setSelLength(std::int64_t length)
@@ -153,7 +153,7 @@ void Pane::setSelLength(std::int64_t length)
     const std::int64_t oldLength = m_selLength;
     const auto start = static_cast<std::size_t>(m_selStart);
     select(start, cut(length, m_text.size() - start));
-    tellSelection(m_selStart, oldLength);
+    reportSelection(m_selStart, oldLength);
 }
 
 /// The chosen format goes with the caret that it was chosen for.
@@ -166,7 +166,7 @@ void Pane::select(std::size_t start, std::size_t length)
     m_selLength = newLength;
 }
 
-void Pane::tellSelection(std::int64_t oldStart, std::int64_t oldLength)
+void Pane::reportSelection(std::int64_t oldStart, std::int64_t oldLength)
 {
     if (oldStart != m_selStart || oldLength != m_selLength) selectionChanged();
 }

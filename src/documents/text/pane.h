@@ -187,7 +187,7 @@ private:
     };
     Range selection() const;
     void select(std::size_t start, std::size_t length);
-    void tellSelection(std::int64_t oldStart, std::int64_t oldLength);
+    void reportSelection(std::int64_t oldStart, std::int64_t oldLength);
     void changed() const;
     bool partsPair(std::size_t position) const;
     Range withoutHalfPairs(Range range) const;
@@ -204,7 +204,7 @@ private:
     template <typename Map> Range repaint(Range range, Map map);
     template <typename Map> void writeLook(Map map);
     template <typename Write> void writeFormat(Write write);
-    void tellReformatted(Range range) const;
+    void reportReformatted(Range range) const;
 
     const std::string& foldedText() const;
     bool wholeWordAt(std::size_t begin, std::size_t end) const;

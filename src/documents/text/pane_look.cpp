@@ -64,7 +64,7 @@ template <typename Map> Pane::Range Pane::repaint(Range range, Map map)
     return written;
 }
 
-void Pane::tellReformatted(Range range) const
+void Pane::reportReformatted(Range range) const
 {
     if (range.begin == range.end) return;
     reformatted(static_cast<std::int64_t>(range.begin), static_cast<std::int64_t>(range.end - range.begin));
@@ -76,7 +76,7 @@ template <typename Map> void Pane::writeLook(Map map)
         m_chosenFormat = map(insertionFormat());
         return;
     }
-    tellReformatted(repaint(selection(), map));
+    reportReformatted(repaint(selection(), map));
     changed();
 }
 
@@ -133,7 +133,7 @@ void Pane::setSelIndent(int twips)
     m_indent = twips;
     const bool caretAlone = m_selLength == 0 && lines.begin == lines.end; // no character of the line to keep it
     if (m_chosenFormat || caretAlone) m_chosenFormat = indented(insertionFormat());
-    tellReformatted(repaint(lines, indented));
+    reportReformatted(repaint(lines, indented));
 }
 
 void Pane::setFont(const PaneFont& font)

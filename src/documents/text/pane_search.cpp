@@ -72,7 +72,7 @@ std::int64_t Pane::Find(std::string_view text, std::int64_t start, std::int64_t 
     const std::int64_t oldStart = m_selStart;
     const std::int64_t oldLength = m_selLength;
     select(at, wanted.size());
-    tellSelection(oldStart, oldLength);
+    reportSelection(oldStart, oldLength);
     return m_selStart;
 }
 
@@ -87,7 +87,7 @@ void Pane::Span(std::string_view set, bool forward, bool negate)
     } else {
         select(reached, end - reached);
     }
-    tellSelection(oldStart, oldLength);
+    reportSelection(oldStart, oldLength);
 }
 
 void Pane::UpTo(std::string_view set, bool forward, bool negate)
@@ -97,7 +97,7 @@ void Pane::UpTo(std::string_view set, bool forward, bool negate)
     const auto [begin, end] = selection();
     const CharacterSet goal(set, negate);
     select(walk(m_text, forward ? end : begin, forward, [&](char character) { return !goal(character); }), 0);
-    tellSelection(oldStart, oldLength);
+    reportSelection(oldStart, oldLength);
 }
 
 std::int64_t Pane::GetLineFromChar(std::int64_t position) const

@@ -82,9 +82,9 @@ void Pane::putWhole(const RichText& text)
     m_chosenFormat.reset();
     select(0, 0);
     if (removed != 0 || inserted != 0) edited(edit);
-    tellReformatted({middle.oldBegin + headBegin, middle.oldBegin + headEnd});
-    tellReformatted({tailAt + tailBegin, tailAt + tailEnd});
-    tellSelection(oldStart, oldLength);
+    reportReformatted({middle.oldBegin + headBegin, middle.oldBegin + headEnd});
+    reportReformatted({tailAt + tailBegin, tailAt + tailEnd});
+    reportSelection(oldStart, oldLength);
     changed();
 }
 

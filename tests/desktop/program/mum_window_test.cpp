@@ -315,7 +315,7 @@ TEST(MumWindow, LockKeyPanelsAreLitWhileTheKeysAreOn)
         const auto found = std::ranges::find_if(labels, [&](const QLabel* label) { return label->text() == text; });
         return found != labels.end() && (*found)->isEnabled();
     };
-    EXPECT_FALSE(lit("CAPS")) << "nobody has told its state";
+    EXPECT_FALSE(lit("CAPS")) << "its state is unknown";
     view.showLockKeys({.capsLock = true, .numLock = false});
     EXPECT_TRUE(lit("CAPS"));
     EXPECT_FALSE(lit("NUM"));

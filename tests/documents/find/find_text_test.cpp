@@ -245,14 +245,14 @@ TEST_F(Find_, OpeningItAgainComesToTheFrontAndKeepsTheSearchGoing)
 
 TEST_F(Find_, ClosingInEveryWayUnloadsIt)
 {
-    const std::vector<std::function<void()>> roads{
+    const std::vector<std::function<void()>> ways{
         [&] { window.form.Close(); },     [&] { window.Command2.Click(); },
         [&] { window.Command4.Click(); }, [&] { window.Command8.Click(); },
         [&] { window.Command9.Click(); }, [&] { t.program().operations.UnloadForm("FindAndReplace"); }};
-    for (const auto& road : roads) {
+    for (const auto& way : ways) {
         t.menus().mnuEditFind.Click();
         EXPECT_EQ(t.program().shared.FindWindowOpen, 1);
-        road();
+        way();
         EXPECT_EQ(t.program().shared.FindWindowOpen, 0);
         EXPECT_FALSE(window.form.Visible);
     }

@@ -40,8 +40,8 @@ std::vector<Colour> colours(const Pane& pane)
 }
 
 /// Keeps what the pane reported, in order.
-struct Told {
-    explicit Told(Pane& pane)
+struct EventLog {
+    explicit EventLog(Pane& pane)
     {
         connections.push_back(pane.edited.connect([this](const Pane::Edit& edit) {
             log.push_back("edited " + std::to_string(edit.position) + " " + std::to_string(edit.removed) + " " +
@@ -357,12 +357,12 @@ TEST(PaneFont, ChangesNoCharacterAndNotifiesOnce)
 {
     Pane pane;
     pane.setText("abc");
-    Told told(pane);
+    EventLog events(pane);
     const CharacterFormat before = pane.formatAt(0);
     pane.setFont({"Fixed", 9, false});
     pane.setFont({"Fixed", 9, false});
     EXPECT_EQ(pane.formatAt(0), before);
-    EXPECT_THAT(told.log, ElementsAre("font"));
+    EXPECT_THAT(events.log, ElementsAre("font"));
 }
 
 // ---- look ----
@@ -389,12 +389,12 @@ TEST(PaneSelIndent, WritesTheWholeParagraphsThatTheSelectionTouchesAndRunsNoChan
     Pane pane;
     pane.setText("a\r\nbc\r\nd");
     select(pane, 1, 3); // from the first line end into the second line
-    Told told(pane);
+    EventLog events(pane);
     pane.setSelIndent(20);
     std::vector<int> indents;
     for (std::size_t i = 0; i < pane.TextLength(); ++i) indents.push_back(pane.formatAt(i).indent);
     EXPECT_THAT(indents, ElementsAre(20, 20, 20, 20, 20, 20, 20, 0));
-    EXPECT_THAT(told.log, ElementsAre("reformatted 0 7"));
+    EXPECT_THAT(events.log, ElementsAre("reformatted 0 7"));
     EXPECT_EQ(pane.SelIndent(), 20);
 }
 
@@ -416,9 +416,9 @@ TEST(PaneSignals, EditReportsTextThenSelectionThenChange)
     Pane pane;
     pane.setText("abc");
     select(pane, 1, 1);
-    Told told(pane);
+    EventLog events(pane);
     pane.setSelText("xyz");
-    EXPECT_THAT(told.log, ElementsAre("edited 1 1 3", "selection", "Change"));
+    EXPECT_THAT(events.log, ElementsAre("edited 1 1 3", "selection", "Change"));
 }
 
 TEST(PaneSignals, ColourReportsOnlyWhatChangedButAlwaysRunsChange)
@@ -427,30 +427,30 @@ TEST(PaneSignals, ColourReportsOnlyWhatChangedButAlwaysRunsChange)
     pane.setText("abcdef");
     paint(pane, 2, 2, red);
     select(pane, 1, 5);
-    Told told(pane);
+    EventLog events(pane);
     pane.setSelColor(red);
-    EXPECT_THAT(told.log, ElementsAre("reformatted 1 5", "Change"));
-    told.log.clear();
+    EXPECT_THAT(events.log, ElementsAre("reformatted 1 5", "Change"));
+    events.log.clear();
     pane.setSelColor(red);
-    EXPECT_THAT(told.log, ElementsAre("Change"));
+    EXPECT_THAT(events.log, ElementsAre("Change"));
 }
 
 TEST(PaneSignals, ColourOfACaretReportsNothing)
 {
     Pane pane;
     pane.setText("abc");
-    Told told(pane);
+    EventLog events(pane);
     pane.setSelColor(red);
-    EXPECT_THAT(told.log, ElementsAre());
+    EXPECT_THAT(events.log, ElementsAre());
 }
 
 TEST(PaneSignals, SameTextWrittenAgainRunsChangeAlone)
 {
     Pane pane;
     pane.setText("abc");
-    Told told(pane);
+    EventLog events(pane);
     pane.setText("abc");
-    EXPECT_THAT(told.log, ElementsAre("Change"));
+    EXPECT_THAT(events.log, ElementsAre("Change"));
 }
 
 TEST(PaneSignals, SnapshotPutBackReportsTheSmallestChange)
@@ -464,9 +464,9 @@ TEST(PaneSignals, SnapshotPutBackReportsTheSmallestChange)
     select(pane, 4, 3);
     pane.setSelText("2");
     pane.setSelStart(0);
-    Told told(pane);
+    EventLog events(pane);
     pane.setTextRTF(before);
-    EXPECT_THAT(told.log, ElementsAre("edited 4 1 3", "reformatted 0 3", "reformatted 12 1", "Change"));
+    EXPECT_THAT(events.log, ElementsAre("edited 4 1 3", "reformatted 0 3", "reformatted 12 1", "Change"));
     EXPECT_EQ(pane.TextRTF(), before);
 }
 
@@ -488,11 +488,11 @@ TEST(PaneUserEdit, ReplacesWithTheCaretBehindAndRunsChange)
 {
     Pane pane;
     pane.setText("BTN S1");
-    Told told(pane);
+    EventLog events(pane);
     pane.userEdit(4, 2, "TG");
     EXPECT_EQ(pane.Text(), "BTN TG");
     EXPECT_EQ(pane.SelStart(), 6);
-    EXPECT_THAT(told.log, ElementsAre("edited 4 2 2", "selection", "Change"));
+    EXPECT_THAT(events.log, ElementsAre("edited 4 2 2", "selection", "Change"));
 }
 
 TEST(PaneUserEdit, LockedPaneStaysAsItIs)
@@ -500,10 +500,10 @@ TEST(PaneUserEdit, LockedPaneStaysAsItIs)
     Pane pane;
     pane.setText("abc");
     pane.Locked = true;
-    Told told(pane);
+    EventLog events(pane);
     pane.userEdit(0, 1, "x");
     EXPECT_EQ(pane.Text(), "abc");
-    EXPECT_THAT(told.log, ElementsAre());
+    EXPECT_THAT(events.log, ElementsAre());
     pane.setSelText("x"); // the program still may
     EXPECT_EQ(pane.Text(), "xabc");
 }
@@ -513,9 +513,9 @@ TEST(PaneUserEdit, NothingToDoDoesNothing)
     Pane pane;
     pane.setText("abc");
     pane.setSelStart(2);
-    Told told(pane);
+    EventLog events(pane);
     pane.userEdit(0, 0, "");
-    EXPECT_THAT(told.log, ElementsAre());
+    EXPECT_THAT(events.log, ElementsAre());
     EXPECT_EQ(pane.SelStart(), 2);
 }
 

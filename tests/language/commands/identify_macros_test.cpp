@@ -163,11 +163,11 @@ TEST_F(IdentifyTest, AListIsNotifiedOfItsTicksOnce)
 {
     list({"A", "B", "C"});
     t.typeJoystick("e A B C \r\n");
-    int told = 0;
-    const auto listening = frame.List1[0].Items.changed.connect([&] { ++told; });
+    int changes = 0;
+    const auto listening = frame.List1[0].Items.changed.connect([&] { ++changes; });
     IdentifyMacrosUsed(editor);
     EXPECT_THAT(ticked(), ElementsAre("A", "B", "C"));
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(IdentifyTest, ClearMacroTicksClearsEveryList)

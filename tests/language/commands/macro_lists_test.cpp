@@ -101,15 +101,15 @@ TEST_F(MacroListTest, ClearAllForNewMacroFileUnloadsAllListsButTheFirst)
 {
     analyse(heading("h") + "A = a");
     editor.macros.MacroListDirty = 0;
-    int told = 0;
-    const auto listening = frame.List1Changed.connect([&] { ++told; });
+    int changes = 0;
+    const auto listening = frame.List1Changed.connect([&] { ++changes; });
     ClearAllForNewMacroFile(editor);
     EXPECT_EQ(frame.List1.size(), 1U);
     EXPECT_THAT(names(0), IsEmpty());
     EXPECT_THAT(frame.Combo1.Items.get(), IsEmpty());
     EXPECT_THAT(editor.macros.MacroHeadings, IsEmpty());
     EXPECT_EQ(editor.macros.MacroListDirty, 1);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(MacroListTest, AHeadingCalledAllIsTheOneThatIsNotedForItIsTheLastOfThatName)

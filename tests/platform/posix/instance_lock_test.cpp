@@ -31,7 +31,7 @@ public:
             for (;;) ::pause();
         }
         ::close(ends[1]);
-        EXPECT_EQ(::read(ends[0], &told, sizeof told), static_cast<ssize_t>(sizeof told));
+        EXPECT_EQ(::read(ends[0], &reported, sizeof reported), static_cast<ssize_t>(sizeof reported));
         ::close(ends[0]);
     }
     ~Holder() { kill(); }
@@ -46,7 +46,7 @@ public:
         m_process = 0;
     }
 
-    int told = -1;
+    int reported = -1;
 
 private:
     pid_t m_process = 0;
@@ -56,7 +56,7 @@ TEST(InstanceLock, KeepsASecondProcessOutAndIsFreeOnceTheFirstWasKilled)
 {
     const TemporaryDirectory disk;
     Holder holder(disk / "Tarvex.lock");
-    ASSERT_EQ(holder.told, 0);
+    ASSERT_EQ(holder.reported, 0);
     InstanceLock lock;
     EXPECT_FALSE(lock.take(disk / "Tarvex.lock"));
     holder.kill();
@@ -79,11 +79,11 @@ TEST(InstanceLock, AProgramThatWasStartedDoesNotKeepIt)
 {
     const TemporaryDirectory disk;
     Holder holder(disk / "Tarvex.lock", [&] { return spawn({"/bin/sleep", "1000"}, disk.path()); });
-    ASSERT_GT(holder.told, 0);
+    ASSERT_GT(holder.reported, 0);
     holder.kill();
     InstanceLock lock;
     EXPECT_TRUE(lock.take(disk / "Tarvex.lock"));
-    EXPECT_EQ(::kill(holder.told, SIGKILL), 0) << "it still runs";
+    EXPECT_EQ(::kill(holder.reported, SIGKILL), 0) << "it still runs";
 }
 
 TEST(InstanceLock, IsTakenOnAFileThatMayOnlyBeRead)

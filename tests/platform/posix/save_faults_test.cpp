@@ -84,7 +84,7 @@ protected:
     {
         const std::string& failed = outcome.made.at(fault.at);
         SCOPED_TRACE(failed + " number " + std::to_string(fault.at) + (fault.lasting ? " and later: " : ": ") +
-                     std::strerror(fault.error) + "; told: " + outcome.error);
+                     std::strerror(fault.error) + "; reported: " + outcome.error);
         const std::string before = GetParam().exists ? oldBytes : "(missing)";
         const bool whole = outcome.bytes == before || outcome.bytes == newBytes;
         if (!whole) { // only direct writing can end like this, and then the copy is whole and named
@@ -138,14 +138,14 @@ TEST_P(SaveFaults, EachCallFailingLeavesTheOldOrTheNewFileWhole)
 TEST_P(SaveFaults, FailedWriteSyncCloseOrRenameIsReported)
 {
     const Outcome good = save(std::nullopt);
-    std::size_t told = 0;
+    std::size_t reported = 0;
     for (std::size_t at = 0; at < good.made.size(); ++at) {
         const std::string& name = good.made[at];
         if (name != "write" && name != "fsync" && name != "rename" && !isCloseOfWritten(good.made, at)) continue;
         EXPECT_NE(save(FaultyCalls::Fault{at, EIO}).error, "") << name << " number " << at;
-        ++told;
+        ++reported;
     }
-    EXPECT_GE(told, 4U);
+    EXPECT_GE(reported, 4U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Situations, SaveFaults, testing::ValuesIn(situations),

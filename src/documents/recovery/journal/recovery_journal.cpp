@@ -55,8 +55,8 @@ void giveUpForNow(Editor& editor, JournalRecord& journal, const std::string& why
     closeFile(journal);
     journal.Failed = true;
     editor.TimerJournal.Enabled = true;
-    if (editor.ToldJournalFailure) return;
-    editor.ToldJournalFailure = true;
+    if (editor.JournalFailureShown) return;
+    editor.JournalFailureShown = true;
     editor.status("I can't take notes of what you type, so you'd better save it now and then: " + whyNot);
 }
 
@@ -115,7 +115,7 @@ void sync(Editor& editor, JournalRecord& journal)
     bool isSafe = false;
     if (!step([&] { isSafe = syncFurther(journal); })) return giveUpForNow(editor, journal, step.whyNot());
     if (!isSafe) return;
-    editor.ToldJournalFailure = false;
+    editor.JournalFailureShown = false;
     removeJournal(editor, std::exchange(journal.Replaced, 0));
 }
 

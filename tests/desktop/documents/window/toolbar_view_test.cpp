@@ -106,7 +106,7 @@ TEST(ToolbarView, EveryButtonHasAPictureOfItsOwn)
         const QImage picture = t.action(slot.number).icon().pixmap(32, 32).toImage();
         for (const QImage& other : pictures) EXPECT_NE(picture, other) << slot.number;
         pictures.push_back(picture);
-        EXPECT_FALSE(t.action(slot.number).text().isEmpty()) << slot.number << ": screen readers tell the name";
+        EXPECT_FALSE(t.action(slot.number).text().isEmpty()) << slot.number << ": screen readers say the name";
     }
 }
 

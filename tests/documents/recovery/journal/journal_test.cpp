@@ -219,7 +219,7 @@ TEST(Journal, WhosePlaceIsTakenTwiceBeforeTheDiskHasOneStaysBesideTheLastOnly)
     EXPECT_EQ(t.journals(), 2U);
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "aBTN S1 fire\r\n");
-    EXPECT_EQ(t.lastBox().text.find("older notes"), std::string::npos) << "the last tells whose place it has";
+    EXPECT_EQ(t.lastBox().text.find("older notes"), std::string::npos) << "the last one names whose place it has";
 }
 
 TEST(Journal, IsRemovedAtSaveWithTheOneWhosePlaceItTook)

@@ -336,7 +336,7 @@ struct Prefix : Settable {
         disk.put("drive_c/winld.exe", program);
     }
     /// What reaches the program of an argument, `%` in it standing for the folder of drive_c.
-    std::string told(const std::string& argument)
+    std::string argumentSeen(const std::string& argument)
     {
         const DriveMap wines(
             {.winePrefix = disk / "prefix", .home = {}, .programDirectory = disk.path(), .workingDirectory = "/"});
@@ -358,7 +358,7 @@ TEST(Runner, WineGetsPathsOnItsOwnDrivesUnchanged)
     Prefix w(true);
     w.disk.put("drive_c/TM/Mig.b50", "");
     for (const std::string path : {"c:\\tm\\mig.b50", "C:/TM/new.b50", "c:\\tm\\", "z:\\etc", "c:", "Q", "q:\\x"})
-        EXPECT_EQ(w.told(path), "<" + path + ">");
+        EXPECT_EQ(w.argumentSeen(path), "<" + path + ">");
 }
 
 TEST(Runner, WineGetsTheNativePathOfANameThatOnlyTarvexKnows)
@@ -373,7 +373,7 @@ TEST(Runner, WineGetsTheNativePathOfANameThatOnlyTarvexKnows)
                                        ? wines.toDos(w.driveC + "/MIG.b50")
                                        : wines.toDos(w.driveC + "/mig.b50");
         ASSERT_NE(hidden.find('~'), std::string::npos) << hidden;
-        const std::string seen = w.told(hidden);
+        const std::string seen = w.argumentSeen(hidden);
         EXPECT_EQ(seen.substr(0, seen.find('%')), withRoot ? "<z:" : "<\\\\?\\unix");
         EXPECT_EQ(seen.find('~'), std::string::npos) << seen;
     }
@@ -382,7 +382,7 @@ TEST(Runner, WineGetsTheNativePathOfANameThatOnlyTarvexKnows)
 TEST(Runner, WineWithoutADriveForEverythingGetsTheNativePath)
 {
     Prefix w(false);
-    EXPECT_EQ(w.told("z:\\etc\\x"), "<\\\\?\\unix\\etc\\x>") << "that letter is Tarvex's own";
+    EXPECT_EQ(w.argumentSeen("z:\\etc\\x"), "<\\\\?\\unix\\etc\\x>") << "that letter is Tarvex's own";
 }
 
 TEST(Runner, DosboxParsesOnlyNamesOfOurOwn)
