@@ -1,6 +1,9 @@
 #include "desktop/application.h"
 #include "desktop/composer/composer_menus.h"
 #include "desktop/generators/generator_forms.h"
+#include "desktop/help/help_windows.h"
+#include "desktop/help/program_files.h"
+#include "desktop/help/qt_help_system.h"
 #include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
@@ -25,6 +28,7 @@
 #include "program/program.h"
 #include "shell/appearance.h"
 #include "shell/left_copies.h"
+#include "shell/shipped_files.h"
 #include "templates/shipped_templates.h"
 
 #include <QDir>
@@ -51,6 +55,14 @@ std::string fromEnvironment(const char* name)
 {
     const char* value = std::getenv(name);
     return value != nullptr ? value : "";
+}
+
+/// The folder of the Wine prefix in use; empty: there is none.
+std::string winePrefix()
+{
+    const std::string chosen = fromEnvironment("WINEPREFIX");
+    const std::string home = fromEnvironment("HOME");
+    return !chosen.empty() || home.empty() ? chosen : home + "/.wine";
 }
 
 /// Prints the text; the process's exit status.
@@ -107,7 +119,9 @@ int runProgram(tarvex::Application& application, const std::string& file)
                       drives.toDos(directory),
                       drives.fromArgument(file)};
 
+    QtHelpSystem helpSystem(helpPlaces(winePrefix()));
     Program program(platform);
+    program.help.useSystem(helpSystem);
     application.setErrorRecord(&program.shared.errors);
     Appearance appearance(files, platform.programDirectory, program.menus);
     const ThemeView theme(appearance);
@@ -120,10 +134,12 @@ int runProgram(tarvex::Application& application, const std::string& file)
     addGeneratorForms(dialogues, program.generators, &window);
     addListForms(dialogues, program.lists, &window);
     addPreferencesForm(dialogues, program.preferences, &window);
+    addHelpForms(dialogues, program.help, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;
     copyShippedTemplates(platform, shippedTemplates);
+    copyShippedFiles(platform, "FilesCopied", shippedProgramFiles);
     if (program.start() && !desktop.quits()) {
         for (const char* folder : {"", "/Backup", "/Rtf", "/Recover"}) writer.sweep(directory + folder);
         reportLeftCopies(dialogues, writer.leftCopies());

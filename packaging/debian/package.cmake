@@ -17,6 +17,8 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SECTION editors)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+# Qt Help reads the handbook through this plug-in, which no program links.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6sql6-sqlite")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, libsdl2-2.0-0, qt6-wayland, shared-mime-info")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "dosbox, wine")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "programming environment for Thrustmaster game controllers")

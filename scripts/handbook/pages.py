@@ -37,6 +37,7 @@ class Page:
     source: str  # the text below the first lines
     html: str = ""
     text: str = ""  # without markup, on one line
+    prose: str = ""  # the same without what stands as code
     headings: list = field(default_factory=list)
     links: list = field(default_factory=list)
     pictures: list = field(default_factory=list)
@@ -59,6 +60,8 @@ class _Reader(html.parser.HTMLParser):
         super().__init__(convert_charrefs=True)
         self.page = page
         self.pieces = []
+        self.prose = []
+        self.code = 0
         self.heading = None
 
     def handle_starttag(self, tag, attributes):
@@ -70,10 +73,15 @@ class _Reader(html.parser.HTMLParser):
         elif tag == "img":
             self.page.pictures.append(values.get("src", ""))
             self.pieces.append(" " + values.get("alt", ""))
+        if tag in ("code", "pre"):
+            self.code += 1
         if tag in ("p", "li", "td", "th", "tr", "pre", "br", "dt", "dd"):
             self.pieces.append(" ")
+            self.prose.append(" ")
 
     def handle_endtag(self, tag):
+        if tag in ("code", "pre"):
+            self.code -= 1
         if re.fullmatch("h[1-6]", tag) and self.heading:
             self.page.headings.append(self.heading)
             self.heading = None
@@ -81,6 +89,7 @@ class _Reader(html.parser.HTMLParser):
 
     def handle_data(self, data):
         self.pieces.append(data)
+        self.prose.append(" " if self.code else data)
         if self.heading:
             self.heading.text += data
 
@@ -118,6 +127,7 @@ def _convert(page):
     reader.feed(page.html)
     reader.close()
     page.text = " ".join("".join(reader.pieces).split())
+    page.prose = " ".join("".join(reader.prose).split())
 
 
 def read_contents(folder):

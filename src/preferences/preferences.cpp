@@ -5,6 +5,7 @@
 #include "platform/runner_missing.h"
 #include "preferences/previous_loaders.h"
 #include "preferences/scheme_in_force.h"
+#include "shell/help_topics.h"
 
 #include <string_view>
 #include <vector>
@@ -223,7 +224,7 @@ void PREFS_Command6_Click(Preferences& preferences)
                          "ReadMe.txt file distributed with WinLoad for an explaination of the options on this tab."});
             return;
         }
-        preferences.editor.operations.HelpKeyword("Preferences");
+        preferences.editor.operations.HelpTopic(helpTopic::firstPreferencesPage + preferences.SSTab1.Tab);
     });
 }
 

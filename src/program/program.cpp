@@ -112,7 +112,7 @@ void wirePanes(Editor& editor)
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
       findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor),
-      templateEditor(editor), lists(editor), preferences(editor, lists)
+      templateEditor(editor), lists(editor), preferences(editor, lists), help(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -133,6 +133,9 @@ Program::Program(Platform& thePlatform)
     wireDownload(editor, lists.games);
     wireOwnTools(editor);
     wirePreferences(preferences);
+    wireHelp(help);
+    safein.HelpTopic = [this](int topic) { operations.HelpTopic(topic); };
+    safein.ShowInfoItem = [this](int item) { operations.ShowInfoPage(item); };
     followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };

@@ -4,6 +4,7 @@
 #include "documents/find/find_and_replace.h"
 #include "documents/pair/editor.h"
 #include "generators/generators.h"
+#include "help/help.h"
 #include "lists/lists.h"
 #include "platform/platform.h"
 #include "preferences/preferences.h"
@@ -45,6 +46,7 @@ public:
     TemplateForm templateEditor;
     Lists lists;
     Preferences preferences;
+    Help help;
 };
 
 } // namespace tarvex

@@ -4,6 +4,7 @@
 #include "safein/key_pad.h"
 #include "safein/safein_options.h"
 #include "safein/statement.h"
+#include "shell/help_topics.h"
 
 namespace tarvex {
 
@@ -11,11 +12,6 @@ namespace {
 
 constexpr PlaceSettings place{&Settings::SafeinTop, &Settings::SafeinLeft,   Access::PositionSafein,
                               Access::SavePosition, "SAFEIN PositionSafein", "SAFEIN SavePosition"};
-
-namespace helpTopic {
-constexpr int overview = 2500;
-constexpr int rawCodes = 2510;
-} // namespace helpTopic
 
 namespace infoItem {
 constexpr int options = 30;
@@ -36,7 +32,7 @@ void wireMenus(RAWform& window)
     window.mnuFileClose.handler = [&window] { window.form.unload(); };
     window.mnuHelpContents.handler = [&window] { window.editor.menus.mnuHelpContents.Click(); };
     window.mnuHelpContents.Enabled = window.editor.menus.mnuHelpContents.handler != nullptr;
-    wireHelp(window.mnuRawOverview, window.HelpTopic, helpTopic::overview);
+    wireHelp(window.mnuRawOverview, window.HelpTopic, helpTopic::safeinOverview);
     wireHelp(window.mnuHelpRawcodes, window.HelpTopic, helpTopic::rawCodes);
     wireHelp(window.mnuOptionsExplain, window.ShowInfoItem, infoItem::options);
     wireHelp(window.mnuUseHideButton, window.ShowInfoItem, infoItem::hideButton);

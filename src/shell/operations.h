@@ -24,6 +24,9 @@ struct Operations {
     Operation<> UpdateCCPButtons; ///< Cut, Copy and Paste follow selection and clipboard
 
     Operation<const std::string&> HelpKeyword; ///< shows the help on a word in the text, UTF-8
+    Operation<int> HelpTopic;                  ///< shows the page of a topic number, see help/help_topics.h
+    Operation<> ShowTour;                      ///< shows a newcomer around, where there is a handbook
+    Operation<int> ShowInfoPage;               ///< shows a page of the information window
 
     // language
     Operation<> ApplyColourHighlighting;

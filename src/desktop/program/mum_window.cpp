@@ -4,6 +4,7 @@
 #include "desktop/documents/find/find_and_replace_view.h"
 #include "desktop/documents/window/colour_selector_view.h"
 #include "desktop/documents/window/toolbar_view.h"
+#include "desktop/help/help_windows.h"
 #include "desktop/icon_theme.h"
 #include "desktop/menus/menu_view.h"
 #include "desktop/minimise.h"
@@ -55,7 +56,7 @@ QRect onScreen(QRect place)
 MumWindow::MumWindow(Program& program)
     : m_program(program), m_editor(new EditorView(program.editor, this)),
       m_status(new StatusBarView(program.mum, this)),
-      m_lockKeys([this](LockKeyState state) { m_status->showLockKeys(state); })
+      m_lockKeys([this](LockKeyState state) { m_status->showLockKeys(state); }), m_helpKey(program.help)
 {
     setObjectName(QStringLiteral("Mum"));
     setMinimumSize(smallestSize);
@@ -71,6 +72,7 @@ MumWindow::MumWindow(Program& program)
     makeWhenShown(program.templateEditor.form, m_bindings,
                   [this] { return new TemplateView(m_program.templateEditor, this); });
     makeWizardsWhenShown(program.wizards, m_bindings, this);
+    makeHelpWhenShown(program.help, m_bindings, this);
     makeWhenShown(program.composer.form, m_bindings, [this] { return new ComposerView(m_program.composer, this); });
     makeWhenShown(program.safein.form, m_bindings, [this] { return new SafeinView(m_program.safein, this); });
     m_bindings.follow(program.mum.form.frontWanted, [this] {

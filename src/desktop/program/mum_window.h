@@ -2,6 +2,7 @@
 
 #include "desktop/bind.h"
 #include "desktop/documents/window/editor_view.h"
+#include "desktop/help/help_key.h"
 #include "desktop/platform/lock_keys.h"
 #include "program/program.h"
 
@@ -40,6 +41,7 @@ private:
     EditorView* m_editor;
     StatusBarView* m_status;
     LockKeys m_lockKeys;
+    HelpKey m_helpKey;
     bool m_wasElsewhere = false; ///< another program had the keyboard
     QElapsedTimer m_restored;    ///< since the program brought its minimised window back
     bool m_exiting = false;

@@ -3,6 +3,7 @@
 #include "documents/find/find_text.h"
 #include "documents/find/goto_line.h"
 #include "documents/find/replace_text.h"
+#include "shell/help_topics.h"
 
 namespace tarvex {
 
@@ -72,7 +73,9 @@ void wireButtons(FindAndReplace& window)
     window.Command5.handler = [&window] { Command5_Click(window); };
     window.Command6.handler = [&window] { Command6_Click(window); };
     window.Command7.handler = [&window] { Command7_Click(window); };
-    window.Command10.handler = [&window] { window.editor.menus.mnuHelpContents.Click(); };
+    window.Command10.handler = [&window] {
+        window.editor.operations.HelpTopic(helpTopic::findPage + window.SSTab1.SelectedItem - 1);
+    };
     for (Button* close : {&window.Command2, &window.Command4, &window.Command8, &window.Command9}) {
         close->Caption = "Close";
         close->handler = [&window] { window.form.unload(); };
@@ -166,7 +169,7 @@ void Form_Load(FindAndReplace& window)
         window.Command3.Caption = findFirst;
         window.Command5.Enabled = false;
         window.Command6.Enabled = false;
-        window.Command10.Enabled = window.editor.menus.mnuHelpContents.handler != nullptr;
+        window.Command10.Enabled = window.editor.operations.HelpTopic ? true : false;
         window.form.markLoaded();
     });
 }

@@ -130,6 +130,7 @@ void firstUse(Editor& editor)
         {.title = "Tarvex initialising ...", .text = std::string(firstUseText), .icon = BoxIcon::Information});
     editor.shared.store.SaveOptions();
     editor.menus.mnuPreferencesEdit.Click();
+    editor.operations.ShowTour();
 }
 
 void forgetToolWindowPlaces(Shared& shared)

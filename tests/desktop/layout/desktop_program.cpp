@@ -17,6 +17,7 @@ DesktopProgram::DesktopProgram()
     machine.files.addFile(joystickPath, "BTN S1 /U fire /D gear\r\n");
     machine.files.addFile("c:\\tm\\b50progs\\mig.m50", "fire = f\r\ngear = g  Rem wheels\r\n");
     program = std::make_unique<Program>(platform);
+    program->help.useSystem(helpSystem);
     appearance = std::make_unique<Appearance>(machine.files, TestMachine::programDirectory, program->menus);
     theme = std::make_unique<ThemeView>(*appearance);
     window = std::make_unique<MumWindow>(*program);
@@ -25,6 +26,7 @@ DesktopProgram::DesktopProgram()
     addGeneratorForms(dialogues, program->generators, window.get());
     addListForms(dialogues, program->lists, window.get());
     addPreferencesForm(dialogues, program->preferences, window.get());
+    addHelpForms(dialogues, program->help, window.get());
     EXPECT_TRUE(program->start());
     window->showNormal();
     window->resize(1000, 700);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/generators/generator_forms.h"
+#include "desktop/help/help_windows.h"
 #include "desktop/lists/list_forms.h"
 #include "desktop/platform/qt_dialogues.h"
 #include "desktop/preferences/preferences_view.h"
@@ -8,6 +9,7 @@
 #include "desktop/theme.h"
 #include "platform/posix/drive_map.h"
 #include "shell/appearance.h"
+#include "support/fake_help_system.h"
 #include "support/test_program.h"
 
 namespace tarvex {
@@ -26,6 +28,7 @@ struct DesktopProgram {
                       machine.machine,
                       TestMachine::programDirectory,
                       {}};
+    FakeHelpSystem helpSystem;
     std::unique_ptr<Program> program;
     std::unique_ptr<Appearance> appearance;
     std::unique_ptr<ThemeView> theme;

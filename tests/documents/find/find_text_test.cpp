@@ -363,19 +363,17 @@ TEST_F(Find_, KeepOnTopIsOneChoiceOnAllTabs)
     EXPECT_FALSE(window.Check7.Value);
 }
 
-TEST_F(Find_, HelpIsOfferedOnceThereIsAHelpFile)
+TEST_F(Find_, HelpLeadsToTheTopicOfTheTab)
 {
-    window.form.Close();
-    t.menus().mnuHelpContents.handler = nullptr;
-    t.menus().mnuEditFind.Click();
-    EXPECT_FALSE(window.Command10.Enabled);
-    window.form.Close();
-    int shown = 0;
-    t.menus().mnuHelpContents.handler = [&] { ++shown; };
+    std::vector<int> topics;
+    editor.operations.HelpTopic = [&](int topic) { topics.push_back(topic); };
     t.menus().mnuEditFind.Click();
     EXPECT_TRUE(window.Command10.Enabled);
-    window.Command10.Click();
-    EXPECT_EQ(shown, 1);
+    for (const int tab : {1, 2, 3}) {
+        window.SSTab1.SelectedItem = tab;
+        window.Command10.Click();
+    }
+    EXPECT_EQ(topics, (std::vector<int>{3100, 3101, 3102}));
 }
 
 } // namespace

@@ -1,0 +1,55 @@
+#include "desktop/help/help_collection.h"
+
+#include <QFile>
+#include <QHelpEngineCore>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <memory>
+
+namespace tarvex {
+
+namespace {
+
+/// Qt Help keeps a list of the collections that it knows in a file that it writes; it is made anew for each run, so
+/// that it never refers to a collection that was moved or replaced.
+class QtHelpCollection : public HelpCollection {
+public:
+    explicit QtHelpCollection(const QString& path)
+    {
+        const QString name = QHelpEngineCore::namespaceName(path);
+        if (name.isEmpty()) {
+            m_error = QStringLiteral("%1 isn't a help collection").arg(path);
+            return;
+        }
+        m_engine = std::make_unique<QHelpEngineCore>(m_folder.filePath(QStringLiteral("known.qhc")));
+        m_engine->setReadOnly(false);
+        if (!m_engine->setupData() || !m_engine->registerDocumentation(path)) m_error = m_engine->error();
+        m_root = QStringLiteral("qthelp://%1/handbook/").arg(name);
+    }
+
+    std::optional<QByteArray> file(const QString& name) const override
+    {
+        if (!m_error.isEmpty()) return {};
+        const QUrl url(m_root + name);
+        if (!m_engine->findFile(url).isValid()) return {};
+        return m_engine->fileData(url);
+    }
+
+    QString error() const override { return m_error; }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<QHelpEngineCore> m_engine;
+    QString m_root;
+    QString m_error;
+};
+
+} // namespace
+
+} // namespace tarvex
+
+extern "C" Q_DECL_EXPORT tarvex::HelpCollection* openTarvexHelpCollection(const QString& path)
+{
+    return new tarvex::QtHelpCollection(path);
+}

@@ -1,0 +1,146 @@
+#include "help/handbook_index.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+const std::string text = "chapter\tLanguage\n"
+                         "page\tbtn.html\tThe BTN statement\tGives a button its macros. Mind the slash.\n"
+                         "page\tslash.html\tSlash modifiers\tA slash and a letter. /U is up. The slash slash.\n"
+                         "chapter\tWindows\n"
+                         "page\tsafein.html\tSafein\tKnows each button and slash of the keyboard.\n"
+                         "keyword\tBTN\tbtn.html\n"
+                         "keyword\tBTN S1\tbtn.html#s1\n"
+                         "keyword\t/U\tslash.html#u\n"
+                         "keyword\tRAW\tsafein.html#raw\n"
+                         "keyword\traw code\tsafein.html#code\n"
+                         "topic\t2500\tsafein.html\n";
+
+struct Index : testing::Test {
+    HandbookIndex index{text};
+    std::string lookUp(const std::string& words) const { return index.lookUp(words).value_or("(none)"); }
+    std::vector<std::string> found(const std::string& words) const
+    {
+        std::vector<std::string> files;
+        for (const auto& hit : index.search(words)) files.push_back(index.pages()[hit.page].file);
+        return files;
+    }
+};
+
+TEST_F(Index, HasTheChaptersWithTheirPagesInOrder)
+{
+    ASSERT_EQ(index.chapters().size(), 2U);
+    EXPECT_EQ(index.chapters()[0].title, "Language");
+    EXPECT_THAT(index.chapters()[0].pages, ElementsAre(0, 1));
+    EXPECT_EQ(index.pages()[2].title, "Safein");
+}
+
+TEST_F(Index, FindsThePageOfATargetWithAnAnchor)
+{
+    EXPECT_EQ(index.pageOf("slash.html#u"), &index.pages()[1]);
+    EXPECT_EQ(index.pageOf("nowhere.html"), nullptr);
+    EXPECT_EQ(index.pageOf(""), nullptr);
+}
+
+TEST_F(Index, LookUpTakesAKeywordInAnyCaseAndWithBlanksAround)
+{
+    EXPECT_EQ(lookUp("btn"), "btn.html");
+    EXPECT_EQ(lookUp("  /u\r\n"), "slash.html#u");
+    EXPECT_EQ(lookUp("Raw \t Code"), "safein.html#code");
+}
+
+TEST_F(Index, LookUpTakesTheLongestKeywordAtTheStart)
+{
+    EXPECT_EQ(lookUp("BTN S1 /U fire"), "btn.html#s1");
+    EXPECT_EQ(lookUp("BTN S2 /U fire"), "btn.html");
+    EXPECT_EQ(lookUp("RAW (#1C)"), "safein.html#raw");
+}
+
+TEST_F(Index, LookUpTakesTheLongestKeywordInsideWhenNoneIsAtTheStart)
+{
+    EXPECT_EQ(lookUp("fire /U"), "slash.html#u");
+    EXPECT_EQ(lookUp("what is a raw code?"), "safein.html#code");
+}
+
+TEST_F(Index, LookUpTakesNoPartOfAWord)
+{
+    EXPECT_EQ(lookUp("BTNX"), "(none)");
+    EXPECT_EQ(lookUp("DRAW"), "(none)");
+    EXPECT_EQ(lookUp("BTN S12"), "btn.html");
+    EXPECT_EQ(lookUp("/UP"), "(none)");
+}
+
+TEST_F(Index, LookUpOfNothingFindsNothing)
+{
+    EXPECT_EQ(lookUp(""), "(none)");
+    EXPECT_EQ(lookUp(" \r\n"), "(none)");
+    EXPECT_EQ(HandbookIndex().lookUp("BTN"), std::nullopt);
+}
+
+TEST_F(Index, LookUpOfAWholeFileLooksAtItsBeginning)
+{
+    EXPECT_EQ(lookUp("BTN S1 " + std::string(1'000'000, 'x')), "btn.html#s1");
+}
+
+TEST_F(Index, SearchShowsPagesWithAllTheWords)
+{
+    EXPECT_THAT(found("button slash"), ElementsAre("btn.html", "safein.html"));
+    EXPECT_THAT(found("button nothing"), ElementsAre());
+    EXPECT_THAT(found(" "), ElementsAre());
+}
+
+TEST_F(Index, SearchPutsTitlesFirstAndThenThePagesThatHaveTheWordMoreOften)
+{
+    EXPECT_THAT(found("SLASH"), ElementsAre("slash.html", "btn.html", "safein.html"));
+    EXPECT_THAT(found("safein"), ElementsAre("safein.html"));
+}
+
+TEST_F(Index, AnExcerptShowsThePlaceBetweenWholeWords)
+{
+    std::string words;
+    for (int i = 0; i < 100; ++i) words += "word" + std::to_string(i) + " ";
+    const HandbookIndex long_("chapter\tc\npage\ta.html\tA\t" + words + "needle " + words + "\n");
+    const std::string excerpt = long_.search("needle").at(0).excerpt;
+    EXPECT_THAT(excerpt, HasSubstr(" word99 needle word0 "));
+    EXPECT_TRUE(excerpt.starts_with("… word9")) << excerpt;
+    EXPECT_TRUE(excerpt.ends_with(" …")) << excerpt;
+    EXPECT_LT(excerpt.size(), 200U);
+}
+
+TEST_F(Index, AnExcerptCutsNoCharacterInTwo)
+{
+    std::string letters;
+    for (int i = 0; i < 300; ++i) letters += "\xC3\xA9";
+    const HandbookIndex index2("chapter\tc\npage\ta.html\tA\t" + letters + "x" + letters + "\n");
+    const std::string excerpt = index2.search("x").at(0).excerpt;
+    std::size_t continued = 0;
+    for (const char c : excerpt.substr(4)) continued += (static_cast<unsigned char>(c) & 0xC0) == 0x80 ? 1 : 0;
+    EXPECT_NE(static_cast<unsigned char>(excerpt[4]) & 0xC0, 0x80) << "starts in the middle of a character";
+    EXPECT_GT(continued, 0U);
+}
+
+TEST_F(Index, TopicsLeadToTheirPages)
+{
+    ASSERT_EQ(index.topics().size(), 1U);
+    EXPECT_EQ(index.topics().at(2500), "safein.html");
+}
+
+TEST_F(Index, DamagedLinesArePassedOver)
+{
+    const HandbookIndex damaged("page\tlost.html\tNo chapter\ttext\nchapter\n\tx\nchapter\tc\textra\nchapter\tc\n"
+                                "page\ta.html\tA\nkeyword\tx\ntopic\tzwei\ta.html\ntopic\t3x\ta.html\n"
+                                "topic\t99999999999\ta.html\nnoise\npage\ta.html\tA\ttext\n");
+    EXPECT_EQ(damaged.pages().size(), 1U);
+    EXPECT_EQ(damaged.chapters().size(), 1U);
+    EXPECT_TRUE(damaged.keywords().empty());
+    EXPECT_TRUE(damaged.topics().empty());
+    EXPECT_TRUE(HandbookIndex("").pages().empty());
+}
+
+} // namespace
+} // namespace tarvex

@@ -1,0 +1,216 @@
+#include "help/handbook.h"
+
+#include "help_program.h"
+
+namespace tarvex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+struct HandbookTest : HelpTest {
+    Handbook& book = help.handbook;
+    std::string target() const { return book.Target.get(); }
+    void keyword(const std::string& word) { t.program().operations.HelpKeyword(word); }
+    void topic(int number) { t.program().operations.HelpTopic(number); }
+};
+
+TEST_F(HandbookTest, TheHelpMenuOpensItAtItsFirstPage)
+{
+    t.menus().mnuHelpContents.Click();
+    EXPECT_TRUE(book.form.Visible);
+    EXPECT_EQ(target(), "first.html");
+    EXPECT_EQ(book.form.Caption.get(), "Welcome - Tarvex handbook");
+    EXPECT_FALSE(book.Back.Enabled);
+    EXPECT_FALSE(book.Forward.Enabled);
+}
+
+TEST_F(HandbookTest, ItIsNotReadBeforeItIsWanted) { EXPECT_FALSE(book.Ready); }
+
+TEST_F(HandbookTest, TheUsersOwnHelpFileIsHandedToTheSystem)
+{
+    t.files.addFile("c:\\tarvex\\Tarvex.hlp", "?");
+    t.menus().mnuHelpContents.Click();
+    EXPECT_THAT(t.desktop.programFilesOpened, ElementsAre("Tarvex.hlp"));
+    EXPECT_FALSE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, AKeywordLeadsToItsPlace)
+{
+    keyword("BTN S1");
+    EXPECT_EQ(target(), "btn.html#s1");
+    EXPECT_TRUE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, AWordThatNoPageClaimsIsSearchedFor)
+{
+    keyword("newcomer");
+    EXPECT_EQ(book.Ways.SelectedItem, Handbook::searchTab);
+    EXPECT_EQ(book.Search.Text.get(), "newcomer");
+    ASSERT_EQ(book.Hits.get().size(), 1U);
+    EXPECT_EQ(target(), "tour.html") << "the best page is shown at once";
+    EXPECT_EQ(book.SearchResult.Caption.get(), "1 page");
+}
+
+TEST_F(HandbookTest, AWordThatIsNowhereSaysSo)
+{
+    keyword("xyzzy");
+    EXPECT_EQ(book.SearchResult.Caption.get(), "No page has all these words");
+    EXPECT_EQ(target(), "first.html");
+    EXPECT_TRUE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, AWholeSelectedFileIsNotSearchedFor)
+{
+    keyword(std::string(1'000'000, 'y'));
+    EXPECT_EQ(book.Search.Text.get(), "");
+    EXPECT_EQ(target(), "first.html");
+}
+
+TEST_F(HandbookTest, ATopicLeadsToItsPageAndAnUnknownOneToTheFirst)
+{
+    topic(2500);
+    EXPECT_EQ(target(), "safein.html");
+    topic(1);
+    EXPECT_EQ(target(), "first.html");
+}
+
+TEST_F(HandbookTest, SafeinsHelpEntriesLeadToTheirTopics)
+{
+    t.menus().mnuInsertRAW.Click();
+    EXPECT_TRUE(t.program().safein.mnuRawOverview.Enabled);
+    t.program().safein.mnuRawOverview.Click();
+    EXPECT_EQ(target(), "safein.html");
+}
+
+TEST_F(HandbookTest, TheLogicTabsHelpIsAKeyword)
+{
+    system.files["index.txt"] += "keyword\tlogic\ttour.html\n";
+    t.program().operations.HelpKeyword("logic");
+    EXPECT_EQ(target(), "tour.html");
+}
+
+TEST_F(HandbookTest, BackAndForwardGoThroughWhatWasVisited)
+{
+    topic(2500);
+    keyword("tour");
+    followHandbookLink(book, "btn.html");
+    EXPECT_TRUE(book.Back.Enabled);
+    book.Back.Click();
+    EXPECT_EQ(target(), "tour.html");
+    book.Back.Click();
+    EXPECT_EQ(target(), "safein.html");
+    EXPECT_FALSE(book.Back.Enabled);
+    book.Back.Click();
+    EXPECT_EQ(target(), "safein.html");
+    EXPECT_TRUE(book.Forward.Enabled);
+    book.Forward.Click();
+    EXPECT_EQ(target(), "tour.html");
+    followHandbookLink(book, "first.html");
+    EXPECT_FALSE(book.Forward.Enabled) << "another way was taken";
+    book.Forward.Click();
+    EXPECT_EQ(target(), "first.html");
+}
+
+TEST_F(HandbookTest, ThePageThatIsShownIsNotVisitedTwice)
+{
+    topic(2500);
+    topic(2500);
+    EXPECT_EQ(book.visited.size(), 1U);
+}
+
+TEST_F(HandbookTest, OnlyTheLastTwoHundredPagesAreKept)
+{
+    for (int i = 0; i < 300; ++i) followHandbookLink(book, "#nothing yet");
+    t.menus().mnuHelpContents.Click();
+    for (int i = 0; i < 150; ++i) {
+        followHandbookLink(book, "btn.html");
+        followHandbookLink(book, "tour.html");
+    }
+    EXPECT_EQ(book.visited.size(), 200U);
+    EXPECT_EQ(target(), "tour.html");
+}
+
+TEST_F(HandbookTest, LinksGoToPagesPlacesAndTheWeb)
+{
+    t.menus().mnuHelpContents.Click();
+    followHandbookLink(book, "safein.html#raw");
+    EXPECT_EQ(target(), "safein.html#raw");
+    followHandbookLink(book, "#top");
+    EXPECT_EQ(target(), "safein.html#top");
+    followHandbookLink(book, "https://example.com/");
+    EXPECT_THAT(system.opened, ElementsAre("https://example.com/"));
+    followHandbookLink(book, "javascript:alert(1)");
+    followHandbookLink(book, "/etc/passwd");
+    EXPECT_EQ(target(), "safein.html#top");
+    EXPECT_EQ(system.opened.size(), 1U);
+}
+
+TEST_F(HandbookTest, TheFilterLetsWordsThroughThatBeginSo)
+{
+    t.menus().mnuHelpContents.Click();
+    EXPECT_EQ(book.ShownWords.get().size(), book.index.keywords().size());
+    book.Filter.Text = "bt";
+    std::vector<std::string> words;
+    for (const std::size_t word : book.ShownWords.get()) words.push_back(book.index.keywords()[word].word);
+    EXPECT_THAT(words, ElementsAre("BTN", "BTN S1"));
+    book.Filter.Text = "btnx";
+    EXPECT_TRUE(book.ShownWords.get().empty());
+}
+
+TEST_F(HandbookTest, TypingSearchesAtOnce)
+{
+    t.menus().mnuHelpContents.Click();
+    book.Search.Text = "button";
+    EXPECT_EQ(book.Hits.get().size(), 1U);
+    book.Search.Text = "a";
+    EXPECT_EQ(book.SearchResult.Caption.get(), "4 pages");
+    book.Search.Text = " ";
+    EXPECT_EQ(book.SearchResult.Caption.get(), "");
+    EXPECT_TRUE(book.Hits.get().empty());
+}
+
+TEST_F(HandbookTest, AMissingCollectionIsExplainedAndTriedAgainNextTime)
+{
+    const auto files = std::exchange(system.files, {});
+    t.menus().mnuHelpContents.Click();
+    EXPECT_FALSE(book.form.Visible);
+    EXPECT_EQ(t.lastBox().title, "Where's the handbook?");
+    EXPECT_THAT(t.lastBox().text, HasSubstr("there is no file /usr/share/tarvex/handbook/tarvex.qch"));
+    keyword("BTN");
+    topic(2500);
+    EXPECT_EQ(t.dialogues.boxes.size(), 3U);
+    system.files = files;
+    t.menus().mnuHelpContents.Click();
+    EXPECT_TRUE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, ACollectionWithoutPagesIsExplained)
+{
+    system.files = {{"index.txt", "no index at all"}};
+    system.why = "";
+    t.menus().mnuHelpContents.Click();
+    EXPECT_FALSE(book.form.Visible);
+    EXPECT_THAT(t.lastBox().text, HasSubstr("its index holds no pages"));
+}
+
+TEST_F(HandbookTest, ACopyOfTheProgramWithoutOneSaysSo)
+{
+    TestProgram other;
+    other.menus().mnuHelpContents.Click();
+    EXPECT_THAT(other.lastBox().text, HasSubstr("isn't part of this copy"));
+}
+
+TEST_F(HandbookTest, ClosedAndOpenedAgainItIsWhereItWas)
+{
+    topic(2500);
+    book.form.Close();
+    EXPECT_FALSE(book.form.Visible);
+    EXPECT_EQ(book.WindowOpen, 0);
+    t.menus().mnuHelpContents.Click();
+    EXPECT_EQ(target(), "safein.html");
+    EXPECT_TRUE(book.form.Visible);
+}
+
+} // namespace
+} // namespace tarvex
