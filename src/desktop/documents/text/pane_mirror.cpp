@@ -3,6 +3,7 @@
 #include "desktop/documents/text/pane_text.h"
 
 #include <QScopeGuard>
+#include <QTextBlock>
 #include <QTextCursor>
 
 #include <algorithm>
@@ -209,12 +210,16 @@ QString PaneMirror::paneStretch(std::int64_t begin, std::int64_t end) const
     return documentText(bytes.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)));
 }
 
+/// Read from the blocks: a cursor would lay the line out once more, which the document keeps until the line changes.
 QString PaneMirror::documentStretch(int from, int to) const
 {
-    QTextCursor cursor(&m_document);
-    cursor.setPosition(from);
-    cursor.setPosition(to, QTextCursor::KeepAnchor);
-    return cursor.selectedText();
+    QString text;
+    for (QTextBlock block = m_document.findBlock(from); from < to && block.isValid(); block = block.next()) {
+        const QString line = block.text() + QChar(QChar::ParagraphSeparator);
+        text += QStringView(line).mid(from - block.position(), to - from);
+        from = block.position() + block.length();
+    }
+    return text;
 }
 
 // ---- positions ------------------------------------------------------------------------------------------------------
