@@ -1,5 +1,6 @@
 #include "desktop/bind.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -7,11 +8,30 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QShortcutEvent>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QTimer>
 
 namespace tarvex {
+
+namespace {
+
+/// Clicks a button at once when the keys of its caption are pressed. By itself it shows itself pressed for a while
+/// first, ignores the same keys meanwhile, and lets keys pressed next overtake the click.
+class ClickAtOnce final : public QObject {
+public:
+    explicit ClickAtOnce(QAbstractButton& button) : QObject(&button) { button.installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
+        static_cast<QAbstractButton*>(watched)->click();
+        return true;
+    }
+};
+
+} // namespace
 
 void Bindings::button(Button& state, QAbstractButton& widget)
 {
@@ -20,6 +40,7 @@ void Bindings::button(Button& state, QAbstractButton& widget)
     bind(state.Visible, [&widget](bool on) { widget.setVisible(on); });
     bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
     focus(state, widget);
+    new ClickAtOnce(widget);
     QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&state] { state.Click(); });
 }
 
