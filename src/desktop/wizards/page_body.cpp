@@ -30,7 +30,9 @@ QLabel* label(const std::string& text)
     auto* words = new QLabel(toQt(text));
     words->setTextFormat(Qt::PlainText);
     words->setWordWrap(true);
-    words->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    words->setSizePolicy(policy);
     return words;
 }
 

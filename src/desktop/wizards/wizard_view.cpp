@@ -4,8 +4,11 @@
 #include "desktop/wizards/page_body.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -14,7 +17,7 @@ namespace tarvex {
 namespace {
 
 constexpr int charactersWide = 76;
-constexpr int linesHigh = 38;
+constexpr int linesHigh = 44;
 
 constexpr const char* footNames[footButton::count] = {"FootClose", "FootNext", "FootBack", "FootHelp"};
 
@@ -40,6 +43,15 @@ QSize WizardView::sizeHint() const
     return QSize(charactersWide * metrics.averageCharWidth(), linesHigh * metrics.lineSpacing())
         .expandedTo(minimumSizeHint())
         .boundedTo(screen()->availableSize() * 9 / 10);
+}
+
+/// Nothing on a page that scrolls needs to have the keyboard for it.
+void WizardView::keyPressEvent(QKeyEvent* event)
+{
+    auto* area = qobject_cast<QScrollArea*>(m_pages->currentWidget());
+    const bool down = event->key() == Qt::Key_PageDown;
+    if (area == nullptr || (!down && event->key() != Qt::Key_PageUp)) return ToolFormWindow::keyPressEvent(event);
+    area->verticalScrollBar()->triggerAction(down ? QScrollBar::SliderPageStepAdd : QScrollBar::SliderPageStepSub);
 }
 
 /// A box that stands on several pages gets the keyboard on the one that is shown.

@@ -27,6 +27,9 @@ public:
 
     QSize sizeHint() const override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void keepFocusOnPage(TextBox& box);
     void addFoot(PageTurner& turner);

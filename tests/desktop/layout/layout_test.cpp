@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -213,6 +214,16 @@ private:
                 QCoreApplication::sendPostedEvents();
                 look(window);
             }
+        }
+        for (QStackedWidget* pages : window.findChildren<QStackedWidget*>()) {
+            if (qobject_cast<QTabWidget*>(pages->parentWidget())) continue; // those of the tabs
+            const int before = pages->currentIndex();
+            for (int page = 0; page < pages->count(); ++page) {
+                pages->setCurrentIndex(page);
+                QCoreApplication::sendPostedEvents();
+                look(window);
+            }
+            pages->setCurrentIndex(before);
         }
     }
     /// As a user who looks at what comes up and closes it.

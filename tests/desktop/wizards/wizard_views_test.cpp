@@ -9,6 +9,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QSet>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTest>
@@ -82,6 +84,53 @@ TEST(WizardView, PagesAreTurnedByKeysAlone)
     EXPECT_EQ(t.wizards.slash.WindowOpen, 0);
 }
 
+TEST(WizardView, KeysPressedAtOnceAfterEachOtherAreAllTaken)
+{
+    Shown t;
+    QWidget& window = t.open(t.menus().mnuhelpWizCreateMacroFile, "MacroWizard");
+    for (int page = 0; page < 7; ++page) QTest::keyClick(&window, Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(titleOf(window), "Your first macros");
+    QTest::keyClick(&window, Qt::Key_M, Qt::AltModifier); // the name's box on the page that is in front now
+    EXPECT_EQ(window.focusWidget(), &child<QLineEdit>(pageOf(window), "Text1_0"));
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(t.wizards.macro.pages.PageNumber, 5);
+}
+
+/// What Tab comes to, beginning with the widget that has the keyboard, until it is there again.
+QSet<QWidget*> reachedByTab(QWidget& window)
+{
+    QSet<QWidget*> reached;
+    while (!reached.contains(window.focusWidget()) && reached.size() < 100) {
+        reached.insert(window.focusWidget());
+        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    }
+    return reached;
+}
+
+TEST(WizardView, TabReachesEverythingThatCanBeUsedOnAPage)
+{
+    Shown t;
+    t.menus().mnuhelpWizCreateJoyFile.Click();
+    t.menus().mnuhelpWizCreateMacroFile.Click();
+    t.wizards.macro.maker.Text1[0].Text = "a";
+    t.wizards.macro.maker.Text1[1].Text = "b"; // so that the button that inserts them is there
+    for (const char* name : {"JoystickWiz", "MacroWizard"}) {
+        QWidget& window = t.window(name);
+        PageTurner& turner = name == QLatin1String("JoystickWiz") ? t.wizards.joystick.pages : t.wizards.macro.pages;
+        for (int page = 0; page <= turner.lastPage; ++page) {
+            turner.PageNumber = page;
+            const QSet<QWidget*> reached = reachedByTab(window);
+            for (QWidget* widget : window.findChildren<QWidget*>()) {
+                const bool used = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                                  qobject_cast<QListWidget*>(widget);
+                if (!used || !widget->isVisible() || !widget->isEnabled()) continue;
+                EXPECT_TRUE(reached.contains(widget)) << name << page << widget->objectName().toStdString();
+            }
+        }
+    }
+}
+
 TEST(WizardView, EscapeClosesIt)
 {
     Shown t;
@@ -140,7 +189,7 @@ TEST(WizardView, PicturesAreShownWhereAPageHasOne)
     EXPECT_GT(marked, 50);
 }
 
-TEST(WizardView, NoPageIsWiderThanTheWindow)
+TEST(WizardView, NoPageIsWiderThanTheWindowAndEveryTextHasItsRoom)
 {
     Shown t;
     t.menus().mnuhelpWizCreateJoyFile.Click();
@@ -155,8 +204,30 @@ TEST(WizardView, NoPageIsWiderThanTheWindow)
             auto* area = qobject_cast<QScrollArea*>(pages.widget(page));
             ASSERT_NE(area, nullptr);
             EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width()) << name << page;
+            for (const QLabel* label : area->findChildren<QLabel*>()) {
+                const int needed =
+                    label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+                EXPECT_GE(label->height(), needed) << name << page << label->text().toStdString();
+            }
         }
     }
+}
+
+TEST(WizardView, ALongPageIsScrolledByKeys)
+{
+    Shown t;
+    QWidget& window = t.open(t.menus().mnuhelpWizCreateJoyFile, "JoystickWiz");
+    t.wizards.joystick.pages.PageNumber = 8;
+    window.resize(window.width(), 300);
+    Shown::events();
+    const QScrollBar& bar = *static_cast<QScrollArea&>(pageOf(window)).verticalScrollBar();
+    ASSERT_GT(bar.maximum(), 0);
+    press(window, Qt::Key_PageDown);
+    const int down = bar.value();
+    EXPECT_GT(down, 0);
+    press(window, Qt::Key_PageUp);
+    EXPECT_LT(bar.value(), down);
+    EXPECT_EQ(t.wizards.joystick.pages.PageNumber, 8);
 }
 
 TEST(MacroWizardView, AMacroIsWrittenByKeysAlone)
