@@ -26,6 +26,7 @@
 #include "shell/frame/mum_window.h"
 #include "shell/handler.h"
 #include "templates/template_editor.h"
+#include "templates/template_recovery.h"
 #include "wizards/composer_places.h"
 
 namespace tarvex {
@@ -118,6 +119,7 @@ Program::Program(Platform& thePlatform)
     wireEditMenu(menus, editor);
     wireViewAndPreferences(menus, editor);
     wirePanes(editor);
+    followEdits(editor);
     wirePaneMenu(editor);
     wireFindAndReplace(findAndReplace);
     wireSafein(safein);
@@ -136,10 +138,12 @@ Program::Program(Platform& thePlatform)
     wireHelp(help);
     safein.HelpTopic = [this](int topic) { operations.HelpTopic(topic); };
     safein.ShowInfoItem = [this](int item) { operations.ShowInfoPage(item); };
-    followEdits(editor);
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
-    operations.ShowEditor = [this] { Form_Load(editor); };
+    operations.ShowEditor = [this] {
+        Form_Load(editor);
+        offerTemplateRecovery(templateEditor);
+    };
     operations.QueryUnloadEditor = [this](bool& cancel) {
         cancel = !Form_QueryUnload(editor) || !closeTemplateEditor(templateEditor);
     };

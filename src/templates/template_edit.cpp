@@ -1,9 +1,11 @@
 #include "templates/template_edit.h"
 
 #include "documents/editing/clipboard_commands.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "language/base_format.h"
 #include "language/colour_template.h"
 #include "language/commands/colour_highlighting.h"
+#include "templates/template_journal.h"
 
 namespace tarvex {
 
@@ -41,6 +43,7 @@ void showLevel(TemplateForm& window, std::size_t level)
     const UndoHistory::Level& shown = history.Levels[level - 1];
     writeWithoutEdit(window, [&] { window.TemplateText.setTextRTF(shown.Text); });
     window.TemplateText.setSelStart(shown.Caret);
+    writeDownChanges(window.editor, journalled(window));
     window.TemplateChanged = 1;
     window.TakeNewLevel = 1;
     updateEditMenu(window);
@@ -75,7 +78,9 @@ void TemplateText_Change(TemplateForm& window)
     if (window.TemplateText.TextLength() == 0) window.TemplateText.setSelIndent(paragraphIndent);
     if (window.IsLoading == 1) return;
     window.TemplateChanged = 1;
+    writeDownChanges(window.editor, journalled(window));
     recordUndo(window);
+    if (window.Journal.Failed) return; // the status bar says so
     const std::string text = "Editing " + window.TemplateName;
     if (window.editor.mum.StatusBar.Panels(panel::progress).Text != text) window.editor.status(text);
 }

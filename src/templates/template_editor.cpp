@@ -1,11 +1,14 @@
 #include "templates/template_editor.h"
 
+#include "documents/recovery/journal/recovery_journal.h"
 #include "documents/window/colour_selector.h"
 #include "documents/window/preferences_page.h"
 #include "shell/handler.h"
 #include "templates/shipped_templates.h"
 #include "templates/template_edit.h"
 #include "templates/template_files.h"
+#include "templates/template_find.h"
+#include "templates/template_journal.h"
 
 namespace tarvex {
 
@@ -78,6 +81,8 @@ void wireTemplateEditor(TemplateForm& window)
     wireFileCommands(window);
     wireEditCommands(window);
     wirePane(window);
+    wireTemplateFind(window);
+    followEdits(window.editor, journalled(window));
     window.form.Load = [&window] { Form_Load(window); };
     window.form.Unload = [&window] { closeTemplateEditor(window); };
     Editor& editor = window.editor;
@@ -102,6 +107,7 @@ void Form_Load(TemplateForm& window)
     step([&] { showDefaultTemplate(window); });
     step([&] { UpdateTooltips(window); });
     step([&] { UpdateLabelColours(window); });
+    window.Find.Visible = false;
     window.form.markLoaded();
 }
 
@@ -117,6 +123,7 @@ bool closeTemplateEditor(TemplateForm& window)
 {
     if (!window.form.isLoaded()) return true;
     if (!Form_QueryUnload(window)) return false;
+    noteTextSettled(window.editor, journalled(window), std::nullopt); // what is unsaved is given up
     window.form.markUnloaded();
     return true;
 }

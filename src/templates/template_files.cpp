@@ -1,11 +1,16 @@
 #include "templates/template_files.h"
 
 #include "documents/files/file_load.h"
+#include "documents/recovery/journal/recovery_journal.h"
 #include "documents/text/rtf/rtf.h"
+#include "platform/dos_devices.h"
 #include "platform/dos_path.h"
 #include "platform/windows1252.h"
 #include "templates/shipped_templates.h"
 #include "templates/template_edit.h"
+#include "templates/template_journal.h"
+
+#include <algorithm>
 
 namespace tarvex {
 
@@ -17,6 +22,15 @@ constexpr const char* filter = "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.
 
 constexpr std::string_view forbiddenInNames = "\\/:*?\"<>|";
 
+/// On the machines that the file may go to later, too.
+bool canBeFileName(const std::string& name)
+{
+    const auto forbidden = [](char letter) {
+        return static_cast<unsigned char>(letter) < ' ' || forbiddenInNames.find(letter) != std::string_view::npos;
+    };
+    return std::ranges::none_of(name, forbidden) && !name.ends_with('.') && !name.ends_with(' ') && !isDosDevice(name);
+}
+
 void status(TemplateForm& window, const std::string& text) { window.editor.status(text); }
 
 void nameFile(TemplateForm& window, const std::string& fullName, const std::string& name)
@@ -25,26 +39,6 @@ void nameFile(TemplateForm& window, const std::string& fullName, const std::stri
     window.TemplatePath = directoryOf(fullName);
     window.TemplateName = name;
     window.Text1.Text = name;
-}
-
-/// The text of a file takes the place of the present one; one that can't be read leaves it. A file that isn't RTF,
-/// whatever its name, is plain text.
-bool load(TemplateForm& window, const std::string& path, const std::string& name, bool plain)
-{
-    const auto bytes = readForOpening(window.editor, path, name);
-    if (!bytes) return false;
-    Pane& pane = window.TemplateText;
-    writeWithoutEdit(window, [&] {
-        if (!plain && looksLikeRtf(*bytes))
-            pane.setTextRTF(readRtf(*bytes, pane.formats()));
-        else
-            pane.setText(*bytes);
-    });
-    nameFile(window, path, name);
-    refreshLayout(window);
-    beginHistory(window);
-    window.TemplateChanged = 0;
-    return true;
 }
 
 std::string bytesFor(const TemplateForm& window, const std::string& path)
@@ -57,7 +51,8 @@ void save(TemplateForm& window, const std::string& path, const std::string& name
 {
     Editor& editor = window.editor;
     const Steps step(editor.shared.errors, "TEMPLATE Command1_Click");
-    if (!step([&] { editor.platform.files.write(path, bytesFor(window, path)); })) {
+    const std::string bytes = bytesFor(window, path);
+    if (!step([&] { editor.platform.files.write(path, bytes); })) {
         editor.platform.dialogues.show({.title = "Ooops!",
                                         .text = name + " wasn't saved. I was trying to save it with this path: " +
                                                 path + ", and the error message was: " + step.whyNot() + ".",
@@ -65,6 +60,7 @@ void save(TemplateForm& window, const std::string& path, const std::string& name
         return;
     }
     nameFile(window, path, name);
+    noteTextSettled(editor, journalled(window), sumOf(bytes));
     window.TemplateChanged = 0;
     status(window, name + " was saved successfully");
 }
@@ -73,7 +69,7 @@ void saveUnderItsName(TemplateForm& window)
 {
     const std::string name = window.Text1.Text;
     if (name.empty() || name == TemplateForm::untitled) return mnuFileSaveAs_Click(window);
-    if (name.find_first_of(forbiddenInNames) != std::string::npos) {
+    if (!canBeFileName(name)) {
         window.editor.platform.dialogues.show(
             {.title = "Ooops!", .text = "No file can have the name " + name, .icon = BoxIcon::Exclamation});
         return;
@@ -92,7 +88,7 @@ void openByDialogue(TemplateForm& window)
         {.title = "", .filter = filter, .directory = window.TemplatePath, .defaultExtension = "rtf"});
     if (!chosen) return;
     const std::string name = fileNameOf(*chosen);
-    if (load(window, lowerUtf8(*chosen), name, false)) status(window, name + " was opened successfully");
+    if (loadTemplate(window, lowerUtf8(*chosen), name)) status(window, name + " was opened successfully");
 }
 
 /// Where the loaders' configuration may be: in the folder that is set, above it or beside the loader.
@@ -123,6 +119,25 @@ bool mayGiveUpText(TemplateForm& window, const std::string& purpose, const std::
     if (window.TemplateChanged != 1) return true;
     dialogues.show({.title = "Ooops!", .text = name + " wasn't saved" + refusal, .icon = BoxIcon::Exclamation});
     return false;
+}
+
+bool loadTemplate(TemplateForm& window, const std::string& path, const std::string& name, bool plain)
+{
+    const auto bytes = readForOpening(window.editor, path, name);
+    if (!bytes) return false;
+    Pane& pane = window.TemplateText;
+    writeWithoutEdit(window, [&] {
+        if (!plain && looksLikeRtf(*bytes))
+            pane.setTextRTF(readRtf(*bytes, pane.formats()));
+        else
+            pane.setText(*bytes);
+    });
+    nameFile(window, path, name);
+    refreshLayout(window);
+    beginHistory(window);
+    noteTextSettled(window.editor, journalled(window), sumOf(*bytes));
+    window.TemplateChanged = 0;
+    return true;
 }
 
 void Command1_Click(TemplateForm& window, std::size_t Index)
@@ -161,7 +176,7 @@ void Command2_Click(TemplateForm& window)
             return;
         const std::string path = window.editor.shared.settings.TextFilePath.whole();
         const std::string name = fileNameOf(path);
-        if (load(window, path, name, false)) status(window, name + " was opened successfully");
+        if (loadTemplate(window, path, name)) status(window, name + " was opened successfully");
     });
 }
 
@@ -209,7 +224,7 @@ void mnuEditTmCFG_Click(TemplateForm& window)
                                " for some reason. I won't proceed in opening up another file"))
                 return;
             changeToFolderOf(editor.shared.currentDirectory, path, Steps());
-            load(window, path, "Tm.cfg", true);
+            loadTemplate(window, path, "Tm.cfg", true);
             return;
         }
         editor.platform.dialogues.show(
@@ -244,6 +259,7 @@ void beginNewTemplate(TemplateForm& window)
     window.TemplateChanged = 0;
     refreshLayout(window);
     beginHistory(window);
+    noteTextSettled(window.editor, journalled(window), std::nullopt);
 }
 
 } // namespace tarvex

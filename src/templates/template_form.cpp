@@ -11,6 +11,11 @@ TemplateForm::TemplateForm(Editor& theEditor) : editor(theEditor), TemplateText(
     Command2.Caption = "Open default template";
     CmndPrint.Caption = "Print";
     ToggleButton1.Caption = "Wrap";
+    Find.MatchCase.Caption = "Match &case";
+    Find.WholeWord.Caption = "W&hole words only";
+    Find.Next.Caption = "Find ne&xt";
+    Find.Previous.Caption = "Find &previous";
+    Find.Close.Caption = "Close";
 }
 
 std::vector<MenuEntry> TemplateForm::menuBar()
@@ -39,6 +44,10 @@ std::vector<MenuEntry> TemplateForm::menuBar()
           {&mnuCopy, "Ctrl+C", {}},
           {&mnuPaste, "Ctrl+V", {}},
           {&mnuSelectAll, "Ctrl+A", {}},
+          divider,
+          {&mnuFind, "Ctrl+F", {}},
+          {&mnuFindNext, "F3", {}},
+          {&mnuFindPrevious, "Shift+F3", {}},
           divider,
           {&mnuEditTmCFG, {}, {}},
           {&mnuEdTmpPrefs, {}, {}}}},

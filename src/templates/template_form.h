@@ -2,6 +2,7 @@
 
 #include "documents/pair/editor.h"
 #include "documents/pair/undo_history.h"
+#include "documents/recovery/journal_record.h"
 #include "platform/toggle_label.h"
 #include "shell/menus.h"
 #include "shell/tool_form.h"
@@ -11,6 +12,17 @@
 #include <vector>
 
 namespace tarvex {
+
+/// The row below the text that searches it.
+struct TemplateFind {
+    Property<bool> Visible = false;
+    TextBox What;
+    CheckBox MatchCase;
+    CheckBox WholeWord;
+    Button Next;
+    Button Previous;
+    Button Close;
+};
 
 /// The Template Editor: a small third editor for templates, tm.cfg and other texts.
 struct TemplateForm {
@@ -35,6 +47,7 @@ struct TemplateForm {
     Property<int> RightMargin = 0;     ///< of the pane
     Property<Colour> ColourLabel1 = 0; ///< the colour that was applied last
     std::function<void()> ColourLabel1_Click;
+    TemplateFind Find;
 
     MenuItem mnuFile{"mnuFile", "&File"};
     MenuItem mnuFileNew{"mnuFileNew", "&New"};
@@ -52,6 +65,9 @@ struct TemplateForm {
     MenuItem mnuCopy{"mnuCopy", "&Copy"};
     MenuItem mnuPaste{"mnuPaste", "&Paste"};
     MenuItem mnuSelectAll{"mnuSelectAll", "Select &all"};
+    MenuItem mnuFind{"mnuFind", "&Find..."};
+    MenuItem mnuFindNext{"mnuFindNext", "Find &next"};
+    MenuItem mnuFindPrevious{"mnuFindPrevious", "Find pre&vious"};
     MenuItem mnuEditTmCFG{"mnuEditTmCFG", "Ed&it tm.cfg"};
     MenuItem mnuEdTmpPrefs{"mnuEdTmpPrefs", "Pre&ferences..."};
     MenuItem mnuView{"mnuView", "&View"};
@@ -72,6 +88,7 @@ struct TemplateForm {
     UndoHistory Undo;
     std::int16_t TakeNewLevel = 1; ///< the next change opens an undo level
     std::int16_t IsLoading = 0;    ///< the program itself changes the text
+    JournalRecord Journal;         ///< of unsaved edits
 
     std::vector<MenuEntry> menuBar();
     std::vector<MenuEntry> popUpMenu();

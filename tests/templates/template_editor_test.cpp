@@ -87,6 +87,21 @@ TEST_F(TemplateEditorTest, AFileWithThatExtensionThatIsNoRtfIsPlainText)
     EXPECT_EQ(text(), "{just words");
 }
 
+TEST_F(TemplateEditorTest, OfDamagedRtfTheReadablePartIsShown)
+{
+    const std::string whole = "{\\rtf1{\\colortbl;\\red255\\green0\\blue0;}\\cf1 BTN S1 a\\par BTN S2 b}";
+    for (std::size_t length = 6; length <= whole.size(); ++length) {
+        t.files.addFile(folder + "a.rtf", whole.substr(0, length));
+        open(folder + "a.rtf");
+        EXPECT_EQ(std::string("BTN S1 a\r\nBTN S2 b").find(text()), 0U) << text();
+        EXPECT_EQ(window.TemplateChanged, 0);
+    }
+    EXPECT_EQ(text(), "BTN S1 a\r\nBTN S2 b");
+    t.files.addFile(folder + "a.rtf", "{\\rtf1}}}}{{{{\\'zz\\bin99999 BTN S1");
+    open(folder + "a.rtf");
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
 TEST_F(TemplateEditorTest, AFileThatCannotBeReadLeavesTextAndName)
 {
     type("mine");
@@ -221,12 +236,24 @@ TEST_F(TemplateEditorTest, SavesUnderTheNameThatTheUserTypedOver)
 TEST_F(TemplateEditorTest, ANameThatNoFileCanHaveIsRefused)
 {
     type("x");
-    for (const char* name : {"a?.txt", "..\\Tarvex.ini", "c:x.rtf"}) {
+    for (const char* name : {"a?.txt", "..\\Tarvex.ini", "c:x.rtf", "a\tb.rtf", "a.", "a ", "con.rtf", "NUL"}) {
         window.Text1.Text = name;
         window.Command1[1].Click();
         EXPECT_EQ(box().text, std::string("No file can have the name ") + name);
         EXPECT_EQ(window.TemplateChanged, 1);
     }
+}
+
+TEST_F(TemplateEditorTest, ANameWithoutAnExtensionIsSavedPlainUnlessTheFieldIsLeft)
+{
+    saveAs(folder + "a.rtf");
+    type("x");
+    window.Text1.Text = "rtf";
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "rtf").substr(0, 5), "{\\rtf") << "its last three letters decide";
+    window.Text1.Text = "hat";
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "hat"), "x");
 }
 
 TEST_F(TemplateEditorTest, LeavingTheNameCompletesIt)
@@ -280,6 +307,21 @@ TEST_F(TemplateEditorTest, TmCfgIsFoundAndItsDelaySelected)
     EXPECT_EQ(window.TemplateChanged, 0);
     EXPECT_EQ(pane.SelText(), "DLDELAY");
     EXPECT_EQ(pane.SelStart(), 18);
+}
+
+TEST_F(TemplateEditorTest, ATmCfgOfAnyBytesIsShownAndSavedAsItWas)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte != '\r' && byte != '\n') bytes += static_cast<char>(byte);
+    }
+    t.files.addFile("c:\\tm\\tm.cfg", bytes);
+    t.menus().mnuEditTmCFG.Click();
+    EXPECT_EQ(text(), bytes);
+    EXPECT_EQ(pane.SelLength(), 0) << "there is no delay in it";
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText("c:\\tm\\tm.cfg"), bytes);
 }
 
 TEST_F(TemplateEditorTest, TmCfgIsTakenFromTheFolderThatIsSetBeforeOthers)

@@ -7,11 +7,14 @@
 #include "desktop/toggle_view.h"
 #include "templates/template_edit.h"
 
+#include <QCheckBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -21,6 +24,12 @@ namespace {
 
 constexpr int charactersWide = 84;
 constexpr int linesHigh = 32;
+
+void addShortcut(const QKeySequence& keys, QWidget& widget, MenuItem& command)
+{
+    auto* shortcut = new QShortcut(keys, &widget, [&command] { command.Click(); });
+    shortcut->setContext(Qt::WidgetShortcut);
+}
 
 } // namespace
 
@@ -34,6 +43,7 @@ TemplateView::TemplateView(TemplateForm& window, QWidget* parent)
     column->addLayout(fileRow());
     column->addLayout(toolRow());
     column->addWidget(m_pane, 1);
+    column->addWidget(findRow());
     addPane();
     m_pane->setFocus();
 }
@@ -72,6 +82,41 @@ QLayout* TemplateView::toolRow()
     row->addWidget(wrap);
     row->addWidget(colourButton());
     return row;
+}
+
+/// Return in the box finds the next match, with Shift the one before.
+QWidget* TemplateView::findRow()
+{
+    TemplateFind& find = m_window.Find;
+    auto* whole = new QWidget(this);
+    whole->setObjectName(QStringLiteral("FindRow"));
+    auto* rows = new QGridLayout(whole);
+    rows->setContentsMargins({});
+    auto* what = new LineBox(find.What, QStringLiteral("FindWhat"), m_bindings);
+    auto* label = new QLabel(QStringLiteral("&Look for:"));
+    label->setBuddy(what);
+    auto* options = new QHBoxLayout;
+    options->addWidget(checkBox(find.MatchCase, "FindMatchCase"));
+    options->addWidget(checkBox(find.WholeWord, "FindWholeWord"));
+    options->addStretch();
+    rows->addWidget(label, 0, 0);
+    rows->addWidget(what, 0, 1);
+    rows->addWidget(button(find.Next, "FindNext"), 0, 2);
+    rows->addWidget(button(find.Previous, "FindPrevious"), 0, 3);
+    rows->addLayout(options, 1, 1);
+    rows->addWidget(button(find.Close, "FindClose"), 1, 3);
+    addShortcut(Qt::Key_Return, *what, m_window.mnuFindNext);
+    addShortcut(QKeyCombination(Qt::ShiftModifier, Qt::Key_Return), *what, m_window.mnuFindPrevious);
+    m_bindings.bind(find.Visible, [whole](bool on) { whole->setVisible(on); });
+    return whole;
+}
+
+QCheckBox* TemplateView::checkBox(CheckBox& state, const char* name)
+{
+    auto* view = new QCheckBox(this);
+    view->setObjectName(QLatin1String(name));
+    m_bindings.checkBox(state, *view);
+    return view;
 }
 
 QPushButton* TemplateView::button(Button& state, const char* name)

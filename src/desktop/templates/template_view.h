@@ -5,6 +5,7 @@
 
 #include <string_view>
 
+class QCheckBox;
 class QLayout;
 class QPushButton;
 class QToolButton;
@@ -24,7 +25,9 @@ public:
 private:
     QLayout* fileRow();
     QLayout* toolRow();
+    QWidget* findRow();
     QPushButton* button(Button& state, const char* name);
+    QCheckBox* checkBox(CheckBox& state, const char* name);
     QToolButton* colourButton();
     void addPane();
     bool pressKey(std::string_view keys);

@@ -101,12 +101,14 @@ std::optional<Record> takeRecord(std::string_view& bytes, std::uint64_t& chain)
     return record;
 }
 
+constexpr int largestTab = 3; ///< of a text beside the pair
+
 std::optional<JournalStart> readStart(const Record& record)
 {
     if (record.kind != journalKind::start) return std::nullopt;
     Contents contents(record.contents);
     JournalStart start;
-    start.tab = static_cast<int>(std::min<std::uint64_t>(contents.number(), 3));
+    start.tab = static_cast<int>(std::min<std::uint64_t>(contents.number(), largestTab + 1));
     start.replaces = contents.number();
     start.path = contents.text();
     start.name = contents.text();
@@ -117,7 +119,7 @@ std::optional<JournalStart> readStart(const Record& record)
     }
     start.base = contents.text();
     start.edit = contents.edit();
-    if (!contents.wereWhole() || (start.tab != 1 && start.tab != 2)) return std::nullopt;
+    if (!contents.wereWhole() || start.tab < 1 || start.tab > largestTab) return std::nullopt;
     return start;
 }
 

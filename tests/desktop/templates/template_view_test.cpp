@@ -68,6 +68,46 @@ TEST(TemplateView, KeysRunTheCommandsOfTheMenus)
     EXPECT_EQ(t.child<QLineEdit>("Text1").text(), "a.txt");
 }
 
+TEST(TemplateView, IsSearchedByKeysAlone)
+{
+    Shown t;
+    QTest::keyClicks(&t.pane(), "hat one hat");
+    auto& row = t.child<QWidget>("FindRow");
+    EXPECT_FALSE(row.isVisible());
+    QTest::keyClick(&t.pane(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(row.isVisible());
+    auto& what = t.child<QLineEdit>("FindWhat");
+    EXPECT_TRUE(what.hasFocus());
+    QTest::keyClicks(&what, "hat");
+    QTest::keyClick(&what, Qt::Key_Return);
+    EXPECT_EQ(t.form.TemplateText.SelStart(), 0);
+    QTest::keyClick(&what, Qt::Key_Return);
+    EXPECT_EQ(t.form.TemplateText.SelStart(), 8);
+    QTest::keyClick(&what, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(t.form.TemplateText.SelStart(), 0);
+    QTest::keyClick(&what, Qt::Key_Escape);
+    EXPECT_FALSE(row.isVisible());
+    EXPECT_TRUE(t.view.isVisible());
+    EXPECT_TRUE(t.pane().hasFocus());
+    QTest::keyClick(&t.pane(), Qt::Key_F3);
+    Shown::events();
+    EXPECT_EQ(t.form.TemplateText.SelStart(), 8);
+    EXPECT_EQ(t.pane().textCursor().selectedText(), "hat");
+}
+
+TEST(TemplateView, ItsTextIsZoomedLikeThoseOfThePair)
+{
+    Shown t;
+    QTest::keyClicks(&t.pane(), "BTN S1 a");
+    const double before = t.pane().font().pointSizeF();
+    QTest::keyClick(&t.pane(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(t.pane().font().pointSizeF(), before);
+    QTest::keyClick(&t.pane(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(t.pane().font().pointSizeF(), before);
+    EXPECT_EQ(t.form.TemplateText.formatAt(0).fontSize, t.settings().TextFontSize) << "the file's size stays";
+    EXPECT_EQ(t.form.TemplateText.Text(), "BTN S1 a");
+}
+
 TEST(TemplateView, LeavingTheNameCompletesIt)
 {
     Shown t;

@@ -28,23 +28,30 @@ std::uint64_t nextNumber(Editor& editor)
     return ++last;
 }
 
-/// The file beside a document, when there is one.
-std::string partnerPath(Editor& editor, const Side& side)
+/// The other document of the pair; none for a text beside the pair.
+Side* partnerOf(Editor& editor, const JournalledText& text)
 {
-    const Side& partner = editor.other(side);
-    return partner.Journal.File ? partner.FilePath : std::string();
+    if (text.tab == editor.joystick.tab) return &editor.macro;
+    return text.tab == editor.macro.tab ? &editor.joystick : nullptr;
 }
 
-JournalStart startOf(Editor& editor, Side& side, std::uint64_t replaces)
+/// The file beside a document, when there is one.
+std::string partnerPath(Editor& editor, const JournalledText& text)
 {
-    std::string base = side.Journal.Base.text();
-    TextEdit edit = differenceOf(base, side.pane.Text());
-    return {.tab = side.tab,
+    const Side* const partner = partnerOf(editor, text);
+    return partner != nullptr && partner->Journal.File ? partner->FilePath : std::string();
+}
+
+JournalStart startOf(Editor& editor, const JournalledText& text, std::uint64_t replaces)
+{
+    std::string base = text.Journal.Base.text();
+    TextEdit edit = differenceOf(base, text.pane.Text());
+    return {.tab = text.tab,
             .replaces = replaces,
-            .path = side.FilePath,
-            .name = side.FileName,
-            .partnerPath = partnerPath(editor, side),
-            .file = side.Journal.File,
+            .path = text.FilePath,
+            .name = text.FileName,
+            .partnerPath = partnerPath(editor, text),
+            .file = text.Journal.File,
             .base = std::move(base),
             .edit = std::move(edit)};
 }
@@ -78,10 +85,9 @@ void append(Editor& editor, JournalRecord& journal, const std::string& bytes)
 }
 
 /// Only notes the edit: each edit is followed by the pane's Change, and that writes it down when it is the user's.
-void onEdited(Side& side, const Pane::Edit& edit)
+void onEdited(JournalRecord& journal, const Pane& pane, const Pane::Edit& edit)
 {
-    JournalRecord& journal = side.Journal;
-    const auto length = static_cast<std::int64_t>(side.pane.TextLength());
+    const auto length = static_cast<std::int64_t>(pane.TextLength());
     const JournalRecord::Unchanged now{edit.position, length - edit.position - edit.inserted};
     if (!journal.Unwritten) journal.Unwritten = now;
     journal.Unwritten->before = std::min(journal.Unwritten->before, now.before);
@@ -89,10 +95,8 @@ void onEdited(Side& side, const Pane::Edit& edit)
 }
 
 /// The edits since the journal was written last, as one.
-TextEdit takeUnwritten(Side& side)
+TextEdit takeUnwritten(JournalRecord& journal, const std::string& text)
 {
-    JournalRecord& journal = side.Journal;
-    const std::string& text = side.pane.Text();
     const auto length = static_cast<std::int64_t>(text.size());
     const std::int64_t most = std::min(length, journal.Length);
     const std::int64_t before = std::min(journal.Unwritten->before, most);
@@ -104,9 +108,15 @@ TextEdit takeUnwritten(Side& side)
     return edit;
 }
 
-bool hasOutgrown(const Side& side)
+void follow(const JournalledText& text)
 {
-    return side.Journal.Size > ample + 4 * (side.Journal.Base.size() + side.pane.TextLength());
+    text.Journal.following = text.pane.edited.connect(
+        [&journal = text.Journal, &pane = text.pane](const Pane::Edit& edit) { onEdited(journal, pane, edit); });
+}
+
+bool hasOutgrown(const JournalledText& text)
+{
+    return text.Journal.Size > ample + 4 * (text.Journal.Base.size() + text.pane.TextLength());
 }
 
 void sync(Editor& editor, JournalRecord& journal)
@@ -117,6 +127,19 @@ void sync(Editor& editor, JournalRecord& journal)
     if (!isSafe) return;
     editor.JournalFailureShown = false;
     removeJournal(editor, std::exchange(journal.Replaced, 0));
+}
+
+/// Syncs the journal and retries one that couldn't be written. True: it needs another look.
+bool tendJournal(Editor& editor, const JournalledText& text)
+{
+    JournalRecord& journal = text.Journal;
+    sync(editor, journal);
+    if (journal.Failed) {
+        beginJournal(editor, text, journal.Number);
+        sync(editor, journal);
+    }
+    const bool closed = closeEnded(journal);
+    return journal.Unsynced || journal.Syncing || journal.Failed || !closed;
 }
 
 /// The journal in whose place the next one is begun. One that the disk has never had for certain isn't worth keeping
@@ -176,35 +199,42 @@ std::uint64_t journalNumber(const std::string& name)
 
 void followEdits(Editor& editor)
 {
-    for (Side* side : {&editor.joystick, &editor.macro}) {
-        side->Journal.following = side->pane.edited.connect([side](const Pane::Edit& edit) { onEdited(*side, edit); });
-    }
+    for (Side* side : {&editor.joystick, &editor.macro}) follow(*side);
     editor.TimerJournal.Tick = [&editor] { TimerJournal_Timer(editor); };
 }
 
-void noteTextSettled(Editor& editor, Side& side, const std::optional<FileSum>& file)
+void followEdits(Editor& editor, const JournalledText& text)
 {
-    JournalRecord& journal = side.Journal;
+    follow(text);
+    editor.TimerJournal.Tick = [&editor, text, others = std::move(editor.TimerJournal.Tick)] {
+        others();
+        if (tendJournal(editor, text)) editor.TimerJournal.Enabled = true;
+    };
+}
+
+void noteTextSettled(Editor& editor, const JournalledText& text, const std::optional<FileSum>& file)
+{
+    JournalRecord& journal = text.Journal;
     closeFile(journal);
     removeJournal(editor, std::exchange(journal.Replaced, 0)); // first: alone it would be taken for the latest
     removeJournal(editor, std::exchange(journal.Number, 0));
-    journal.Base = side.pane.TextRTF();
+    journal.Base = text.pane.TextRTF();
     journal.File = file;
-    journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
+    journal.Length = static_cast<std::int64_t>(text.pane.TextLength());
     journal.Unwritten.reset();
     journal.Failed = false;
 
-    Side& partner = editor.other(side);
-    if (partner.Journal.Out)
-        append(editor, partner.Journal, journalPartner(partnerPath(editor, partner), partner.Journal.Chain));
+    Side* const partner = partnerOf(editor, text);
+    if (partner != nullptr && partner->Journal.Out)
+        append(editor, partner->Journal, journalPartner(partnerPath(editor, *partner), partner->Journal.Chain));
 }
 
-void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
+void beginJournal(Editor& editor, const JournalledText& text, std::uint64_t replaces)
 {
     const Steps step(editor.shared.errors, tag);
-    JournalRecord& journal = side.Journal;
+    JournalRecord& journal = text.Journal;
     journal.Unwritten.reset();
-    journal.Length = static_cast<std::int64_t>(side.pane.TextLength());
+    journal.Length = static_cast<std::int64_t>(text.pane.TextLength());
     journal.Number = replaces;
 
     const std::uint64_t kept = keptUntilSafe(journal, replaces);
@@ -212,7 +242,7 @@ void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
     std::unique_ptr<AppendFile> out;
     const bool begun = step([&] {
         journal.Chain = 0;
-        const std::string bytes = journalStart(startOf(editor, side, kept), journal.Chain);
+        const std::string bytes = journalStart(startOf(editor, text, kept), journal.Chain);
         out = editor.platform.files.createAppendFile(journalPath(editor, number));
         out->append(bytes);
         closeFile(journal);
@@ -230,28 +260,19 @@ void beginJournal(Editor& editor, Side& side, std::uint64_t replaces)
     if (kept != replaces) removeJournal(editor, replaces);
 }
 
-void writeDownChanges(Editor& editor, Side& side)
+void writeDownChanges(Editor& editor, const JournalledText& text)
 {
-    JournalRecord& journal = side.Journal;
+    JournalRecord& journal = text.Journal;
     if (!journal.Unwritten || journal.Failed || journal.Held) return;
-    if (!journal.Out) return beginJournal(editor, side, journal.Number);
-    append(editor, journal, journalEdit(takeUnwritten(side), journal.Chain));
-    if (journal.Out && hasOutgrown(side)) beginJournal(editor, side, journal.Number);
+    if (!journal.Out) return beginJournal(editor, text, journal.Number);
+    append(editor, journal, journalEdit(takeUnwritten(journal, text.pane.Text()), journal.Chain));
+    if (journal.Out && hasOutgrown(text)) beginJournal(editor, text, journal.Number);
 }
 
 void TimerJournal_Timer(Editor& editor)
 {
     bool goesOn = false;
-    for (Side* side : {&editor.joystick, &editor.macro}) {
-        JournalRecord& journal = side->Journal;
-        sync(editor, journal);
-        if (journal.Failed) {
-            beginJournal(editor, *side, journal.Number);
-            sync(editor, journal);
-        }
-        const bool closed = closeEnded(journal);
-        goesOn = goesOn || journal.Unsynced || journal.Syncing || journal.Failed || !closed;
-    }
+    for (Side* side : {&editor.joystick, &editor.macro}) goesOn = tendJournal(editor, *side) || goesOn;
     editor.TimerJournal.Enabled = goesOn;
 }
 

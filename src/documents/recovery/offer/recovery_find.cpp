@@ -95,10 +95,13 @@ bool isReplaced(const LeftJournal& left, const std::vector<LeftJournal>& all)
 
 } // namespace
 
-FoundJournals findJournals(Editor& editor)
+FoundJournals findJournals(Editor& editor, std::initializer_list<int> tabs)
 {
     FoundJournals found;
     readAll(editor, found);
+    std::erase_if(found.withText, [&](const LeftJournal& left) {
+        return std::ranges::find(tabs, left.journal.start.tab) == tabs.end();
+    });
     std::vector<LeftJournal> wanted;
     for (LeftJournal& left : found.withText) {
         const bool replaced = isReplaced(left, found.withText);

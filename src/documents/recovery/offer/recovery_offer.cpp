@@ -79,6 +79,15 @@ void reportWrongText(Editor& editor, const LeftJournal& found)
          .icon = BoxIcon::Exclamation});
 }
 
+/// The journal of the text that has come back takes the place of the one that was left, if all of it came back.
+void goOnFrom(Editor& editor, const LeftJournal& found, const JournalledText& text)
+{
+    text.Journal.Held = false;
+    if (text.pane.Text() == found.journal.text) return beginJournal(editor, text, found.number);
+    writeDownChanges(editor, text);
+    reportWrongText(editor, found);
+}
+
 /// The path that the text has now; the journal goes once the one of the document that it has become is safe.
 std::string bringBack(Editor& editor, const LeftJournal& found)
 {
@@ -90,13 +99,7 @@ std::string bringBack(Editor& editor, const LeftJournal& found)
     noteTextSettled(editor, side, found.fileIsSame ? start.file : std::nullopt);
     side.Journal.Held = true; // nothing takes the journal's place before all of it is there
     step([&] { putUnsavedText(editor, side, found.journal.text); });
-    side.Journal.Held = false;
-    if (side.pane.Text() == found.journal.text) {
-        beginJournal(editor, side, found.number);
-    } else {
-        writeDownChanges(editor, side);
-        reportWrongText(editor, found);
-    }
+    goOnFrom(editor, found, side);
     return path;
 }
 
@@ -114,6 +117,7 @@ void openPartner(Editor& editor, const LeftJournal& found, std::vector<std::stri
 struct Offer {
     std::vector<LeftJournal> wanted; ///< joystick first
     std::vector<LeftJournal> older;
+    std::string untitled = {}; ///< the new name of a text beside the pair
 };
 
 Offer sortedOut(std::vector<LeftJournal> journals)
@@ -132,11 +136,12 @@ Offer sortedOut(std::vector<LeftJournal> journals)
 }
 
 /// The sentence about a text whose file was changed by another program.
-std::string newNameInBox(Editor& editor, const LeftJournal& found)
+std::string newNameInBox(Editor& editor, const Offer& offer, const LeftJournal& found)
 {
     if (found.fileIsSame) return {};
+    const bool besidePair = found.journal.start.tab == tabBesidePair;
     return "\n\n" + shownName(found) + " isn't what it was then, so I'd leave the file alone and call yours " +
-           fileNameOf(pathFor(editor, found)) + ".";
+           (besidePair ? offer.untitled : fileNameOf(pathFor(editor, found))) + ".";
 }
 
 /// A text that ends where its journal can't be read any further.
@@ -153,7 +158,7 @@ std::string boxText(Editor& editor, const Offer& offer)
     std::string text = "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been "
                        "taking notes all along, and here's what I've got:\n";
     for (const LeftJournal& found : offer.wanted) text += "\n    " + shownName(found);
-    for (const LeftJournal& found : offer.wanted) text += newNameInBox(editor, found);
+    for (const LeftJournal& found : offer.wanted) text += newNameInBox(editor, offer, found);
     for (const LeftJournal& found : offer.wanted) text += damageInBox(editor, found);
     text += "\n\nShall I bring it back? It will be just as you left it: not saved yet, and one Undo away from what was "
             "saved. If you press No it goes as plain text into\n\n    " +
@@ -205,28 +210,47 @@ void reportUnreadable(Editor& editor, const std::vector<std::string>& paths)
                                     .icon = BoxIcon::Exclamation});
 }
 
-std::vector<std::string> offerTexts(Editor& editor, std::vector<LeftJournal> journals)
+/// What there is no place for, and all of it after a No, is put aside. True: the user wants the texts back.
+bool areWanted(Editor& editor, const Offer& offer)
 {
-    if (journals.empty()) return {};
-    const Offer offer = sortedOut(std::move(journals));
     const Answer answer = editor.platform.dialogues.show({.title = "Phew ... nothing's lost!",
                                                           .text = boxText(editor, offer),
                                                           .icon = BoxIcon::Question,
                                                           .buttons = BoxButtons::YesNo});
     for (const LeftJournal& found : offer.older) putAside(editor, found);
-    if (answer == Answer::Yes) return bringAllBack(editor, offer);
+    if (answer == Answer::Yes) return true;
     for (const LeftJournal& found : offer.wanted) putAside(editor, found);
-    return {};
+    return false;
+}
+
+std::vector<std::string> offerTexts(Editor& editor, std::vector<LeftJournal> journals)
+{
+    if (journals.empty()) return {};
+    const Offer offer = sortedOut(std::move(journals));
+    return areWanted(editor, offer) ? bringAllBack(editor, offer) : std::vector<std::string>();
 }
 
 } // namespace
 
 std::vector<std::string> offerRecovery(Editor& editor)
 {
-    FoundJournals found = findJournals(editor);
+    FoundJournals found = findJournals(editor, {editor.joystick.tab, editor.macro.tab});
     std::vector<std::string> open = offerTexts(editor, std::move(found.withText));
     reportUnreadable(editor, found.unreadable);
     return open;
+}
+
+void offerRecovery(Editor& editor, const JournalledText& text, const std::string& untitled, const BringBack& bringBack)
+{
+    const Steps step(editor.shared.errors, tag);
+    Offer offer = sortedOut(findJournals(editor, {text.tab}).withText);
+    if (offer.wanted.empty()) return;
+    offer.untitled = untitled;
+    if (!areWanted(editor, offer)) return;
+    const LeftJournal& found = offer.wanted.front();
+    text.Journal.Held = true; // nothing takes the journal's place before all of it is there
+    step([&] { bringBack(found.journal, found.fileIsSame); });
+    goOnFrom(editor, found, text);
 }
 
 AsideCopy putAside(Editor& editor, const Side& side)
