@@ -117,7 +117,10 @@ constexpr std::string_view ofThisMachine =
     "| Section | Key | Default | Meaning |\n|---|---|---|---|\n"
     "| `Appearance` | `Theme` | as the desktop | `light` or `dark` |\n"
     "| `Programs` | `Wine`, `DOSBox` | the one in `PATH` | what runs Windows and DOS programs |\n"
-    "| `Drives` | `c`, `d`, ... | as found | folder of a drive |\n";
+    "| `Drives` | `c`, `d`, ... | as found | folder of a drive |\n"
+    "| `Extras` | `TemplatesCopied` |  | `1`: the program's templates have been copied into `Templates\\`; without it "
+    "they "
+    "are at the next start, beside files of the same names |\n";
 
 std::string extrasRows()
 {
