@@ -49,6 +49,29 @@ TEST_F(JoystickWizardTest, ButtonsRunTheCommandsOfTheMenus)
     EXPECT_EQ(ran, (std::vector<std::string>{"MnuFileMacroLoad", "mnuFileNewJoystick", "mnuFileSave"}));
 }
 
+TEST_F(JoystickWizardTest, SavesTheJoystickFileAlsoWhenTheMacroFileIsOnTop)
+{
+    t.typeJoystick("BTN S1 a");
+    t.typeMacro("a = b");
+    editor.TabStrip1.Select(2);
+    t.dialogues.filesToSave = {std::string("c:\\tm\\b50progs\\first.b50")};
+    click(2);
+    EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\first.b50"), "BTN S1 a");
+    EXPECT_EQ(editor.joystick.Changed, changed::saved);
+    EXPECT_EQ(editor.macro.Changed, changed::modified);
+    EXPECT_EQ(t.dialogues.saveRequests.size(), 1U);
+}
+
+TEST_F(JoystickWizardTest, ClosedHalfWayItBeginsAnewNextTime)
+{
+    window.pages.foot[footButton::next].Click();
+    window.pages.foot[footButton::close].Click();
+    EXPECT_EQ(window.WindowOpen, 0);
+    EXPECT_FALSE(window.form.Visible);
+    t.menus().mnuhelpWizCreateJoyFile.Click();
+    EXPECT_EQ(window.pages.PageNumber, 0);
+}
+
 TEST_F(JoystickWizardTest, PutsTheCaretAtTheStartOfTheJoystickFile)
 {
     t.typeJoystick("BTN S1 a");

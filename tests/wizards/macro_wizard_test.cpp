@@ -168,6 +168,28 @@ TEST_F(MacroWizardTest, IntoAProtectedFileNothingIsWrittenAndTheBoxesKeepTheirTe
     EXPECT_EQ(t.status(), "untitled.m50 is protected and can't be edited.");
 }
 
+TEST_F(MacroWizardTest, WritesIntoTheFileThatIsOpenWhenItsButtonIsPressed)
+{
+    menus.mnuWizSpeedy.Click();
+    menus.mnuInsertRAW.Click();
+    t.typeMacro("first = f\r\n");
+    write("Eject", "e");
+    t.files.addFile("c:\\tm\\b50progs\\a.b50", "BTN S1 one\r\n");
+    t.files.addFile("c:\\tm\\b50progs\\a.m50", "one = a\r\n");
+    t.dialogues.answers = {Answer::No};
+    t.openBoth("c:\\tm\\b50progs\\a.b50");
+    EXPECT_EQ(maker.Text1[0].Text, "Eject") << "the boxes have nothing to do with the file";
+    editor.MacroText.setSelStart(9);
+    click(4);
+    EXPECT_EQ(macro(), "one = a\r\nEject = e\r\n");
+    Speedy& speedy = t.program().wizards.speedy;
+    speedy.maker.Text1[0].Text = "Gear";
+    t.program().safein.TotalCombinedText.Text = "g";
+    speedy.maker.Command1[4].Click();
+    EXPECT_EQ(macro(), "one = a\r\nEject = e\r\nGear = g\r\n");
+    EXPECT_EQ(maker.Text1[1].Text, "g") << "Safein's text goes to both";
+}
+
 TEST_F(MacroWizardTest, AHeadingFromTheListHasTenBlanksAndAnEmptyLineBelow)
 {
     pick("Harm");
