@@ -53,6 +53,7 @@ QWidget* PageMaker::page(const WizardPage& page, bool withTitle)
 {
     auto* body = new QWidget;
     auto* column = new QVBoxLayout(body);
+    column->setSpacing(body->fontMetrics().lineSpacing() * 2 / 3); // paragraphs stand apart
     if (withTitle) column->addWidget(titleLabel(page.title));
     for (const WizardBlock& block : page.blocks) add(*column, block);
     column->addStretch();

@@ -13,7 +13,7 @@ namespace tarvex {
 
 namespace {
 
-constexpr qreal scale = 0.62; // of the drawing's own size, in which it is made to be clicked
+constexpr qreal scale = 0.58; // of the drawing's own size, in which it is made to be clicked
 constexpr qreal markDistance = 8;
 constexpr qreal markRadius = 8;
 constexpr qreal markWidth = 5;

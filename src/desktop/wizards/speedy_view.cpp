@@ -3,6 +3,7 @@
 #include "desktop/wizards/page_body.h"
 
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -23,6 +24,17 @@ SpeedyView::SpeedyView(const std::vector<WizardPage>& pages, Speedy& window, QWi
     column->addWidget(tabs);
     for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
     tabs->setFocus();
+}
+
+/// Room for each tab without scrolling.
+QSize SpeedyView::sizeHint() const
+{
+    constexpr int charactersWide = 64;
+    constexpr int linesHigh = 24;
+    const QFontMetrics metrics = fontMetrics();
+    return QSize(charactersWide * metrics.averageCharWidth(), linesHigh * metrics.lineSpacing())
+        .expandedTo(minimumSizeHint())
+        .boundedTo(screen()->availableSize() * 9 / 10);
 }
 
 } // namespace tarvex

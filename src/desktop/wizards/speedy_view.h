@@ -12,6 +12,8 @@ class SpeedyView : public ToolFormWindow {
 public:
     /// A page for each tab. The window's state outlives this.
     SpeedyView(const std::vector<WizardPage>& pages, Speedy& window, QWidget* parent);
+
+    QSize sizeHint() const override;
 };
 
 } // namespace tarvex

@@ -17,7 +17,7 @@ namespace tarvex {
 namespace {
 
 constexpr int charactersWide = 76;
-constexpr int linesHigh = 44;
+constexpr int linesHigh = 48;
 
 constexpr const char* footNames[footButton::count] = {"FootClose", "FootNext", "FootBack", "FootHelp"};
 
