@@ -40,6 +40,14 @@ expect_no_title() { until_true 20 lacks_title "$1" || fail "there is still a win
 active_is() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) == *"$1"* ]]; }
 expect_active() { until_true 20 active_is "$1" || fail "\"$1\" is not the active window"; }
 
+# expect_dialogue [TITLE]: keys go to a window that is neither the program's nor the one called TITLE, if that is given.
+dialogue_active() {
+    local active
+    active=$(xdotool getactivewindow getwindowname 2>/dev/null)
+    [[ -n $active && $active != "Tarvex - "* && (-z ${1:-} || $active != *"$1"*) ]]
+}
+expect_dialogue() { until_true 20 dialogue_active "${1:-}" || fail "no dialogue came up"; }
+
 menus_open() { xdotool search --onlyvisible --pid "$pid" 2>/dev/null | wc -l; }
 
 # The menu that ALT+key opens is a window of its own.

@@ -25,8 +25,7 @@ go_to() {
 }
 # file_dialogue NAME: names a file in the dialogue that comes up, which goes away.
 file_dialogue() {
-    asks() { ! active_is "$here"; }
-    until_true 20 asks || fail "nobody asks for a name"
+    expect_dialogue "$here"
     type_text "$place/$1"
     press Return
     expect_active "$here"
