@@ -145,6 +145,7 @@ void followHandbookLink(Handbook& handbook, const std::string& link)
 {
     const Steps steps;
     steps([&] {
+        if (!handbook.Ready) return; // no page is shown that could have one
         if (link.starts_with('#')) {
             const std::string shown = handbook.Target.get();
             return visit(handbook, shown.substr(0, shown.find('#')) + link);

@@ -41,7 +41,7 @@ void TIPS_Form_Load(TipWindow& window)
 {
     const Steps step(window.shared.errors, "TIPS Form_Load");
     step([&] { window.Form.TopMost = true; });
-    step([&] { window.chkLoadTipsAtStartup.Value = window.shared.settings.ShowTips != 0; });
+    step([&] { window.chkLoadTipsAtStartup.Value = window.shared.settings.ShowTips == 1; });
     window.tips.clear();
     window.CurrentTip = 0;
     window.lblTipText.Caption = "";

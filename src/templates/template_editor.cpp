@@ -61,6 +61,7 @@ void wireEditCommands(TemplateForm& window)
     window.mnuViewEditColours.handler = [&window] { editPreferences(window, preferencesPage::colours); };
     window.mnuViewrefreshLayout.handler = on(window, mnuViewrefreshLayout_Click);
     window.mnuRefreshIndent.handler = on(window, mnuRefreshIndent_Click);
+    window.mnuHelpContents.handler = [&window] { window.editor.menus.mnuHelpContents.Click(); };
 }
 
 void wirePane(TemplateForm& window)

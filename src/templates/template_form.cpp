@@ -59,6 +59,7 @@ std::vector<MenuEntry> TemplateForm::menuBar()
           divider,
           {&mnuViewrefreshLayout, "Ctrl+H", {}},
           {&mnuRefreshIndent, {}, {}}}},
+        {&mnuHelp, {}, {{&mnuHelpContents, {}, {}}}},
     };
 }
 

@@ -76,6 +76,8 @@ struct TemplateForm {
     MenuItem mnuViewEditColours{"mnuViewEditColours", "&Edit colours..."};
     MenuItem mnuViewrefreshLayout{"mnuViewrefreshLayout", "&Refresh layout"};
     MenuItem mnuRefreshIndent{"mnuRefreshIndent", "Refresh &indent"};
+    MenuItem mnuHelp{"mnuHelp", "&Help"};
+    MenuItem mnuHelpContents{"mnuHelpContents", "&Tarvex help topics"};
     MenuItem mnuPopShow{"mnuPopShow"}; ///< root of the pop-up menu
     MenuItem mnuPopBlack{"mnuPopBlack", "&Black text"};
     MenuItem mnuSetAsDefault{"mnuSetAsDefault", "Set as de&fault"};

@@ -1,6 +1,10 @@
 #include "help/handbook.h"
 
+#include "help/window_help.h"
 #include "help_program.h"
+#include "shell/help_topics.h"
+
+#include <algorithm>
 
 namespace tarvex {
 namespace {
@@ -83,6 +87,53 @@ TEST_F(HandbookTest, SafeinsHelpEntriesLeadToTheirTopics)
     EXPECT_EQ(target(), "safein.html");
 }
 
+TEST_F(HandbookTest, TheHelpMenuOfTheTemplateEditorOpensIt)
+{
+    t.files.addDirectory("c:\\tarvex\\Templates");
+    t.menus().mnuAppsTemplate.Click();
+    t.program().templateEditor.mnuHelpContents.Click();
+    EXPECT_TRUE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, TheHelpButtonsOfWindowsWithPagesLeadToTheirTopics)
+{
+    std::vector<int> topics;
+    t.program().operations.HelpTopic = [&](int number) { topics.push_back(number); };
+    Preferences& preferences = t.program().preferences;
+    for (const int page : {Preferences::fileLocations, Preferences::miscellaneous, Preferences::extras}) {
+        preferences.SSTab1.Tab = page;
+        preferences.Command6.Click();
+    }
+    EXPECT_THAT(topics, ElementsAre(5200, 5206, 5208));
+}
+
+TEST_F(HandbookTest, EveryWindowButTheKeyTesterHasATopicThatItsPageHas)
+{
+    EXPECT_EQ(topicOfWindow("RAWform"), 2500);
+    EXPECT_EQ(topicOfWindow("JoyPlot"), 7021);
+    EXPECT_EQ(topicOfWindow("KeyTestForm"), 0);
+    EXPECT_EQ(topicOfWindow("nonsense"), 0);
+    for (const char* window : {"InsertOptions", "TemplateForm", "MacroWizard", "Title", "Heading", "SingleTextForm"})
+        EXPECT_TRUE(std::ranges::binary_search(helpTopics, topicOfWindow(window))) << window;
+    EXPECT_TRUE(std::ranges::is_sorted(helpTopics));
+}
+
+TEST_F(HandbookTest, ANewcomerIsShownTheTourAfterThePreferences)
+{
+    system.files["index.txt"] += "topic\t100\ttour.html\n";
+    t.program().operations.ShowTour();
+    EXPECT_EQ(target(), "tour.html");
+    EXPECT_TRUE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, ANewcomerWithoutAHandbookIsShownNothing)
+{
+    system.files.clear();
+    t.program().operations.ShowTour();
+    EXPECT_FALSE(book.form.Visible);
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
 TEST_F(HandbookTest, TheLogicTabsHelpIsAKeyword)
 {
     system.files["index.txt"] += "keyword\tlogic\ttour.html\n";
@@ -121,7 +172,6 @@ TEST_F(HandbookTest, ThePageThatIsShownIsNotVisitedTwice)
 
 TEST_F(HandbookTest, OnlyTheLastTwoHundredPagesAreKept)
 {
-    for (int i = 0; i < 300; ++i) followHandbookLink(book, "#nothing yet");
     t.menus().mnuHelpContents.Click();
     for (int i = 0; i < 150; ++i) {
         followHandbookLink(book, "btn.html");
@@ -144,6 +194,13 @@ TEST_F(HandbookTest, LinksGoToPagesPlacesAndTheWeb)
     followHandbookLink(book, "/etc/passwd");
     EXPECT_EQ(target(), "safein.html#top");
     EXPECT_EQ(system.opened.size(), 1U);
+}
+
+TEST_F(HandbookTest, ALinkBeforeThereIsAPageLeadsNowhere)
+{
+    followHandbookLink(book, "#top");
+    followHandbookLink(book, "btn.html");
+    EXPECT_EQ(target(), "");
 }
 
 TEST_F(HandbookTest, TheFilterLetsWordsThroughThatBeginSo)

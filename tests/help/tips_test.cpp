@@ -61,12 +61,13 @@ TEST_F(TipOfTheDay, ASingleTipStaysOnNextTip)
 
 TEST_F(TipOfTheDay, AMissingFileShowsAnEmptyTipAndNothingElse)
 {
+    t.program().shared.errors.ErrorProcedure = "before";
     open();
     EXPECT_EQ(shown(), "");
     window.cmdNextTip.Click();
     EXPECT_EQ(shown(), "");
     EXPECT_TRUE(t.dialogues.boxes.empty());
-    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "");
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "before");
 }
 
 TEST_F(TipOfTheDay, AFileWithoutALineShowsAnEmptyTip)
