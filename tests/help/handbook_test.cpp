@@ -233,7 +233,7 @@ TEST_F(HandbookTest, AMissingCollectionIsExplainedAndTriedAgainNextTime)
     t.menus().mnuHelpContents.Click();
     EXPECT_FALSE(book.form.Visible);
     EXPECT_EQ(t.lastBox().title, "Where's the handbook?");
-    EXPECT_THAT(t.lastBox().text, HasSubstr("there is no file /usr/share/tarvex/handbook/tarvex.qch"));
+    EXPECT_THAT(t.lastBox().text, HasSubstr("there is no file /usr/share/tarvex-help/handbook/tarvex.qch"));
     keyword("BTN");
     topic(2500);
     EXPECT_EQ(t.dialogues.boxes.size(), 3U);

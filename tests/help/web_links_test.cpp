@@ -45,7 +45,7 @@ TEST_F(WebLinks, APageOfTheHandbookIsOpenedWhereItIsInstalled)
 {
     haveFile("file:tour.html\r\n");
     click(0);
-    EXPECT_THAT(system.opened, ElementsAre("file:///usr/share/tarvex/handbook/tour.html"));
+    EXPECT_THAT(system.opened, ElementsAre("file:///usr/share/tarvex-help/handbook/tour.html"));
 }
 
 TEST_F(WebLinks, OtherSchemesFilesAndMetacharactersAreNotOpened)

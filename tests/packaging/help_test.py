@@ -1,15 +1,14 @@
 """The help in an installation: the handbook, its reader, and the files of the program directory."""
 
 import re
-import sys
 import unittest
 
 from installation import INSTALLED, SHARE, SOURCES, output
 
 
 class Help(unittest.TestCase):
-    handbook = SHARE / "tarvex/handbook"
-    files = SHARE / "tarvex/program"
+    handbook = SHARE / "tarvex-help/handbook"
+    files = SHARE / "tarvex-help/program"
 
     def test_the_collection_and_its_pages_for_a_browser_are_there(self):
         self.assertTrue((self.handbook / "tarvex.qch").read_bytes().startswith(b"SQLite format 3\0"))
@@ -24,6 +23,10 @@ class Help(unittest.TestCase):
     def test_what_only_the_build_needs_is_not_installed(self):
         left = [file.name for file in self.handbook.rglob("*") if file.suffix in (".qhp", ".qhc", ".md")]
         self.assertEqual(left + [file.name for file in self.handbook.glob("index.txt")], [])
+
+    def test_the_program_directory_of_a_user_gets_no_copy_of_the_handbook(self):
+        copied = {entry.name for entry in (SHARE / "tarvex").iterdir()}
+        self.assertEqual(copied, {"examples"})
 
     def test_the_reader_of_the_collection_is_beside_the_program(self):
         readers = list(INSTALLED.glob("lib*/**/tarvex/handbook.so"))
@@ -44,4 +47,4 @@ class Help(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(argv=sys.argv[:1])
+    unittest.main()

@@ -23,7 +23,7 @@ struct FakeHelpSystem final : HelpSystem {
                       "keyword\traw code\tsafein.html#raw\n"
                       "keyword\ttour\ttour.html\n"
                       "topic\t2500\tsafein.html\n"}};
-    std::string why = "there is no file /usr/share/tarvex/handbook/tarvex.qch";
+    std::string why = "there is no file /usr/share/tarvex-help/handbook/tarvex.qch";
     bool hasBrowser = true;
     std::vector<std::string> opened; ///< addresses
     std::map<std::pair<std::string, std::string>, std::string> registry;
@@ -37,7 +37,7 @@ struct FakeHelpSystem final : HelpSystem {
     std::string whyNoHandbook() override { return why; }
     std::string browserAddress(const std::string& page) override
     {
-        return files.empty() ? "" : "file:///usr/share/tarvex/handbook/" + page;
+        return files.empty() ? "" : "file:///usr/share/tarvex-help/handbook/" + page;
     }
     bool openAddress(const std::string& address) override
     {

@@ -4,7 +4,7 @@
 
 # As installed: the handbook lies beside the folder of the program.
 root=$place
-place=$root/bin
+place=$root/program
 mkdir "$place"
 trap 'finish; rm -rf "$root"' EXIT
 build=$(dirname "$(dirname "$program")")
