@@ -2,6 +2,8 @@
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
 #include "desktop/platform/qt_machine.h"
+#include "desktop/platform/qt_pictures.h"
+#include "desktop/platform/qt_printers.h"
 #include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/preferences/preferences_view.h"
@@ -83,8 +85,11 @@ private:
     QtClipboard m_clipboard;
     QtProcesses m_processes{m_drives, m_files, m_dialogues, m_drives.toDos(m_folder)};
     QtMachine m_machine{m_drives, m_processes};
-    Platform m_platform{
-        m_files, m_dialogues, m_desktop, m_sound, m_clipboard, m_processes, m_machine, m_drives.toDos(m_folder), {}};
+    QtPrinters m_printers;
+    QtPictures m_pictures{m_drives};
+    Platform m_platform{m_files,     m_dialogues, m_desktop,  m_sound,    m_clipboard,
+                        m_processes, m_machine,   m_printers, m_pictures, m_drives.toDos(m_folder),
+                        {}};
     Program m_program{m_platform};
 };
 

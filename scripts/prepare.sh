@@ -9,7 +9,7 @@ run       fonts-liberation libqt6sql6-sqlite
 wayland   qt6-wayland
 display   xvfb
 picture   openbox wmctrl imagemagick
-test      python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool aspell aspell-en
+test      poppler-utils python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool aspell aspell-en
 desktop   desktop-file-utils appstream shared-mime-info libglib2.0-bin xdg-utils mandoc zsh fish
 handbook  pngquant optipng
 release   git dpkg-dev file binutils xz-utils

@@ -9,6 +9,8 @@
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
 #include "desktop/platform/qt_machine.h"
+#include "desktop/platform/qt_pictures.h"
+#include "desktop/platform/qt_printers.h"
 #include "desktop/platform/qt_processes.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/preferences/preferences_view.h"
@@ -16,6 +18,7 @@
 #include "desktop/templates/template_resources.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
+#include "desktop/viewer/viewer_forms.h"
 #include "documents/files/file_open.h"
 #include "platform/machine_settings.h"
 #include "platform/posix/command_line.h"
@@ -109,6 +112,8 @@ int runProgram(tarvex::Application& application, const std::string& file)
     QtClipboard clipboard;
     QtProcesses processes(drives, files, dialogues, drives.toDos(directory));
     QtMachine machine(drives, processes);
+    QtPrinters printers;
+    QtPictures pictures(drives);
     Platform platform{files,
                       dialogues,
                       desktop,
@@ -116,6 +121,8 @@ int runProgram(tarvex::Application& application, const std::string& file)
                       clipboard,
                       processes,
                       machine,
+                      printers,
+                      pictures,
                       drives.toDos(directory),
                       drives.fromArgument(file)};
 
@@ -135,6 +142,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     addListForms(dialogues, program.lists, &window);
     addPreferencesForm(dialogues, program.preferences, &window);
     addHelpForms(dialogues, program.help, &window);
+    addViewerForms(dialogues, program.imageViewer, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
     int status = EXIT_SUCCESS;

@@ -22,6 +22,8 @@ enum class ErrorCode : int {
     PathFileAccess = 75,
     PathNotFound = 76,
     InvalidPropertyValue = 380,
+    InvalidPicture = 481,
+    PrinterError = 482,
 };
 
 /// A statement that failed. `lastDllError` is the operating system's own number, 0 where it had no part in it.

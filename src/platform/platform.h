@@ -57,6 +57,8 @@ public:
 };
 
 class Machine;
+class Pictures;
+class Printers;
 
 /// The world as the program sees it. All members outlive the program.
 struct Platform {
@@ -67,6 +69,8 @@ struct Platform {
     Clipboard& clipboard;
     Processes& processes;
     Machine& machine;
+    Printers& printers;
+    Pictures& pictures;
     std::string programDirectory; ///< DOS path of the directory with the settings, no "\" at the end
     std::string commandLine;      ///< one DOS path or nothing
 };

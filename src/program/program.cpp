@@ -13,6 +13,7 @@
 #include "documents/find/find_and_replace.h"
 #include "documents/pair/editor_layout.h"
 #include "documents/pair/tabs.h"
+#include "documents/printing/print_commands.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/window/editor_window.h"
 #include "documents/window/frame_commands.h"
@@ -27,6 +28,7 @@
 #include "shell/handler.h"
 #include "templates/template_editor.h"
 #include "templates/template_recovery.h"
+#include "viewer/image_viewer.h"
 #include "wizards/composer_places.h"
 
 namespace tarvex {
@@ -113,7 +115,7 @@ void wirePanes(Editor& editor)
 Program::Program(Platform& thePlatform)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
       findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor),
-      templateEditor(editor), lists(editor), preferences(editor, lists), help(editor)
+      templateEditor(editor), imageViewer(editor), lists(editor), preferences(editor, lists), help(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -121,6 +123,7 @@ Program::Program(Platform& thePlatform)
     wirePanes(editor);
     followEdits(editor);
     wirePaneMenu(editor);
+    wirePrinting(editor);
     wireFindAndReplace(findAndReplace);
     wireSafein(safein);
     wireComposer(composer);
@@ -128,6 +131,7 @@ Program::Program(Platform& thePlatform)
     wireGenerators(generators);
     wireWizards(wizards);
     wireTemplateEditor(templateEditor);
+    wireImageViewer(imageViewer);
     wizards.joystick.composer = composerPlaces(composer);
     safein.MirrorStatement = [this](const std::string& statement) { takeKeys(wizards, statement); };
     wireFrame(editor);

@@ -14,6 +14,7 @@
 #include "shell/operations.h"
 #include "shell/shared.h"
 #include "templates/template_form.h"
+#include "viewer/view_image.h"
 #include "wizards/wizards.h"
 
 namespace tarvex {
@@ -44,6 +45,7 @@ public:
     Generators generators;
     Wizards wizards;
     TemplateForm templateEditor;
+    ViewImage imageViewer;
     Lists lists;
     Preferences preferences;
     Help help;

@@ -13,6 +13,9 @@ constexpr std::string_view section = "Extras";
 constexpr ExtraTick ticks[] = {
     {extraKey::askForFiles, "Ask where m&y files are while I have no folder for them",
      "Asks at once when the preferences close, and then no more until this is ticked again", true},
+    {extraKey::printPageNumbers, "Print page num&bers at the foot", "Numbers the pages of printed files", false},
+    {extraKey::printFileName, "Print the file's name at the f&oot", "Names the file on each of its printed pages",
+     false},
 };
 
 const ExtraTick& rowOf(std::string_view key)

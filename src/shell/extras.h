@@ -19,6 +19,8 @@ std::span<const ExtraTick> extraTicks();
 
 namespace extraKey {
 constexpr std::string_view askForFiles = "AskForFiles";
+constexpr std::string_view printPageNumbers = "PrintPageNumbers";
+constexpr std::string_view printFileName = "PrintFileName";
 } // namespace extraKey
 
 /// The ticks as Platform.ini has them; nothing is cached.

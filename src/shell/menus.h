@@ -30,6 +30,9 @@ struct Menus {
     MenuItem mnuFileCloseBoth{"mnuFileCloseBoth", "C&lose both files"};
     MenuItem mnuFilePrintJoystick{"mnuFilePrintJoystick", "&Print joystick file"};
     MenuItem mnuFilePrintMacro{"mnuFilePrintMacro", "Print macro &file"};
+    MenuItem mnuFilePrintPreview{"mnuFilePrintPreview", "Print previe&w..."};
+    MenuItem mnuFilePrintPdf{"mnuFilePrintPdf", "Save as P&DF..."};
+    MenuItem mnuFilePrintControls{"mnuFilePrintControls", "Print t&he controls..."};
     MenuItem mnuFilePrinterSetup{"mnuFilePrinterSetup", "Prin&ter setup..."};
     MenuItem mnuFilePrevious{"mnuFilePrevious", "P&revious joystick files"};
     MenuArray mnuJFArray{"mnuJFArray", {"(no files yet)"}};

@@ -1,5 +1,6 @@
 #include "templates/template_editor.h"
 
+#include "documents/printing/print_pane.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/window/colour_selector.h"
 #include "documents/window/preferences_page.h"
@@ -28,7 +29,8 @@ void wireFileCommands(TemplateForm& window)
     window.Command2.handler = on(window, Command2_Click);
     window.mnuFileClose.handler = [&window] { window.form.unload(); };
     window.Text1.LostFocus = on(window, Text1_LostFocus);
-    window.CmndPrint.Enabled = window.mnuFilePrint.handler != nullptr;
+    window.CmndPrint.handler = on(window, CmndPrint_Click);
+    window.mnuFilePrint.handler = on(window, CmndPrint_Click);
 }
 
 /// Opens the preferences at a page; a text look that was changed there is the template's, too.
@@ -144,6 +146,12 @@ void ToggleButton1_Click(TemplateForm& window)
 {
     window.ToggleButton1.hold(!window.ToggleButton1.isHeld());
     window.RightMargin = window.ToggleButton1.isHeld() ? TemplateForm::wrapsAtPane : TemplateForm::wideMargin;
+}
+
+void CmndPrint_Click(TemplateForm& window)
+{
+    if (window.TemplateText.TextLength() == 0 || !hasPrinter(window.editor)) return;
+    printPane(window.editor, window.TemplateText, window.TemplateName);
 }
 
 } // namespace tarvex

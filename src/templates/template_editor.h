@@ -14,5 +14,6 @@ bool Form_QueryUnload(TemplateForm& window);
 bool closeTemplateEditor(TemplateForm& window);
 void UpdateTooltips(TemplateForm& window);
 void ToggleButton1_Click(TemplateForm& window);
+void CmndPrint_Click(TemplateForm& window);
 
 } // namespace tarvex

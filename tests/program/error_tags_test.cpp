@@ -108,8 +108,16 @@ struct FailingProgram {
     FailingFiles files{machine.files, power};
     FailingDialogues dialogues{power};
     FailingClipboard clipboard{power};
-    Platform platform{files,     dialogues,         machine.desktop, machine.sound,
-                      clipboard, machine.processes, machine.machine, TestMachine::programDirectory,
+    Platform platform{files,
+                      dialogues,
+                      machine.desktop,
+                      machine.sound,
+                      clipboard,
+                      machine.processes,
+                      machine.machine,
+                      machine.printers,
+                      machine.pictures,
+                      TestMachine::programDirectory,
                       {}};
     Program program{platform};
     Tags tags;

@@ -16,8 +16,7 @@ using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
 const Names commandsToCome = {
-    "mnuAppsImageViewer",  "mnuAppsJoyAnalyser", "mnuFilePrintJoystick", "mnuFilePrintMacro",
-    "mnuFilePrinterSetup", "mnuInsertQuickTip",  "mnuSendToKeyTest",
+    "mnuAppsJoyAnalyser", "mnuFilePrintControls", "mnuInsertQuickTip", "mnuSendToKeyTest",
 };
 
 /// Operations that nobody carries out yet.

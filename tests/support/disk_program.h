@@ -32,6 +32,8 @@ struct DiskProgram {
                                                .clipboard = clipboard,
                                                .processes = processes,
                                                .machine = machine,
+                                               .printers = printers,
+                                               .pictures = pictures,
                                                .programDirectory = drives.toDos(folder),
                                                .commandLine = drives.fromArgument(commandLine)}
     {
@@ -55,6 +57,8 @@ struct DiskProgram {
     FakeClipboard clipboard;
     PosixProcesses processes;
     PosixMachine machine;
+    FakePrinters printers;
+    FakePictures pictures{files};
     Platform platform;
     std::unique_ptr<Program> program;
 };

@@ -3,6 +3,7 @@
 #include "platform/machine.h"
 #include "platform/platform.h"
 #include "program/program.h"
+#include "support/fake_printers.h"
 #include "support/memory_files.h"
 #include "support/scripted_dialogues.h"
 
@@ -121,7 +122,10 @@ struct TestMachine {
     FakeClipboard clipboard;
     FakeProcesses processes;
     FakeMachine machine;
-    Platform platform{files, dialogues, desktop, sound, clipboard, processes, machine, programDirectory, {}};
+    FakePrinters printers;
+    FakePictures pictures{files};
+    Platform platform{files,    dialogues, desktop,          sound, clipboard, processes, machine,
+                      printers, pictures,  programDirectory, {}};
 
     /// Sets a key of Tarvex.ini, as a user with a text editor would.
     void setIni(const std::string& section, const std::string& key, const std::string& value);

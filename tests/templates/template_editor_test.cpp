@@ -499,5 +499,38 @@ TEST_F(TemplateEditorTest, WithoutATemplatesFolderASaveIsReported)
     EXPECT_EQ(window.TemplateChanged, 1);
 }
 
+// ---- print
+// -----------------------------------------------------------------------------------------------------------
+
+TEST_F(TemplateEditorTest, PrintPrintsTheTextBelowItsNameAndTheDate)
+{
+    type("BTN S1 fire");
+    window.CmndPrint.Click();
+    ASSERT_EQ(t.printers.printer.pages.size(), 1U);
+    const FakePrinter::Page& page = t.printers.printer.pages[0];
+    EXPECT_EQ(page.lines, (std::vector<std::string>{"", "*untitled.rtf", "*Date printed: 21 November 2026", "", " "}));
+    EXPECT_EQ(page.text, "BTN S1 fire");
+    EXPECT_EQ(t.status(), "Finished printing untitled.rtf");
+    window.mnuFilePrint.Click();
+    EXPECT_EQ(t.printers.printer.ended, 2);
+}
+
+TEST_F(TemplateEditorTest, PrintOfAnEmptyPaneDoesNothing)
+{
+    t.printers.count = 0;
+    window.mnuFilePrint.Click();
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    EXPECT_TRUE(t.printers.printer.pages.empty());
+}
+
+TEST_F(TemplateEditorTest, PrintWithoutAPrinterSaysSo)
+{
+    type("BTN S1 fire");
+    t.printers.count = 0;
+    window.CmndPrint.Click();
+    EXPECT_EQ(box().title, "No printer to print to");
+    EXPECT_EQ(box().text, "I couldn't detect a printer connected to your system. Please check your printer settings.");
+}
+
 } // namespace
 } // namespace tarvex

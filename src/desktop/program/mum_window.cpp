@@ -12,6 +12,7 @@
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/status_bar_view.h"
 #include "desktop/templates/template_view.h"
+#include "desktop/viewer/view_image_view.h"
 #include "desktop/wizards/wizard_forms.h"
 #include "documents/editing/pane_keys.h"
 #include "documents/window/editor_window.h"
@@ -71,6 +72,8 @@ MumWindow::MumWindow(Program& program)
                   [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
     makeWhenShown(program.templateEditor.form, m_bindings,
                   [this] { return new TemplateView(m_program.templateEditor, this); });
+    makeWhenShown(program.imageViewer.form, m_bindings,
+                  [this] { return new ViewImageView(m_program.imageViewer, this); });
     makeWizardsWhenShown(program.wizards, m_bindings, this);
     makeHelpWhenShown(program.help, m_bindings, this);
     makeWhenShown(program.composer.form, m_bindings, [this] { return new ComposerView(m_program.composer, this); });

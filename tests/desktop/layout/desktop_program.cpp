@@ -27,6 +27,7 @@ DesktopProgram::DesktopProgram()
     addListForms(dialogues, program->lists, window.get());
     addPreferencesForm(dialogues, program->preferences, window.get());
     addHelpForms(dialogues, program->help, window.get());
+    addViewerForms(dialogues, program->imageViewer, window.get());
     EXPECT_TRUE(program->start());
     window->showNormal();
     window->resize(1000, 700);

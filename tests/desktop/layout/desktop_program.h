@@ -7,6 +7,7 @@
 #include "desktop/preferences/preferences_view.h"
 #include "desktop/program/mum_window.h"
 #include "desktop/theme.h"
+#include "desktop/viewer/viewer_forms.h"
 #include "platform/posix/drive_map.h"
 #include "shell/appearance.h"
 #include "support/fake_help_system.h"
@@ -26,6 +27,8 @@ struct DesktopProgram {
                       machine.clipboard,
                       machine.processes,
                       machine.machine,
+                      machine.printers,
+                      machine.pictures,
                       TestMachine::programDirectory,
                       {}};
     FakeHelpSystem helpSystem;

@@ -136,7 +136,7 @@ TEST(LayoutFaults, APageIsLookedAtThroughItsScrollAreaAndMustNotScrollSideways)
 const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
 
 /// Forms that only other forms show.
-constexpr const char* withoutCommand[] = {"FilesHome", "Import"};
+constexpr const char* withoutCommand[] = {"FilesHome", "Import", "SelectPictureForm"};
 
 /// Dialogues of the toolkit's own making.
 bool isToolkits(const QWidget& window) { return qobject_cast<const QFileDialog*>(&window) != nullptr; }
