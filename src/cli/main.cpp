@@ -5,6 +5,7 @@
 #include "cli/layout_command.h"
 #include "cli/macro_commands.h"
 #include "cli/previous_command.h"
+#include "cli/sheet_command.h"
 #include "cli/statement_command.h"
 
 #include <CLI/CLI.hpp>
@@ -30,6 +31,7 @@ constexpr const char* teaching = R"(Examples:
   tarvexctl align mig.b50 > aligned.b50       line up the slash modifiers
   tarvexctl statement mig.b50 H1U             what the hat does when pushed up
   tarvexctl controls mig.b50                  every control, with its statement
+  tarvexctl sheet mig.b50 -o mig.pdf          the same on paper, with the pictures
   tarvexctl key DEL --ctrl                    what Ctrl+Delete is called, and its codes
   tarvexctl raw '#12 #1C #F0 #1C #F0 #12'     which keys raw codes press and release
   tarvexctl previous                          the joystick files opened last
@@ -85,6 +87,12 @@ order of the Composer's pictures. Of several statements the first is listed.
 
 JSON: [{"control": "S1", "statement": "BTN S1 /U ...", "line": 12}, ...]
 Lines count from 1; without a statement both are null.)";
+
+constexpr const char* sheetTeaching =
+    R"(The sheet has a page for each controller: its picture, and what its controls do, with
+the layers /U /M /D and /I /O side by side and the keys behind each macro. Without
+MACROFILE the one is taken that the joystick file's MDEF names, else the one of its
+name, in its folder. OUT ends in .pdf, .svg or .html.)";
 
 constexpr const char* keyTeaching =
     R"(KEY is an index of the key table, 0 to 101, or a key's name as on an F-16 FLCS: a,
@@ -190,6 +198,16 @@ void addControls(CLI::App& app, Work& work)
     command->add_flag("--json", options->json, "as JSON");
 }
 
+void addSheet(CLI::App& app, Work& work)
+{
+    const auto [command, options] =
+        newCommand(app, work, sheetCommand, "sheet", "Draw what is on which control", sheetTeaching);
+    command->add_option("JOYSTICKFILE", options->joystickFile, "joystick file; - reads standard input")->required();
+    command->add_option("MACROFILE", options->macroFile, "its macro file");
+    command->add_option("-o,--output", options->output, "the file to write")->type_name("OUT")->required();
+    command->add_flag("--letter", options->letter, "US Letter paper instead of A4");
+}
+
 void addKey(CLI::App& app, Work& work)
 {
     const auto [command, options] =
@@ -254,6 +272,7 @@ int run(int argc, char** argv)
     addAlign(app, work);
     addStatement(app, work);
     addControls(app, work);
+    addSheet(app, work);
     addKey(app, work);
     addRaw(app, work);
     addPrevious(app, work);

@@ -24,6 +24,7 @@
 #include "language/commands/language_commands.h"
 #include "preferences/preferences_command.h"
 #include "safein/safein.h"
+#include "sheet/commands/print_controls.h"
 #include "shell/frame/mum_window.h"
 #include "shell/handler.h"
 #include "templates/template_editor.h"
@@ -124,6 +125,7 @@ Program::Program(Platform& thePlatform)
     followEdits(editor);
     wirePaneMenu(editor);
     wirePrinting(editor);
+    wireControlSheet(editor);
     wireFindAndReplace(findAndReplace);
     wireSafein(safein);
     wireComposer(composer);

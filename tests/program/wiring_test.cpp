@@ -16,7 +16,9 @@ using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
 const Names commandsToCome = {
-    "mnuAppsJoyAnalyser", "mnuFilePrintControls", "mnuInsertQuickTip", "mnuSendToKeyTest",
+    "mnuAppsJoyAnalyser",
+    "mnuInsertQuickTip",
+    "mnuSendToKeyTest",
 };
 
 /// Operations that nobody carries out yet.

@@ -1,0 +1,81 @@
+#include "sheet/commands/print_controls.h"
+
+#include "support/test_program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarvex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+struct PrintControlsTest : testing::Test {
+    TestProgram t;
+    PrintControlsTest()
+    {
+        t.files.addFile("c:\\tm\\b50progs\\mig.b50", "USE TQS\r\nUSE MDEF mig\r\nBTN S1 fire\r\nBTN T1 gear\r\n");
+        t.files.addFile("c:\\tm\\b50progs\\mig.m50", "fire = SPC\r\n");
+        t.openBoth("c:\\tm\\b50progs\\mig.b50");
+    }
+};
+
+TEST_F(PrintControlsTest, SeeAndPrintShowsAPageForEachControllerOnItsLongSide)
+{
+    t.dialogues.answers = {Answer::Yes};
+    t.printers.other.orientation = orientation::portrait;
+    t.menus().mnuFilePrintControls.Click();
+    EXPECT_EQ(t.lastBox().title, "Print the controls");
+    EXPECT_THAT(t.printers.previews, ElementsAre("Print preview - the controls of mig.b50"));
+    ASSERT_EQ(t.printers.other.pages.size(), 2U);
+    EXPECT_THAT(t.printers.other.pages[0].drawings.at(0), HasSubstr(">fire<"));
+    EXPECT_THAT(t.printers.other.pages[0].drawings.at(0), HasSubstr(">(SPC)<"));
+    EXPECT_THAT(t.printers.other.pages[1].drawings.at(0), HasSubstr(">gear<"));
+    EXPECT_EQ(t.printers.printer.orientation, orientation::portrait) << "as it was before";
+}
+
+TEST_F(PrintControlsTest, SaveWritesTheFormOfTheExtension)
+{
+    for (const auto& [path, start] : {std::pair("c:\\tm\\mig.pdf", "%PDF"), std::pair("c:\\tm\\mig.svg", "<svg"),
+                                      std::pair("c:\\tm\\mig.html", "<!DOCTYPE html>")}) {
+        t.dialogues.answers = {Answer::No};
+        t.dialogues.filesToSave = {path};
+        t.menus().mnuFilePrintControls.Click();
+        EXPECT_THAT(t.fileText(path), StartsWith(start));
+    }
+    EXPECT_EQ(t.dialogues.saveRequests.at(0).suggestedName, "mig controls.pdf");
+    EXPECT_EQ(t.status(), "mig.html saved");
+}
+
+TEST_F(PrintControlsTest, CancelDoesNothing)
+{
+    t.dialogues.answers = {Answer::Cancel};
+    t.menus().mnuFilePrintControls.Click();
+    EXPECT_THAT(t.printers.previews, IsEmpty());
+    EXPECT_THAT(t.dialogues.saveRequests, IsEmpty());
+}
+
+TEST_F(PrintControlsTest, NeitherFileIsChanged)
+{
+    t.dialogues.answers = {Answer::Yes};
+    t.menus().mnuFilePrintControls.Click();
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
+    EXPECT_EQ(t.editor().macro.Changed, changed::saved);
+}
+
+TEST(SheetPaper, IsLetterOnlyOnPaperOfItsProportions)
+{
+    FakePrinter printer;
+    EXPECT_EQ(sheetPaper(printer).width, sheetA4.width);
+    printer.width = 12240;
+    printer.height = 15840;
+    EXPECT_EQ(sheetPaper(printer).width, sheetLetter.width);
+    std::swap(printer.width, printer.height);
+    EXPECT_EQ(sheetPaper(printer).width, sheetLetter.width);
+}
+
+} // namespace
+} // namespace tarvex

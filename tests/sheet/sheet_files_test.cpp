@@ -1,0 +1,145 @@
+#include "sheet/sheet_files.h"
+
+#include "sheet/hardware_art.h"
+#include "sheet/svg_sheet.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace tarvex {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+ControlSheet twoPages()
+{
+    return controlSheet({.joystickName = "mig & co.b50",
+                         .joystickText = "USE TQS\r\nBTN S1 <Fire> (a) \\b\r\nBTN T1 Gear\r\n",
+                         .macroName = "mig.m50",
+                         .macroText = "Gear = g"},
+                        "today");
+}
+
+std::size_t countOf(const std::string& text, std::string_view what)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++count;
+    return count;
+}
+
+TEST(SheetForm, IsThatOfTheExtensionInAnyCase)
+{
+    EXPECT_EQ(sheetForm("a.PDF"), SheetForm::Pdf);
+    EXPECT_EQ(sheetForm("a.svg"), SheetForm::Svg);
+    EXPECT_EQ(sheetForm("a.html"), SheetForm::Html);
+    EXPECT_EQ(sheetForm("a.htm"), SheetForm::Html);
+    EXPECT_EQ(sheetForm("a.png"), std::nullopt);
+    EXPECT_EQ(sheetForm(""), std::nullopt);
+}
+
+TEST(SheetSvg, HasBothPagesBelowEachOtherAndEscapesTexts)
+{
+    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4);
+    EXPECT_THAT(svg, StartsWith("<svg xmlns="));
+    EXPECT_THAT(svg, HasSubstr("height=\"1190.00pt\""));
+    EXPECT_THAT(svg, HasSubstr("mig &amp; co.b50"));
+    EXPECT_THAT(svg, HasSubstr("&lt;Fire&gt;"));
+    EXPECT_THAT(svg, Not(HasSubstr("currentColor")));
+}
+
+TEST(SheetSvg, IdsAreUniqueAndEveryReferenceLeadsToOne)
+{
+    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4);
+    std::set<std::string> ids;
+    for (std::size_t at = svg.find(" id=\""); at != std::string::npos; at = svg.find(" id=\"", at + 1)) {
+        const std::string id = svg.substr(at + 5, svg.find('"', at + 5) - at - 5);
+        EXPECT_TRUE(ids.insert(id).second) << id;
+    }
+    std::size_t references = 0;
+    for (std::size_t at = svg.find("url(#"); at != std::string::npos; at = svg.find("url(#", at + 1), ++references)
+        EXPECT_TRUE(ids.contains(svg.substr(at + 5, svg.find(')', at) - at - 5)));
+    EXPECT_GT(references, 50U);
+}
+
+TEST(SheetHtml, IsOnePageOfTheWebWithADrawingForEachController)
+{
+    const std::string html = sheetFile(twoPages(), SheetForm::Html, sheetLetter);
+    EXPECT_THAT(html, StartsWith("<!DOCTYPE html>"));
+    EXPECT_THAT(html, HasSubstr("<title>mig &amp; co.b50</title>"));
+    EXPECT_EQ(countOf(html, "<svg "), 2U);
+    EXPECT_EQ(countOf(html, "</svg>"), 2U);
+}
+
+TEST(SheetPdf, HasAPageForEachControllerAndATableThatFits)
+{
+    const std::string pdf = sheetFile(twoPages(), SheetForm::Pdf, sheetA4);
+    EXPECT_THAT(pdf, StartsWith("%PDF-1.4"));
+    EXPECT_EQ(countOf(pdf, "/Type /Page "), 2U);
+    EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 842.000 595.000 ]"));
+    const std::size_t table = std::stoul(pdf.substr(pdf.rfind("startxref") + 10));
+    EXPECT_EQ(pdf.substr(table, 4), "xref");
+    std::size_t row = pdf.find("0000000000 65535 f \n") + 20;
+    for (int number = 1; pdf[row] != 't'; ++number, row += 20) {
+        const std::string head = std::to_string(number) + " 0 obj";
+        EXPECT_EQ(pdf.substr(std::stoul(pdf.substr(row, 10)), head.size()), head);
+    }
+}
+
+TEST(SheetPdf, BracketsAndBackslashesAreEscaped)
+{
+    const std::string pdf = sheetFile(twoPages(), SheetForm::Pdf, sheetA4);
+    EXPECT_THAT(pdf, HasSubstr("(\\(a\\))"));
+    EXPECT_THAT(pdf, HasSubstr("(\\\\b)"));
+}
+
+TEST(HardwareArt, EveryPictureHasADrawingThatIsRead)
+{
+    for (const Picture& one : allPictures()) {
+        const auto what = static_cast<PictureOf>(&one - allPictures().data());
+        const std::string_view svg = hardwareDrawing(what);
+        ASSERT_FALSE(svg.empty()) << one.file;
+        const Art art = readArt(svg);
+        EXPECT_GT(art.shapes.size(), 50U) << one.file;
+        EXPECT_GT(art.gradients.size(), 10U) << one.file;
+        std::set<std::string> texts;
+        for (const ArtShape& shape : art.shapes) {
+            EXPECT_NE(shape.path.empty(), shape.text.empty()) << one.file;
+            texts.insert(shape.text);
+        }
+        EXPECT_TRUE(texts.contains(std::string(one.controls[0].name))) << one.file;
+    }
+}
+
+TEST(HardwareArt, ReadsColoursGradientsAndCircles)
+{
+    const Art art =
+        readArt("<svg><linearGradient id=\"g1\" x1=\"1\" y1=\"2\" x2=\"3\" y2=\"4\"><stop offset=\"0.5\" "
+                "stop-color=\"#abc\"/></linearGradient><radialGradient id=\"g2\"/>"
+                "<circle cx=\"5\" cy=\"6\" r=\"2\" fill=\"url(#g1)\" stroke=\"#102030\" stroke-width=\"3\"/>"
+                "<text x=\"7\" y=\"8\" font-size=\"9\" text-anchor=\"end\" fill=\"currentColor\">S1</text></svg>");
+    ASSERT_EQ(art.gradients.size(), 2U);
+    EXPECT_TRUE(art.gradients[0].solid);
+    EXPECT_FALSE(art.gradients[1].solid);
+    EXPECT_EQ(art.gradients[0].stops.at(0).colour, 0xAABBCCU);
+    ASSERT_EQ(art.shapes.size(), 2U);
+    EXPECT_EQ(art.shapes[0].fill.gradient, "g1");
+    EXPECT_EQ(art.shapes[0].stroke.colour, 0x102030U);
+    EXPECT_THAT(art.shapes[0].path, StartsWith("M7.00 6.00 C"));
+    EXPECT_EQ(art.shapes[1].text, "S1");
+    EXPECT_EQ(art.shapes[1].anchor, "end");
+}
+
+TEST(HardwareArt, DamagedDrawingsAreReadAsFarAsTheyGo)
+{
+    EXPECT_TRUE(readArt("").shapes.empty());
+    EXPECT_TRUE(readArt("<").shapes.empty());
+    EXPECT_TRUE(readArt("<path d=\"M1").shapes.empty());
+    EXPECT_EQ(readArt("<path d=\"M1 2\"/><path").shapes.size(), 1U);
+}
+
+} // namespace
+} // namespace tarvex
