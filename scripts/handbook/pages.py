@@ -122,6 +122,7 @@ def _convert(page):
     engine = markdown.Markdown(extensions=["tables", "fenced_code", "def_list", "sane_lists", "toc"],
                                extension_configs=toc, output_format="html")
     body = engine.convert(page.source)
+    body = body.replace("\n</code></pre>", "</code></pre>")
     page.html = re.sub(r'href="([A-Za-z0-9._-]+)\.md(#[^"]*)?"', r'href="\1.html\2"', body)
     reader = _Reader(page)
     reader.feed(page.html)
@@ -151,12 +152,20 @@ def read_contents(folder):
     return chapters
 
 
+def _begins(text, word):
+    """The text begins with the word, which isn't a piece of a longer one there."""
+    rest = text[len(word):]
+    return text.startswith(word) and (not rest or not (rest[0].isalnum() or word[-1] == "/"))
+
+
 def anchor_of(page, keyword):
     """The section whose heading is the keyword, or begins with it; empty: the whole page explains it."""
     wanted = keyword.casefold()
-    for heading in page.headings:
-        text = heading.text.strip().casefold()
-        rest = text[len(wanted):]
-        if text.startswith(wanted) and (not rest or not (rest[0].isalnum() or wanted[-1] == "/")):
-            return heading.anchor
-    return ""
+    if _begins(page.title.casefold(), wanted):
+        return ""
+    headings = [(heading.text.strip().casefold(), heading.anchor) for heading in page.headings]
+    exact = [anchor for text, anchor in headings if text == wanted]
+    longer = [word.casefold() for word in page.keywords if len(word) > len(keyword)]
+    begins = [anchor for text, anchor in headings
+              if _begins(text, wanted) and not any(_begins(text, word) for word in longer)]
+    return (exact + begins + [""])[0]

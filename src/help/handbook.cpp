@@ -11,6 +11,10 @@ namespace {
 
 constexpr std::size_t longestHistory = 200;
 
+// Where the window comes up, twips.
+constexpr float firstLeft = 80.0F * twipsPerPixel;
+constexpr float firstTop = 50.0F * twipsPerPixel;
+
 /// "fil" lets "File menu" through, letters compared without case.
 bool letsThrough(std::string_view filter, std::string_view word)
 {
@@ -101,9 +105,11 @@ void searchNow(Handbook& handbook)
 Handbook::Handbook(Editor& theEditor) : editor(theEditor)
 {
     form.Caption = "Tarvex handbook";
+    form.Left = firstLeft;
+    form.Top = firstTop;
     Back.Caption = "Back";
     Forward.Caption = "Forward";
-    Home.Caption = "Contents";
+    Home.Caption = "First page";
     Ways.Tabs(contentsTab).Caption = "&Contents";
     Ways.Tabs(indexTab).Caption = "&Index";
     Ways.Tabs(searchTab).Caption = "&Search";

@@ -120,7 +120,9 @@ constexpr std::string_view ofThisMachine =
     "| `Drives` | `c`, `d`, ... | as found | folder of a drive |\n"
     "| `Extras` | `TemplatesCopied` |  | `1`: the program's templates have been copied into `Templates\\`; without it "
     "they "
-    "are at the next start, beside files of the same names |\n";
+    "are at the next start, beside files of the same names |\n"
+    "| `Extras` | `FilesCopied` |  | `1`: help texts, tips, addresses, picture and sounds have been copied into the "
+    "program directory; without it they are at the next start, beside files of the same names |\n";
 
 std::string extrasRows()
 {

@@ -30,10 +30,10 @@ public:
 
     std::optional<QByteArray> file(const QString& name) const override
     {
-        if (!m_error.isEmpty()) return {};
-        const QUrl url(m_root + name);
-        if (!m_engine->findFile(url).isValid()) return {};
-        return m_engine->fileData(url);
+        if (!m_error.isEmpty() || name.contains(QStringLiteral(".."))) return {};
+        const QByteArray bytes =
+            m_engine->fileData(QUrl(m_root + name)); // findFile has an answer for files that aren't there
+        return bytes.isEmpty() ? std::nullopt : std::optional(bytes);
     }
 
     QString error() const override { return m_error; }

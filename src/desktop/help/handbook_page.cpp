@@ -17,7 +17,8 @@ constexpr int smallestZoom = 50;
 constexpr int largestZoom = 300;
 constexpr int zoomStep = 10;
 constexpr int pageMargin = 16;
-constexpr int widestPicture = 600;
+constexpr int widestPictureEver = 700;
+constexpr int narrowestPicture = 200; // the page then scrolls
 
 /// Pages are addressed under a scheme of their own, so that relative links stay among them.
 const QString scheme = QStringLiteral("handbook");
@@ -66,7 +67,11 @@ HandbookPage::HandbookPage(std::function<std::optional<QByteArray>(const QString
     restyle();
 }
 
-void HandbookPage::showTarget(const QString& target) { setSource(addressOf(target), QTextDocument::HtmlResource); }
+void HandbookPage::showTarget(const QString& target)
+{
+    m_roomOfPictures = 0;
+    setSource(addressOf(target), QTextDocument::HtmlResource);
+}
 
 void HandbookPage::setZoom(int percent)
 {
@@ -104,13 +109,19 @@ QVariant HandbookPage::loadResource(int type, const QUrl& name)
                        .arg(name.path().mid(1).toHtmlEscaped());
 }
 
-/// Not wider than a page, and as sharp as the screen.
-QVariant HandbookPage::picture(const QByteArray& bytes) const
+int HandbookPage::widestPicture() const
 {
+    return std::clamp(viewport()->width() - 2 * pageMargin, narrowestPicture, widestPictureEver);
+}
+
+/// Not wider than the page, and as sharp as the screen.
+QVariant HandbookPage::picture(const QByteArray& bytes)
+{
+    m_roomOfPictures = widestPicture();
     QImage image = QImage::fromData(bytes);
     if (image.isNull()) return {};
     const qreal ratio = devicePixelRatioF();
-    const int widest = static_cast<int>(widestPicture * ratio);
+    const int widest = static_cast<int>(m_roomOfPictures * ratio);
     if (image.width() > widest) {
         image = image.scaledToWidth(widest, Qt::SmoothTransformation);
         image.setDevicePixelRatio(ratio);
@@ -144,6 +155,12 @@ void HandbookPage::changeEvent(QEvent* event)
     if (event->type() != QEvent::PaletteChange && event->type() != QEvent::ApplicationFontChange) return;
     restyle();
     showAgain();
+}
+
+void HandbookPage::resizeEvent(QResizeEvent* event)
+{
+    QTextBrowser::resizeEvent(event);
+    if (m_roomOfPictures != 0 && m_roomOfPictures != widestPicture()) showAgain();
 }
 
 void HandbookPage::wheelEvent(QWheelEvent* event)

@@ -35,14 +35,17 @@ signals:
 protected:
     void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void restyle();
     void showAgain();
-    QVariant picture(const QByteArray& bytes) const;
+    QVariant picture(const QByteArray& bytes);
+    int widestPicture() const;
 
     std::function<std::optional<QByteArray>(const QString&)> m_read;
     int m_zoom = 100;
+    int m_roomOfPictures = 0; ///< width that the pictures of the page were made for; 0: it has none
     bool m_restyling = false;
 };
 

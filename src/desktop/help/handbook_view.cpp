@@ -21,8 +21,8 @@ namespace tarvex {
 
 namespace {
 
-constexpr int firstWidth = 900;
-constexpr int firstHeight = 640;
+constexpr int firstWidth = 960;
+constexpr int firstHeight = 700;
 constexpr int waysWidth = 270;
 constexpr int zoomStep = 10;
 constexpr int targetRole = Qt::UserRole;

@@ -8,6 +8,7 @@
 #include "support/fake_help_system.h"
 #include "support/test_program.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QBuffer>
 #include <QCheckBox>
@@ -66,6 +67,7 @@ struct HandbookViewTest : HelpViews {
     {
         t.menus().mnuHelpContents.Click();
         view.refresh();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view)) << "shortcuts work in the active window";
     }
     std::string shown() const { return fromQt(page.toPlainText().section(u'\n', 0, 0)); }
     void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) { QTest::keyClick(&page, key, with); }
@@ -110,7 +112,6 @@ TEST_F(HandbookViewTest, AClickOnALinkFollowsItAndBackReturns)
 TEST_F(HandbookViewTest, AltWithTheArrowsGoesBackAndForward)
 {
     followHandbookLink(help.handbook, "btn.html");
-    view.activateWindow();
     press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(shown(), "Welcome");
     press(Qt::Key_Right, Qt::AltModifier);
@@ -153,7 +154,6 @@ TEST_F(HandbookViewTest, AWordWithoutAPageBringsTheSearchToTheFront)
 TEST_F(HandbookViewTest, CtrlFFindsInThePageAndGoesRound)
 {
     followHandbookLink(help.handbook, "btn.html");
-    view.activateWindow();
     press(Qt::Key_F, Qt::ControlModifier);
     auto& text = child<QLineEdit>(view, "FindText");
     ASSERT_TRUE(text.isVisible());
@@ -178,7 +178,6 @@ TEST_F(HandbookViewTest, CtrlFFindsInThePageAndGoesRound)
 
 TEST_F(HandbookViewTest, LettersGetLargerAndSmallerWithinBounds)
 {
-    view.activateWindow();
     const qreal size = page.font().pointSizeF();
     child<QToolButton>(view, "ZoomIn").click();
     EXPECT_GT(page.font().pointSizeF(), size);
@@ -217,6 +216,23 @@ TEST_F(HandbookViewTest, NothingOutsideTheHandbookIsLoaded)
     followHandbookLink(help.handbook, "btn.html");
     EXPECT_EQ(shown(), "The BTN statement");
     EXPECT_TRUE(page.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("file:///etc/hostname"))).isNull());
+}
+
+TEST_F(HandbookViewTest, APictureIsMadeAsWideAsThePageHasRoom)
+{
+    QImage wide(3000, 300, QImage::Format_RGB32);
+    wide.fill(Qt::red);
+    QBuffer bytes;
+    wide.save(&bytes, "PNG");
+    system.files["wide.png"] = bytes.data().toStdString();
+    system.files["btn.html"] = html("The BTN statement", "<p><img src=\"wide.png\"></p>");
+    followHandbookLink(help.handbook, "btn.html");
+    const auto width = [this] { return page.document()->documentLayout()->documentSize().width(); };
+    for (const int windowWidth : {1100, 800, 1000}) {
+        view.resize(windowWidth, 600);
+        QApplication::processEvents();
+        EXPECT_LE(width(), page.viewport()->width()) << windowWidth;
+    }
 }
 
 TEST_F(HandbookViewTest, AModalWindowThatAskedForHelpDoesNotBlockIt)
