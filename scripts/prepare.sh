@@ -4,12 +4,12 @@
 # One row per purpose; a package stands in one row only.
 package_table() {
     cat <<'TABLE'
-build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev libxcb1-dev libxcb-xkb-dev libxkbcommon-dev qt6-tools-dev qt6-documentation-tools python3-markdown
+build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev libevdev-dev libxcb1-dev libxcb-xkb-dev libxkbcommon-dev qt6-tools-dev qt6-documentation-tools python3-markdown
 run       fonts-liberation libqt6sql6-sqlite
 wayland   qt6-wayland
 display   xvfb
 picture   openbox wmctrl imagemagick
-test      poppler-utils python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool aspell aspell-en
+test      poppler-utils python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool umockdev libumockdev-dev pkg-config aspell aspell-en
 desktop   desktop-file-utils appstream shared-mime-info libglib2.0-bin xdg-utils mandoc zsh fish
 handbook  pngquant optipng
 release   git dpkg-dev file binutils xz-utils

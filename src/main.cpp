@@ -8,10 +8,12 @@
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/qt_keyboard.h"
 #include "desktop/platform/qt_machine.h"
 #include "desktop/platform/qt_pictures.h"
 #include "desktop/platform/qt_printers.h"
 #include "desktop/platform/qt_processes.h"
+#include "desktop/platform/sdl_joystick.h"
 #include "desktop/platform/sdl_sound.h"
 #include "desktop/preferences/preferences_view.h"
 #include "desktop/program/mum_window.h"
@@ -127,7 +129,9 @@ int runProgram(tarvex::Application& application, const std::string& file)
                       drives.fromArgument(file)};
 
     QtHelpSystem helpSystem(helpPlaces(winePrefix()));
-    Program program(platform);
+    SdlJoystick joystick;
+    QtKeyboard keyboard;
+    Program program(platform, InputDevices{joystick, keyboard});
     program.help.useSystem(helpSystem);
     application.setErrorRecord(&program.shared.errors);
     Appearance appearance(files, platform.programDirectory, program.menus);

@@ -113,10 +113,11 @@ void wirePanes(Editor& editor)
 
 } // namespace
 
-Program::Program(Platform& thePlatform)
+Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
       findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor),
-      templateEditor(editor), imageViewer(editor), lists(editor), preferences(editor, lists), help(editor)
+      templateEditor(editor), testers(editor, devices.value_or(InputDevices{noJoystick, noKeyboard})),
+      imageViewer(editor), lists(editor), preferences(editor, lists), help(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -139,6 +140,7 @@ Program::Program(Platform& thePlatform)
     wireFrame(editor);
     wireLanguage(editor);
     wireDownload(editor, lists.games);
+    wireTesters(testers);
     wireOwnTools(editor);
     wirePreferences(preferences);
     wireHelp(help);

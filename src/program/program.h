@@ -6,6 +6,7 @@
 #include "generators/generators.h"
 #include "help/help.h"
 #include "lists/lists.h"
+#include "platform/input_devices.h"
 #include "platform/platform.h"
 #include "preferences/preferences.h"
 #include "safein/raw_form.h"
@@ -14,15 +15,19 @@
 #include "shell/operations.h"
 #include "shell/shared.h"
 #include "templates/template_form.h"
+#include "testers/testers.h"
 #include "viewer/view_image.h"
 #include "wizards/wizards.h"
+
+#include <optional>
 
 namespace tarvex {
 
 /// The whole program over a platform: builds every unit and wires the commands to those who do the work.
 class Program {
 public:
-    explicit Program(Platform& platform);
+    /// Without devices the testers find no joystick.
+    explicit Program(Platform& platform, std::optional<InputDevices> devices = {});
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -34,6 +39,8 @@ public:
     bool exit();
 
     Platform& platform;
+    NoJoystick noJoystick;
+    NoKeyboard noKeyboard;
     Shared shared;
     Menus menus;
     Mum mum;
@@ -45,6 +52,7 @@ public:
     Generators generators;
     Wizards wizards;
     TemplateForm templateEditor;
+    Testers testers;
     ViewImage imageViewer;
     Lists lists;
     Preferences preferences;

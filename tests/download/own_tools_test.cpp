@@ -7,10 +7,13 @@
 namespace tarvex {
 namespace {
 
-/// A program whose own tools have windows; which of them were shown.
+/// A program with no tool windows but these; which of them were shown.
 struct OwnTools : TestProgram {
     explicit OwnTools(const std::vector<std::string>& windows = {"ViewImage", "KeyTestForm", "JoyPlot", "TCAform"})
     {
+        program().mum.toolWindows = {};
+        for (MenuItem* item : {&menus().mnuAppsImageViewer, &menus().mnuSendToKeyTest, &menus().mnuAppsJoyAnalyser})
+            item->handler = nullptr;
         for (const std::string& name : windows) {
             program().mum.toolWindows.add({.name = name, .form = &form, .show = [this, name] { shown += name + " "; }});
         }

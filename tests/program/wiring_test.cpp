@@ -16,9 +16,7 @@ using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
 const Names commandsToCome = {
-    "mnuAppsJoyAnalyser",
     "mnuInsertQuickTip",
-    "mnuSendToKeyTest",
 };
 
 /// Operations that nobody carries out yet.

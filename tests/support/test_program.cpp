@@ -86,7 +86,7 @@ TestProgram::TestProgram(bool startIt)
 
 void TestProgram::start()
 {
-    m_program = std::make_unique<Program>(platform);
+    m_program = std::make_unique<Program>(platform, InputDevices{joystick, keyboard});
     EXPECT_TRUE(m_program->start());
 }
 

@@ -3,6 +3,7 @@
 #include "platform/machine.h"
 #include "platform/platform.h"
 #include "program/program.h"
+#include "support/fake_input_devices.h"
 #include "support/fake_printers.h"
 #include "support/memory_files.h"
 #include "support/scripted_dialogues.h"
@@ -122,6 +123,8 @@ struct TestMachine {
     FakeClipboard clipboard;
     FakeProcesses processes;
     FakeMachine machine;
+    FakeJoystick joystick;
+    FakeKeyboard keyboard;
     FakePrinters printers;
     FakePictures pictures{files};
     Platform platform{files,    dialogues, desktop,          sound, clipboard, processes, machine,

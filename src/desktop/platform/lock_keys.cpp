@@ -51,7 +51,46 @@ bool hasExtension(xcb_connection_t* display)
     return reply && reply->supported;
 }
 
+using Cookie = xcb_xkb_get_named_indicator_cookie_t;
+
+Cookie askForIndicator(xcb_connection_t* display, xcb_atom_t name)
+{
+    return xcb_xkb_get_named_indicator(display, coreKeyboard, XCB_XKB_LED_CLASS_DFLT_XI_CLASS, XCB_XKB_ID_DFLT_XI_ID,
+                                       name);
+}
+
+bool isOn(xcb_connection_t* display, Cookie cookie)
+{
+    const Reply<xcb_xkb_get_named_indicator_reply_t> reply(xcb_xkb_get_named_indicator_reply(display, cookie, nullptr));
+    return reply && reply->found && reply->on;
+}
+
+LockKeyState askForState(xcb_connection_t* display, xcb_atom_t capsLock, xcb_atom_t numLock)
+{
+    const Cookie caps = askForIndicator(display, capsLock); // both are on their way before either is waited for
+    const Cookie num = askForIndicator(display, numLock);
+    const bool capsIsOn = isOn(display, caps);
+    return {capsIsOn, isOn(display, num)};
+}
+
 } // namespace
+
+std::optional<LockKeyState> lockKeyState()
+{
+    xcb_connection_t* display = connection();
+    if (display == nullptr || !hasExtension(display)) return {};
+    return askForState(display, atom(display, "Caps Lock"), atom(display, "Num Lock"));
+}
+
+bool lockCaps(bool on)
+{
+    xcb_connection_t* display = connection();
+    if (display == nullptr || !hasExtension(display)) return false;
+    constexpr std::uint8_t lock = XCB_MOD_MASK_LOCK;
+    xcb_xkb_latch_lock_state(display, coreKeyboard, lock, on ? lock : std::uint8_t{0}, 0, 0, 0, 0, 0);
+    xcb_flush(display);
+    return true;
+}
 
 /// Follows the keyboard's lights, which are the same for all programs, with or without the keyboard.
 class LockKeys::Watch : public QAbstractNativeEventFilter {
@@ -81,26 +120,7 @@ public:
     }
 
 private:
-    using Cookie = xcb_xkb_get_named_indicator_cookie_t;
-
-    void report()
-    {
-        const Cookie capsLock = ask(m_capsLock);
-        const Cookie numLock = ask(m_numLock);
-        const bool caps = isOn(capsLock);
-        m_changed({caps, isOn(numLock)});
-    }
-    Cookie ask(xcb_atom_t name)
-    {
-        return xcb_xkb_get_named_indicator(m_display, coreKeyboard, XCB_XKB_LED_CLASS_DFLT_XI_CLASS,
-                                           XCB_XKB_ID_DFLT_XI_ID, name);
-    }
-    bool isOn(Cookie cookie)
-    {
-        const Reply<xcb_xkb_get_named_indicator_reply_t> reply(
-            xcb_xkb_get_named_indicator_reply(m_display, cookie, nullptr));
-        return reply && reply->found && reply->on;
-    }
+    void report() { m_changed(askForState(m_display, m_capsLock, m_numLock)); }
 
     xcb_connection_t* m_display;
     std::function<void(LockKeyState)> m_changed;
@@ -121,6 +141,10 @@ LockKeys::LockKeys(std::function<void(LockKeyState)> changed)
 namespace tarvex {
 
 class LockKeys::Watch {};
+
+std::optional<LockKeyState> lockKeyState() { return {}; }
+
+bool lockCaps(bool) { return false; }
 
 LockKeys::LockKeys(std::function<void(LockKeyState)>) {}
 

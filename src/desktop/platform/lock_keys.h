@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace tarvex {
 
@@ -9,6 +10,11 @@ struct LockKeyState {
     bool capsLock = false;
     bool numLock = false;
 };
+
+/// As it is now; nothing where the window system doesn't say.
+std::optional<LockKeyState> lockKeyState();
+/// Switches Caps Lock on or off. False: the window system lets no program do it.
+bool lockCaps(bool on);
 
 /// Reports the state of the keyboard's lock keys: once at the start and after each change. Where the window system
 /// doesn't say, it reports nothing.

@@ -12,6 +12,7 @@
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/status_bar_view.h"
 #include "desktop/templates/template_view.h"
+#include "desktop/testers/tester_windows.h"
 #include "desktop/viewer/view_image_view.h"
 #include "desktop/wizards/wizard_forms.h"
 #include "documents/editing/pane_keys.h"
@@ -72,6 +73,7 @@ MumWindow::MumWindow(Program& program)
                   [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
     makeWhenShown(program.templateEditor.form, m_bindings,
                   [this] { return new TemplateView(m_program.templateEditor, this); });
+    makeTestersWhenShown(program.testers, m_bindings, this);
     makeWhenShown(program.imageViewer.form, m_bindings,
                   [this] { return new ViewImageView(m_program.imageViewer, this); });
     makeWizardsWhenShown(program.wizards, m_bindings, this);

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "desktop/tool_form_window.h"
+#include "testers/analyser.h"
+
+namespace tarvex {
+
+class FieldView;
+
+/// What the windows of both analysers share: the menus above, the numbers below, the clock.
+class AnalyserWindow : public ToolFormWindow {
+    Q_OBJECT
+public:
+    QSize sizeHint() const override;
+
+protected:
+    AnalyserWindow(Analyser& analyser, QWidget* parent);
+
+    /// Puts `middle` between menus and numbers; its fields are painted after each tick. Called once, at the end of the
+    /// derived window's constructor.
+    void fill(const std::vector<MenuEntry>& menus, QWidget* middle, std::vector<FieldView*> fields);
+    FieldView* field() const { return m_fields.front(); }
+
+private:
+    void flush();
+
+    Analyser& m_analyser;
+    std::vector<FieldView*> m_fields; ///< the first one is that of the stick
+};
+
+} // namespace tarvex

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "desktop/bind.h"
+#include "testers/drawing.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace tarvex {
+
+/// Shows a drawing field. What was painted stays on a canvas, so that only new strokes cost time.
+class FieldView : public QWidget {
+    Q_OBJECT
+public:
+    /// The field outlives the view.
+    FieldView(DrawingField& field, const char* name, QWidget* parent);
+
+    /// Paints the strokes that wait.
+    void flush();
+    const QImage& canvas() const { return m_canvas; }
+    std::function<void()> resized; ///< what was painted is gone, and is to be drawn anew
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    /// A line across the field is drawn again and again; only in another colour does it change what is seen.
+    struct LongLine {
+        QRect place;
+        Colour colour;
+    };
+
+    void makeCanvas();
+    QRect placeOf(const Stroke& stroke) const;
+    int pixelOf(float coordinate, int pixels) const;
+    void paint(const QRect& place, const Stroke& stroke);
+    bool changesPicture(const QRect& place, const Stroke& stroke);
+    void updateCanvas(const QRect& part);
+
+    DrawingField& m_field;
+    QImage m_canvas; ///< in pixels of the screen
+    std::vector<LongLine> m_longLines;
+    Bindings m_bindings;
+};
+
+} // namespace tarvex

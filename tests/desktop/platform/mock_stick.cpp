@@ -1,0 +1,120 @@
+#include "mock_stick.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+namespace tarvex {
+
+namespace {
+
+constexpr const char* file = "/dev/input/event7";
+
+template <typename T> std::string bytesOf(const T& value)
+{
+    return {reinterpret_cast<const char*>(&value), sizeof value};
+}
+
+void setBit(std::string& bits, unsigned bit)
+{
+    const std::size_t at = bit / 8;
+    if (at < bits.size()) bits[at] = static_cast<char>(bits[at] | 1 << bit % 8);
+}
+
+} // namespace
+
+MockStick::MockStick() : m_testbed(umockdev_testbed_new()), m_requests(umockdev_ioctl_base_new())
+{
+    g_signal_connect(m_requests, "handle-ioctl", G_CALLBACK(answer), this);
+}
+
+MockStick::~MockStick()
+{
+    g_object_unref(m_testbed);
+    g_object_unref(m_requests);
+}
+
+void MockStick::plug()
+{
+    GError* error = nullptr;
+    umockdev_testbed_add_from_string(
+        m_testbed,
+        "P: /devices/home/input/input7/event7\nN: input/event7\nE: DEVNAME=/dev/input/event7\n"
+        "E: SUBSYSTEM=input\nE: ID_INPUT=1\nE: ID_INPUT_JOYSTICK=1\n",
+        &error);
+    ASSERT_EQ(error, nullptr) << error->message;
+    m_place = "/sys/devices/home/input/input7/event7";
+    umockdev_testbed_attach_ioctl(m_testbed, file, m_requests, &error);
+    ASSERT_EQ(error, nullptr) << error->message;
+}
+
+void MockStick::unplug()
+{
+    umockdev_testbed_detach_ioctl(m_testbed, file, nullptr);
+    umockdev_testbed_remove_device(m_testbed, m_place.c_str());
+}
+
+void MockStick::send(const std::vector<Change>& changes, std::int64_t microseconds)
+{
+    constexpr std::int64_t second = 1'000'000;
+    std::string bytes;
+    const auto add = [&](unsigned type, unsigned code, int value) {
+        input_event event{};
+        event.input_event_sec = microseconds / second;
+        event.input_event_usec = microseconds % second;
+        event.type = static_cast<std::uint16_t>(type);
+        event.code = static_cast<std::uint16_t>(code);
+        event.value = value;
+        bytes += bytesOf(event);
+    };
+    for (const Change& change : changes) add(change.type, change.code, change.value);
+    add(EV_SYN, SYN_REPORT, 0);
+    const int port = umockdev_testbed_get_dev_fd(m_testbed, file);
+    EXPECT_EQ(::write(port, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size())) << std::strerror(errno);
+}
+
+/// What the kernel would fill the program's buffer with, by the number of the request.
+std::string MockStick::contents(unsigned number, std::size_t size) const
+{
+    constexpr unsigned bits = 0x20;
+    constexpr unsigned ranges = 0x40;
+    std::string all(size, '\0');
+    if (number == _IOC_NR(EVIOCGVERSION)) return bytesOf(EV_VERSION);
+    if (number == _IOC_NR(EVIOCGID)) return bytesOf(input_id{BUS_USB, 0x1209, 0x0f22, 1});
+    if (number == _IOC_NR(EVIOCGNAME(0))) return name + '\0';
+    if (number == bits)
+        for (const unsigned type : {EV_SYN, EV_KEY, EV_ABS}) setBit(all, type);
+    if (number == bits + EV_KEY)
+        for (const unsigned code : buttons) setBit(all, code);
+    for (const Axis& axis : axes) {
+        if (number == bits + EV_ABS) setBit(all, axis.code);
+        if (number == ranges + axis.code)
+            return bytesOf(input_absinfo{axis.value, axis.minimum, axis.maximum, axis.fuzz, axis.flat, 0});
+    }
+    return all;
+}
+
+gboolean MockStick::answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self)
+{
+    auto& stick = *static_cast<MockStick*>(self);
+    const gulong request = umockdev_ioctl_client_get_request(client);
+    if (_IOC_TYPE(request) != 'E') return FALSE;
+    const bool isClock = _IOC_NR(request) == _IOC_NR(EVIOCSCLOCKID); // of the reader, not of the device
+    if (_IOC_DIR(request) != _IOC_READ) {
+        if (!isClock) ++stick.writes;
+        umockdev_ioctl_client_complete(client, 0, 0);
+        return TRUE;
+    }
+    std::string answer = stick.contents(_IOC_NR(request), _IOC_SIZE(request));
+    answer.resize(std::min<std::size_t>(answer.size(), _IOC_SIZE(request)));
+    UMockdevIoctlData* buffer =
+        umockdev_ioctl_data_resolve(umockdev_ioctl_client_get_arg(client), 0, _IOC_SIZE(request), nullptr);
+    umockdev_ioctl_data_update(buffer, 0, reinterpret_cast<guint8*>(answer.data()), static_cast<gint>(answer.size()));
+    umockdev_ioctl_data_unref(buffer);
+    umockdev_ioctl_client_complete(client, static_cast<glong>(answer.size()), 0);
+    return TRUE;
+}
+
+} // namespace tarvex

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <linux/input.h>
+
+#include <umockdev.h>
+
+#include <string>
+#include <vector>
+
+namespace tarvex {
+
+/// A stick with throttle and rudder of our own description, as the kernel shows it: a device file that answers the
+/// kernel's requests. Needs umockdev's wrapper around the process.
+class MockStick {
+public:
+    struct Axis {
+        unsigned code;
+        int minimum;
+        int maximum;
+        int flat;
+        int fuzz;
+        int value;
+    };
+    std::string name = "Home-made stick";
+    std::vector<Axis> axes{{ABS_X, 0, 255, 15, 0, 128},         {ABS_Y, 0, 255, 15, 0, 128},
+                           {ABS_THROTTLE, 0, 1023, 0, 7, 1023}, {ABS_RUDDER, -512, 511, 0, 0, 0},
+                           {ABS_HAT0X, -1, 1, 0, 0, 0},         {ABS_HAT0Y, -1, 1, 0, 0, 0}};
+    std::vector<unsigned> buttons{BTN_TRIGGER, BTN_THUMB, BTN_THUMB2, BTN_TOP, BTN_TOP2};
+    int writes = 0; ///< requests that would change the device
+
+    MockStick();
+    ~MockStick();
+    MockStick(const MockStick&) = delete;
+    MockStick& operator=(const MockStick&) = delete;
+
+    void plug();
+    void unplug();
+    /// One report: values by code, and the end of the report.
+    struct Change {
+        unsigned type;
+        unsigned code;
+        int value;
+    };
+    void send(const std::vector<Change>& changes, std::int64_t microseconds);
+
+private:
+    static gboolean answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
+    std::string contents(unsigned number, std::size_t size) const;
+
+    UMockdevTestbed* m_testbed;
+    UMockdevIoctlBase* m_requests;
+    std::string m_place; ///< in /sys
+};
+
+} // namespace tarvex
