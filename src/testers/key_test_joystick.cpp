@@ -2,6 +2,7 @@
 
 #include "testers/button_text.h"
 #include "testers/joystick_boxes.h"
+#include "testers/joystick_choice.h"
 
 namespace tarvex {
 
@@ -68,7 +69,10 @@ void JoystickStuff(KeyTestForm& window)
     window.LastReport = {};
     window.MoreButtons.Caption = "";
     placeBars(window);
-    if (!window.JoystickStarted) window.joystick.start();
+    if (!window.JoystickStarted) {
+        window.joystick.choose(readJoystickChoice(window.editor.shared.platformIni));
+        window.joystick.start();
+    }
     window.JoystickStarted = true;
     if (window.joystick.joyGetDevCapsA(window.Caps) != joyError::none) {
         if (!window.ToldOfCapsLock) window.status.Caption = "Status: No joystick";

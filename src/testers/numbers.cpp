@@ -1,6 +1,7 @@
 #include "testers/numbers.h"
 
 #include "platform/joystick_axes.h"
+#include "testers/joystick_choice.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,10 +11,7 @@ namespace tarvex {
 
 namespace {
 
-constexpr const char* section = "Joystick";
-constexpr std::array<const char*, axisRole::count> axisKeys = {"AxisX", "AxisY", "AxisThrottle", "AxisRudder"};
 constexpr std::int64_t refreshMicroseconds = 250'000;
-constexpr std::size_t longestName = 300;
 
 template <typename... Values> std::string format(const char* form, Values... values)
 {
@@ -26,16 +24,18 @@ double percentOfRange(double units) { return units / axisLast * 100; }
 
 std::array<std::string, Numbers::columns.size()> cellsOf(const AxisNumbers& axis)
 {
+    const bool rests = axis.rest.microseconds >= shortestRest;
     const double offCentre = (axis.rest.position - axisCentre) / axisCentre * 100;
+    const auto atRest = [rests](std::string text) { return rests ? text : std::string("-"); };
     return {std::to_string(axis.now),
             std::to_string(axis.minimum),
             std::to_string(axis.maximum),
             format("%.1f %%", percentOfRange(axis.maximum - axis.minimum)),
-            format("%.0f", axis.rest.position),
-            format("%+.1f %%", offCentre),
-            format("%.1f (%d)", axis.rest.deviation, axis.rest.peakToPeak),
+            atRest(format("%.0f", axis.rest.position)),
+            atRest(format("%+.1f %%", offCentre)),
+            atRest(format("%.1f (%d)", axis.rest.deviation, axis.rest.peakToPeak)),
             std::to_string(axis.spikes),
-            format("%+.0f", axis.drift)};
+            atRest(format("%+.0f", axis.drift))};
 }
 
 std::string kernelText(const JoystickDevice& device)
@@ -89,7 +89,7 @@ Numbers::Numbers(Editor& theEditor, Joystick& theJoystick) : editor(theEditor), 
     mnuNumbers.handler = [this] {
         Visible = !Visible;
         mnuNumbers.Checked = Visible.get();
-        editor.shared.platformIni.writeString(section, "Numbers", Visible ? "1" : "0");
+        editor.shared.platformIni.writeString(joystickSection, "Numbers", Visible ? "1" : "0");
         refresh();
     };
     SavePicture.handler = [this] {
@@ -126,29 +126,11 @@ Numbers::Numbers(Editor& theEditor, Joystick& theJoystick) : editor(theEditor), 
     connections.push_back(joystick.devicesChanged.connect([this] { showDevices(); }));
 }
 
-JoystickChoice Numbers::choice() const
-{
-    const ProfileFile& ini = editor.shared.platformIni;
-    JoystickChoice choice;
-    choice.name = ini.readString(section, "Name", "", longestName);
-    choice.guid = ini.readString(section, "Guid", "", longestName);
-    choice.number = ini.readInt(section, "Number", 0);
-    for (std::size_t role = 0; role < axisKeys.size(); ++role)
-        choice.axes[role] = ini.readInt(section, axisKeys[role], axisByGuess);
-    return choice;
-}
+JoystickChoice Numbers::choice() const { return readJoystickChoice(editor.shared.platformIni); }
 
 void Numbers::choose(const JoystickChoice& chosen)
 {
-    ProfileFile& ini = editor.shared.platformIni;
-    {
-        const ProfileFile::Batch together(ini);
-        ini.writeString(section, "Name", chosen.name);
-        ini.writeString(section, "Guid", chosen.guid);
-        ini.writeString(section, "Number", std::to_string(chosen.number));
-        for (std::size_t role = 0; role < axisKeys.size(); ++role)
-            ini.writeString(section, axisKeys[role], std::to_string(chosen.axes[role]));
-    }
+    writeJoystickChoice(editor.shared.platformIni, chosen);
     joystick.choose(chosen);
     statistics.clear(); // they were another device's
     m_refreshed = 0;
@@ -160,7 +142,7 @@ void Numbers::restart()
 {
     statistics.clear();
     m_refreshed = 0;
-    Visible = editor.shared.platformIni.readInt(section, "Numbers", 0) != 0;
+    Visible = editor.shared.platformIni.readInt(joystickSection, "Numbers", 0) != 0;
     mnuNumbers.Checked = Visible.get();
     refresh();
 }

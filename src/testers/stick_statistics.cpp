@@ -132,8 +132,9 @@ AxisNumbers StickStatistics::numbers(std::size_t role)
     if (m_samples.empty()) return {};
     Axis& axis = m_axes.at(role);
     AxisNumbers numbers{m_samples.back().axes[role], axis.minimum, axis.maximum, rest(role), 0, axis.spikes.count()};
-    if (!axis.firstRest && numbers.rest.microseconds >= second) axis.firstRest = numbers.rest.position;
-    if (axis.firstRest) numbers.drift = numbers.rest.position - *axis.firstRest;
+    if (!axis.firstRest && numbers.rest.microseconds >= shortestRest) axis.firstRest = numbers.rest.position;
+    if (axis.firstRest && numbers.rest.microseconds >= shortestRest)
+        numbers.drift = numbers.rest.position - *axis.firstRest;
     return numbers;
 }
 

@@ -21,6 +21,8 @@ constexpr int spikeThreshold = 1500;
 constexpr std::int64_t spikeMicroseconds = 20'000;
 /// Rest and noise are of the last reports within this time.
 constexpr std::int64_t restMicroseconds = 5'000'000;
+/// What lasts less is a movement.
+constexpr std::int64_t shortestRest = 1'000'000;
 /// Reports that are kept; the oldest ones go.
 constexpr std::size_t mostSamples = 500'000;
 

@@ -10,8 +10,7 @@ namespace {
 
 constexpr double wellCentred = 2; // per cent of the way from the centre to the end
 constexpr double calmNoise = 0.3; // per cent of the whole range
-constexpr std::int64_t shortestRest = 1'000'000;
-constexpr int widestRest = 2000; // axis units between the ends of what is still called rest
+constexpr int widestRest = 2000;  // axis units between the ends of what is still called rest
 
 double offCentre(const AxisNumbers& axis) { return std::abs(axis.rest.position - axisCentre) / axisCentre * 100; }
 

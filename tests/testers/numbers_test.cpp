@@ -157,6 +157,10 @@ TEST_F(NumbersTest, AChosenDeviceIsKeptByNameAndGuid)
     joystick.wanted = {};
     menus().mnuAppsJoyAnalyser.Click();
     EXPECT_EQ(joystick.wanted.name, "WCS");
+    form.mnuexit.Click();
+    joystick.wanted = {};
+    menus().mnuSendToKeyTest.Click();
+    EXPECT_EQ(joystick.wanted.name, "WCS") << "the key tester shows the same one";
 }
 
 TEST_F(NumbersTest, TwoDevicesOfOneNameAreNumbered)

@@ -23,8 +23,10 @@ protected:
 
 private:
     void flush();
+    void makeRoomForNumbers(bool shown);
 
     Analyser& m_analyser;
+    QWidget* m_numbers = nullptr;
     std::vector<FieldView*> m_fields; ///< the first one is that of the stick
 };
 

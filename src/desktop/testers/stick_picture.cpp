@@ -6,7 +6,7 @@ namespace tarvex {
 
 namespace {
 
-constexpr int pointRadius = 2;
+constexpr int pointRadius = 3;
 
 QRect toPixels(const Placement& place)
 {

@@ -1,7 +1,9 @@
 #include "mock_stick.h"
 
 #include <gtest/gtest.h>
+#include <umockdev.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <unistd.h>
@@ -11,6 +13,7 @@ namespace tarvex {
 namespace {
 
 constexpr const char* file = "/dev/input/event7";
+constexpr const char* place = "/sys/devices/home/input/input7/event7";
 
 template <typename T> std::string bytesOf(const T& value)
 {
@@ -25,35 +28,41 @@ void setBit(std::string& bits, unsigned bit)
 
 } // namespace
 
-MockStick::MockStick() : m_testbed(umockdev_testbed_new()), m_requests(umockdev_ioctl_base_new())
-{
-    g_signal_connect(m_requests, "handle-ioctl", G_CALLBACK(answer), this);
-}
+struct MockStick::World {
+    explicit World(MockStick& stick) { g_signal_connect(requests, "handle-ioctl", G_CALLBACK(answer), &stick); }
+    ~World()
+    {
+        g_object_unref(testbed);
+        g_object_unref(requests);
+    }
 
-MockStick::~MockStick()
-{
-    g_object_unref(m_testbed);
-    g_object_unref(m_requests);
-}
+    UMockdevTestbed* testbed = umockdev_testbed_new();
+    UMockdevIoctlBase* requests = umockdev_ioctl_base_new();
+
+    static gboolean answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
+};
+
+MockStick::MockStick() : m_world(std::make_unique<World>(*this)) {}
+
+MockStick::~MockStick() = default;
 
 void MockStick::plug()
 {
     GError* error = nullptr;
     umockdev_testbed_add_from_string(
-        m_testbed,
+        m_world->testbed,
         "P: /devices/home/input/input7/event7\nN: input/event7\nE: DEVNAME=/dev/input/event7\n"
         "E: SUBSYSTEM=input\nE: ID_INPUT=1\nE: ID_INPUT_JOYSTICK=1\n",
         &error);
     ASSERT_EQ(error, nullptr) << error->message;
-    m_place = "/sys/devices/home/input/input7/event7";
-    umockdev_testbed_attach_ioctl(m_testbed, file, m_requests, &error);
+    umockdev_testbed_attach_ioctl(m_world->testbed, file, m_world->requests, &error);
     ASSERT_EQ(error, nullptr) << error->message;
 }
 
 void MockStick::unplug()
 {
-    umockdev_testbed_detach_ioctl(m_testbed, file, nullptr);
-    umockdev_testbed_remove_device(m_testbed, m_place.c_str());
+    umockdev_testbed_detach_ioctl(m_world->testbed, file, nullptr);
+    umockdev_testbed_remove_device(m_world->testbed, place);
 }
 
 void MockStick::send(const std::vector<Change>& changes, std::int64_t microseconds)
@@ -71,7 +80,7 @@ void MockStick::send(const std::vector<Change>& changes, std::int64_t microsecon
     };
     for (const Change& change : changes) add(change.type, change.code, change.value);
     add(EV_SYN, SYN_REPORT, 0);
-    const int port = umockdev_testbed_get_dev_fd(m_testbed, file);
+    const int port = umockdev_testbed_get_dev_fd(m_world->testbed, file);
     EXPECT_EQ(::write(port, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size())) << std::strerror(errno);
 }
 
@@ -96,7 +105,7 @@ std::string MockStick::contents(unsigned number, std::size_t size) const
     return all;
 }
 
-gboolean MockStick::answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self)
+gboolean MockStick::World::answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self)
 {
     auto& stick = *static_cast<MockStick*>(self);
     const gulong request = umockdev_ioctl_client_get_request(client);

@@ -2,8 +2,7 @@
 
 #include <linux/input.h>
 
-#include <umockdev.h>
-
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -44,12 +43,10 @@ public:
     void send(const std::vector<Change>& changes, std::int64_t microseconds);
 
 private:
-    static gboolean answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
+    struct World;
     std::string contents(unsigned number, std::size_t size) const;
 
-    UMockdevTestbed* m_testbed;
-    UMockdevIoctlBase* m_requests;
-    std::string m_place; ///< in /sys
+    std::unique_ptr<World> m_world;
 };
 
 } // namespace tarvex

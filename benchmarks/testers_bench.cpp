@@ -1,0 +1,105 @@
+#include "shown_program.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QTimer>
+
+#include <cstdint>
+#include <ctime>
+#include <vector>
+
+// What a joystick costs while an analyser shows it, and how soon a report is seen.
+
+namespace tarvex::benchmarks {
+namespace {
+
+constexpr int steps = 4096;
+
+/// Once around the field, as a stick is turned.
+void sendStep(FakeJoystick& joystick, int step)
+{
+    joystick.position.dwZpos = static_cast<std::uint32_t>(step % steps * 16);
+    joystick.position.dwRpos = 65535 - joystick.position.dwZpos;
+    joystick.send(static_cast<std::uint32_t>(step * 16 % 65536), static_cast<std::uint32_t>(step * 48 % 65536), 1000);
+}
+
+Analyser& analyserOf(Program& program, bool isTca)
+{
+    if (isTca) return program.testers.controllerAnalyser;
+    return program.testers.joyPlot;
+}
+
+void open(ShownProgram& shown, bool isTca)
+{
+    shown.program.settings().UseTCA = isTca ? 1 : 0;
+    PaintsOf field("PicJoy");
+    shown.program.menus().mnuAppsJoyAnalyser.Click();
+    field.wait();
+}
+
+/// 1,000 reports a second for some seconds; the share of one core that it takes, and the reports that got lost.
+void analyserAtAThousandReports(benchmark::State& state)
+{
+    constexpr double seconds = 4;
+    constexpr double perSecond = 1000;
+    const bool isTca = state.range(0) != 0;
+    ShownProgram shown;
+    open(shown, isTca);
+    Analyser& analyser = analyserOf(shown.program.program(), isTca);
+    for (auto _ : state) {
+        analyser.numbers.statistics.clear();
+        int sent = 0;
+        const auto start = Clock::now();
+        const std::clock_t before = std::clock();
+        QTimer clock;
+        clock.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&clock, &QTimer::timeout, [&] {
+            while (sent < secondsSince(start) * perSecond) sendStep(shown.program.joystick, sent++);
+        });
+        clock.start(1);
+        while (secondsSince(start) < seconds) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        clock.stop();
+        while (!analyser.waiting.empty()) QApplication::processEvents();
+        const double used = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+        state.SetIterationTime(used);
+        state.counters["percent"] = used / seconds * 100;
+        state.counters["lost"] = sent - static_cast<double>(analyser.numbers.statistics.reports());
+    }
+}
+BENCHMARK(analyserAtAThousandReports)->Arg(0)->Arg(1)->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// From a report at any moment to its cross on the screen.
+void reportToPaintedCross(benchmark::State& state)
+{
+    ShownProgram shown;
+    open(shown, false);
+    std::vector<double> times;
+    for (auto _ : state) {
+        PaintsOf field("PicJoy");
+        const auto start = Clock::now();
+        sendStep(shown.program.joystick, static_cast<int>(times.size()));
+        field.wait();
+        times.push_back(secondsSince(start));
+        state.SetIterationTime(times.back());
+    }
+    state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
+}
+BENCHMARK(reportToPaintedCross)->Iterations(500)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void testerOpening(benchmark::State& state)
+{
+    const bool isTca = state.range(0) != 0;
+    std::vector<double> times;
+    for (auto _ : state) {
+        ShownProgram shown;
+        const auto start = Clock::now();
+        open(shown, isTca);
+        times.push_back(secondsSince(start));
+        state.SetIterationTime(times.back());
+    }
+    state.counters["first_ms"] = times.front() * 1e3;
+}
+BENCHMARK(testerOpening)->Arg(0)->Arg(1)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace tarvex::benchmarks
