@@ -46,6 +46,7 @@ void setUp(Analyser& analyser)
         analyser.joystick.start();
     }
     analyser.JoystickStarted = true;
+    analyser.numbers.showDevices();
     const bool failed = analyser.joystick.joyGetDevCapsA(analyser.Caps) != joyError::none;
     if (failed) analyser.editor.platform.dialogues.show(noJoystickBox(analyser.remarkOnMissing()));
     analyser.PicJoy.setScale(analyser.ScaleLow, analyser.ScaleHigh);

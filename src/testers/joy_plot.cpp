@@ -1,17 +1,13 @@
 #include "testers/joy_plot.h"
 
 #include "shell/handler.h"
+#include "shell/help_topics.h"
 
 #include <algorithm>
 
 namespace tarvex {
 
 namespace {
-
-namespace helpTopic {
-constexpr int overview = 7021;
-constexpr int spiking = 9410;
-} // namespace helpTopic
 
 Colour bandColour(std::uint32_t position)
 {
@@ -30,13 +26,21 @@ void drawGrid(JoyPlot& window)
     }
 }
 
-/// A help entry without help is greyed.
-void wireHelp(MenuItem& item, const std::function<void(int)>& show, int topic)
+void wireHelpMenu(JoyPlot& window)
 {
-    item.handler = [&show, topic] {
-        if (show) show(topic);
-    };
-    item.Enabled = show != nullptr;
+    Editor& editor = window.editor;
+    window.mnuHelpContents.handler = [&editor] { editor.menus.mnuHelpContents.Click(); };
+    window.mnuHelpOverview.handler = [&editor] { editor.operations.HelpTopic(helpTopic::joystickAnalyser); };
+    window.mnuhelpSpiking.handler = [&editor] { editor.operations.HelpTopic(helpTopic::spiking); };
+    window.mnuReadMe.handler = on(window, mnuReadMe_Click);
+}
+
+/// Entries without help are greyed.
+void showWhichHelpIsThere(JoyPlot& window)
+{
+    window.mnuHelpContents.Enabled = window.editor.menus.mnuHelpContents.handler != nullptr;
+    for (MenuItem* item : {&window.mnuHelpOverview, &window.mnuhelpSpiking})
+        item->Enabled = window.editor.operations.HelpTopic ? true : false;
 }
 
 } // namespace
@@ -77,15 +81,12 @@ void wireJoyPlot(JoyPlot& window)
     window.form.Load = [&window] {
         window.MaintainRatio = 0;
         window.mnuMaintain.Checked = false;
+        showWhichHelpIsThere(window);
         loadAnalyser(window);
     };
     window.mnuMaintain.handler = on(window, mnuMaintain_Click);
     window.mnuArrange.setHandler(onItem(window, mnuArrange_Click));
-    window.mnuReadMe.handler = on(window, mnuReadMe_Click);
-    window.mnuHelpContents.handler = [&window] { window.editor.menus.mnuHelpContents.Click(); };
-    window.mnuHelpContents.Enabled = window.editor.menus.mnuHelpContents.handler != nullptr;
-    wireHelp(window.mnuHelpOverview, window.HelpTopic, helpTopic::overview);
-    wireHelp(window.mnuhelpSpiking, window.HelpTopic, helpTopic::spiking);
+    wireHelpMenu(window);
 }
 
 void JoyPlot::drawPosition()

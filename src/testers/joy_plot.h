@@ -27,8 +27,7 @@ struct JoyPlot final : Analyser {
     Property<Placement> PicJoyPlace; ///< inside that room
     Signal<int, int> sizeWanted;     ///< the window is to shrink so that the room has this width and height
 
-    std::function<void(int topic)> HelpTopic; ///< shows a topic of the help file; none while there is no help
-    std::function<void(int mode)> Arrange;    ///< arranges the program's windows; set by who shows them
+    std::function<void(int mode)> Arrange; ///< arranges the program's windows; set by who shows them
 
     std::vector<MenuEntry> menuBar();
 

@@ -164,7 +164,6 @@ void Numbers::refresh()
         format("%.0f reports a second, %zu so far. A spike is a jump over %d and back within %d ms.", statistics.rate(),
                statistics.reports(), spikeThreshold, static_cast<int>(spikeMicroseconds / 1000));
     Verdict.Caption = verdictOf(statistics, (caps.wCaps & joyCaps::hasZ) != 0, (caps.wCaps & joyCaps::hasR) != 0);
-    if (Device.Items.get().empty()) showDevices();
 }
 
 void Numbers::showCells()

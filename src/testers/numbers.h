@@ -50,6 +50,8 @@ struct Numbers {
     void restart();
     void add(const JoystickReport& report) { statistics.add(report); }
     void refresh();
+    /// Those that are there now, and the axes of the open one.
+    void showDevices();
     /// The same, if the last time was a quarter of a second of reports ago.
     void refreshSometimes();
     /// All that the panel shows, as lines of text.
@@ -58,7 +60,6 @@ struct Numbers {
     std::vector<Connection> connections;
 
 private:
-    void showDevices();
     void showCells();
     void saveFile(const char* title, const char* filter, const char* extension,
                   const std::function<std::string()>& contents);

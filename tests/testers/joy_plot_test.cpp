@@ -302,6 +302,25 @@ TEST_F(JoyPlotTest, ArrangeHandsTheModeOn)
     EXPECT_THAT(modes, ElementsAre(0, 1, 2, 3));
 }
 
+TEST_F(JoyPlotTest, HelpEntriesShowTheirTopics)
+{
+    std::vector<int> topics;
+    editor().operations.HelpTopic = [&](int topic) { topics.push_back(topic); };
+    open();
+    form.mnuHelpOverview.Click();
+    form.mnuhelpSpiking.Click();
+    EXPECT_TRUE(form.mnuHelpOverview.Enabled);
+    EXPECT_THAT(topics, ElementsAre(7021, 9410));
+}
+
+TEST_F(JoyPlotTest, HelpEntriesAreGreyedWithoutHelp)
+{
+    editor().operations.HelpTopic = {};
+    open();
+    EXPECT_FALSE(form.mnuHelpOverview.Enabled);
+    EXPECT_FALSE(form.mnuhelpSpiking.Enabled);
+}
+
 TEST_F(JoyPlotTest, ReadMeWarnsOfTheLoad)
 {
     form.mnuReadMe.Click();

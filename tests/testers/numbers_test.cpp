@@ -194,6 +194,14 @@ TEST_F(NumbersTest, AnAxisThatTheUserChoseIsKept)
     EXPECT_EQ(joystick.wanted.axes[axisRole::throttle], axisByGuess);
 }
 
+TEST_F(NumbersTest, ADeviceThatCameWhileTheWindowWasClosedIsListed)
+{
+    form.mnuexit.Click();
+    joystick.plugged.push_back(FakeJoystick::deviceNamed("WCS", "77"));
+    menus().mnuAppsJoyAnalyser.Click();
+    EXPECT_EQ(numbers.Device.Items.get().size(), 2U);
+}
+
 TEST_F(NumbersTest, AnotherDeviceStartsWithNothingMeasured)
 {
     send(0, 10);
