@@ -16,8 +16,8 @@ namespace tarvex {
 
 namespace {
 
-constexpr int askMilliseconds = 1;        // for what an open device has sent
-constexpr int lookMilliseconds = 500;     // for devices, where the system doesn't report them
+constexpr int askMilliseconds = 1;    // for what an open device has sent
+constexpr int lookMilliseconds = 500; // for devices, where the system doesn't report them
 constexpr int settleMilliseconds = 300;
 
 /// Where the system makes its device files; devices appear there without anybody asking.
