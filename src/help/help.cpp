@@ -10,6 +10,13 @@ namespace {
 constexpr int firstOfThrustmaster = 10;
 constexpr int firstOfHowDoI = 20;
 
+/// A failure leaves no trace.
+void showQuietly(Dialogues& dialogues, const char* form)
+{
+    const Steps step;
+    step([&] { dialogues.showModal(form); });
+}
+
 } // namespace
 
 Help::Help(Editor& theEditor)
@@ -37,8 +44,8 @@ void wireHelp(Help& help)
     menus.mnuHelpContents.handler = [&help] { mnuHelpContents_Click(help); };
     menus.mnuHowDoIArray.setHandler([&help](int index) { mnuHowDoIArray_Click(help, index); });
     menus.mnuTMhelp.setHandler([&help](int index) { mnuTMhelp_Click(help, index); });
-    menus.mnuHelpTips.handler = [&dialogues] { dialogues.showModal("frmTip"); };
-    menus.mnuHelpAbout.handler = [&dialogues] { dialogues.showModal("frmAbout"); };
+    menus.mnuHelpTips.handler = [&dialogues] { showQuietly(dialogues, "frmTip"); };
+    menus.mnuHelpAbout.handler = [&dialogues] { showQuietly(dialogues, "frmAbout"); };
     menus.mnuWebTarvex.setHandler(
         [&help](int index) { mnuWebTarvex_Click(help.editor, *help.handbook.system, index); });
     editor.operations.HelpKeyword = [&help](const std::string& word) { HelpKeyword(help.handbook, word); };

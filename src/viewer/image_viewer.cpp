@@ -16,6 +16,7 @@ void wireImageViewer(ViewImage& window)
     window.mnuPrint.handler = on(window, mnuPrint_Click);
     window.mnuFileClose.handler = on(window, mnuFileClose_Click);
     window.mnuFileExit.handler = on(window, mnuFileExit_Click);
+    window.mnuHelpContents.handler = [&window] { window.editor.menus.mnuHelpContents.Click(); };
     window.mnuZoomIn.handler = [&window] { zoomAtMiddle(window, zoomStep); };
     window.mnuZoomOut.handler = [&window] { zoomAtMiddle(window, 1 / zoomStep); };
     window.mnuZoomFit.handler = on(window, zoomToFit);

@@ -28,6 +28,7 @@ std::vector<MenuEntry> ViewImage::menuBar()
           {&mnuZoomOut, "Ctrl+-", {}},
           {&mnuZoomFit, "Ctrl+9", {}},
           {&mnuZoomActual, "Ctrl+0", {}}}},
+        {&mnuHelp, {}, {{&mnuHelpContents, {}, {}}}},
     };
 }
 

@@ -58,6 +58,8 @@ struct ViewImage {
     MenuItem mnuZoomOut{"mnuZoomOut", "Zoom &out"};
     MenuItem mnuZoomFit{"mnuZoomFit", "&Fit the window"};
     MenuItem mnuZoomActual{"mnuZoomActual", "&Actual size"};
+    MenuItem mnuHelp{"mnuHelp", "&Help"};
+    MenuItem mnuHelpContents{"mnuHelpContents", "&Tarvex help topics"};
 
     std::vector<MenuEntry> menuBar();
 };

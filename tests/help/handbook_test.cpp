@@ -95,6 +95,12 @@ TEST_F(HandbookTest, TheHelpMenuOfTheTemplateEditorOpensIt)
     EXPECT_TRUE(book.form.Visible);
 }
 
+TEST_F(HandbookTest, TheHelpMenuOfTheImageViewerOpensIt)
+{
+    t.program().imageViewer.mnuHelpContents.Click();
+    EXPECT_TRUE(book.form.Visible);
+}
+
 TEST_F(HandbookTest, TheHelpButtonsOfWindowsWithPagesLeadToTheirTopics)
 {
     std::vector<int> topics;

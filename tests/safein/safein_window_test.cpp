@@ -115,6 +115,10 @@ TEST_F(SafeinWindow, TipsFollowTheirOption)
 
 TEST_F(SafeinWindow, HelpThatIsNotThereIsGreyed)
 {
+    window.HelpTopic = nullptr;
+    window.ShowInfoItem = nullptr;
+    window.form.unload();
+    t.menus().mnuInsertRAW.Click();
     EXPECT_FALSE(window.mnuRawOverview.Enabled || window.mnuOptionsExplain.Enabled);
     int topic = 0;
     int item = 0;
