@@ -1,7 +1,8 @@
 #include "desktop/theme.h"
 
+#include "desktop/theme_style.h"
+
 #include <QApplication>
-#include <QStyleFactory>
 
 namespace tarvex {
 
@@ -59,7 +60,7 @@ QPalette darkPalette()
 
 ThemeView::ThemeView(Appearance& appearance)
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ThemeStyle);
     m_bindings.bind(appearance.theme, [](Appearance::Theme theme) {
         switch (theme) {
         case Appearance::Theme::System:

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QPainter>
+#include <QStyleOptionButton>
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,38 @@ TEST(ThemeView, DarkAppearanceTintsTheIconsLightAndBack)
     EXPECT_GE(onLight, 0);
     EXPECT_LT(onLight, 80);
     EXPECT_GT(onDark, 180);
+}
+
+/// How much lighter than the ground the lightest pixel of an empty tick box or radio button is, 0 to 255.
+int contrast(QStyle::PrimitiveElement element, QPalette::ColorRole ground)
+{
+    constexpr int side = 16;
+    const QPalette palette = QApplication::palette();
+    QStyleOptionButton option;
+    option.palette = palette;
+    option.state = QStyle::State_Enabled | QStyle::State_Off;
+    option.rect = QRect(4, 4, side, side);
+    QImage image(side + 8, side + 8, QImage::Format_RGB32);
+    image.fill(palette.color(ground));
+    QPainter painter(&image);
+    QApplication::style()->drawPrimitive(element, &option, &painter);
+    int lightest = 0;
+    for (int i = 0; i < side; ++i) lightest = std::max(lightest, image.pixelColor(4 + i, 4 + side / 2).lightness());
+    return lightest - palette.color(ground).lightness();
+}
+
+TEST(ThemeView, OnDarkGroundEmptyTickBoxesAndRadioButtonsHaveVisibleFrames)
+{
+    MemoryFiles files;
+    Menus menus;
+    Appearance appearance(files, "c:\\tarvex", menus);
+    const ThemeView view(appearance);
+    appearance.choose(Appearance::Theme::Dark);
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
+        for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Button})
+            EXPECT_GT(contrast(element, ground), 70) << element << " on " << ground;
+    }
+    appearance.choose(Appearance::Theme::System);
 }
 
 TEST(ThemeIcon, EveryIconDrawsSomethingAtEverySize)
