@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QWindow>
 
 namespace tarvex {
 
@@ -66,6 +67,16 @@ void ToolFormWindow::reject()
     } else {
         FormWindow::reject();
     }
+}
+
+bool ToolFormWindow::event(QEvent* event)
+{
+    const bool isBlocked = event->type() == QEvent::WindowBlocked;
+    if ((isBlocked || event->type() == QEvent::WindowUnblocked) && windowHandle() != nullptr) {
+        const bool onTop = windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        windowHandle()->setFlag(Qt::WindowStaysOnTopHint, onTop && !isBlocked); // the widget's flag would hide it first
+    }
+    return FormWindow::event(event);
 }
 
 void ToolFormWindow::keyPressEvent(QKeyEvent* event)

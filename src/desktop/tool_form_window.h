@@ -20,6 +20,8 @@ public:
     bool filterKey(QKeyEvent& event);
 
 protected:
+    /// While a modal box of the program is open, the window isn't kept on top: it could hide the box.
+    bool event(QEvent* event) override;
     /// Keys that the window takes off its controls, pressed or released, shortcuts among them.
     virtual bool takesKey(const QKeyEvent&) { return false; }
     /// Keys that belong to the control with the keyboard, whatever the form's KeyDown would do with them.

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -352,6 +353,22 @@ TEST_F(ComposerViewTest, EscapeHidesIt)
     events();
     EXPECT_FALSE(form()->isVisible());
     EXPECT_EQ(composer.ComposerOpen, 1);
+}
+
+TEST_F(ComposerViewTest, ABoxOfTheProgramIsNotHiddenByTheWindowThatIsKeptOnTop)
+{
+    const auto onTop = [this] { return form()->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint); };
+    ASSERT_TRUE(onTop());
+    {
+        QDialog box(&window);
+        box.setModal(true);
+        box.show();
+        events();
+        EXPECT_FALSE(onTop());
+    }
+    events();
+    EXPECT_TRUE(onTop());
+    EXPECT_TRUE(form()->isVisible());
 }
 
 TEST_F(ComposerViewTest, KeysReachTheProgram)
