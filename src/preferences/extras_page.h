@@ -53,18 +53,6 @@ private:
 void loadExtras(ExtrasPage& page);
 /// Takes the page into Platform.ini.
 void takeExtras(ExtrasPage& page);
-/// Puts the changed drives into force. One that the open files or the settings are on keeps its folder until the next
-/// start; a box says so.
-void moveDrives(ExtrasPage& page);
-
-/// The drive with the whole disk stays as it is: without it, files could get out of reach.
-bool mayChange(const DriveFolder& drive);
-/// The user wrote a folder into a row of the table; empty: the one that was found. A folder that isn't there is refused
-/// with a box.
-void writeDriveFolder(ExtrasPage& page, int row, const std::string& folder);
-void DriveBrowse_Click(ExtrasPage& page);
-void DriveAdd_Click(ExtrasPage& page);
-void DriveReset_Click(ExtrasPage& page);
 void RunnerBrowse_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row);
 void RunnerTest_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row);
 

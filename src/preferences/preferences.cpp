@@ -3,6 +3,7 @@
 #include "documents/window/hardware_changes.h"
 #include "lists/custom_apps.h"
 #include "platform/runner_missing.h"
+#include "preferences/extras_drives.h"
 #include "preferences/previous_loaders.h"
 #include "preferences/scheme_in_force.h"
 #include "shell/help_topics.h"

@@ -1,6 +1,7 @@
 #include "preferences/extras_page.h"
 
 #include "platform/machine_settings.h"
+#include "preferences/extras_drives.h"
 #include "preferences_fixture.h"
 #include "shell/appearance.h"
 #include "shell/extras.h"

@@ -1,5 +1,7 @@
 #include "desktop/preferences/drives_table.h"
 
+#include "preferences/extras_drives.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalBlocker>
