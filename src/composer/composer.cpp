@@ -177,6 +177,7 @@ void Form_Activate(InsertOptions& window)
     step([&] { ShowApproriateTabs(window); });
     if (window.editor.macros.MacroListDirty == 1) CopyMacroList(window);
     presetDelays(window);
+    step([&] { readShowAssigned(window); });
     step([&] { renewAssigned(window); });
 }
 

@@ -38,8 +38,7 @@ FlagTab::FlagTab(const std::shared_ptr<FormatTable>& formats)
 }
 
 InsertOptions::InsertOptions(Editor& theEditor)
-    : editor(theEditor), form("InsertOptions", &ComposerOpen), flags(theEditor.formats), templates(theEditor.formats),
-      PlatformIni(theEditor.platform.files, theEditor.platform.programDirectory + "\\Platform.ini")
+    : editor(theEditor), form("InsertOptions", &ComposerOpen), flags(theEditor.formats), templates(theEditor.formats)
 {
     form.Caption = "Composer - to ease your programming somewhat !!!";
     form.Width = firstWidth;

@@ -3,7 +3,6 @@
 #include "composer/controls/assigned_controls.h"
 #include "documents/pair/editor.h"
 #include "documents/text/pane.h"
-#include "platform/profile_file.h"
 #include "platform/toggle_label.h"
 #include "shell/hardware/pictures.h"
 #include "shell/menus.h"
@@ -208,7 +207,6 @@ struct InsertOptions {
     std::vector<AssignedControl> Assigned;
     Signal<> AssignedChanged;
     Timer TimerAssigned{150}; ///< runs from an edit to the renewal of Assigned
-    ProfileFile PlatformIni;
 
     Placement
         PopUpPlace; ///< where a menu of a picture opens, on the screen in pixels; the view sets it with each click

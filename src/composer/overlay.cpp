@@ -1,15 +1,14 @@
 #include "composer/overlay.h"
 
 #include "platform/windows1252.h"
+#include "shell/composer_extra.h"
+#include "shell/extras.h"
 
 #include <algorithm>
 
 namespace tarvex {
 
 namespace {
-
-constexpr std::string_view section = "Extras";
-constexpr std::string_view key = "ShowAssigned";
 
 /// A name stands in a statement between blanks or line ends.
 bool namesMacro(std::string_view statement, std::string_view name)
@@ -66,12 +65,13 @@ void renewAssigned(InsertOptions& window)
 
 void readShowAssigned(InsertOptions& window)
 {
-    window.CheckShowAssigned.Value = window.PlatformIni.readInt(section, key, 1) == 1;
+    window.CheckShowAssigned.Value = window.editor.shared.extras.on(extraKey::showAssigned);
 }
 
 void CheckShowAssigned_Click(InsertOptions& window)
 {
-    window.PlatformIni.writeString(section, key, window.CheckShowAssigned.Value ? "1" : "0");
+    const Steps step; // where the tick can't be written, it counts until the window comes to the front again
+    step([&] { window.editor.shared.extras.set(extraKey::showAssigned, window.CheckShowAssigned.Value); });
     renewAssigned(window);
 }
 

@@ -1,5 +1,7 @@
 #include "shell/extras.h"
 
+#include "shell/composer_extra.h"
+
 #include <algorithm>
 #include <stdexcept>
 #include <string>
@@ -16,6 +18,8 @@ constexpr ExtraTick ticks[] = {
     {extraKey::printPageNumbers, "Print page num&bers at the foot", "Numbers the pages of printed files", false},
     {extraKey::printFileName, "Print the file's name at the f&oot", "Names the file on each of its printed pages",
      false},
+    {extraKey::showAssigned, "Show in the Composer what the &joystick file has",
+     "Marks the controls that have a statement in the joystick file, and shows it under the mouse", true},
 };
 
 const ExtraTick& rowOf(std::string_view key)

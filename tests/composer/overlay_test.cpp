@@ -1,6 +1,8 @@
 #include "composer/overlay.h"
 
 #include "composer/composer_fixture.h"
+#include "shell/composer_extra.h"
+#include "shell/extras.h"
 
 namespace tarvex {
 namespace {
@@ -62,6 +64,37 @@ TEST_F(OverlayTest, WithoutTheTickNothingIsMarkedAndTheChoiceIsKept)
     EXPECT_TRUE(isAssigned(window, "BTN(0)"));
 }
 
+TEST_F(OverlayTest, TheTickOfThePreferencesShowsAndHidesTheMarksWhenTheWindowComesToTheFront)
+{
+    write("BTN S1 ");
+    settle();
+    editor.shared.extras.set(extraKey::showAssigned, false);
+    window.form.Activate();
+    EXPECT_FALSE(window.CheckShowAssigned.Value);
+    EXPECT_FALSE(isAssigned(window, "BTN(0)"));
+    editor.shared.extras.set(extraKey::showAssigned, true);
+    window.form.Activate();
+    EXPECT_TRUE(window.CheckShowAssigned.Value);
+    EXPECT_TRUE(isAssigned(window, "BTN(0)"));
+}
+
+TEST_F(OverlayTest, TheTickIsThatOfThePreferences)
+{
+    window.CheckShowAssigned.Value = false;
+    window.CheckShowAssigned.Click();
+    EXPECT_FALSE(editor.shared.extras.on(extraKey::showAssigned));
+}
+
+TEST_F(OverlayTest, WhereTheTickCannotBeWrittenItCountsForThisWindow)
+{
+    write("BTN S1 ");
+    settle();
+    t.files.failWrites("c:\\tarvex\\Platform.ini", RuntimeError(ErrorCode::PermissionDenied, "no"));
+    window.CheckShowAssigned.Value = false;
+    window.CheckShowAssigned.Click();
+    EXPECT_FALSE(isAssigned(window, "BTN(0)"));
+}
+
 TEST_F(OverlayTest, TheTextHasTheStatementsAndTheKeysOfTheirMacros)
 {
     t.files.addFile("c:\\tm\\a.b50", "BTN H1U Fire A B\r\n/M Firewall\r\nBTN H1D x\r\n");
@@ -83,6 +116,44 @@ TEST_F(OverlayTest, TheLabelsOfTheWcsDecideWhoseStatementItIs)
     use(2, 2);
     EXPECT_FALSE(isAssigned(window, "BTN(21)"));
     EXPECT_TRUE(isAssigned(window, "BTN(16)"));
+}
+
+// ---- bad input ------------------------------------------------------------------------------------------------------
+
+TEST_F(OverlayTest, AMegabyteIsMarked)
+{
+    std::string text;
+    while (text.size() < (1U << 20)) text += "BTN X1 /I Chaff /O RAW (#F0 #5B)\r\n";
+    write(text + "BTN S1 Fire");
+    settle();
+    EXPECT_TRUE(isAssigned(window, "BTN(0)"));
+    EXPECT_EQ(assignedText(window, "BTN(0)"), "BTN S1 Fire");
+}
+
+TEST_F(OverlayTest, AMegabyteWithoutLineEndsIsMarked)
+{
+    write("BTN S1 " + std::string(1 << 20, 'x'));
+    settle();
+    EXPECT_TRUE(isAssigned(window, "BTN(0)"));
+    EXPECT_FALSE(isAssigned(window, "BTN(1)"));
+}
+
+TEST_F(OverlayTest, InAnEmptyFileNothingIsMarked)
+{
+    write("");
+    renewAssigned(window);
+    for (const AssignedControl& control : window.Assigned) EXPECT_FALSE(control.statement) << control.name;
+}
+
+TEST_F(OverlayTest, AmongFiveThousandMacrosTheKeysOfItsOwnAreFound)
+{
+    std::string macros;
+    for (int i = 0; i < 5000; ++i) macros += "Macro" + std::to_string(i) + " = a\r\n";
+    t.files.addFile("c:\\tm\\a.b50", "BTN S1 Macro4999\r\n");
+    t.files.addFile("c:\\tm\\a.m50", macros);
+    t.openBoth("c:\\tm\\a.b50");
+    window.form.Activate();
+    EXPECT_EQ(assignedText(window, "BTN(0)"), "BTN S1 Macro4999\n    Macro4999 = a");
 }
 
 } // namespace
