@@ -25,9 +25,11 @@ constexpr Labels stepsLabels{"Steps", "Step up", "Step down"};
 constexpr Labels centredLabels{"Steps", "Step up", "Centre", "Step down"};
 constexpr Labels fiveFieldLabels{"Steps", "Full up", "Full up to centre", "Centre", "Centre to full down", "Full down"};
 
-/// A page: forms side by side, a row of buttons below, and the tick at its foot.
+/// A page: columns of forms, a row of buttons below, and the tick at its foot.
 class FormPage : public QWidget {
 public:
+    enum class Place { NextColumn, Below };
+
     FormPage(InsertOptions& window, Bindings& bindings, std::size_t tick)
         : m_window(window), m_bindings(bindings), m_column(new QVBoxLayout(this)), m_forms(new QHBoxLayout)
     {
@@ -40,7 +42,7 @@ public:
     }
 
     void form(const char* title, Labels labels, std::span<TextBox> fields, const char* fieldName, Button& insert,
-              const char* insertName)
+              const char* insertName, Place place = Place::NextColumn)
     {
         auto* group = new QGroupBox(QLatin1String(title), this);
         auto* rows = new QFormLayout(group);
@@ -54,7 +56,12 @@ public:
             rows->addRow(QLatin1String(*label++), field);
         }
         rows->addRow(QString(), button);
-        m_forms->addWidget(group, 1, Qt::AlignTop);
+        if (place == Place::NextColumn) {
+            m_stack = new QVBoxLayout;
+            m_stack->addStretch(1);
+            m_forms->addLayout(m_stack, 1);
+        }
+        m_stack->insertWidget(m_stack->count() - 1, group);
     }
 
     /// Below the forms.
@@ -78,6 +85,7 @@ protected:
 private:
     QVBoxLayout* m_column;
     QHBoxLayout* m_forms;
+    QVBoxLayout* m_stack = nullptr; ///< the column of forms that was begun last; a stretch ends it
 };
 
 QHBoxLayout* leftAligned(std::initializer_list<QWidget*> widgets)
@@ -147,6 +155,8 @@ QGridLayout* mouseButtons(InsertOptions& window, Bindings& bindings, QWidget* pa
         grid->addWidget(title, i, 0);
         grid->addWidget(shown, i, 1);
     }
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(3, 1);
     return grid;
 }
 
@@ -218,7 +228,8 @@ QWidget* axesPage(InsertOptions& window, Bindings& bindings)
     }
     page->above(axes);
     page->form("Form 1", centredLabels, window.fields.Axis1, "Axis1", window.Command8[1], "Command8(1)");
-    page->form("Form 2", fiveFieldLabels, window.fields.Axis2, "Axis2", window.Command8[2], "Command8(2)");
+    page->form("Form 2", fiveFieldLabels, window.fields.Axis2, "Axis2", window.Command8[2], "Command8(2)",
+               FormPage::Place::Below);
     page->form("Form 3", {"Left", "Centre", "Right"}, window.fields.Axis3, "Axis3", window.Command8[3], "Command8(3)");
     page->below(leftAligned({page->button(window.Command15[1], QStringLiteral("Command15(1)"))}));
     return page;
