@@ -50,10 +50,48 @@ TEST_F(TemplatesTest, WithoutAFolderOrInAnEmptyOneTheListIsEmpty)
     EXPECT_THAT(names(), testing::IsEmpty());
 }
 
-TEST_F(TemplatesTest, TwoThousandFilesAreListed)
+TEST_F(TemplatesTest, AFolderThatCannotBeReadGivesAnEmptyListAndInsertsNothing)
+{
+    file("a.rtf", rtf);
+    choose("a.rtf");
+    const std::string folder = "c:\\tarvex\\Templates";
+    t.files.failReads(folder, RuntimeError(ErrorCode::PermissionDenied, "Permission denied"));
+    EXPECT_THAT(names(), testing::IsEmpty());
+    for (Button& button : tab.Command11) button.Click();
+    TemplatesPreview_DblClick(window);
+    EXPECT_EQ(joystick.Text() + macro.Text(), "");
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    t.files.failReads(folder, std::nullopt);
+    EXPECT_THAT(names(), testing::ElementsAre("a.rtf"));
+}
+
+TEST_F(TemplatesTest, AFolderThatCannotBeReadLetsTheWindowOpen)
+{
+    file("a.rtf", rtf);
+    window.form.Close();
+    t.files.failReads("c:\\tarvex\\Templates", RuntimeError(ErrorCode::PermissionDenied, "Permission denied"));
+    show();
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_THAT(tab.Templates.Items.get(), testing::IsEmpty());
+}
+
+TEST_F(TemplatesTest, OfTwoThousandFilesEachIsListedOnceAndTheLastOneIsInserted)
 {
     for (int i = 0; i < 2000; ++i) file(std::to_string(i) + ".rtf", rtf);
     EXPECT_EQ(names().size(), 2000U);
+    EXPECT_EQ(std::ranges::count(names(), "1999.rtf"), 1);
+    choose("999.rtf");
+    tab.Command11[0].Click();
+    EXPECT_EQ(joystick.Text(), "Rem title\r\nBTN S1");
+}
+
+TEST_F(TemplatesTest, AMegabyteWithoutLineEndsIsShownAndInsertedOnce)
+{
+    const std::string text(1 << 20, 'x');
+    file("a.txt", text);
+    choose("a.txt");
+    tab.Command11[0].Click();
+    EXPECT_EQ(joystick.Text(), text);
 }
 
 TEST_F(TemplatesTest, AChosenFileIsShownWithItsColours)

@@ -66,7 +66,8 @@ void MemoryFiles::failWrites(const std::string& path, std::optional<RuntimeError
 
 void MemoryFiles::failReads(const std::string& path, std::optional<RuntimeError> error)
 {
-    fileAt(path).readError = std::move(error);
+    if (!find(path)) throw std::logic_error("the test names a path that isn't there: " + path);
+    m_entries.at(key(path)).readError = std::move(error);
 }
 
 void MemoryFiles::failAppends(std::optional<RuntimeError> error, std::size_t after)
@@ -219,6 +220,7 @@ bool MemoryFiles::liesWithin(const std::string& path, const std::string& directo
 std::vector<std::string> MemoryFiles::list(const std::string& path) const
 {
     if (!directoryExists(path)) fail(ErrorCode::PathNotFound, "Path not found");
+    if (const auto& error = find(path)->readError) throw RuntimeError(*error);
     std::vector<std::string> names;
     for (const auto& [entryKey, entry] : m_entries) {
         if (entryKey != key(path) && key(parentOf(entry.path)) == key(path)) names.push_back(fileNameOf(entry.path));
