@@ -15,7 +15,7 @@ void Form_Unload(InsertOptions& window);
 bool Form_KeyDown(InsertOptions& window, int key, int shift);
 
 void PositionComposer(InsertOptions& window);
-/// Read and write the settings of the window's own, and show them.
+/// Read and write the Composer's own settings; GetSpaces shows them.
 void GetSpaces(InsertOptions& window);
 void SaveSpaces(InsertOptions& window);
 void UpdateTooltips(InsertOptions& window);
@@ -26,7 +26,7 @@ void Command5_Click(InsertOptions& window, int Index);
 void Command6_Click(InsertOptions& window);
 void Command14_Click(InsertOptions& window);
 
-// For those who lead the user through the program: the window comes up with a page of SSTab1 in front.
+// For wizards and menus: the window opens with a page of SSTab1 in front.
 void showComposerPage(InsertOptions& window, int page);
 /// The same with a value in the field of RATE, which has the keyboard.
 void showComposerRate(InsertOptions& window, const std::string& value);

@@ -9,7 +9,7 @@ namespace tarvex {
 // What the joystick file has on the controls, shown over the pictures: a view of the text, made anew after edits.
 
 void wireOverlay(InsertOptions& window);
-/// Reads whether it is to be shown.
+/// Takes the user's choice from the extras.
 void readShowAssigned(InsertOptions& window);
 void CheckShowAssigned_Click(InsertOptions& window);
 /// Reads the joystick file anew, or shows nothing.

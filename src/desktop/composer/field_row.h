@@ -11,7 +11,7 @@ class QWidget;
 
 namespace tarvex {
 
-// Pieces of the Composer's pages. The bindings go before the widgets.
+// Pieces of the Composer's pages. The bindings are destroyed before the widgets.
 
 /// A button that Return presses only while it has the keyboard.
 QPushButton* newButton(Button& state, const QString& name, Bindings& bindings, QWidget* parent);

@@ -20,7 +20,7 @@ class HardwarePicture;
 class HardwarePage : public QWidget {
     Q_OBJECT
 public:
-    /// `bindings` go before this does.
+    /// `bindings` are destroyed before this.
     HardwarePage(InsertOptions& window, Bindings& bindings, QWidget* parent = nullptr);
 
 private:

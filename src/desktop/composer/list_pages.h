@@ -7,7 +7,7 @@ class QWidget;
 
 namespace tarvex {
 
-// The pages of SSTab7. `bindings` go before the pages do.
+// The pages of SSTab7. `bindings` are destroyed before the pages.
 
 QWidget* macrosPage(InsertOptions& window, Bindings& bindings);
 QWidget* templatesPage(InsertOptions& window, Bindings& bindings);

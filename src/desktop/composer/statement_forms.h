@@ -7,8 +7,8 @@ class QWidget;
 
 namespace tarvex {
 
-// The pages with forms. Each has its fields labelled, and a button that inserts the statement. `bindings` go before the
-// pages do.
+// The pages with forms. Each has its fields labelled, and a button that inserts the statement. `bindings` are destroyed
+// before the pages.
 
 QWidget* rangePage(InsertOptions& window, Bindings& bindings);
 QWidget* antennaPage(InsertOptions& window, Bindings& bindings);
