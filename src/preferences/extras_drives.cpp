@@ -96,7 +96,7 @@ std::string changedLetters(const ExtrasPage& page)
 
 } // namespace
 
-Connection wireDrives(ExtrasPage& page)
+void wireDrives(ExtrasPage& page)
 {
     page.DriveBrowse.Caption = "Choose fo&lder...";
     page.DriveBrowse.handler = [&page] { DriveBrowse_Click(page); };
@@ -104,7 +104,7 @@ Connection wireDrives(ExtrasPage& page)
     page.DriveAdd.handler = [&page] { DriveAdd_Click(page); };
     page.DriveReset.Caption = "As fo&und";
     page.DriveReset.handler = [&page] { DriveReset_Click(page); };
-    return page.DriveRow.changed.connect([&page] { enableDriveButtons(page); });
+    page.connections.push_back(page.DriveRow.changed.connect([&page] { enableDriveButtons(page); }));
 }
 
 void loadDrives(ExtrasPage& page)

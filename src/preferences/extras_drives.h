@@ -9,8 +9,7 @@ namespace tarvex {
 
 // The table of the page "Extras" that says which folder each drive letter stands for.
 
-/// Gives the buttons of the table their captions and handlers. They follow the chosen row while the connection lasts.
-Connection wireDrives(ExtrasPage& page);
+void wireDrives(ExtrasPage& page);
 void loadDrives(ExtrasPage& page);
 /// Takes the changed drives into Platform.ini, each as a step of its own.
 void takeDrives(ExtrasPage& page, const Steps& step);

@@ -14,7 +14,7 @@ namespace tarvex {
 /// The page "Extras": what belongs to this machine, and choices that go beyond the program's settings. Platform.ini
 /// takes it when the preferences close; the appearance is in force and written at once.
 struct ExtrasPage {
-    explicit ExtrasPage(Editor& theEditor);
+    explicit ExtrasPage(Editor& theEditor) : editor(theEditor) {}
     ExtrasPage(const ExtrasPage&) = delete;
     ExtrasPage& operator=(const ExtrasPage&) = delete;
 
@@ -45,18 +45,7 @@ struct ExtrasPage {
     DriveChoices chosenDrives; ///< of the user
     DriveChoices drivesBefore; ///< the same when the page was loaded
 
-private:
-    std::array<Connection, 3> m_appearanceChanged;
-    Connection m_rowChanged;
+    std::vector<Connection> connections;
 };
-
-void loadExtras(ExtrasPage& page);
-/// Takes the page into Platform.ini.
-void takeExtras(ExtrasPage& page);
-void RunnerBrowse_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row);
-void RunnerTest_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row);
-
-/// What the answer of a runner to the question for its version means to the user.
-std::string verdict(Runner which, const ProgramOutput& output);
 
 } // namespace tarvex

@@ -3,6 +3,7 @@
 #include "documents/window/hardware_changes.h"
 #include "lists/custom_apps.h"
 #include "platform/runner_missing.h"
+#include "preferences/extras_controls.h"
 #include "preferences/extras_drives.h"
 #include "preferences/previous_loaders.h"
 #include "preferences/scheme_in_force.h"
@@ -163,6 +164,7 @@ Preferences::Preferences(Editor& theEditor, Lists& theLists)
     Command3.handler = [this] { Form.Visible = false; };
     Command6.Caption = "&Help";
     Command6.handler = [this] { PREFS_Command6_Click(*this); };
+    wireExtras(extrasPage);
 }
 
 void loadSettingsPages(Preferences& preferences)

@@ -2,6 +2,7 @@
 
 #include "platform/machine_settings.h"
 #include "preferences/extras_drives.h"
+#include "preferences/extras_runners.h"
 #include "preferences_fixture.h"
 #include "shell/appearance.h"
 #include "shell/extras.h"

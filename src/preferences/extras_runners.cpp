@@ -1,18 +1,14 @@
-#include "preferences/extras_page.h"
+#include "preferences/extras_runners.h"
 
 #include "platform/machine_settings.h"
 #include "platform/windows1252.h"
-#include "preferences/extras_drives.h"
 #include "preferences/extras_handling.h"
-#include "shell/extras.h"
 
 #include <string_view>
 
 namespace tarvex {
 
 namespace {
-
-// ---- Wine and DOSBox ------------------------------------------------------------------------------------------------
 
 std::string firstLine(std::string_view text)
 {
@@ -41,72 +37,31 @@ void loadRunner(ExtrasPage& page, ExtrasPage::RunnerRow& row)
     row.Answer.Caption = "";
 }
 
-// ---- appearance -----------------------------------------------------------------------------------------------------
-
-std::array<MenuItem*, 3> appearanceItems(Menus& menus)
-{
-    return {&menus.mnuAppearanceSystem, &menus.mnuAppearanceLight, &menus.mnuAppearanceDark};
-}
-
-void showAppearance(ExtrasPage& page)
-{
-    const auto items = appearanceItems(page.editor.menus);
-    for (std::size_t i = 0; i < items.size(); ++i) page.Appearance[i].Value = items[i]->Checked.get();
-}
-
 } // namespace
 
-ExtrasPage::ExtrasPage(Editor& theEditor) : editor(theEditor)
+void wireRunners(ExtrasPage& page)
 {
-    m_rowChanged = wireDrives(*this);
     constexpr const char* testCaptions[] = {"&Test", "T&est"};
-    for (std::size_t i = 0; i < Runners.size(); ++i) {
-        RunnerRow& row = Runners[i];
+    for (std::size_t i = 0; i < page.Runners.size(); ++i) {
+        ExtrasPage::RunnerRow& row = page.Runners[i];
         row.which = i == 0 ? Runner::Wine : Runner::DosBox;
         row.Browse.Caption = "Browse";
-        row.Browse.handler = [this, &row] { RunnerBrowse_Click(*this, row); };
+        row.Browse.handler = [&page, &row] { RunnerBrowse_Click(page, row); };
         row.Test.Caption = testCaptions[i];
-        row.Test.handler = [this, &row] { RunnerTest_Click(*this, row); };
+        row.Test.handler = [&page, &row] { RunnerTest_Click(page, row); };
     }
-    constexpr const char* themeCaptions[] = {"As the deskto&p", "L&ight", "Dar&k"};
-    const auto items = appearanceItems(editor.menus);
-    for (std::size_t i = 0; i < Appearance.size(); ++i) {
-        Appearance[i].Caption = themeCaptions[i];
-        Appearance[i].Click = [item = items[i]] { item->Click(); };
-        m_appearanceChanged[i] = items[i]->Checked.changed.connect([this] { showAppearance(*this); });
-    }
-    OpenFolder.Caption = "Ope&n folder";
-    OpenFolder.handler = [this] {
-        handle(*this, "PREFS OpenFolder_Click", [this] {
-            if (!machineOf(*this).showFolder(SettingsFolder.Text))
-                say(*this, "I couldn't open a window on " + SettingsFolder.Text.get() + ".");
-        });
-    };
-    Import.Caption = "Impo&rt...";
-    for (const ExtraTick& tick : extraTicks()) Ticks.emplace_back().Caption = tick.caption;
 }
 
-void loadExtras(ExtrasPage& page)
+void loadRunners(ExtrasPage& page)
 {
-    Shared& shared = page.editor.shared;
-    loadDrives(page);
     for (ExtrasPage::RunnerRow& row : page.Runners) loadRunner(page, row);
-    showAppearance(page);
-    page.SettingsFolder.Text = machineOf(page).nativePath(page.editor.platform.programDirectory);
-    if (page.unwritten) return;
-    for (std::size_t i = 0; i < page.Ticks.size(); ++i) page.Ticks[i].Value = shared.extras.on(extraTicks()[i].key);
 }
 
-void takeExtras(ExtrasPage& page)
+void takeRunners(ExtrasPage& page, const Steps& step)
 {
-    Shared& shared = page.editor.shared;
-    const Steps step(shared.errors, "PREFS takeExtras");
-    MachineSettings settings(shared.platformIni);
+    MachineSettings settings(page.editor.shared.platformIni);
     for (const ExtrasPage::RunnerRow& row : page.Runners)
         step([&] { settings.setRunner(row.which, trimmed(row.Path.Text.get())); });
-    for (std::size_t i = 0; i < page.Ticks.size(); ++i)
-        step([&] { shared.extras.set(extraTicks()[i].key, page.Ticks[i].Value); });
-    takeDrives(page, step);
 }
 
 void RunnerBrowse_Click(ExtrasPage& page, ExtrasPage::RunnerRow& row)
