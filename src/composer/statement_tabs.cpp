@@ -21,9 +21,9 @@ struct PlainStatement {
 };
 
 constexpr PlainStatement useStatements[] = {
-    {"USE &TQS", "USE TQS"},     {"USE &WCS", "USE WCS"},   {"USE NO&MOUSE", "USE NOMOUSE"},
-    {"USE NOTH&R", "USE NOTHR"}, {"USE F&CLK", "USE FCLK"}, {"@&digitalthrottle", "@digitalthrottle "},
-    {"&BTN MT", "BTN MT "},      {"USE RC&S", "USE RCS"},   {"USE NORDDR", "USE NORDDR"},
+    {"USE T&QS", "USE TQS"},     {"USE W&CS", "USE WCS"},   {"USE NO&MOUSE", "USE NOMOUSE"},
+    {"USE &NOTHR", "USE NOTHR"}, {"&USE FCLK", "USE FCLK"}, {"@&digitalthrottle", "@digitalthrottle "},
+    {"BTN M&T", "BTN MT "},      {"US&E RCS", "USE RCS"},   {"USE N&ORDDR", "USE NORDDR"},
 };
 constexpr int noThrottle = 3; ///< in useStatements
 constexpr int noRudders = 8;

@@ -1,5 +1,6 @@
 #include "desktop/composer/composer_view.h"
 
+#include "../access_keys.h"
 #include "composer/composer.h"
 #include "desktop/composer/hardware_picture.h"
 #include "desktop/program/mum_window.h"
@@ -377,6 +378,21 @@ TEST_F(ComposerViewTest, KeysReachTheProgram)
     QWidget* const control = form()->focusWidget(); // a display gives keys to the control, not to its window
     QTest::keyClick(control != nullptr ? control : form(), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(t.editor().JoystickText.SelLength(), 3);
+}
+
+TEST_F(ComposerViewTest, AccessKeysAreUniqueOnEachPage)
+{
+    use(0, 1, 1);
+    for (int lists = 0; lists < get<QTabWidget>("SSTab7")->count(); ++lists) {
+        get<QTabWidget>("SSTab7")->setCurrentIndex(lists);
+        for (int page = 0; page < get<QTabWidget>("SSTab1")->count(); ++page) {
+            showPage(page);
+            const auto keys = accessKeys(*form());
+            EXPECT_GE(keys.size(), 8);
+            for (auto key = keys.begin(); key != keys.end(); ++key)
+                EXPECT_EQ(key->size(), 1) << "page " << page << ": " << key->join(" | ").toStdString();
+        }
+    }
 }
 
 TEST_F(ComposerViewTest, EveryFieldAndButtonHasANameForScreenReaders)

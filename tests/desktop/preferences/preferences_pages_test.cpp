@@ -2,6 +2,7 @@
 
 #include "desktop/preferences/preferences_view.h"
 
+#include "../access_keys.h"
 #include "support/test_program.h"
 
 #include <QAccessible>
@@ -52,28 +53,6 @@ struct PreferencesPagesTest : testing::Test, TestProgram {
     std::unique_ptr<PreferencesView> view;
     QTabWidget* tabs = nullptr;
 };
-
-void addKey(QMap<QString, QStringList>& owners, const QString& text)
-{
-    const QKeySequence key = QKeySequence::mnemonic(text);
-    if (!key.isEmpty()) owners[key.toString()].append(text);
-}
-
-/// What can be reached by an access key while the page is shown, by key.
-QMap<QString, QStringList> accessKeys(const QWidget& window)
-{
-    QMap<QString, QStringList> owners;
-    for (const auto* button : window.findChildren<QAbstractButton*>()) {
-        if (button->isVisible()) addKey(owners, button->text());
-    }
-    for (const auto* label : window.findChildren<QLabel*>()) {
-        if (label->isVisible() && label->buddy() != nullptr) addKey(owners, label->text());
-    }
-    for (const auto* bar : window.findChildren<QTabBar*>()) {
-        for (int i = 0; bar->isVisible() && i < bar->count(); ++i) addKey(owners, bar->tabText(i));
-    }
-    return owners;
-}
 
 TEST_F(PreferencesPagesTest, AccessKeysAreUniqueOnEachPage)
 {
