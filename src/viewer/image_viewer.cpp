@@ -25,7 +25,6 @@ void wireImageViewer(ViewImage& window)
     window.VScroll1.Change = on(window, VScroll1_Change);
     window.form.Load = [&window] { Form_Load(window); };
     window.form.Unload = [&window] { window.form.markUnloaded(); };
-    window.editor.menus.mnuAppsImageViewer.handler = [&window] { window.form.open(); };
     window.form.join(window.editor.mum.toolWindows, true);
 }
 

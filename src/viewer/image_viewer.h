@@ -4,7 +4,7 @@
 
 namespace tarvex {
 
-/// Gives the window's commands, the window itself and the command that opens it their handlers.
+/// Gives the window and its commands their handlers.
 void wireImageViewer(ViewImage& window);
 void Form_Load(ViewImage& window);
 
