@@ -1,30 +1,25 @@
 #include "desktop/platform/qt_printers.h"
 
+#include "desktop/platform/printer_library.h"
 #include "desktop/platform/qt_paper.h"
 #include "desktop/text.h"
 #include "platform/errors.h"
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDir>
+#include <QLibrary>
 #include <QLocale>
 #include <QPdfWriter>
-#include <QPrintDialog>
-#include <QPrintPreviewDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QScreen>
 
 #include <exception>
+#include <utility>
 
 namespace tarvex {
 
 struct QtPrinters::InUse {
-    InUse() : printer(QPrinter::HighResolution), paper(printer, [this] { printer.abort(); })
-    {
-        printer.setFullPage(true);
-        printer.setCreator(QStringLiteral("Tarvex"));
-    }
-    QPrinter printer;
+    explicit InUse(SystemPrinters* found) : printers(found), paper(printers->device(), [this] { printers->abort(); }) {}
+    std::unique_ptr<SystemPrinters> printers;
     QtPaper paper;
 };
 
@@ -39,50 +34,60 @@ QPageSize usualPaper()
 
 } // namespace
 
-QtPrinters::QtPrinters() = default;
+QString printerLibrary()
+{
+    const QDir programs(QCoreApplication::applicationDirPath());
+    return QDir::cleanPath(programs.filePath(QStringLiteral(TARVEX_PRINTING_FROM_PROGRAM)));
+}
+
+QtPrinters::QtPrinters(QString library) : m_library(std::move(library)) {}
+
 QtPrinters::~QtPrinters() = default;
+
+/// The library stays loaded; one that can't be is tried again, because it may be installed meanwhile.
+QtPrinters::InUse* QtPrinters::find()
+{
+    if (m_inUse) return m_inUse.get();
+    QLibrary library(m_library);
+    const auto open = reinterpret_cast<OpenSystemPrinters>(library.resolve(openSystemPrintersName));
+    m_why = library.errorString();
+    if (open != nullptr) m_inUse = std::make_unique<InUse>(open());
+    return m_inUse.get();
+}
 
 QtPrinters::InUse& QtPrinters::inUse()
 {
-    if (!m_inUse) m_inUse = std::make_unique<InUse>();
-    return *m_inUse;
+    InUse* found = find();
+    if (found == nullptr)
+        throw RuntimeError(ErrorCode::PrinterError, "What prints isn't installed (" + fromQt(m_why) + ").");
+    return *found;
 }
 
 int QtPrinters::Count()
 {
-    const bool intoFile = m_inUse && !m_inUse->printer.outputFileName().isEmpty();
-    return static_cast<int>(QPrinterInfo::availablePrinterNames().size()) + (intoFile ? 1 : 0);
+    const InUse* found = find();
+    return found == nullptr ? 0 : found->printers->count();
 }
 
 Printer& QtPrinters::current() { return inUse().paper; }
 
-void QtPrinters::setUp()
-{
-    QPrintDialog dialogue(&inUse().printer, QApplication::activeWindow());
-    dialogue.exec();
-    inUse().printer.setFullPage(true);
-}
+void QtPrinters::setUp() { inUse().printers->setUp(QApplication::activeWindow()); }
 
 void QtPrinters::preview(const std::string& title, const PrintJob& job)
 {
-    QPrintPreviewDialog dialogue(&inUse().printer, QApplication::activeWindow());
-    dialogue.setObjectName(QStringLiteral("PrintPreview"));
-    dialogue.setWindowTitle(toQt(title));
-    dialogue.resize(dialogue.screen()->availableSize() * 3 / 4);
     std::exception_ptr failure; // nothing may be thrown through Qt
-    QObject::connect(&dialogue, &QPrintPreviewDialog::paintRequested, &dialogue, [&](QPrinter* printer) {
-        printer->setFullPage(true); // the page setup gives the paper its margins back
-        QtPaper paper(*printer);
+    const auto paint = [&](QPagedPaintDevice& device) {
+        QtPaper paper(device);
         try {
             job(paper);
             paper.EndDoc();
         } catch (const RuntimeError&) {
             paper.KillDoc();
             failure = std::current_exception();
-            QMetaObject::invokeMethod(&dialogue, &QDialog::reject, Qt::QueuedConnection);
         }
-    });
-    dialogue.exec();
+        return failure == nullptr;
+    };
+    inUse().printers->preview(QApplication::activeWindow(), toQt(title), paint);
     if (failure) std::rethrow_exception(failure);
 }
 
@@ -95,8 +100,12 @@ std::string QtPrinters::pdf(const std::string& title, const PrintJob& job)
     writer.setTitle(toQt(title));
     writer.setCreator(QStringLiteral("Tarvex"));
     writer.setResolution(dotsPerInch);
-    writer.setPageSize(m_inUse ? m_inUse->printer.pageLayout().pageSize() : usualPaper());
-    if (m_inUse) writer.setPageOrientation(m_inUse->printer.pageLayout().orientation());
+    writer.setPageSize(usualPaper());
+    if (m_inUse) {
+        const QPageLayout layout = m_inUse->printers->device().pageLayout();
+        writer.setPageSize(layout.pageSize());
+        writer.setPageOrientation(layout.orientation());
+    }
     writer.setPageMargins({});
     QtPaper paper(writer);
     job(paper);

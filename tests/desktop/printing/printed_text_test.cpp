@@ -8,8 +8,11 @@
 #include "documents/printing/print_rtf.h"
 #include "support/test_program.h"
 
+#include <QApplication>
 #include <QBuffer>
+#include <QDialog>
 #include <QPdfWriter>
+#include <QTimer>
 
 namespace tarvex {
 namespace {
@@ -193,6 +196,56 @@ TEST_F(PrintedTextTest, SmallMarginsLeaveRoomOnPaperOfFiveCentimetres)
     QStringList all;
     for (const QStringList& page : printed.text) all += page;
     EXPECT_EQ(all.size(), 30);
+}
+
+// ---- the system's printers ------------------------------------------------------------------------------------------
+
+TEST(SystemPrinters, AreFoundInTheirLibrary)
+{
+    QtPrinters printers;
+    EXPECT_GE(printers.Count(), 0);
+    Printer& printer = printers.current();
+    EXPECT_GT(printer.Width(), 0);
+    EXPECT_GT(printer.physicalOffsetX(), 0);
+    printer.setOrientation(orientation::landscape);
+    EXPECT_EQ(printer.Orientation(), orientation::landscape);
+    EXPECT_GT(printer.Width(), printer.Height());
+    printer.setOrientation(orientation::portrait);
+    EXPECT_LT(printer.Width(), printer.Height());
+}
+
+TEST(SystemPrinters, WithoutTheirLibraryThereAreNoneAndPdfFilesAreMadeAllTheSame)
+{
+    QtPrinters printers("/nowhere/printing.so");
+    EXPECT_EQ(printers.Count(), 0);
+    EXPECT_THROW(printers.current(), RuntimeError);
+    EXPECT_THROW(printers.setUp(), RuntimeError);
+    const PrintedPages printed(printers.pdf("a", [](Printer& paper) { paper.Print("one line"); }));
+    EXPECT_EQ(printed.text.at(0).at(0).trimmed(), "one line");
+}
+
+TEST(SystemPrinters, ThePreviewShowsThePagesOfTheJob)
+{
+    QtPrinters printers;
+    int painted = 0;
+    QTimer::singleShot(0, [] {
+        auto* dialogue = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialogue, nullptr);
+        EXPECT_EQ(dialogue->windowTitle(), "Print preview - mig.b50");
+        dialogue->reject();
+    });
+    printers.preview("Print preview - mig.b50", [&](Printer& paper) {
+        paper.Print("one line");
+        ++painted;
+    });
+    EXPECT_GE(painted, 1);
+}
+
+TEST(SystemPrinters, AJobThatFailsClosesThePreviewAndIsReported)
+{
+    QtPrinters printers;
+    EXPECT_THROW(printers.preview("a", [](Printer&) { throw RuntimeError(ErrorCode::PrinterError, "no room"); }),
+                 RuntimeError);
 }
 
 } // namespace
