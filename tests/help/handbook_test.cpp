@@ -132,6 +132,23 @@ TEST_F(HandbookTest, ANewcomerIsShownTheTourAfterThePreferences)
     EXPECT_TRUE(book.form.Visible);
 }
 
+TEST(FirstUse, LeadsThroughThePreferencesToTheTour)
+{
+    TestMachine machine;
+    machine.files.addFile("c:\\tqs\\b50load.exe", "");
+    FakeHelpSystem system;
+    system.files["index.txt"] += "topic\t100\ttour.html\n";
+    Program program(machine.platform);
+    program.help.useSystem(system);
+    bool preferencesFirst = false;
+    machine.dialogues.whileModal = [&] { preferencesFirst = preferencesFirst || !program.help.handbook.form.Visible; };
+    EXPECT_TRUE(program.start());
+    EXPECT_THAT(machine.dialogues.modalForms, ElementsAre("Preferences", "frmTip"));
+    EXPECT_TRUE(preferencesFirst);
+    EXPECT_EQ(program.help.handbook.Target.get(), "tour.html");
+    EXPECT_TRUE(program.help.handbook.form.Visible);
+}
+
 TEST_F(HandbookTest, ANewcomerWithoutAHandbookIsShownNothing)
 {
     system.files.clear();
