@@ -91,8 +91,33 @@ TEST(KeyTable, SpokenNamesAreThereAndUnique)
 {
     std::set<std::string_view> spoken;
     for (const Key& key : keyTable()) EXPECT_TRUE(!key.spoken.empty() && spoken.insert(key.spoken).second) << key.index;
-    EXPECT_EQ(keyAt(58)->spoken, "Left Shift");
-    EXPECT_EQ(keyAt(15)->spoken, "Keypad 5");
+}
+
+TEST(KeyTable, SpokenNamesOfSignsAndNamedKeysAreWords)
+{
+    const std::map<int, std::string> words{
+        {15, "Keypad 5"},      {46, "Grave accent"}, {47, "Minus"},         {48, "Equals"},
+        {49, "Backslash"},     {50, "Left bracket"}, {51, "Right bracket"}, {52, "Semicolon"},
+        {53, "Apostrophe"},    {55, "Comma"},        {56, "Period"},        {57, "Slash"},
+        {58, "Left Shift"},    {59, "Right Shift"},  {60, "Left Ctrl"},     {61, "Right Ctrl"},
+        {62, "Left Alt"},      {63, "Right Alt"},    {64, "Enter"},         {65, "Keypad Enter"},
+        {66, "Keypad period"}, {67, "Keypad plus"},  {68, "Keypad minus"},  {69, "Keypad asterisk"},
+        {70, "Keypad slash"},  {83, "Escape"},       {84, "Insert"},        {85, "Home"},
+        {86, "Page up"},       {87, "Delete"},       {88, "End"},           {89, "Page down"},
+        {90, "Tab"},           {91, "Caps Lock"},    {92, "Spacebar"},      {93, "Num Lock"},
+        {94, "Up arrow"},      {95, "Down arrow"},   {96, "Left arrow"},    {97, "Right arrow"},
+        {98, "Scroll Lock"},   {99, "Pause"},        {100, "Print Screen"}, {101, "Backspace"}};
+    for (const auto& [index, word] : words) EXPECT_EQ(keyAt(index)->spoken, word);
+}
+
+TEST(KeyTable, SpokenNamesOfLettersDigitsAndFunctionKeysAreThoseOnTheCap)
+{
+    for (int digit = 0; digit <= 9; ++digit) {
+        EXPECT_EQ(keyAt(digit)->spoken, std::to_string(digit));
+        EXPECT_EQ(keyAt(10 + digit)->spoken, "Keypad " + std::to_string(digit));
+    }
+    for (int letter = 20; letter <= 45; ++letter) EXPECT_EQ(keyAt(letter)->spoken, keyAt(letter)->shifted);
+    for (int key = 71; key <= 82; ++key) EXPECT_EQ(keyAt(key)->spoken, "F" + std::to_string(key - 70));
 }
 
 TEST(KeyTable, NamesOfTheF22ProBeginWithAuxOnGreyKeys)
