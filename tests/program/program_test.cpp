@@ -50,10 +50,17 @@ TEST(Start, OnANewMachineSavesTheSettingsDetectsAndLeadsToThePreferences)
     ASSERT_EQ(machine.dialogues.boxes.size(), 1U);
     EXPECT_EQ(machine.lastBox().title, "Tarvex initialising ...");
     EXPECT_EQ(machine.lastBox().icon, BoxIcon::Information);
-    EXPECT_EQ(machine.lastBox().text.find("Hi there buddy! Tarvex - all modular system checks passed OK.\n\nWelcome to "
-                                          "Tarvex, the most complete programming interface"),
-              0U);
-    EXPECT_NE(machine.lastBox().text.find("going to look pretty odd.\n\nCheers, and enjoy Tarvex."), std::string::npos);
+    EXPECT_EQ(
+        machine.lastBox().text,
+        "Hi there buddy! Tarvex - all modular system checks passed OK.\n\n"
+        "Welcome to Tarvex, the most complete programming interface available for Thrustmaster users. Now I'm "
+        "going to need some information from you regarding what Thrustmaster equipment you have, and where your "
+        "Thrustmaster files are on your hard disk. Remember, you must still have installed the Thrustmaster "
+        "software to use parts of Tarvex. So let's go to the Preferences Window, and fill out all the sections on "
+        "the first tab, the File Locations tab. If you get lost, press the Help button there.\n\n"
+        "Please remember to ensure that your Windows Display Properties are set to use small fonts - if they're "
+        "not the macro list and the Composer images are going to look pretty odd.\n\n"
+        "Cheers, and enjoy Tarvex.");
     EXPECT_EQ(machine.dialogues.modalForms, (std::vector<std::string>{"Preferences", "frmTip"}));
     EXPECT_EQ(program.editor.joystick.FilePath, "c:\\tqs\\programsuntitled.b50")
         << "the detected folder has no closing backslash";

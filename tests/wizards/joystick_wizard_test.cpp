@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace tarvex {
 namespace {
 
@@ -28,6 +30,22 @@ TEST_F(JoystickWizardTest, ComesUpOnTopAtItsFirstPageWithoutAWayBack)
     EXPECT_EQ(window.form.Caption, "The Joystick file wizard");
     EXPECT_EQ(window.WindowOpen, 1);
     EXPECT_FALSE(window.pages.foot[footButton::back].Enabled);
+}
+
+TEST_F(JoystickWizardTest, ButtonsSayWhatTheyDo)
+{
+    const std::map<std::size_t, std::string> captions{
+        {0, "Open up a macro file"},
+        {1, "Give me a new joystick file please"},
+        {2, "Save this joystick file please"},
+        {3, "Show me this Composer thing you're so proud of then"},
+        {4, "Put me in the correct position in the joystick file please."},
+        {5, "Clear the joystick file and insert a title please"},
+        {6, "Show the Composer and its USE section please"},
+        {7, "Let the Composer write a first statement please"},
+        {8, "Show the Composer and its RATE section please"},
+        {9, "Show the Composer with the main Composer tab selected please"}};
+    for (const auto& [index, caption] : captions) EXPECT_EQ(window.BTNinFrame.at(index).Caption.get(), caption);
 }
 
 TEST_F(JoystickWizardTest, Page10IsTheLast)

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace tarvex {
 namespace {
 
@@ -43,6 +45,21 @@ struct MacroWizardTest : testing::Test {
     }
     const std::string& macro() const { return editor.MacroText.Text(); }
 };
+
+TEST_F(MacroWizardTest, ButtonsSayWhatTheyDo)
+{
+    const std::map<std::size_t, std::string> captions{
+        {0, "New macro file please"},
+        {1, "Insert a title please"},
+        {2, "Show me Safein again - I need his advice !"},
+        {3, "Insert heading"},
+        {4, "Insert into macro file"},
+        {5, "Clear text"},
+        {6, ""},
+        {7, "Save the macro file I've just created"},
+        {8, "Transfer these macros I created into the Editor's macro list"}};
+    for (const auto& [index, caption] : captions) EXPECT_EQ(maker.Command1.at(index).Caption.get(), caption);
+}
 
 TEST_F(MacroWizardTest, ComesUpOnTopAtItsFirstPageWithoutAWayBack)
 {

@@ -2,8 +2,12 @@
 
 #include "documents/files/open_fixture.h"
 
+#include <gmock/gmock.h>
+
 namespace tarvex {
 namespace {
+
+using testing::Contains;
 
 TEST_F(OpenTest, OpenJoystickAsksInTheProgramsFolderWithItsFilter)
 {
@@ -15,6 +19,45 @@ TEST_F(OpenTest, OpenJoystickAsksInTheProgramsFolderWithItsFilter)
     EXPECT_EQ(request.directory, "c:\\tm\\b50progs\\");
     EXPECT_EQ(request.filter, "Joystick file (*.b50)|*.b50|F-22 PRO files |*.f22|F-16 FLCS files |*.b50|FCS files "
                               "|*.adv|All Joystick file types (*.f22,*.b50,*.adv) |*.f22;*.b50;*.adv");
+}
+
+TEST_F(OpenTest, OpenMacroAsksWithItsFilter)
+{
+    t.dialogues.filesToOpen = {std::nullopt};
+    t.menus().MnuFileMacroLoad.Click();
+    ASSERT_EQ(t.dialogues.openRequests.size(), 1U);
+    const FileRequest& request = t.dialogues.openRequests[0];
+    EXPECT_EQ(request.title, "Opening file");
+    EXPECT_EQ(request.filter, "Macro file (*.m50)|*.m50|F-22 PRO files |*.m22|F-16 FLCS files |*.m50|FCS files |*.mdf|"
+                              "All Macro file types (*.m22,*.m50,*.mdf) |*.m22;*.m50;*.mdf");
+}
+
+TEST_F(OpenTest, SaysInTheFirstPanelWhatItDoes)
+{
+    addPair();
+    std::vector<std::string> texts;
+    Property<std::string>& panel = t.program().mum.StatusBar.Panels(panel::progress).Text;
+    const Connection connection = panel.changed.connect([&] { texts.push_back(panel); });
+    t.dialogues.filesToOpen = {mig};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_THAT(texts, Contains("Looking for associated macro file"));
+    texts.clear();
+    t.dialogues.filesToOpen = {migMacros};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_THAT(texts, Contains("Finished opening up macro file and extracting macros from it"));
+    texts.clear();
+    t.dialogues.filesToOpen = {migMacros};
+    t.menus().MnuFileMacroLoad.Click();
+    EXPECT_EQ(panel.get(), "Finished opening up macro file and extracting macros from it");
+}
+
+TEST_F(OpenTest, SaysThatTheExtensionsMayNeedAdjustingForAFileOfAnUnknownKind)
+{
+    t.files.addFile("c:\\tm\\notes.txt", "notes");
+    t.dialogues.filesToOpen = {"c:\\tm\\notes.txt"};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_EQ(t.program().mum.StatusBar.Panels(panel::progress).Text.get(),
+              "Your file extensions may need adjusting in Preferences");
 }
 
 TEST_F(OpenTest, ACancelledDialogueChangesNothing)
