@@ -64,7 +64,7 @@ JoystickChoice choiceOf(const std::vector<JoystickDevice>& devices, std::size_t 
     return choice;
 }
 
-/// Two devices of one name are told apart by their number.
+/// Two devices of one name differ by their number.
 std::vector<std::string> deviceTexts(const std::vector<JoystickDevice>& devices)
 {
     std::vector<std::string> texts;

@@ -19,7 +19,7 @@ struct KeyNumber {
 };
 
 /// Two of them are keys of the numeric pad or the system that Windows never reports under these numbers; here they are
-/// told apart from Return and from nothing.
+/// distinguished from Return and from nothing.
 constexpr KeyNumber named[] = {
     {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},     {Qt::Key_Backtab, 9},   {Qt::Key_Clear, 12},
     {Qt::Key_Return, 13},   {Qt::Key_Enter, 108}, {Qt::Key_Shift, 16},    {Qt::Key_Control, 17},

@@ -26,7 +26,7 @@ JoystickClock::JoystickClock(Analyser& analyser, QObject* parent)
     if (analyser.JoyTimer.Enabled) reportArrived(); // it was loaded before its window was made
 }
 
-/// The tick isn't run from here: it may show a box, and whoever reads the device has to go on.
+/// The tick isn't run from here: it may show a box, and the reader of the device has to go on.
 void JoystickClock::reportArrived()
 {
     m_waiting = true;
