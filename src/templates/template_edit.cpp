@@ -217,6 +217,13 @@ void refreshLayout(TemplateForm& window)
     });
 }
 
+void followTextSettings(TemplateForm& window)
+{
+    const PaneFont before = window.TemplateText.Font();
+    DoTheFonts(window);
+    if (window.TemplateText.Font() != before) refreshLayout(window);
+}
+
 void mnuViewrefreshLayout_Click(TemplateForm& window)
 {
     refreshLayout(window);

@@ -49,6 +49,8 @@ void DoTheFonts(TemplateForm& window);
 /// Font and indent of the whole text; its colours stay.
 void refreshLayout(TemplateForm& window);
 void mnuViewrefreshLayout_Click(TemplateForm& window);
+/// The same after font or background of the settings were changed elsewhere.
+void followTextSettings(TemplateForm& window);
 /// The indent alone.
 void mnuRefreshIndent_Click(TemplateForm& window);
 

@@ -87,6 +87,7 @@ void wireTemplateEditor(TemplateForm& window)
     wireTemplateFind(window);
     followEdits(window.editor, journalled(window));
     window.form.Load = [&window] { Form_Load(window); };
+    window.form.Activate = on(window, followTextSettings);
     window.form.Unload = [&window] { closeTemplateEditor(window); };
     Editor& editor = window.editor;
     editor.menus.mnuAppsTemplate.handler = [&window] { window.form.open(); };

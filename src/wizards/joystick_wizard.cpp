@@ -82,14 +82,17 @@ JoystickWiz::JoystickWiz(Editor& theEditor) : editor(theEditor)
 
 void Form_Load(JoystickWiz& window)
 {
-    loadFoot(window.pages, window.editor.menus);
+    loadFoot(window.pages, window.editor.operations);
     const bool hasComposer = window.editor.menus.mnuShowInsertWindow.handler != nullptr;
     for (std::size_t index = 0; index < window.BTNinFrame.size(); ++index)
         window.BTNinFrame.at(index).Enabled = hasComposer || !actions[index].needsComposer;
     window.form.markLoaded();
 }
 
-void Command1_Click(JoystickWiz& window, std::size_t Index) { footClick(window.pages, window.editor.menus, Index); }
+void Command1_Click(JoystickWiz& window, std::size_t Index)
+{
+    footClick(window.pages, window.editor.operations, Index);
+}
 
 void BTNinFrame_Click(JoystickWiz& window, std::size_t Index)
 {

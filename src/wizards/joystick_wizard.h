@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/pair/editor.h"
+#include "shell/help_topics.h"
 #include "wizards/page_turner.h"
 
 namespace tarvex {
@@ -16,7 +17,7 @@ struct JoystickWiz {
     Editor& editor;
     std::int16_t WindowOpen = 0; ///< 1 while the window is loaded
     ToolForm form{"JoystickWiz", &WindowOpen};
-    PageTurner pages{lastPage, form};
+    PageTurner pages{lastPage, helpTopic::joystickWizard, form};
     std::array<Button, 10> BTNinFrame; ///< the actions on the pages
 
     /// What the Composer, once it is open, shows for this window; none while there is no Composer.

@@ -23,7 +23,7 @@ MacroWizard::MacroWizard(Editor& theEditor) : maker(theEditor)
 
 void Form_Load(MacroWizard& window)
 {
-    loadFoot(window.pages, window.maker.editor.menus);
+    loadFoot(window.pages, window.maker.editor.operations);
     nameCloseButton(window);
     loadMacroMaker(window.maker);
     window.form.markLoaded();
@@ -32,7 +32,7 @@ void Form_Load(MacroWizard& window)
 void CommandAll_Click(MacroWizard& window, std::size_t Index)
 {
     const bool goesOn = Index == footButton::close && window.pages.PageNumber == MacroWizard::finishPage;
-    footClick(window.pages, window.maker.editor.menus, goesOn ? footButton::next : Index);
+    footClick(window.pages, window.maker.editor.operations, goesOn ? footButton::next : Index);
     nameCloseButton(window);
 }
 

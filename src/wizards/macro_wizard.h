@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/help_topics.h"
 #include "wizards/macro_maker.h"
 #include "wizards/page_turner.h"
 
@@ -16,7 +17,7 @@ struct MacroWizard {
 
     std::int16_t WindowOpen = 0; ///< 1 while the window is loaded
     ToolForm form{"MacroWizard", &WindowOpen};
-    PageTurner pages{lastPage, form}; ///< foot is CommandAll
+    PageTurner pages{lastPage, helpTopic::macroWizard, form}; ///< foot is CommandAll
     MacroMaker maker;
 };
 

@@ -4,12 +4,12 @@
 
 namespace tarvex {
 
-void loadFoot(PageTurner& pages, const Menus& menus)
+void loadFoot(PageTurner& pages, const Operations& operations)
 {
     pages.foot[footButton::next].Caption = "&Next";
     pages.foot[footButton::back].Caption = "&Back";
     pages.foot[footButton::help].Caption = "&Help";
-    pages.foot[footButton::help].Enabled = menus.mnuHelpContents.handler != nullptr;
+    pages.foot[footButton::help].Enabled = static_cast<bool>(operations.HelpTopic);
     showPage(pages, 0);
 }
 
@@ -23,7 +23,7 @@ void showPage(PageTurner& pages, int page)
     pages.foot[footButton::close].Caption = last ? "Finished" : "Cancel";
 }
 
-void footClick(PageTurner& pages, const Menus& menus, std::size_t index)
+void footClick(PageTurner& pages, const Operations& operations, std::size_t index)
 {
     switch (index) {
     case footButton::close:
@@ -36,7 +36,7 @@ void footClick(PageTurner& pages, const Menus& menus, std::size_t index)
         showPage(pages, pages.PageNumber - 1);
         break;
     default:
-        menus.mnuHelpContents.Click();
+        operations.HelpTopic(pages.helpTopic);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/menus.h"
+#include "shell/operations.h"
 #include "shell/tool_form.h"
 
 #include <array>
@@ -18,19 +18,24 @@ constexpr std::size_t count = 4;
 
 /// The pages of a wizard and the buttons at its foot. The pages are numbered from 0.
 struct PageTurner {
-    PageTurner(int theLastPage, ToolForm& theForm) : lastPage(theLastPage), form(theForm) {}
+    /// `theHelpTopic` is one of shell/help_topics.h.
+    PageTurner(int theLastPage, int theHelpTopic, ToolForm& theForm)
+        : lastPage(theLastPage), helpTopic(theHelpTopic), form(theForm)
+    {
+    }
 
     const int lastPage;
+    const int helpTopic;
     ToolForm& form;
     Property<int> PageNumber = 0;
     std::array<Button, footButton::count> foot;
 };
 
-/// Gives the foot its captions; the help button runs the program's help command, while there is one.
-void loadFoot(PageTurner& pages, const Menus& menus);
+/// Gives the foot its captions; the help button is grey while nobody shows topics.
+void loadFoot(PageTurner& pages, const Operations& operations);
 /// Shows a page of the wizard, and which buttons it has.
 void showPage(PageTurner& pages, int page);
-/// A click of a button of the foot by its index: closes the window, or turns the page.
-void footClick(PageTurner& pages, const Menus& menus, std::size_t index);
+/// A click of a button of the foot by its index: closes the window, turns the page or shows the wizard's help topic.
+void footClick(PageTurner& pages, const Operations& operations, std::size_t index);
 
 } // namespace tarvex

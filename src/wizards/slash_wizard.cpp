@@ -2,7 +2,7 @@
 
 namespace tarvex {
 
-SlashWizard::SlashWizard(const Menus& theMenus) : menus(theMenus)
+SlashWizard::SlashWizard(const Operations& theOperations) : operations(theOperations)
 {
     form.Caption = "Understanding slash modifiers";
     form.TopMost = true;
@@ -13,10 +13,10 @@ SlashWizard::SlashWizard(const Menus& theMenus) : menus(theMenus)
 
 void Form_Load(SlashWizard& window)
 {
-    loadFoot(window.pages, window.menus);
+    loadFoot(window.pages, window.operations);
     window.form.markLoaded();
 }
 
-void Command1_Click(SlashWizard& window, std::size_t Index) { footClick(window.pages, window.menus, Index); }
+void Command1_Click(SlashWizard& window, std::size_t Index) { footClick(window.pages, window.operations, Index); }
 
 } // namespace tarvex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/help_topics.h"
 #include "wizards/page_turner.h"
 
 namespace tarvex {
@@ -8,14 +9,14 @@ namespace tarvex {
 struct SlashWizard {
     static constexpr int lastPage = 5;
 
-    explicit SlashWizard(const Menus& theMenus);
+    explicit SlashWizard(const Operations& theOperations);
     SlashWizard(const SlashWizard&) = delete;
     SlashWizard& operator=(const SlashWizard&) = delete;
 
-    const Menus& menus;
+    const Operations& operations;
     std::int16_t WindowOpen = 0; ///< 1 while the window is loaded
     ToolForm form{"SlashWizard", &WindowOpen};
-    PageTurner pages{lastPage, form};
+    PageTurner pages{lastPage, helpTopic::slashWizard, form};
 };
 
 void Form_Load(SlashWizard& window);

@@ -10,7 +10,7 @@ namespace tarvex {
 /// The windows of the Wizards menu.
 struct Wizards {
     explicit Wizards(Editor& theEditor)
-        : editor(theEditor), macro(theEditor), speedy(theEditor), joystick(theEditor), slash(theEditor.menus)
+        : editor(theEditor), macro(theEditor), speedy(theEditor), joystick(theEditor), slash(theEditor.operations)
     {
     }
 

@@ -489,6 +489,22 @@ TEST_F(TemplateEditorTest, ATextOfTenMegabytesIsOpenedAndSaved)
     EXPECT_EQ(t.fileText(folder + "a.txt"), large);
 }
 
+TEST_F(TemplateEditorTest, ANewFontAndBackgroundOfThePreferencesAreItsOwnWhenItIsUsedAgain)
+{
+    type("abc");
+    pane.setSelStart(0);
+    pane.setSelLength(1);
+    pane.setSelColor(255);
+    window.TemplateChanged = 0;
+    t.settings().TextFontSize = 14;
+    t.settings().BackgroundColour = 0x123456;
+    window.form.Activate();
+    EXPECT_EQ(pane.BackColor, 0x123456);
+    EXPECT_EQ(pane.formatAt(0).fontSize, 14);
+    EXPECT_EQ(pane.formatAt(0).colour, 255);
+    EXPECT_EQ(window.TemplateChanged, 0);
+}
+
 TEST_F(TemplateEditorTest, WithoutATemplatesFolderASaveIsReported)
 {
     t.files.removeDirectory("c:\\tarvex\\Templates");

@@ -1,3 +1,4 @@
+#include "shell/help_topics.h"
 #include "support/test_program.h"
 #include "wizards/wizards.h"
 
@@ -57,9 +58,26 @@ TEST_F(SlashWizardTest, IsUnloadedAtTheExit)
     EXPECT_FALSE(window.form.Visible);
 }
 
+TEST_F(SlashWizardTest, HelpShowsTheWizardsOwnTopic)
+{
+    std::vector<int> topics;
+    t.program().operations.HelpTopic = [&](int topic) { topics.push_back(topic); };
+    t.menus().mnuhelpWizCreateMacroFile.Click();
+    t.menus().mnuhelpWizCreateJoyFile.Click();
+    Wizards& wizards = t.program().wizards;
+    for (PageTurner* pages : {&wizards.slash.pages, &wizards.macro.pages, &wizards.joystick.pages}) {
+        EXPECT_TRUE(pages->foot[footButton::help].Enabled);
+        pages->foot[footButton::help].Click();
+    }
+    EXPECT_EQ(topics, (std::vector<int>{helpTopic::slashWizard, helpTopic::macroWizard, helpTopic::joystickWizard}));
+}
+
 TEST_F(SlashWizardTest, HelpIsGreyWhileThereIsNone)
 {
-    EXPECT_EQ(window.pages.foot[footButton::help].Enabled, t.menus().mnuHelpContents.handler != nullptr);
+    close.Click();
+    t.program().operations.HelpTopic = nullptr;
+    t.menus().mnuWixUnderstandSlash.Click();
+    EXPECT_FALSE(window.pages.foot[footButton::help].Enabled);
 }
 
 } // namespace
