@@ -123,6 +123,7 @@ def _convert(page):
                                extension_configs=toc, output_format="html")
     body = engine.convert(page.source)
     body = body.replace("\n</code></pre>", "</code></pre>")
+    body = body.replace("<p><img ", '<p class="picture"><img ')
     page.html = re.sub(r'href="([A-Za-z0-9._-]+)\.md(#[^"]*)?"', r'href="\1.html\2"', body)
     reader = _Reader(page)
     reader.feed(page.html)

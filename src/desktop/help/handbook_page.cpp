@@ -40,6 +40,7 @@ QString styleFor(const QPalette& palette)
                           "h3 { font-size: medium; margin-top: 14px; margin-bottom: 4px; }"
                           "p, li { line-height: 125%; }"
                           "p { margin-top: 6px; margin-bottom: 8px; }"
+                          ".picture { line-height: 100%; }" // else of the picture's height
                           "a { color: %1; }"
                           "code, pre { font-family: 'Liberation Mono', monospace; background-color: %2; }"
                           "pre { margin-left: 14px; }"
@@ -111,7 +112,7 @@ QVariant HandbookPage::loadResource(int type, const QUrl& name)
 
 int HandbookPage::widestPicture() const
 {
-    return std::clamp(viewport()->width() - 2 * pageMargin, narrowestPicture, widestPictureEver);
+    return std::clamp(viewport()->width() - 3 * pageMargin, narrowestPicture, widestPictureEver);
 }
 
 /// Not wider than the page, and as sharp as the screen.

@@ -151,6 +151,9 @@ QWidget* HandbookView::waysIn()
     tabs->addTab(indexWay(), QString());
     tabs->addTab(searchWay(), QString());
     m_bindings.tabs(m_handbook.Ways, *tabs);
+    connect(tabs, &QTabWidget::currentChanged, this, [tabs] { // by the user
+        if (auto* field = tabs->currentWidget()->findChild<QLineEdit*>()) field->setFocus();
+    });
     return tabs;
 }
 

@@ -134,6 +134,7 @@ TEST_F(HandbookViewTest, SearchListsPagesAndReturnShowsTheBest)
 {
     ways.setCurrentIndex(2);
     auto& search = child<QLineEdit>(view, "Search");
+    EXPECT_EQ(view.focusWidget(), &search);
     QTest::keyClicks(&search, QStringLiteral("button"));
     auto& hits = child<QListWidget>(view, "Hits");
     ASSERT_EQ(hits.count(), 1);
