@@ -136,6 +136,20 @@ void Pane::setSelIndent(int twips)
     reportReformatted(repaint(lines, indented));
 }
 
+void Pane::setFormats(std::int64_t position, const std::vector<FormatId>& formats)
+{
+    const std::size_t begin = std::min(static_cast<std::size_t>(position), m_text.size());
+    std::size_t end = std::min(begin + formats.size(), m_text.size());
+    const auto* wanted = formats.data();
+    std::size_t first = begin;
+    while (first < end && m_format[first] == wanted[first - begin]) ++first;
+    while (end > first && m_format[end - 1] == wanted[end - 1 - begin]) --end;
+    if (first == end) return;
+    std::copy(wanted + (first - begin), wanted + (end - begin), m_format.data() + first);
+    m_snapshots.reformatted(first, end, m_text.size());
+    reportReformatted({first, end});
+}
+
 void Pane::setFont(const PaneFont& font)
 {
     if (font == m_font) return;
