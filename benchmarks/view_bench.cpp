@@ -1,5 +1,7 @@
 #include "desktop/documents/text/pane_view.h"
 
+#include "desktop/documents/text/match_scroll_bar.h"
+
 #include "coloured_text.h"
 #include "timing.h"
 
@@ -70,6 +72,19 @@ struct Shown {
     void paint() const { painted.paint(); }
 };
 
+/// All that can be shown beside and behind the text.
+struct Marked {
+    LineMark error;
+    MatchMarks matches;
+
+    explicit Marked(Shown& shown) : error(shown.pane), matches(shown.pane)
+    {
+        shown.view.showMarks(error, matches);
+        shown.view.showLineNumbers(true);
+        shown.view.showCurrentLine(true);
+    }
+};
+
 /// The floor: the same text in Qt's own widget, without colours, undo levels or a pane behind it.
 struct PlainShown {
     QPlainTextEdit edit;
@@ -113,11 +128,8 @@ BENCHMARK(colourRunsToPaintedView)->UseManualTime()->Unit(benchmark::kMillisecon
 
 /// A key in the middle of a coloured text of so many lines, with its undo level, painted. Every tenth is Return. Each
 /// key also goes to a plain widget with the same text: the "times" are how much longer the view takes than that.
-void keystrokeToPaintedView(benchmark::State& state)
+void typeInto(Shown& shown, benchmark::State& state)
 {
-    constexpr std::size_t charactersOfALine = 44;
-    Shown shown;
-    fillColoured(shown.pane, static_cast<std::size_t>(state.range(0)) * charactersOfALine);
     RichText level;
     shown.pane.Change = [&] { level = shown.pane.TextRTF(); };
     shown.pane.setSelStart(shown.pane.lineStart(shown.pane.lineCount() / 2));
@@ -142,12 +154,61 @@ void keystrokeToPaintedView(benchmark::State& state)
     }
     state.counters["lines"] = static_cast<double>(shown.pane.lineCount());
 }
+constexpr std::size_t charactersOfALine = 44;
+
+void keystrokeToPaintedView(benchmark::State& state)
+{
+    Shown shown;
+    fillColoured(shown.pane, static_cast<std::size_t>(state.range(0)) * charactersOfALine);
+    typeInto(shown, state);
+}
 BENCHMARK(keystrokeToPaintedView)
     ->Arg(700)
     ->Arg(10'000)
     ->Iterations(2'000)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
+
+/// The same with line numbers, the line of the caret, an error and a match of a search in every line.
+void keystrokeWithMarksToPaintedView(benchmark::State& state)
+{
+    Shown shown;
+    fillColoured(shown.pane, static_cast<std::size_t>(state.range(0)) * charactersOfALine);
+    Marked marked(shown);
+    marked.error.set(shown.pane.lineCount() / 2 + 3);
+    marked.matches.show("a", 0);
+    typeInto(shown, state);
+    state.counters["matches"] = static_cast<double>(marked.matches.positions().size());
+}
+BENCHMARK(keystrokeWithMarksToPaintedView)
+    ->Arg(10'000)
+    ->Iterations(2'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// Ten thousand matches in a megabyte, in the text and in the scroll bar.
+void markMatchesToPaintedView(benchmark::State& state)
+{
+    constexpr int lines = 10'000;
+    const std::string line = "BTN S1 /I Chaff_Flare " + std::string(80, '.') + "\r\n";
+    std::string text;
+    for (int i = 0; i < lines; ++i) text += line;
+    Shown shown;
+    Marked marked(shown);
+    shown.pane.setText(text);
+    shown.paint();
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        marked.matches.show("chaff", 0);
+        shown.view.matchBar()->showPlaces();
+        shown.paint();
+        state.SetIterationTime(secondsSince(start));
+        if (marked.matches.positions().size() != lines) throw std::runtime_error("not all matches are marked");
+        marked.matches.clear();
+        shown.paint();
+    }
+}
+BENCHMARK(markMatchesToPaintedView)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// A file of 400 lines with its colours replaces another.
 void openToPaintedView(benchmark::State& state)

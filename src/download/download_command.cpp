@@ -104,6 +104,7 @@ void showResult(Editor& editor, const std::string& path, const Steps& step)
 {
     const LoaderResult result = readLoaderResult(editor.platform.files, path, step);
     editor.status(result.statusText());
+    editor.joystick.ErrorLine.clear(); // of an earlier download
     if (result.failed && result.errorLine != 0) HighlightErrorLine(editor, result.errorLine);
 }
 

@@ -19,6 +19,7 @@
 #include "documents/window/frame_commands.h"
 #include "documents/window/menu_choices.h"
 #include "documents/window/preferences_page.h"
+#include "documents/window/zoom_commands.h"
 #include "download/download_commands.h"
 #include "download/own_tools.h"
 #include "language/commands/language_commands.h"
@@ -82,6 +83,7 @@ void wireEditMenu(Menus& menus, Editor& editor)
     menus.mnuEditCut.handler = on(editor, mnuEditCut_Click);
     menus.mnuEditCopy.handler = on(editor, mnuEditCopy_Click);
     menus.mnuEditPaste.handler = on(editor, mnuEditPaste_Click);
+    menus.mnuEditPastePlain.handler = on(editor, mnuEditPastePlain_Click);
     menus.mnuEditDelete.handler = on(editor, mnuEditDelete_Click);
     menus.mnuEditSelectAll.handler = on(editor, mnuEditSelectAll_Click);
 }
@@ -91,6 +93,9 @@ void wireViewAndPreferences(Menus& menus, Editor& editor)
     menus.mnuViewTileVertically.handler = on(editor, mnuViewTileVertically_Click);
     menus.mnuViewMacros.handler = on(editor, mnuViewMacros_Click);
     menus.mnuViewHighlightLine.handler = on(editor, mnuViewHighlightLine_Click);
+    menus.mnuViewZoomIn.handler = on(editor, mnuViewZoomIn_Click);
+    menus.mnuViewZoomOut.handler = on(editor, mnuViewZoomOut_Click);
+    menus.mnuViewZoomNormal.handler = on(editor, mnuViewZoomNormal_Click);
     menus.mnuViewEditColours.handler = on(editor, mnuViewEditColours_Click);
     menus.mnuPreferencesProtectMacroFile.handler = on(editor, mnuPreferencesProtectMacroFile_Click);
     menus.mnuJoyPopUpSingleFile.handler = on(editor, mnuJoyPopUpSingleFile_Click);
@@ -115,9 +120,10 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      findAndReplace(editor), safein(editor), composer(editor), generators(editor), wizards(editor),
-      templateEditor(editor), testers(editor, devices.value_or(InputDevices{noJoystick, noKeyboard})),
-      imageViewer(editor), lists(editor), preferences(editor, lists), help(editor)
+      colourAsTyped(editor), findAndReplace(editor), findBar(findAndReplace), safein(editor), composer(editor),
+      generators(editor), wizards(editor), templateEditor(editor),
+      testers(editor, devices.value_or(InputDevices{noJoystick, noKeyboard})), imageViewer(editor), lists(editor),
+      preferences(editor, lists), help(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -128,6 +134,7 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     wirePrinting(editor);
     wireControlSheet(editor);
     wireFindAndReplace(findAndReplace);
+    wireFindBar(findBar);
     wireSafein(safein);
     wireComposer(composer);
     offerComposer(composer);
@@ -155,6 +162,7 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     operations.QueryUnloadEditor = [this](bool& cancel) {
         cancel = !Form_QueryUnload(editor) || !closeTemplateEditor(templateEditor);
     };
+    operations.CaretLeftLine = [this] { colourAsTyped.lineLeft(); };
     operations.UnloadEditor = [this] { Form_Unload(editor); };
     shared.errors.exitInEmergency = [this] {
         operations.ReleaseGradient();

@@ -2,9 +2,11 @@
 
 #include "composer/insert_options.h"
 #include "documents/find/find_and_replace.h"
+#include "documents/find/find_bar.h"
 #include "documents/pair/editor.h"
 #include "generators/generators.h"
 #include "help/help.h"
+#include "language/commands/colour_as_typed.h"
 #include "lists/lists.h"
 #include "platform/input_devices.h"
 #include "platform/platform.h"
@@ -46,7 +48,9 @@ public:
     Mum mum;
     Operations operations;
     Editor editor;
+    ColourAsTyped colourAsTyped;
     FindAndReplace findAndReplace;
+    FindBar findBar;
     RAWform safein;
     InsertOptions composer;
     Generators generators;

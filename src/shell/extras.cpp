@@ -20,6 +20,9 @@ constexpr ExtraTick ticks[] = {
      false},
     {extraKey::showAssigned, "Show in the Composer what the &joystick file has",
      "Marks the controls that have a statement in the joystick file, and shows it under the mouse", true},
+    {extraKey::lineNumbers, "Show line numbers be&side the text", "The margin on the left of both files", true},
+    {extraKey::currentLine, "&Mark the line that I'm in", "Shades the line of the insertion point", true},
+    {extraKey::colourAsTyped, "&Colour as I type", "What I write gets its colours by itself when I pause", false},
 };
 
 const ExtraTick& rowOf(std::string_view key)
@@ -38,7 +41,9 @@ bool Extras::on(std::string_view key) const { return m_ini.readInt(section, key,
 
 void Extras::set(std::string_view key, bool isOn)
 {
-    if (on(key) != isOn) m_ini.writeString(section, key, isOn ? "1" : "0");
+    if (on(key) == isOn) return;
+    m_ini.writeString(section, key, isOn ? "1" : "0");
+    changed(key);
 }
 
 } // namespace tarvex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/profile_file.h"
+#include "platform/signal.h"
 
 #include <span>
 #include <string_view>
@@ -21,6 +22,9 @@ namespace extraKey {
 constexpr std::string_view askForFiles = "AskForFiles";
 constexpr std::string_view printPageNumbers = "PrintPageNumbers";
 constexpr std::string_view printFileName = "PrintFileName";
+constexpr std::string_view lineNumbers = "LineNumbers";
+constexpr std::string_view currentLine = "CurrentLine";
+constexpr std::string_view colourAsTyped = "ColourAsTyped";
 } // namespace extraKey
 
 /// The ticks as Platform.ini has them; nothing is cached.
@@ -32,6 +36,8 @@ public:
     /// Throws std::out_of_range for a key without a row.
     bool on(std::string_view key) const;
     void set(std::string_view key, bool on);
+
+    Signal<std::string_view> changed; ///< the tick with this key was set to another value, which is written
 
 private:
     ProfileFile& m_ini;

@@ -56,10 +56,12 @@ MenuEntry editMenu(Menus& m)
                                command(m.mnuEditCut, "Ctrl+X"),
                                command(m.mnuEditCopy, "Ctrl+C"),
                                command(m.mnuEditPaste, "Ctrl+V"),
+                               command(m.mnuEditPastePlain, "Ctrl+Shift+V"),
                                command(m.mnuEditDelete),
                                command(m.mnuEditSelectAll, "Ctrl+A"),
                                divider,
                                command(m.mnuEditFind, "Ctrl+F"),
+                               command(m.mnuEditFindBar, "Ctrl+Shift+F"),
                                command(m.mnuEditReplace, "Ctrl+R"),
                                command(m.mnuEditGoto, "Ctrl+G"),
                                divider,
@@ -92,6 +94,11 @@ MenuEntry viewMenu(Menus& m)
                     command(m.mnuViewHighlightLine, "Ctrl+L"),
                     divider,
                     command(m.mnuViewIdentify, "F7"),
+                    command(m.mnuViewFilterMacros, "Ctrl+Alt+F"),
+                    divider,
+                    command(m.mnuViewZoomIn, "Ctrl++"),
+                    command(m.mnuViewZoomOut, "Ctrl+-"),
+                    command(m.mnuViewZoomNormal, "Ctrl+0"),
                 });
 }
 

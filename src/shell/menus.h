@@ -55,7 +55,9 @@ struct Menus {
     MenuItem mnuEditSelectAll{"mnuEditSelectAll", "Select &all"};
     MenuItem mnuEditFind{"mnuEditFind", "&Find..."};
     MenuItem mnuEditReplace{"mnuEditReplace", "R&eplace..."};
+    MenuItem mnuEditPastePlain{"mnuEditPastePlain", "Paste as p&lain text"};
     MenuItem mnuEditGoto{"mnuEditGoto", "&Goto line..."};
+    MenuItem mnuEditFindBar{"mnuEditFindBar", "Find a&s I type"};
     MenuItem mnuEditREMblock{"mnuEditREMblock", "Comment &out block"};
     MenuItem mnuEditREMunblock{"mnuEditREMunblock", "Restore &block"};
     MenuItem mnuEditUpdateMacros{"mnuEditUpdateMacros", "Update &macros"};
@@ -78,6 +80,10 @@ struct Menus {
     MenuItem mnuViewAlignSlashes{"mnuViewAlignSlashes", "&Align slashes"};
     MenuItem mnuViewHighlightLine{"mnuViewHighlightLine", "&Highlight line"};
     MenuItem mnuViewIdentify{"mnuViewIdentify", "I&dentify macros used"};
+    MenuItem mnuViewFilterMacros{"mnuViewFilterMacros", "Filter the macro &list"};
+    MenuItem mnuViewZoomIn{"mnuViewZoomIn", "Lar&ger text"};
+    MenuItem mnuViewZoomOut{"mnuViewZoomOut", "&Smaller text"};
+    MenuItem mnuViewZoomNormal{"mnuViewZoomNormal", "&Normal text size"};
 
     MenuItem mnuInsert{"mnuInsert", "&Insert"};
     MenuItem mnuShowInsertWindow{"mnuShowInsertWindow", "&Composer"};

@@ -38,6 +38,8 @@ struct Operations {
     Operation<> IdentifyMacrosUsed;
     Operation<> IdentifyMacrosIfAny; ///< without a word where there is nothing to identify: the user didn't ask for it
 
+    Operation<> CaretLeftLine; ///< the user moved the caret to another line
+
     // lists
     Operation<> GetPreviousFiles;
     Operation<> GetFavourites;

@@ -406,6 +406,50 @@ TEST(SendToJoystick, ALineNumberAbove32767HighlightsNothing)
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
 
+TEST(SendToJoystick, TheLineOfAnErrorStaysMarkedUntilADownloadSucceeds)
+{
+    WithWinLoad t;
+    t.reports("WinLoad\r\nERROR\r\n2\r\nUnknown key b\r\n");
+    t.download();
+    EXPECT_EQ(t.editor().joystick.ErrorLine.line(), 1);
+    t.editor().JoystickText.userEdit(0, 0, "REM\r\n");
+    EXPECT_EQ(t.editor().joystick.ErrorLine.line(), 2);
+    t.reports("WinLoad\r\nmig.b50\r\n1234\r\n");
+    t.download();
+    EXPECT_FALSE(t.editor().joystick.ErrorLine.line());
+}
+
+TEST(SendToJoystick, OnlyTheLineOfTheLastErrorIsMarked)
+{
+    WithWinLoad t;
+    t.reports("WinLoad\r\nERROR\r\n2\r\nUnknown key b\r\n");
+    t.download();
+    t.reports("WinLoad\r\nERROR\r\n3\r\nUnknown key c\r\n");
+    t.download();
+    EXPECT_EQ(t.editor().joystick.ErrorLine.line(), 2);
+    t.reports("WinLoad\r\nERROR\r\n0\r\nNo macro file\r\n");
+    t.download();
+    EXPECT_FALSE(t.editor().joystick.ErrorLine.line());
+    t.reports("WinLoad\r\nERROR\r\n99\r\nWhere?\r\n");
+    t.download();
+    EXPECT_FALSE(t.editor().joystick.ErrorLine.line());
+}
+
+TEST(SendToJoystick, TheMarkOfAnErrorGoesWithItsLineAndItsFile)
+{
+    WithWinLoad t;
+    t.reports("WinLoad\r\nERROR\r\n2\r\nUnknown key b\r\n");
+    t.download();
+    t.editor().JoystickText.userEdit(t.editor().JoystickText.lineStart(1), 0, "REM ");
+    EXPECT_FALSE(t.editor().joystick.ErrorLine.line());
+    t.download();
+    ASSERT_TRUE(t.editor().joystick.ErrorLine.line());
+    t.files.addFile("c:\\tm\\twin.b50", t.editor().JoystickText.Text());
+    t.files.addFile("c:\\tm\\twin.m50", "");
+    t.openBoth("c:\\tm\\twin.b50");
+    EXPECT_FALSE(t.editor().joystick.ErrorLine.line());
+}
+
 TEST(SendToJoystick, NoResultFileKeepsTheOldStatus)
 {
     WithWinLoad t;

@@ -57,8 +57,9 @@ TEST(Wiring, EveryOperationIsCarriedOutByAUnitOrIsListedAsToCome)
                  DamnFontWasChanged, UpdateCCPButtons, HelpKeyword, HelpTopic, ShowTour, ShowInfoPage,
                  ApplyColourHighlighting, ApplyMacroColourHighlighting, ClearAllForNewMacroFile,
                  GetEachLineFromMacroFile, ExtractMacrosAndTitles, ClearMacroTicks, IdentifyMacrosUsed,
-                 IdentifyMacrosIfAny, GetPreviousFiles, GetFavourites, GetGames, GetCustomApps, UpdateRecentJFMenuList,
-                 UpdateRecentMFMenuList, NoteLatestJoystickFile, NoteLatestMacroFile] = t.program().operations;
+                 IdentifyMacrosIfAny, CaretLeftLine, GetPreviousFiles, GetFavourites, GetGames, GetCustomApps,
+                 UpdateRecentJFMenuList, UpdateRecentMFMenuList, NoteLatestJoystickFile, NoteLatestMacroFile] =
+        t.program().operations;
     Names without;
     const auto check = [&](const char* name, const auto& operation) {
         if (!operation) without.insert(name);
@@ -87,6 +88,7 @@ TEST(Wiring, EveryOperationIsCarriedOutByAUnitOrIsListedAsToCome)
     check("ClearMacroTicks", ClearMacroTicks);
     check("IdentifyMacrosUsed", IdentifyMacrosUsed);
     check("IdentifyMacrosIfAny", IdentifyMacrosIfAny);
+    check("CaretLeftLine", CaretLeftLine);
     check("GetPreviousFiles", GetPreviousFiles);
     check("GetFavourites", GetFavourites);
     check("GetGames", GetGames);

@@ -70,6 +70,7 @@ void bindPlainItem(MenuItem& item, QAction& action, Bindings& bindings)
         const QString whole = printable(toQt(caption));
         const QString shown = cutInMiddle(whole);
         action.setText(withoutAccessKeys(shown));
+        action.setData(whole);
         action.setToolTip(shown == whole ? QString() : wrappingTip(whole));
     });
 }

@@ -3,6 +3,7 @@
 #include "desktop/text.h"
 
 #include <QMimeData>
+#include <QUrl>
 
 #include <array>
 
@@ -37,6 +38,15 @@ ClipboardContent fromMime(const QMimeData& data)
         if (data.hasFormat(name)) content.rtf = data.data(name).toStdString();
     }
     return content;
+}
+
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList files;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) files.append(url.toLocalFile());
+    }
+    return files;
 }
 
 bool holdsContent(const QMimeData& data)

@@ -12,6 +12,8 @@ namespace tarvex {
 /// word processors use for it.
 std::unique_ptr<QMimeData> toMime(const ClipboardContent& content);
 ClipboardContent fromMime(const QMimeData& data);
+/// Paths of the files of this machine that a drag brings.
+QStringList localFiles(const QMimeData& data);
 bool holdsContent(const QMimeData& data);
 
 } // namespace tarvex

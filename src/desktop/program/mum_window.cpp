@@ -1,13 +1,17 @@
 #include "desktop/program/mum_window.h"
 
+#include "desktop/aside.h"
 #include "desktop/composer/composer_view.h"
 #include "desktop/documents/find/find_and_replace_view.h"
+#include "desktop/documents/find/find_bar_view.h"
 #include "desktop/documents/window/colour_selector_view.h"
 #include "desktop/documents/window/toolbar_view.h"
 #include "desktop/help/help_windows.h"
 #include "desktop/icon_theme.h"
 #include "desktop/menus/menu_view.h"
 #include "desktop/minimise.h"
+#include "desktop/platform/mime.h"
+#include "desktop/program/true_path_tips.h"
 #include "desktop/safein/safein_view.h"
 #include "desktop/shell/client_area.h"
 #include "desktop/shell/status_bar_view.h"
@@ -21,6 +25,7 @@
 #include "shell/frame/mum_window.h"
 
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QScopedValueRollback>
@@ -61,6 +66,7 @@ MumWindow::MumWindow(Program& program)
       m_lockKeys([this](LockKeyState state) { m_status->showLockKeys(state); }), m_helpKey(program.help)
 {
     setObjectName(QStringLiteral("Mum"));
+    setAcceptDrops(true);
     setMinimumSize(smallestSize);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setCentralWidget(new ClientArea(program.mum.Gradient, new ToolbarView(program.editor, this), m_editor, this));
@@ -68,6 +74,8 @@ MumWindow::MumWindow(Program& program)
     m_status->hovered = [&program](int x) { StatusBar_MouseMove(program.editor, toTwips(x)); };
     addMenuBars();
     addShortcuts();
+    addFindBar();
+    new TruePathTips(program.platform, this);
     bindTitle();
     makeWhenShown(program.findAndReplace.form, m_bindings,
                   [this] { return new FindAndReplaceView(m_program.findAndReplace, this); });
@@ -83,6 +91,10 @@ MumWindow::MumWindow(Program& program)
     m_bindings.follow(program.mum.form.frontWanted, [this] {
         raise();
         activateWindow();
+    });
+    m_bindings.follow(program.editor.Jumped, [this](const Side& side) {
+        QMetaObject::invokeMethod(
+            this, [this, &side] { uncover(side); }, Qt::QueuedConnection); // once it is in sight
     });
     connect(m_editor, &EditorView::overwriteModeChanged, this, [this](bool on) { m_status->showOverwrite(on); });
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
@@ -133,6 +145,16 @@ void MumWindow::addShortcuts()
     connect(colourBoth, &QShortcut::activated, this, [this] { m_program.menus.mnuViewApplyColourBothFiles.Click(); });
     auto* otherTab = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Tab")), this);
     connect(otherTab, &QShortcut::activated, this, [this] { selectOtherTab(m_program.editor); });
+    for (const char* plusKey : {"Ctrl+=", "Ctrl+Shift+="}) { // where "+" needs Shift
+        auto* larger = new QShortcut(QKeySequence(QLatin1String(plusKey)), this);
+        connect(larger, &QShortcut::activated, this, [this] { m_program.menus.mnuViewZoomIn.Click(); });
+    }
+}
+
+void MumWindow::addFindBar()
+{
+    auto* bar = new FindBarView(m_program.findBar, this);
+    m_editor->setFoot(*bar, m_program.findBar.Visible);
 }
 
 void MumWindow::bindTitle()
@@ -236,6 +258,33 @@ bool MumWindow::minimisedTooLate()
 void MumWindow::cameToTheFront()
 {
     if (!std::exchange(m_wasElsewhere, false)) Form_Activate(m_program.editor);
+}
+
+/// Tool windows that cover what a command has just brought into sight make room for it.
+void MumWindow::uncover(const Side& side)
+{
+    PaneView& pane = m_editor->pane(side);
+    const int around = pane.fontMetrics().lineSpacing();
+    const QRect place = pane.selectionPlace().adjusted(-around, -around, around, around);
+    for (ToolFormWindow* window : findChildren<ToolFormWindow*>()) {
+        if (!window->isVisible()) continue;
+        const QPoint corner = asideOf(window->frameGeometry(), place, window->screen()->availableGeometry());
+        if (corner != window->pos()) window->move(corner);
+    }
+}
+
+/// A file that is dropped beside the panes, on the toolbar say, is opened like one that is dropped on them.
+void MumWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localFiles(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MumWindow::dropEvent(QDropEvent* event)
+{
+    const QStringList files = localFiles(*event->mimeData());
+    if (files.isEmpty()) return;
+    event->acceptProposedAction();
+    emit m_editor->filesDropped(files);
 }
 
 /// The program asks about unsaved files, takes itself down and hides the window; or the user stays.

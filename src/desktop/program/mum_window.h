@@ -23,6 +23,8 @@ public:
     EditorView& editor() { return *m_editor; }
 
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -34,6 +36,8 @@ private:
     void bindTitle();
     void showForm(bool on);
     void cameToTheFront();
+    void uncover(const Side& side);
+    void addFindBar();
     void reportPlace();
     bool minimisedTooLate();
 

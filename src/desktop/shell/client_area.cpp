@@ -1,5 +1,7 @@
 #include "desktop/shell/client_area.h"
 
+#include "desktop/mixed.h"
+
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -9,12 +11,6 @@ namespace {
 
 constexpr int steps = 48;
 constexpr double strength = 0.35; // of the colour where it is strongest
-
-QColor mixed(const QColor& ground, const QColor& colour, double share)
-{
-    const auto mix = [share](int from, int to) { return static_cast<int>(from + (to - from) * share); };
-    return {mix(ground.red(), colour.red()), mix(ground.green(), colour.green()), mix(ground.blue(), colour.blue())};
-}
 
 } // namespace
 

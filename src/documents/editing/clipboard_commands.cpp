@@ -8,6 +8,9 @@
 #include "documents/text/rtf/rtf.h"
 #include "platform/windows1252.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace tarvex {
 
 namespace {
@@ -22,6 +25,34 @@ void enable(Editor& editor, MenuItem& item, int button, bool on)
     editor.mum.Toolbar1.Buttons(button).Enabled = on;
 }
 
+/// The text as it would look typed at the selection, in its own colours.
+RichText withFontOf(const Pane& pane, const RichText& text)
+{
+    if (text.empty()) return text;
+    std::vector<FormatRun> runs = text.runs();
+    for (FormatRun& run : runs) {
+        CharacterFormat format = pane.SelFormat();
+        format.colour = (*text.formats())[run.format].colour;
+        run.format = pane.formats()->idOf(format);
+    }
+    return {pane.formats(), text.text(), runs};
+}
+
+/// `choose` takes what there is of the clipboard.
+template <typename Choose> void paste(Editor& editor, const Steps& step, Choose choose)
+{
+    endBlinking(editor);
+    if (refuseProtected(editor)) return;
+    step([&] {
+        const ClipboardContent content = choose(editor.platform.clipboard.get());
+        Side& side = editor.selected();
+        std::size_t lost = 0;
+        writeAsOneLevel(side, [&] { lost = insertContent(side.pane, content); });
+        reportLostCharacters(editor, lost);
+    });
+    UpdateCCPButtons(editor);
+}
+
 } // namespace
 
 ClipboardContent selectionContent(const Pane& pane)
@@ -30,13 +61,22 @@ ClipboardContent selectionContent(const Pane& pane)
     return {utf8FromWindows1252(pane.SelText()), writeRtf(pane.SelRTF())};
 }
 
-void insertContent(Pane& pane, const ClipboardContent& content)
+std::size_t insertContent(Pane& pane, const ClipboardContent& content)
 {
-    if (pane.Locked) return;
+    if (pane.Locked) return 0;
+    const std::string plain = windows1252FromUtf8(content.text);
     if (looksLikeRtf(content.rtf))
-        pane.setSelRTF(readRtf(content.rtf, pane.formats()));
-    else if (!content.text.empty())
-        pane.setSelText(windows1252FromUtf8(content.text));
+        pane.setSelRTF(withFontOf(pane, readRtf(content.rtf, pane.formats())));
+    else if (!plain.empty())
+        pane.setSelText(plain);
+    return static_cast<std::size_t>(std::ranges::count(plain, '?') - std::ranges::count(content.text, '?'));
+}
+
+void reportLostCharacters(Editor& editor, std::size_t count)
+{
+    if (count == 0) return;
+    editor.status(std::to_string(count) + (count == 1 ? " character is" : " characters are") +
+                  " not in the Windows character set and became ?");
 }
 
 void mnuEditCopy_Click(Editor& editor)
@@ -64,14 +104,17 @@ void mnuEditCut_Click(Editor& editor)
 void mnuEditPaste_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditPaste_Click");
-    endBlinking(editor);
-    if (refuseProtected(editor)) return;
-    step([&] {
-        const ClipboardContent content = editor.platform.clipboard.get();
-        Side& side = editor.selected();
-        writeAsOneLevel(side, [&] { insertContent(side.pane, content); });
+    paste(editor, step, std::identity());
+}
+
+void mnuEditPastePlain_Click(Editor& editor)
+{
+    const Steps step(editor.shared.errors, "ED_mnuEditPastePlain_Click");
+    paste(editor, step, [&editor](ClipboardContent content) {
+        if (content.text.empty()) content.text = utf8FromWindows1252(readRtf(content.rtf, editor.formats).text());
+        content.rtf.clear();
+        return content;
     });
-    UpdateCCPButtons(editor);
 }
 
 void mnuEditDelete_Click(Editor& editor)
@@ -104,6 +147,7 @@ void UpdateCCPButtons(Editor& editor)
     enable(editor, editor.menus.mnuEditCut, cutButton, selection && !pane.Locked);
     enable(editor, editor.menus.mnuEditCopy, copyButton, selection);
     enable(editor, editor.menus.mnuEditPaste, pasteButton, !pane.Locked && editor.platform.clipboard.holdsText());
+    editor.menus.mnuEditPastePlain.Enabled = editor.menus.mnuEditPaste.Enabled.get();
 }
 
 } // namespace tarvex

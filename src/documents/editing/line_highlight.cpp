@@ -137,9 +137,11 @@ void HighlightErrorLine(Editor& editor, std::int64_t lineNumber)
             {.title = "Hmmm....bizarre...", .text = "The line number is invalid", .icon = BoxIcon::Exclamation});
         return;
     }
+    editor.joystick.ErrorLine.set(lineNumber - 1);
     if (editor.TabStrip1.SelectedItem != editor.joystick.tab) editor.TabStrip1.Select(editor.joystick.tab);
     pane.setSelStart(*start);
     blinkLineAtIP(editor);
+    editor.Jumped(editor.joystick);
 }
 
 } // namespace tarvex

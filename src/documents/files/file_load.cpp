@@ -81,6 +81,7 @@ void layOutAndColour(Editor& editor, Side& side, const Steps& step)
 /// Caret, undo, state and journal are those of a file that was just opened.
 void startAnew(Editor& editor, Side& side, const std::string& bytes, const Steps& step)
 {
+    side.ErrorLine.clear(); // another file may have the same text there
     side.pane.setSelStart(0);
     side.Caret = 0;
     side.SelectionLength = 0;

@@ -2,7 +2,9 @@
 
 #include "documents/find/find_text.h"
 #include "documents/find/goto_line.h"
+#include "documents/find/matches.h"
 #include "documents/find/replace_text.h"
+#include "platform/windows1252.h"
 #include "shell/help_topics.h"
 
 namespace tarvex {
@@ -34,17 +36,21 @@ void wirePage(FindAndReplace& window, const FindPage& page, std::vector<Connecti
     page.matchCase.Caption = "Match case";
     page.wholeWord.Caption = "Find whole words only";
     chooseFile(window, page, window.editor.joystick.tab);
-    connections.push_back(page.text.Text.changed.connect([page] { page.find.Caption = findFirst; }));
+    connections.push_back(page.text.Text.changed.connect([&window, page] {
+        page.find.Caption = findFirst;
+        markFormMatches(window);
+    }));
     page.joystick.Click = quietly([&window, page] { chooseFile(window, page, window.editor.joystick.tab); });
     page.macro.Click = quietly([&window, page] { chooseFile(window, page, window.editor.macro.tab); });
 }
 
 /// Two check boxes that are one option of the search; `option` is what it adds to FindOptions while it is on.
-void mirror(CheckBox& a, CheckBox& b, std::int16_t& option)
+void mirror(FindAndReplace& window, CheckBox& a, CheckBox& b, std::int16_t& option)
 {
-    const auto follow = [&option](const CheckBox& clicked, CheckBox& other) {
+    const auto follow = [&window, &option](const CheckBox& clicked, CheckBox& other) {
         other.Value = clicked.Value.get();
         if (!clicked.Value) option = 0;
+        markFormMatches(window);
     };
     a.Click = quietly([&a, &b, follow] { follow(a, b); });
     b.Click = quietly([&a, &b, follow] { follow(b, a); });
@@ -115,12 +121,23 @@ void selectReplaceTab(FindAndReplace& window)
     window.Command6.Enabled = found;
 }
 
-/// Shows a tab of the window, for the document in front.
+/// The word that was just found is sought already, however it was written.
+void seekWord(FindAndReplace& window, const std::string& word)
+{
+    if (word.empty()) return;
+    for (ComboBox* text : {&window.ComboTextFind, &window.ComboTextReplaceFind}) {
+        if (lowerUtf8(text->Text.get()) != lowerUtf8(word)) text->Text = word;
+    }
+}
+
+/// Shows a tab of the window, for the document in front. A single word that is selected there is sought.
 void open(FindAndReplace& window, int tab)
 {
+    const std::string word = selectedWord(window.editor);
     window.form.open(); // first, because only what is shown can take the keyboard
     const int document = window.editor.TabStrip1.SelectedItem;
     for (const FindPage& page : {findPage(window), replacePage(window)}) chooseFile(window, page, document);
+    if (tab != findTab::line) seekWord(window, word);
     if (window.SSTab1.SelectedItem != tab) {
         window.SSTab1.Select(tab);
     } else {
@@ -142,8 +159,8 @@ void wireControls(FindAndReplace& window)
     window.SSTab1.Click = [&window] { SSTab1_Click(window); };
     wirePage(window, findPage(window), window.connections);
     wirePage(window, replacePage(window), window.connections);
-    mirror(window.MatchCaseF, window.MatchCaseR, window.MatchOption);
-    mirror(window.WholeWordF, window.WholeWordR, window.WordOption);
+    mirror(window, window.MatchCaseF, window.MatchCaseR, window.MatchOption);
+    mirror(window, window.WholeWordF, window.WholeWordR, window.WordOption);
     wireKeepOnTop(window);
     wireButtons(window);
     window.LineToFind.GotFocus = quietly([&window] { window.LineToFind.SelectAll(); });
@@ -171,6 +188,7 @@ void Form_Load(FindAndReplace& window)
         window.Command6.Enabled = false;
         window.Command10.Enabled = window.editor.operations.HelpTopic ? true : false;
         window.form.markLoaded();
+        markFormMatches(window);
     });
 }
 
@@ -178,6 +196,7 @@ void Form_Unload(FindAndReplace& window)
 {
     const Steps step(window.editor.shared.errors, "FIND Form_Unload");
     step([&] { window.form.markUnloaded(); });
+    step([&] { markFormMatches(window); });
 }
 
 void SSTab1_Click(FindAndReplace& window)
@@ -195,6 +214,7 @@ void SSTab1_Click(FindAndReplace& window)
             break;
         }
         focusTab(window);
+        markFormMatches(window);
     });
 }
 

@@ -38,6 +38,7 @@ void showFound(FindAndReplace& window, const FindPage& page, Side& side)
     page.find.Caption = findNext;
     showLineNumber(window.editor, side, behind);
     page.find.SetFocus();
+    window.editor.Jumped(side);
 }
 
 /// True: the match is selected.

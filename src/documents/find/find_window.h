@@ -61,6 +61,7 @@ struct FindAndReplace {
     std::int16_t FindOptions = 0;        ///< MatchOption + WordOption
     std::int16_t MatchOption = 0;        ///< 4: case counts
     std::int16_t WordOption = 0;         ///< 2: whole words only
+    bool MarksElsewhere = false;         ///< the find bar is open: the marks in the panes are of its text
     int FileChosen = 1;                  ///< tab of the document that was chosen last
     std::vector<Connection> connections; ///< of its own controls
 };

@@ -20,6 +20,7 @@ void selectLine(Editor& editor, std::int64_t number, std::int64_t start)
     side.pane.setSelStart(start);
     side.pane.setSelLength(length);
     showLineNumber(editor, side, start);
+    editor.Jumped(side);
 }
 
 } // namespace

@@ -69,6 +69,8 @@ void UpdateSavedIcon(Editor& editor)
         StatusBar::Panel& state = editor.mum.StatusBar.Panels(panel::savedState);
         state.Picture = savedStatePicture(side.Changed);
         state.ToolTipText = savedStateTip(side.FileName, side.Changed);
+        for (Side* document : {&editor.joystick, &editor.macro})
+            document->ShowsEdited = document->Changed == changed::modified;
     });
 }
 

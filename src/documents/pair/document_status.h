@@ -6,7 +6,8 @@ namespace tarvex {
 
 // The parts of the status bar, toolbar and menus that describe the selected document.
 
-/// Shows the changed state of the selected document on the saved-state panel: image value + 2, and its tooltip.
+/// Shows the changed state of the selected document on the saved-state panel: image value + 2, and its tooltip; and on
+/// the tabs which documents are modified.
 void UpdateSavedIcon(Editor& editor);
 /// Names the selected document in the status; a compile result and a macro's definition (it holds "=") stay up.
 void showEditingText(Editor& editor);

@@ -37,7 +37,9 @@ struct FrameMacros {
     ComboBox Combo1;                             ///< the headings
     std::deque<CheckListBox> List1{1};           ///< 0: every macro; k: those under heading k
     Signal<> List1Changed;                       ///< a list was loaded or unloaded
-    std::array<Button, 13> Command1;             ///< slash modifiers and DLY
+    TextBox Filter;                              ///< only macros that hold its text are shown
+    Property<bool> FilterVisible = false;
+    std::array<Button, 13> Command1; ///< slash modifiers and DLY
 };
 
 /// What the window shows of a caret.
@@ -89,6 +91,9 @@ struct Editor {
     Timer Timer1{60000};       ///< minutes of the automatic save
     Timer TimerBlinkLine{100}; ///< line highlight
     Timer TimerJournal{15000}; ///< runs while a journal isn't on the disk yet
+    Timer TimerColour{300};    ///< runs while a statement that was just written waits for its colours
+    Property<int> Zoom = 100;  ///< of both panes, per cent
+    Signal<Side&> Jumped;      ///< a command brought a place of the document into sight: its selection
 
     std::optional<NotedCaret> Noted;   ///< by noteCaret; nothing when another line number was shown since
     int TabImage = tabImage::selected; ///< of the macro file's tab while it is selected

@@ -24,10 +24,12 @@ void noteCaret(Editor& editor, Side& side)
     side.Caret = now.start;
     side.SelectionLength = static_cast<std::int32_t>(now.length);
     if (editor.Noted == now) return;
+    const bool leftLine = editor.Noted && (editor.Noted->tab != now.tab || editor.Noted->line != now.line);
     showLineNumber(editor, side, now.start);
     showCaretColour(editor);
     editor.operations.UpdateCCPButtons();
     editor.Noted = now;
+    if (leftLine) editor.operations.CaretLeftLine();
 }
 
 void showCaretLine(Editor& editor, Side& side)

@@ -2,6 +2,8 @@
 
 #include "documents/pair/undo_history.h"
 #include "documents/recovery/journal_record.h"
+#include "documents/text/line_mark.h"
+#include "documents/text/match_marks.h"
 #include "documents/text/pane.h"
 #include "shell/operations.h"
 
@@ -41,6 +43,9 @@ struct Side {
     std::int16_t TakeNewLevel = 1;
     UndoHistory Undo = {};
     JournalRecord Journal = {};
+    LineMark ErrorLine{pane};          ///< the one that the last download complained of
+    MatchMarks Matches{pane};          ///< of what is being sought
+    Property<bool> ShowsEdited{false}; ///< the document is modified, for its tab
 };
 
 /// Of two names the one for the document.

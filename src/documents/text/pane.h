@@ -99,8 +99,9 @@ public:
     Colour SelColor() const { return SelFormat().colour; }
     int SelIndent() const { return SelFormat().indent; }
 
-    /// Gives the characters from `position` on these formats, by their numbers in the pane's table; those behind the end
-    /// are left out. Selection and caret stay, and no Change runs: it isn't the user's doing. `position` isn't negative.
+    /// Gives the characters from `position` on these formats, by their numbers in the pane's table; those behind the
+    /// end are left out. Selection and caret stay, and no Change runs: it isn't the user's doing. `position` isn't
+    /// negative.
     void setFormats(std::int64_t position, const std::vector<FormatId>& formats);
     const CharacterFormat& formatAt(std::size_t position) const { return (*m_formats)[m_format[position]]; }
     FormatId formatIdAt(std::size_t position) const { return m_format[position]; }

@@ -11,6 +11,7 @@
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_offer.h"
 #include "documents/window/hardware_changes.h"
+#include "documents/window/zoom_commands.h"
 #include "platform/windows1252.h"
 #include "shell/toolbar_buttons.h"
 
@@ -191,6 +192,7 @@ void Form_Load(Editor& editor)
     Menus& menus = editor.menus;
 
     editor.mum.Toolbar1.Visible = true;
+    readZoom(editor);
     editor.status("Loading up the main Tarvex Editor .... hang on ....");
     const std::string whyNotOpened = loadDocuments(editor, step);
     UpdateSavedIcon(editor);
@@ -240,7 +242,9 @@ void Form_Unload(Editor& editor)
     SettingsStore& store = editor.shared.store;
     step([&] { store.SaveOpenSingleOnly(); });
     step([&] { store.SaveIndentStuff(); });
+    saveZoom(editor);
     endJournals(editor);
+    editor.TimerColour.Enabled = false;
     editor.Timer1.Enabled = false;
     editor.TimerBlinkLine.Enabled = false;
     for (const char* form : {"FindAndReplace", "InsertOptions", "Heading", "KeyTestForm", "InfoWindow", "RAWform"})

@@ -6,6 +6,7 @@
 #include "language/commands/identify_macros.h"
 #include "language/commands/layout_refresh.h"
 #include "language/commands/macro_file.h"
+#include "language/commands/macro_filter.h"
 #include "language/commands/macro_list_events.h"
 #include "language/commands/macro_lists.h"
 #include "language/commands/rem_block.h"
@@ -48,6 +49,7 @@ void wireMacros(Editor& editor)
     menus.mnuEditUpdateMacros.handler = on(editor, mnuEditUpdateMacros_Click);
     for (MenuItem* item : {&menus.mnuViewIdentify, &menus.mnuRHMIdentify, &menus.mnuRHListIdentify})
         item->handler = on(editor, IdentifyMacrosUsed);
+    menus.mnuViewFilterMacros.handler = on(editor, mnuViewFilterMacros_Click);
     menus.mnuFindInJF.handler = on(editor, FindMacroInJF);
     menus.mnuRHListInsert.handler = on(editor, mnuRHListInsert_Click);
     editor.FrameMacros.Combo1.Click = on(editor, Combo1_Click);

@@ -528,6 +528,48 @@ TEST_F(PairTest, PlainTextFromElsewhereIsPastedWithQuestionMarksForWhatTheCodePa
     EXPECT_EQ(editor.JoystickText.Text(), "caf\xE9 \x80 ?\r\nnext");
 }
 
+TEST_F(PairTest, CharactersThatTheCodePageLacksAreCountedInTheStatusBar)
+{
+    t.clipboard.content = {"why? \xE6\xBC\xA2\xE5\xAD\x97 \xE2\x98\x83?", ""};
+    t.menus().mnuEditPaste.Click();
+    EXPECT_EQ(t.status(), "3 characters are not in the Windows character set and became ?");
+    t.clipboard.content = {"\xE2\x98\x83", ""};
+    t.menus().mnuEditPaste.Click();
+    EXPECT_EQ(t.status(), "1 character is not in the Windows character set and became ?");
+    editor.status("kept");
+    t.clipboard.content = {"why? \xE2\x82\xAC", ""};
+    t.menus().mnuEditPaste.Click();
+    EXPECT_EQ(t.status(), "kept");
+}
+
+TEST_F(PairTest, TextWithFontsFromElsewhereTakesThePanesFontAndKeepsItsColours)
+{
+    t.typeJoystick("x");
+    const CharacterFormat own = editor.JoystickText.formatAt(0);
+    t.clipboard.content = {"big",
+                           "{\\rtf1{\\fonttbl{\\f0 Courier;}}{\\colortbl;\\red255;}\\f0\\fs72\\b\\i\\ul\\cf1 big}"};
+    t.menus().mnuEditPaste.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "xbig");
+    const CharacterFormat& pasted = editor.JoystickText.formatAt(2);
+    EXPECT_EQ(pasted.colour, 255);
+    CharacterFormat black = pasted;
+    black.colour = own.colour;
+    EXPECT_EQ(black, own);
+}
+
+TEST_F(PairTest, PasteAsPlainTextLeavesTheColoursBehind)
+{
+    t.clipboard.content = {"red", "{\\rtf1{\\colortbl;\\red255;}\\cf1 red}"};
+    t.menus().mnuEditPastePlain.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "red");
+    EXPECT_EQ(editor.JoystickText.formatAt(0).colour, 0);
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "");
+    t.clipboard.content = {"", "{\\rtf1 only}"}; // without a plain form
+    t.menus().mnuEditPastePlain.Click();
+    EXPECT_EQ(editor.JoystickText.Text(), "only");
+}
+
 TEST_F(PairTest, AnEmptyClipboardPastesNothing)
 {
     t.menus().mnuEditPaste.Click();
@@ -542,6 +584,7 @@ TEST_F(PairTest, AProtectedPaneTakesNoPasteCutOrDelete)
     t.menus().mnuEditSelectAll.Click();
     t.clipboard.content = {"no", ""};
     t.menus().mnuEditPaste.Click();
+    t.menus().mnuEditPastePlain.Click();
     t.menus().mnuEditDelete.Click();
     t.menus().mnuEditCut.Click();
     EXPECT_EQ(editor.MacroText.Text(), "A = a");

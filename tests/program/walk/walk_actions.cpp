@@ -216,6 +216,26 @@ void dragText(Walk& walk)
     moveSelection(walk.pane(), below(walk.random, length + 1));
 }
 
+/// Words of the snippets, an empty text among them.
+void useFindBar(Walk& walk)
+{
+    FindBar& bar = walk.program().findBar;
+    if (!bar.Visible) return walk.menus().mnuEditFindBar.Click();
+    bar.Text.Text = oneOf(walk.random, std::array{"BTN", "fire", "e", "(", ")", " ", "", "gun_one", "REM"});
+    CheckBox& option = *oneOf(walk.random, std::array{&bar.MatchCase, &bar.WholeWord});
+    option.Value = below(walk.random, 2) == 0;
+    option.Click();
+    oneOf(walk.random, std::array{&bar.Next, &bar.Previous, &bar.Close})->Click();
+}
+
+/// The user pauses, or leaves the line.
+void colourTick(Walk& walk)
+{
+    walk.program().shared.extras.set(extraKey::colourAsTyped, true);
+    noteCaret(walk.editor(), walk.side());
+    if (walk.editor().TimerColour.Enabled) walk.editor().TimerColour.Tick();
+}
+
 void showErrorLine(Walk& walk) { HighlightErrorLine(walk.editor(), below(walk.random, 40)); }
 void transferText(Walk& walk) { SafeinTransferText(walk.editor(), oneOf(walk.random, snippets)); }
 void otherTab(Walk& walk) { selectOtherTab(walk.editor()); }
@@ -259,6 +279,11 @@ constexpr Action actions[] = {
     {"redo", 8, click<&Menus::mnuEditRedo>},
     {"undo and redo", 4, undoRoundTrip},
     {"find and replace", 5, findAndReplace},
+    {"find bar", 5, useFindBar},
+    {"paste plain text", 2, click<&Menus::mnuEditPastePlain>},
+    {"colour what was typed", 5, colourTick},
+    {"filter the macros", 1, click<&Menus::mnuViewFilterMacros>},
+    {"larger text", 1, click<&Menus::mnuViewZoomIn>},
     {"colour both", 1, click<&Menus::mnuViewApplyColourBothFiles>},
     {"colour", 2, click<&Menus::mnuRHMColour>},
     {"remove colour", 2, click<&Menus::mnuRHMColoursRemove>},

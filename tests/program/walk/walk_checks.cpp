@@ -33,6 +33,21 @@ void checkUndo(Walk& walk, const Side& side)
     EXPECT_EQ(walk.menus().mnuEditRedo.Enabled, history.Position != 1);
 }
 
+/// The marks that followed the edits are those that a new search gives.
+void checkMarks(Walk& walk, const Side& side)
+{
+    EXPECT_LT(side.ErrorLine.line().value_or(0), side.pane.lineCount());
+    EXPECT_EQ(side.ShowsEdited.get(), side.Changed == changed::modified) << "the dot on the tab of the " << side.kind;
+    const FindBar& bar = walk.program().findBar;
+    if (!bar.Visible) return;
+    Pane pane;
+    pane.setText(side.pane.Text());
+    MatchMarks fresh(pane);
+    fresh.show(bar.Text.Text.get(),
+               (bar.MatchCase.Value ? find::matchCase : 0) + (bar.WholeWord.Value ? find::wholeWord : 0));
+    EXPECT_EQ(side.Matches.positions(), fresh.positions());
+}
+
 void checkState(Walk& walk, const Side& side)
 {
     EXPECT_EQ(walk.editor().tabCaption(side), side.FileName);
@@ -154,6 +169,7 @@ void check(Walk& walk, const Texts& before)
         checkPane(side->pane);
         checkUndo(walk, *side);
         checkState(walk, *side);
+        checkMarks(walk, *side);
         checkJournal(walk, *side);
     }
     checkMacros(walk);

@@ -68,7 +68,8 @@ void PaneMirror::deliver(int caret)
     }
     markStale(static_cast<int>(typed.before), documentLength() - static_cast<int>(typed.after));
     const Stretch stretch = typedStretch(typed, caret);
-    const PaneText text = paneText(documentStretch(stretch.from, stretch.to));
+    const QString written = documentStretch(stretch.from, stretch.to);
+    const PaneText text = paneText(written);
     const std::int64_t after = paneLength() - stretch.end;
     m_echo = Pane::Edit{stretch.begin, stretch.end - stretch.begin, static_cast<std::int64_t>(text.bytes.size())};
     const auto refused = qScopeGuard([this, &stretch, after] {
@@ -79,6 +80,7 @@ void PaneMirror::deliver(int caret)
     });
     if (!text.exact) narrow(m_behind, {stretch.begin, after});
     m_pane.userEdit(stretch.begin, stretch.end - stretch.begin, text.bytes);
+    if (!text.exact) emit charactersLost(static_cast<int>(std::ranges::count(text.bytes, '?') - written.count(u'?')));
 }
 
 /// The part from `from` to `to` of the document, and the part of the pane that it replaces.

@@ -48,6 +48,8 @@ public:
 signals:
     /// There is something to deliver or to update.
     void waiting();
+    /// So many characters that the user wrote became "?", because the pane can't hold them.
+    void charactersLost(int count);
 
 private:
     /// What both sides have in common: characters at the start and at the end. All between may differ.

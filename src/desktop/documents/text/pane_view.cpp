@@ -11,20 +11,23 @@ namespace tarvex {
 
 namespace {
 
-constexpr int smallestZoom = 40;
-constexpr int largestZoom = 500;
 constexpr int tabColumns = 8;
 constexpr int margin = 4; // pixels around the text
 
 } // namespace
 
-PaneView::PaneView(Pane& pane, QWidget* parent) : QPlainTextEdit(parent), m_pane(pane), m_mirror(pane, *document())
+PaneView::PaneView(Pane& pane, QWidget* parent)
+    : QPlainTextEdit(parent), m_pane(pane), m_mirror(pane, *document()), m_margin(new PaneMargin(*this, *this))
 {
     setLineWrapMode(NoWrap);
     document()->setDocumentMargin(margin);
     connect(&m_mirror, &PaneMirror::waiting, this, &PaneView::settleLater);
+    connect(&m_mirror, &PaneMirror::charactersLost, this, &PaneView::charactersLost);
+    connect(this, &QPlainTextEdit::updateRequest, this, &PaneView::updateMargin);
+    connect(this, &QPlainTextEdit::blockCountChanged, this, &PaneView::placeMargin);
     const auto cursorMoved = [this] {
         if (m_showing) return;
+        noteCurrentLine();
         m_userMoved = true;
         if (!m_mirror.typed() && !m_mirror.behind()) takeSelection();
         settleLater();
@@ -125,6 +128,7 @@ bool PaneView::bringUpToDate()
     verticalScrollBar()->setValue(top); // setting the cursor scrolls to the selection's end
     horizontalScrollBar()->setValue(left);
     if (moved) revealSelection();
+    noteCurrentLine();
     formatShown();
     return true;
 }
@@ -215,6 +219,7 @@ void PaneView::paintEvent(QPaintEvent* event)
 {
     showPane();
     formatShown();
+    paintMarks(event->rect());
     QPlainTextEdit::paintEvent(event);
 }
 
@@ -227,6 +232,7 @@ void PaneView::scrollContentsBy(int dx, int dy)
 void PaneView::resizeEvent(QResizeEvent* event)
 {
     QPlainTextEdit::resizeEvent(event);
+    placeMargin();
     formatShown();
 }
 
@@ -234,7 +240,7 @@ void PaneView::resizeEvent(QResizeEvent* event)
 
 void PaneView::setZoom(int percent)
 {
-    m_zoom = std::clamp(percent, smallestZoom, largestZoom);
+    m_zoom = std::clamp(percent, zoom::smallest, zoom::largest);
     showFont();
 }
 
@@ -249,6 +255,8 @@ void PaneView::showFont()
     setTabStopDistance(tabColumns * QFontMetricsF(shown).averageCharWidth());
     m_mirror.formats().setZoom(m_zoom / 100.0);
     m_mirror.markAllStale();
+    placeMargin();
+    m_margin->update();
     viewport()->update();
 }
 
@@ -260,7 +268,9 @@ void PaneView::showColours()
     shown.setColor(QPalette::Text, Qt::black);
     shown.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x9B, 0xC1, 0xEE)); // found from another window
     shown.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
-    if (shown != palette()) setPalette(shown);
+    if (shown == palette()) return;
+    setPalette(shown);
+    m_margin->update();
 }
 
 void PaneView::changeEvent(QEvent* event)

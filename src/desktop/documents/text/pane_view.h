@@ -1,17 +1,26 @@
 #pragma once
 
 #include "desktop/bind.h"
+#include "desktop/documents/text/pane_margin.h"
 #include "desktop/documents/text/pane_mirror.h"
+#include "documents/text/line_mark.h"
+#include "documents/text/match_marks.h"
+#include "documents/text/zoom.h"
 
-#include <QPlainTextEdit>
-
+#include <cstdint>
 #include <functional>
+#include <optional>
+#include <vector>
+
+class QPainter;
 
 namespace tarvex {
 
+class MatchScrollBar;
+
 /// Shows a pane and lets the user edit it. The user's edits become edits of the pane, and what the program does to the
 /// pane appears once per event, by changed stretch.
-class PaneView : public QPlainTextEdit {
+class PaneView : public QPlainTextEdit, public MarginLines {
     Q_OBJECT
 public:
     /// The pane outlives the view.
@@ -30,6 +39,19 @@ public:
     int zoom() const { return m_zoom; }
     void setZoom(int percent);
 
+    /// Shows these marks of the pane beside and behind its text, and the matches in the scroll bar, too. Once at most;
+    /// the marks outlive the view.
+    void showMarks(LineMark& error, MatchMarks& matches);
+    std::optional<std::int64_t> errorLine() const override;
+    MatchScrollBar* matchBar() { return m_matchBar; }
+    void showLineNumbers(bool on);
+    void showCurrentLine(bool on);
+
+    std::vector<ShownLine> shownLines(const QRect& area) const override;
+    void selectLineAt(int y) override;
+    /// Where the selection is in sight, on the screen.
+    QRect selectionPlace();
+
     /// Puts what was dropped before the character at `target`, or moves the view's own selection there.
     void takeDrop(const QMimeData& content, int target, bool movesOwnSelection);
 
@@ -41,6 +63,10 @@ signals:
     /// The view followed a change of the pane by the program alone.
     void paneShown();
     void overwriteModeChanged(bool on);
+    /// So many characters that the user wrote became "?", because the pane can't hold them.
+    void charactersLost(int count);
+    /// The user chose another size.
+    void zoomed(int percent);
     void filesDropped(const QStringList& paths);
     /// A key was released, the left button was released, a button went down; the pane has what they did.
     void keyReleased();
@@ -86,7 +112,15 @@ private:
     void showColours();
     void formatShown();
     void repaintLine(const PaneFormats::Changed& line);
+    void placeMargin();
+    void updateMargin(const QRect& changed, int scrolled);
+    int currentLine() const;
+    void noteCurrentLine();
+    void paintMarks(const QRect& area);
+    void paintMatches(QPainter& painter, const ShownLine& shown, const QRect& area);
+    std::vector<float> matchPlaces() const;
     bool zoomByKey(const QKeyEvent& event);
+    void zoomTo(int percent);
     void announceKey(const QKeyEvent& event);
     void announceCharacter(int code);
     void announceEdit();
@@ -102,7 +136,13 @@ private:
     Pane& m_pane;
     PaneMirror m_mirror;
     Bindings m_bindings;
-    int m_zoom = 100;
+    PaneMargin* m_margin;
+    MatchScrollBar* m_matchBar = nullptr;
+    const LineMark* m_error = nullptr;
+    const MatchMarks* m_matches = nullptr;
+    bool m_showsCurrentLine = false;
+    int m_currentLine = 0; ///< as it was painted last
+    int m_zoom = zoom::normal;
     bool m_settlesLater = false;
     bool m_showing = false;     ///< the document follows the pane just now
     bool m_userMoved = false;   ///< the view's caret is newer than the pane's

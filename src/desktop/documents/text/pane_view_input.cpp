@@ -9,7 +9,6 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QUrl>
 #include <QWheelEvent>
 
 #include <utility>
@@ -49,15 +48,6 @@ std::string commandKeys(const QKeyEvent& event)
 
 /// The code of the first character, as the pane will hold it.
 int codeOf(const QString& text) { return static_cast<unsigned char>(paneText(text.left(1)).bytes[0]); }
-
-QStringList localFiles(const QMimeData& data)
-{
-    QStringList files;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile()) files.append(url.toLocalFile());
-    }
-    return files;
-}
 
 } // namespace
 
@@ -158,19 +148,24 @@ void PaneView::announceEdit()
 
 bool PaneView::zoomByKey(const QKeyEvent& event)
 {
-    constexpr int step = 10;
     const Qt::KeyboardModifiers ignored = Qt::KeypadModifier | Qt::ShiftModifier; // "+" is Shift+= on many keyboards
     const bool ctrl = (event.modifiers() & ~ignored) == Qt::ControlModifier;
     if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0) {
-        setZoom(100);
+        zoomTo(zoom::normal);
     } else if (ctrl && (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal)) {
-        setZoom(m_zoom + step);
+        zoomTo(m_zoom + zoom::step);
     } else if (event.matches(QKeySequence::ZoomOut)) {
-        setZoom(m_zoom - step);
+        zoomTo(m_zoom - zoom::step);
     } else {
         return false;
     }
     return true;
+}
+
+void PaneView::zoomTo(int percent)
+{
+    setZoom(percent);
+    emit zoomed(m_zoom);
 }
 
 void PaneView::wheelEvent(QWheelEvent* event)
@@ -179,7 +174,7 @@ void PaneView::wheelEvent(QWheelEvent* event)
         QPlainTextEdit::wheelEvent(event);
         return;
     }
-    setZoom(m_zoom + event->angleDelta().y() / 12); // ten per cent a notch
+    zoomTo(m_zoom + event->angleDelta().y() / 12); // ten per cent a notch
     event->accept();
 }
 
@@ -226,8 +221,9 @@ void PaneView::insertFromMimeData(const QMimeData* source)
 {
     settle();
     announceEdit();
-    insertContent(m_pane, fromMime(*source));
+    const std::size_t lost = insertContent(m_pane, fromMime(*source));
     settle();
+    emit charactersLost(static_cast<int>(lost));
     ensureCursorVisible();
 }
 
@@ -274,7 +270,8 @@ void PaneView::takeDrop(const QMimeData& content, int target, bool movesOwnSelec
         moveSelection(m_pane, position);
     } else {
         m_pane.setSelStart(position);
-        insertContent(m_pane, fromMime(content));
+        const std::size_t lost = insertContent(m_pane, fromMime(content));
+        emit charactersLost(static_cast<int>(lost));
     }
     settle();
 }

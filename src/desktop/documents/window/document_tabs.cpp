@@ -35,12 +35,10 @@ bool DocumentTabs::event(QEvent* event)
     if (event->type() != QEvent::ToolTip) return QTabBar::event(event);
     const auto& help = *static_cast<QHelpEvent*>(event);
     const int index = tabAt(help.pos());
-    if (index < 0 || !isCut(index)) {
-        QToolTip::hideText();
-    } else {
-        QToolTip::showText(help.globalPos(),
-                           wrappingTip(tabText(index).replace(QStringLiteral("&&"), QStringLiteral("&"))), this);
-    }
+    QString tip = index >= 0 && wholeOf ? wholeOf(index) : QString();
+    if (tip.isEmpty() && index >= 0 && isCut(index))
+        tip = tabText(index).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    QToolTip::showText(help.globalPos(), wrappingTip(tip), this);
     return true;
 }
 

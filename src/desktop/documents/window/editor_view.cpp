@@ -2,6 +2,7 @@
 
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
+#include "documents/editing/clipboard_commands.h"
 #include "documents/editing/pane_events.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/editor_layout.h"
@@ -13,12 +14,17 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace tarvex {
 
 namespace {
 
 /// Height of the tabs that the layout reckons with, pixels.
 constexpr int reckonedHeader = 23;
+
+/// Behind the name of a document that is modified.
+const QString editedMark = QStringLiteral(" \u2022");
 
 QIcon tabIcon(int image)
 {
@@ -47,7 +53,7 @@ bool writesText(const QKeyEvent& event)
 EditorView::EditorView(Editor& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_tabs(new DocumentTabs(this)),
       m_joystick(new PaneView(editor.JoystickText, this)), m_macro(new PaneView(editor.MacroText, this)),
-      m_frame(new MacroFrameView(editor, this))
+      m_frame(new MacroFrameView(editor, this)), m_activeMark(new QWidget(this))
 {
     setObjectName(QStringLiteral("Editor"));
     addTabs();
@@ -58,10 +64,13 @@ EditorView::EditorView(Editor& editor, QWidget* parent)
     addPane(editor.joystick, *m_joystick);
     addPane(editor.macro, *m_macro);
     bindPlaces();
+    bindLook();
+    addActiveMark();
     m_bindings.follow(editor.platform.clipboard.changed, [this] { m_editor.operations.UpdateCCPButtons(); });
     m_bindings.timer(editor.Timer1, *this);
     m_bindings.timer(editor.TimerBlinkLine, *this);
     m_bindings.timer(editor.TimerJournal, *this);
+    m_bindings.timer(editor.TimerColour, *this);
     setFocusProxy(m_joystick);
 }
 
@@ -73,11 +82,22 @@ void EditorView::addTabs()
     for (int index = 0; index < m_editor.TabStrip1.Count(); ++index) {
         m_tabs->addTab(QString());
         TabStrip::Tab& tab = m_editor.TabStrip1.Tabs(index + 1);
-        m_bindings.bind(tab.Caption, [this, index](const std::string& caption) {
-            m_tabs->setTabText(index, withoutAccessKeys(toQt(caption)));
-        });
+        Side& side = index + 1 == m_editor.joystick.tab ? m_editor.joystick : m_editor.macro;
+        const auto name = [this, index, &tab, &side] {
+            const QString caption = withoutAccessKeys(toQt(tab.Caption.get()));
+            m_tabs->setTabText(index, side.ShowsEdited ? caption + editedMark : caption);
+        };
+        name();
+        m_bindings.follow(tab.Caption, name);
+        m_bindings.follow(side.ShowsEdited, name);
         m_bindings.bind(tab.Image, [this, index](int image) { m_tabs->setTabIcon(index, tabIcon(image)); });
     }
+    m_tabs->wholeOf = [this](int index) {
+        const Side& side = index + 1 == m_editor.joystick.tab ? m_editor.joystick : m_editor.macro;
+        const Platform& platform = m_editor.platform;
+        if (!platform.files.fileExists(side.FilePath)) return QString();
+        return toQt(platform.machine.nativePath(side.FilePath));
+    };
     m_bindings.bind(m_editor.TabStrip1.SelectedItem, [this](int item) {
         const QSignalBlocker quiet(m_tabs);
         m_tabs->setCurrentIndex(item - 1);
@@ -90,6 +110,10 @@ void EditorView::addTabs()
 
 void EditorView::addPane(Side& side, PaneView& view)
 {
+    view.showMarks(side.ErrorLine, side.Matches);
+    connect(&view, &PaneView::charactersLost, this,
+            [this](int count) { reportLostCharacters(m_editor, static_cast<std::size_t>(count)); });
+    connect(&view, &PaneView::zoomed, this, [this](int percent) { m_editor.Zoom = percent; });
     view.pressKey = [this, &side](std::string_view keys) { return Text_KeyDown(m_editor, side, keys); };
     connect(&view, &PaneView::gotFocus, this, [this, &side](bool returned) {
         if (!returned || m_editor.selected().tab != side.tab)
@@ -134,14 +158,75 @@ void EditorView::bindPlaces()
     for (Side* side : {&m_editor.joystick, &m_editor.macro}) {
         Pane& state = side->pane;
         PaneView* view = &pane(*side);
-        m_bindings.bind(state.Place, [this, view](const Placement& place) {
-            view->setGeometry(QRect(place.Left, place.Top + headerShift(), place.Width, place.Height) & rect());
-        });
+        m_bindings.bind(state.Place, [this, side](const Placement&) { placePane(*side); });
         m_bindings.bind(state.Visible, [view](bool on) { view->setVisible(on); });
     }
     m_bindings.bind(m_editor.TabStrip1Place, [this](const Placement&) { placeStrip(); });
     m_bindings.bind(m_editor.FrameMacros.Place, [this](const Placement&) { placeFrame(); });
     m_bindings.bind(m_editor.FrameMacros.Visible, [this](bool on) { m_frame->setVisible(on); });
+}
+
+/// The choices of the page "Extras", and the size of the text.
+void EditorView::bindLook()
+{
+    const auto show = [this] {
+        const Extras& extras = m_editor.shared.extras;
+        for (PaneView* view : {m_joystick, m_macro}) {
+            view->showLineNumbers(extras.on(extraKey::lineNumbers));
+            view->showCurrentLine(extras.on(extraKey::currentLine));
+        }
+    };
+    show();
+    m_bindings.follow(m_editor.shared.extras.changed, [show](std::string_view) { show(); });
+    m_bindings.bind(m_editor.Zoom, [this](int percent) {
+        for (PaneView* view : {m_joystick, m_macro}) {
+            if (view->zoom() != percent) view->setZoom(percent);
+        }
+    });
+}
+
+void EditorView::setFoot(QWidget& foot, Property<bool>& visible)
+{
+    m_foot = &foot;
+    foot.setParent(this);
+    m_bindings.bind(visible, [this](bool on) {
+        m_footVisible = on;
+        m_foot->setVisible(on);
+        placePanes();
+    });
+}
+
+void EditorView::addActiveMark()
+{
+    m_activeMark->setObjectName(QStringLiteral("ActivePane"));
+    m_activeMark->setAutoFillBackground(true);
+    m_activeMark->setBackgroundRole(QPalette::Highlight);
+    m_activeMark->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_bindings.bind(m_editor.menus.mnuViewTileVertically.Checked, [this](bool tiled) {
+        m_activeMark->setVisible(tiled);
+        placePanes();
+    });
+    m_bindings.follow(m_editor.TabStrip1.SelectedItem, [this] { placePanes(); });
+}
+
+void EditorView::placePanes()
+{
+    for (const Side* side : {&m_editor.joystick, &m_editor.macro}) placePane(*side);
+}
+
+void EditorView::placePane(const Side& side)
+{
+    constexpr int markHeight = 3; // less than a pane leaves above its text
+    const Placement& place = side.pane.Place;
+    QRect room = QRect(place.Left, place.Top + headerShift(), place.Width, place.Height) & rect();
+    const bool inFront = side.tab == m_editor.selected().tab;
+    if (inFront) m_activeMark->setGeometry(room.left(), room.top(), room.width(), markHeight);
+    if (m_footVisible && inFront) {
+        const int height = std::min(m_foot->sizeHint().height(), room.height());
+        m_foot->setGeometry(room.left(), room.bottom() + 1 - height, room.width(), height);
+        room.setHeight(room.height() - height);
+    }
+    pane(side).setGeometry(room);
 }
 
 /// How much higher the tabs are with this font than the layout reckons.

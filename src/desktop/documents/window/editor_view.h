@@ -18,6 +18,8 @@ public:
 
     PaneView& pane(const Side& side) { return side.tab == 1 ? *m_joystick : *m_macro; }
     DocumentTabs& tabs() { return *m_tabs; }
+    /// Puts a widget at the foot of the pane in front whenever `visible` says so. It becomes the view's child.
+    void setFoot(QWidget& foot, Property<bool>& visible);
 
 signals:
     void filesDropped(const QStringList& paths);
@@ -32,6 +34,10 @@ private:
     void addTabs();
     void addPane(Side& side, PaneView& view);
     void bindPlaces();
+    void bindLook();
+    void placePane(const Side& side);
+    void placePanes();
+    void addActiveMark();
     void reportSize();
     int headerShift() const;
     void placeStrip();
@@ -42,6 +48,9 @@ private:
     PaneView* m_joystick;
     PaneView* m_macro;
     MacroFrameView* m_frame;
+    QWidget* m_foot = nullptr;
+    QWidget* m_activeMark; ///< a line over the one of two panes that is in front
+    bool m_footVisible = false;
     Bindings m_bindings;
 };
 

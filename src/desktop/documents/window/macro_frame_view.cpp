@@ -2,12 +2,15 @@
 
 #include "desktop/documents/window/macro_list_view.h"
 #include "documents/pair/editor_layout.h"
+#include "language/commands/macro_filter.h"
 #include "language/commands/macro_list_events.h"
 #include "language/commands/slash_buttons.h"
 
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -24,6 +27,37 @@ struct GridPlace {
 };
 
 constexpr int gridColumns = 5;
+
+/// Down and Return lead from the filter into the list, Esc closes it.
+class FilterKeys : public QObject {
+public:
+    FilterKeys(Editor& editor, QLineEdit& box, QWidget& list) : QObject(&box), m_editor(editor), m_list(list)
+    {
+        box.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress) return false;
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Escape:
+            closeFilter(m_editor);
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            m_list.setFocus(Qt::TabFocusReason);
+            return true;
+        default:
+            return false;
+        }
+    }
+
+private:
+    Editor& m_editor;
+    QWidget& m_list;
+};
 
 GridPlace placeOf(std::size_t index)
 {
@@ -45,7 +79,9 @@ MacroFrameView::MacroFrameView(Editor& editor, QWidget* parent) : QFrame(parent)
     column->setSpacing(4);
     column->setSizeConstraint(QLayout::SetNoConstraint); // the frame's place is given
     column->addWidget(makeHeadings());
-    column->addWidget(new MacroListView(editor, this), 1);
+    auto* list = new MacroListView(editor, this);
+    column->addWidget(makeFilter(*list));
+    column->addWidget(list, 1);
     column->addLayout(makeButtons());
     for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) child->setCursor(Qt::ArrowCursor);
     m_bindings.bind(editor.FrameMacros.MousePointer, [this](MousePointer pointer) {
@@ -70,6 +106,20 @@ QComboBox* MacroFrameView::makeHeadings()
         headings->setAccessibleDescription(toQt(text)); // else it would be the tip, with its markup
     });
     return headings;
+}
+
+QWidget* MacroFrameView::makeFilter(QWidget& list)
+{
+    auto* box = new QLineEdit(this);
+    box->setObjectName(QStringLiteral("Filter"));
+    box->setAccessibleName(QStringLiteral("Filter"));
+    box->setPlaceholderText(QStringLiteral("Filter"));
+    box->setClearButtonEnabled(true);
+    box->setMinimumWidth(0);
+    m_bindings.bind(m_editor.FrameMacros.FilterVisible, [box](bool on) { box->setVisible(on); });
+    m_bindings.textBox(m_editor.FrameMacros.Filter, *box);
+    new FilterKeys(m_editor, *box, list);
+    return box;
 }
 
 QGridLayout* MacroFrameView::makeButtons()

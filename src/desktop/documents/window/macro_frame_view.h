@@ -30,6 +30,7 @@ protected:
 private:
     QComboBox* makeHeadings();
     QGridLayout* makeButtons();
+    QWidget* makeFilter(QWidget& list);
     QWidget* makeButton(std::size_t index);
     void reportMouse(const QMouseEvent& event);
     QRect grip() const;

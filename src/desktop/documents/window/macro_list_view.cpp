@@ -2,6 +2,7 @@
 
 #include "desktop/input.h"
 #include "desktop/platform/mime.h"
+#include "language/commands/macro_filter.h"
 #include "language/commands/macro_list_events.h"
 
 #include <QDrag>
@@ -70,6 +71,8 @@ MacroListView::MacroListView(Editor& editor, QWidget* frame) : QListView(frame),
     });
     takeLists();
     m_bindings.follow(editor.FrameMacros.List1Changed, [this] { takeLists(); });
+    m_bindings.follow(editor.FrameMacros.Filter.Text, [this] { applyFilter(); });
+    m_bindings.follow(editor.FrameMacros.FilterVisible, [this] { applyFilter(); });
 }
 
 // ---- the list shown -------------------------------------------------------------------------------------------------
@@ -107,8 +110,12 @@ void MacroListView::showList(std::size_t list)
     m_model.show(list < lists.size() ? &lists[list] : nullptr);
     if (list >= lists.size()) return;
     showCurrent();
+    applyFilter();
     m_shownBindings.follow(lists[list].ListIndex, [this] { showCurrent(); });
-    m_shownBindings.follow(lists[list].Items, [this] { showCurrent(); }); // other items have no current one
+    m_shownBindings.follow(lists[list].Items, [this] {
+        showCurrent(); // other items have no current one
+        applyFilter();
+    });
 }
 
 void MacroListView::showCurrent()
@@ -116,6 +123,17 @@ void MacroListView::showCurrent()
     const QScopedValueRollback<bool> showing(m_showing, true);
     const int row = m_editor.FrameMacros.List1[m_list].ListIndex;
     if (row != currentIndex().row()) setCurrentIndex(m_model.index(row));
+}
+
+void MacroListView::applyFilter()
+{
+    const std::deque<CheckListBox>& lists = m_editor.FrameMacros.List1;
+    if (m_list >= lists.size()) return;
+    const std::vector<CheckListBox::Item>& items = lists[m_list].Items;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const bool hidden = !passesFilter(m_editor.FrameMacros, items[static_cast<std::size_t>(row)].Text);
+        if (hidden != isRowHidden(row)) setRowHidden(row, hidden);
+    }
 }
 
 // ---- keyboard -------------------------------------------------------------------------------------------------------
@@ -126,8 +144,33 @@ void MacroListView::keyPressEvent(QKeyEvent* event)
         List1_DblClick(m_editor, m_list);
         return;
     }
+    if (event->key() == Qt::Key_Escape && m_editor.FrameMacros.FilterVisible) return closeFilter(m_editor);
+    if (writesIntoFilter(*event)) return;
     QListView::keyPressEvent(event);
     List1_KeyDown(m_editor, m_list, toLogic(event->modifiers()));
+}
+
+/// A macro that the filter hides isn't the one to begin at.
+void MacroListView::focusInEvent(QFocusEvent* event)
+{
+    QListView::focusInEvent(event);
+    const QModelIndex current = currentIndex();
+    if (!m_editor.FrameMacros.FilterVisible || (current.isValid() && !isRowHidden(current.row()))) return;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (isRowHidden(row)) continue;
+        setCurrentIndex(m_model.index(row));
+        return;
+    }
+}
+
+/// A blank ticks the macro.
+bool MacroListView::writesIntoFilter(const QKeyEvent& event)
+{
+    const bool command = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QString text = event.text();
+    if (command || text.isEmpty() || !text.front().isPrint() || text.front().isSpace()) return false;
+    writeIntoFilter(m_editor, fromQt(text));
+    return true;
 }
 
 void MacroListView::keyReleaseEvent(QKeyEvent* event)

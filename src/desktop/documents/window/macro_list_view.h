@@ -16,6 +16,7 @@ public:
     explicit MacroListView(Editor& editor, QWidget* frame);
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -31,6 +32,8 @@ private:
     void visibilityChanged(std::size_t list);
     void showList(std::size_t list);
     void showCurrent();
+    void applyFilter();
+    bool writesIntoFilter(const QKeyEvent& event);
     void showTip(const QHelpEvent& event);
     bool isOnTick(const QPoint& position) const;
 

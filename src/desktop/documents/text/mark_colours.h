@@ -1,0 +1,16 @@
+#pragma once
+
+#include "desktop/mixed.h"
+
+namespace tarvex::markColour {
+
+// Marks behind the text of a pane. They are tints of the pane's own background, which the user chooses.
+
+inline constexpr QRgb error = 0xFFC62828;
+inline constexpr QRgb match = 0xFFFFB300;
+
+inline QColor currentLine(const QColor& ground) { return mixed(ground, QColor(0x15, 0x65, 0xC0), 0.09); }
+inline QColor errorLine(const QColor& ground) { return mixed(ground, QColor(error), 0.22); }
+inline QColor matchGround(const QColor& ground) { return mixed(ground, QColor(match), 0.55); }
+
+} // namespace tarvex::markColour
