@@ -27,7 +27,7 @@ struct JoyPlot final : Analyser {
     Property<Placement> PicJoyPlace; ///< inside that room
     Signal<int, int> sizeWanted;     ///< the window is to shrink so that the room has this width and height
 
-    std::function<void(int mode)> Arrange; ///< arranges the program's windows; set by who shows them
+    std::function<void(int mode)> Arrange; ///< arranges the program's windows; set by their owner
 
     std::vector<MenuEntry> menuBar();
 

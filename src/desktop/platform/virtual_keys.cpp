@@ -18,8 +18,8 @@ struct KeyNumber {
     int number;
 };
 
-/// Two of them are keys of the numeric pad or the system that Windows never reports under these numbers; here they are
-/// distinguished from Return and from nothing.
+/// Windows reports Enter of the numeric pad as 13, and Print Screen as 44. Here they have the numbers that the key
+/// names know: 108 and 42.
 constexpr KeyNumber named[] = {
     {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},     {Qt::Key_Backtab, 9},   {Qt::Key_Clear, 12},
     {Qt::Key_Return, 13},   {Qt::Key_Enter, 108}, {Qt::Key_Shift, 16},    {Qt::Key_Control, 17},
