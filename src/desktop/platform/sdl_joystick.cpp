@@ -101,6 +101,9 @@ void SdlJoystick::start()
             m_settling->start();
         });
     }
+    SDL_Event old; // of devices that are found here anyway
+    while (m_sdl->pollEvent(&old) != 0) {
+    }
     find();
     open();
 }
