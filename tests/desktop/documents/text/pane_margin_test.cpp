@@ -151,8 +151,8 @@ TEST_F(MarginTest, TheTipNamesTheErrorBesideItsLine)
         QApplication::sendEvent(&margin(), &help);
         return QToolTip::text();
     };
-    EXPECT_EQ(tipAt(4), "The last download found an error in this line");
     EXPECT_EQ(tipAt(3), "");
+    EXPECT_EQ(tipAt(4), "The last download found an error in this line");
 }
 
 TEST_F(MarginTest, AClickSelectsTheLineWithItsEnd)
