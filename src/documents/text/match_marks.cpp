@@ -85,11 +85,11 @@ void MatchMarks::followEdit(const Pane::Edit& edit)
         from = collect(from, lastStart, found);
         for (; behind != m_positions.end() && *behind < from; ++behind) lastStart = *behind + length() - 1;
     }
-    const auto old = std::ranges::subrange(before, behind);
-    const bool moved = firstBehind == behind && std::ranges::equal(old, found, {}, [&](auto at) {
-                           return at >= edit.position + edit.removed ? at + delta : at;
-                       });
-    if (old.empty() && found.empty()) return;
+    const auto isFoundAgain = [&](std::int64_t at, std::int64_t foundAt) {
+        return (at >= edit.position + edit.removed ? at + delta : at) == foundAt;
+    };
+    const bool moved = firstBehind == behind && std::equal(before, behind, found.begin(), found.end(), isFoundAgain);
+    if (before == behind && found.empty()) return;
     const auto place = m_positions.erase(before, behind);
     m_positions.insert(place, found.begin(), found.end());
     if (!moved) changed();
