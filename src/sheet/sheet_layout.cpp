@@ -125,7 +125,7 @@ public:
 
     SheetPicture picture() const
     {
-        const Area& below = areas()[0];
+        const Area below = areas()[0];
         const double width = below.width * m_pictureShare;
         return {m_page.picture, below.x + (below.width - width) / 2, margin + headHeight + gap / 2,
                 width / pictureWidth};

@@ -163,13 +163,9 @@ public:
     void run()
     {
         look(*m_desktop.window);
-        for (const QString& name : commands()) {
-            m_desktop.openPair();
-            m_command = fromQt(name);
-            if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
-            QApplication::processEvents();
-            lookAtOpenWindows();
-        }
+        for (const QString& name : commands()) trigger(name);
+        m_desktop.program->shared.settings.UseTCA = 1;
+        trigger(QStringLiteral("mnuAppsJoyAnalyser"));
         for (const char* form : withoutCommand) {
             m_command = form;
             m_desktop.dialogues.showModal(form);
@@ -197,6 +193,14 @@ private:
             if (isCommand && !notWalked.contains(action->objectName())) names.append(action->objectName());
         }
         return names;
+    }
+    void trigger(const QString& name)
+    {
+        m_desktop.openPair();
+        m_command = fromQt(name);
+        if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
+        QApplication::processEvents();
+        lookAtOpenWindows();
     }
     void look(const QWidget& window)
     {
@@ -257,7 +261,7 @@ private:
 std::set<std::string> formClasses()
 {
     std::set<std::string> classes;
-    const QRegularExpression form("class (\\w+)(?: final)? : public (\\w*FormWindow)");
+    const QRegularExpression form("class (\\w+)(?: final)? : public (\\w*FormWindow|AnalyserWindow)");
     std::set<std::string> bases;
     QDirIterator files(TARVEX_SOURCE_DIRECTORY "/src/desktop", {"*.h", "*.cpp"}, QDir::Files,
                        QDirIterator::Subdirectories);
