@@ -3,8 +3,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QMouseEvent>
-
 #include <vector>
 
 // What the user of Safein waits for, from a command or a click to the painted window.
@@ -50,17 +48,6 @@ void safeinShownAgain(benchmark::State& state)
     state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
 }
 BENCHMARK(safeinShownAgain)->Iterations(200)->UseManualTime()->Unit(benchmark::kMillisecond);
-
-void click(QWidget& key)
-{
-    const QPointF middle(key.rect().center());
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const bool down = type == QEvent::MouseButtonPress;
-        QMouseEvent event(type, middle, key.mapToGlobal(middle), Qt::LeftButton, down ? Qt::LeftButton : Qt::NoButton,
-                          Qt::NoModifier);
-        QApplication::sendEvent(&key, &event);
-    }
-}
 
 /// To the last of the fields that show the key's texts.
 void safeinKeyClick(benchmark::State& state)

@@ -5,6 +5,7 @@
 #include "timing.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 
 #include <stdexcept>
 
@@ -47,5 +48,17 @@ struct ShownProgram {
         QApplication::processEvents();
     }
 };
+
+/// A click of the left button in the middle of a widget.
+inline void click(QWidget& widget)
+{
+    const QPointF middle(widget.rect().center());
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool down = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, middle, widget.mapToGlobal(middle), Qt::LeftButton,
+                          down ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &event);
+    }
+}
 
 } // namespace tarvex::benchmarks
