@@ -10,7 +10,7 @@ class QLineEdit;
 
 namespace tarvex {
 
-/// The find bar. Whoever makes it decides where it stands and shows it.
+/// The find bar. Its owner decides where it stands and shows it.
 class FindBarView : public QWidget {
     Q_OBJECT
 public:
