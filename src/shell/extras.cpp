@@ -15,14 +15,14 @@ constexpr std::string_view section = "Extras";
 constexpr ExtraTick ticks[] = {
     {extraKey::askForFiles, "Ask where m&y files are while I have no folder for them",
      "Asks at once when the preferences close, and then no more until this is ticked again", true},
-    {extraKey::printPageNumbers, "Print pag&e numbers at the foot", "Numbers the pages of printed files", false},
+    {extraKey::printPageNumbers, "Print page numbers at the foot", "Numbers the pages of printed files", false},
     {extraKey::printFileName, "Print the file's name at the foot", "Names the file on each of its printed pages",
      false},
     {extraKey::showAssigned, "Show in the Composer what the &joystick file has",
      "Marks the controls that have a statement in the joystick file, and shows it under the mouse", true},
     {extraKey::lineNumbers, "Show line numbers beside the text", "The margin on the left of both files", true},
     {extraKey::currentLine, "Mark the line that I'm in", "Shades the line of the insertion point", true},
-    {extraKey::colourAsTyped, "Colour as I &type", "What I write gets its colours by itself when I pause", false},
+    {extraKey::colourAsTyped, "Colour as I type", "What I write gets its colours by itself when I pause", false},
 };
 
 const ExtraTick& rowOf(std::string_view key)

@@ -27,8 +27,8 @@ TEST(AsideOf, TheNearestWayIsTaken)
 
 TEST(AsideOf, TheWindowStaysInTheRoom)
 {
-    EXPECT_EQ(asideOf({400, 590, 200, 200}, {450, 600, 50, 20}, room), QPoint(400, 400)); // no room below
-    EXPECT_EQ(asideOf({400, 10, 200, 200}, {450, 190, 50, 20}, room), QPoint(400, 210));  // none above
+    EXPECT_EQ(asideOf({400, 590, 200, 200}, {300, 600, 500, 20}, room), QPoint(400, 400)); // no room below
+    EXPECT_EQ(asideOf({400, 10, 200, 200}, {300, 190, 500, 20}, room), QPoint(400, 210));  // none above
 }
 
 TEST(AsideOf, WithoutAnyRoomItStays) { EXPECT_EQ(asideOf({0, 0, 1000, 800}, {450, 310, 50, 20}, room), QPoint(0, 0)); }

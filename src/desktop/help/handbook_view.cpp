@@ -140,6 +140,8 @@ QWidget* HandbookView::waysIn()
 {
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName(QStringLiteral("Ways"));
+    tabs->setUsesScrollButtons(false); // all three names have room, also in large letters
+    tabs->setElideMode(Qt::ElideNone);
     m_contents->setObjectName(QStringLiteral("ContentsTree"));
     m_contents->setAccessibleName(QStringLiteral("Chapters and pages"));
     m_contents->setHeaderHidden(true);

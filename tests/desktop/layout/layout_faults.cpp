@@ -79,7 +79,9 @@ QRegion placeOf(const QWidget& widget)
 void lookForOverlaps(const QWidget& parent, Faults& faults)
 {
     if (qobject_cast<const QTabWidget*>(&parent)) return; // its tabs hide the frame below them
-    const QList<QWidget*> children = visibleChildren(parent);
+    QList<QWidget*> children = visibleChildren(parent);
+    children.removeIf(
+        [](const QWidget* child) { return child->testAttribute(Qt::WA_TransparentForMouseEvents); }); // marks
     for (qsizetype i = 0; i < children.size(); ++i) {
         for (qsizetype k = i + 1; k < children.size(); ++k) {
             if (!placeOf(*children[i]).intersects(placeOf(*children[k]))) continue;
@@ -123,8 +125,8 @@ QSize roomFor(const QAbstractButton& button)
     if (dynamic_cast<const KeyButton*>(&button)) // makes its letters as narrow as the key
         return {0, button.fontMetrics().height() + frame.height()};
     const auto* tool = qobject_cast<const QToolButton*>(&button);
-    const bool isPicture =
-        tool != nullptr && tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull();
+    const bool isPicture = tool != nullptr && tool->toolButtonStyle() == Qt::ToolButtonIconOnly &&
+                           (!tool->icon().isNull() || tool->arrowType() != Qt::NoArrow);
     return isPicture || button.text().isEmpty()
                ? QSize()
                : button.fontMetrics().size(Qt::TextShowMnemonic, button.text()) + frame;

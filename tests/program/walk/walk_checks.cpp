@@ -1,5 +1,6 @@
 #include "program/walk/walk.h"
 
+#include "documents/find/matches.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/recovery_format.h"
 #include "platform/dos_path.h"
@@ -43,7 +44,7 @@ void checkMarks(Walk& walk, const Side& side)
     Pane pane;
     pane.setText(side.pane.Text());
     MatchMarks fresh(pane);
-    fresh.show(bar.Text.Text.get(),
+    fresh.show(soughtBytes(bar.Text.Text).value_or(""),
                (bar.MatchCase.Value ? find::matchCase : 0) + (bar.WholeWord.Value ? find::wholeWord : 0));
     EXPECT_EQ(side.Matches.positions(), fresh.positions());
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 namespace tarvex {
 
@@ -21,15 +22,21 @@ FindBarView::FindBarView(FindBar& bar, QWidget* parent) : QWidget(parent), m_bar
 {
     setObjectName(QStringLiteral("FindBar"));
     setAutoFillBackground(true);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 3, 3, 3);
+    auto* rows = new QVBoxLayout(this); // beside another pane there may be little room for one long row
+    rows->setContentsMargins(6, 3, 3, 3);
+    rows->setSpacing(2);
+    rows->setSizeConstraint(QLayout::SetNoConstraint);
+    auto* row = new QHBoxLayout;
     row->setSpacing(4);
-    row->setSizeConstraint(QLayout::SetNoConstraint); // beside another pane there may be little room
+    rows->addLayout(row);
+    auto* options = new QHBoxLayout;
+    rows->addLayout(options);
     addText(*row);
     addButton(*row, bar.Previous, "FindBarPrevious", "previous");
     addButton(*row, bar.Next, "FindBarNext", "next");
-    addOption(*row, bar.MatchCase, "FindBarMatchCase");
-    addOption(*row, bar.WholeWord, "FindBarWholeWord");
+    addOption(*options, bar.MatchCase, "FindBarMatchCase");
+    addOption(*options, bar.WholeWord, "FindBarWholeWord");
+    options->addStretch(1);
     auto* count = new QLabel(this);
     count->setObjectName(QStringLiteral("FindBarCount"));
     m_bindings.bind(bar.Count.Caption, [count](const std::string& text) { count->setText(toQt(text)); });

@@ -251,15 +251,6 @@ TEST_F(FrameViewTest, ArrowsHomeAndEndPickMacros)
     EXPECT_EQ(t.status(), "Fire = f");
 }
 
-TEST_F(FrameViewTest, TypingSeeksAMacro)
-{
-    list->setFocus();
-    QTest::keyClick(list, Qt::Key_G);
-    EXPECT_EQ(editor.macros.SelectedMacro, "Gear");
-    QTest::keyClick(list, Qt::Key_O);
-    EXPECT_EQ(editor.macros.SelectedMacro, "Go");
-}
-
 TEST_F(FrameViewTest, KeyWithShiftSelectsWhereTheMacroIsUsed)
 {
     click(name(0));
