@@ -160,14 +160,14 @@ at $insert_button
 at $insert_current
 saved "BTN X1 H1U AND S2"
 
-# A macro is dragged behind the trigger's name, in line 7 of the text.
+# A macro is dragged behind the trigger's name, in line 7 of the text, which stands right of the line numbers.
 drag() { # FROM X Y, TO X Y on the screen
     local step
     xdotool mousemove --window "$(composer)" "$1" "$2" mousedown 1
     for step in 60 30 10 0; do xdotool mousemove $(($3 + step)) $(($4 + step)); done
     xdotool mouseup 1
 }
-drag $radar_ground 250 207
+drag $radar_ground 280 207
 until_true 20 has_title "walk.b50*" || fail "nothing was dropped"
 xdotool mousemove --window "$(composer)" 500 400
 at $hide
