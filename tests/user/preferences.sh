@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # A user sets a machine up from nothing: the first start leads to the preferences, where the joystick and the loader are
-# set; a question asks for the folder of the files; then a pair is opened and downloaded. The next start asks nothing.
+# set; a question asks for the folder of the files; the tip of the day is sent away for good; then a pair is opened and
+# downloaded. The next start asks nothing.
 . "$(dirname "$0")/user.sh"
 
 loader=${2:?the stand-in for the loader}
@@ -20,7 +21,11 @@ press alt+k Down # the next joystick of the list
 press Return
 expect_active "Where are your files to live?"
 press Return
+expect_active "Tip of the day"
+press shift+Tab shift+Tab space Return # no tips at the next start; Alt+S would take the tick away only a moment later
+expect_no_title "Tip of the day"
 expect_active "Tarvex - "
+expect_in_file "$place/Tarvex.ini" "ShowTips=0"
 expect_in_file "$place/Tarvex.ini" 'ProgramFilesPath=c:\tm\'
 expect_in_file "$place/Tarvex.ini" "JoyName=1"
 expect_in_file "$place/Tarvex.ini" "winld.exe"
