@@ -18,16 +18,16 @@ expect_in_file "$place/walk.b50" "BTN S2 second"
 
 press ctrl+shift+f
 type_text "BTN"
-press F3 F3 shift+Return  # past the last one, to the first, and back
+press F3 F3 F3 shift+Return  # past the last one, to the first, and back
 press Escape
 type_text "REL"
 press ctrl+s
 expect_in_file "$place/walk.b50" "BTN S1 first"
 expect_in_file "$place/walk.b50" "BTN S2 second"
 expect_in_file "$place/walk.b50" "REL S3 found"
-press ctrl+z
+press ctrl+z   # all that was typed: neither a blank nor a new line began another level
 press ctrl+s
-expect_in_file "$place/walk.b50" "BTN S3 found"
+expect_in_file "$place/walk.b50" "BTN S3 second"
 
 press ctrl+End
 type_text "REM xyz"
