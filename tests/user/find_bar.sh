@@ -52,12 +52,13 @@ expect_active "Find and replace"
 form=$(xdotool getactivewindow)
 frame=$(xdotool search --name "Tarvex - " | head -1)
 eval "$(xdotool getwindowgeometry --shell "$frame" | sed 's/^/FRAME_/')"
-xdotool windowmove --sync "$form" $((FRAME_X + 10)) $((FRAME_Y + 120))
+xdotool windowmove --sync "$form" $((FRAME_X + 10)) $((FRAME_Y + 60))
+eval "$(xdotool getwindowgeometry --shell "$form" | sed 's/^/FORM_/')"
 type_text "S1"
 press Return
 aside() {
     eval "$(xdotool getwindowgeometry --shell "$form")"
-    [ "$Y" -gt $((FRAME_Y + 160)) ] || [ "$X" -gt $((FRAME_X + 60)) ]
+    [ "$X $Y" != "$FORM_X $FORM_Y" ]
 }
 until_true 20 aside || fail "the find window stays before the match"
 press Escape
