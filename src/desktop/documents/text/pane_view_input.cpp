@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QWheelEvent>
 
+#include <optional>
 #include <utility>
 
 namespace tarvex {
@@ -49,6 +50,17 @@ std::string commandKeys(const QKeyEvent& event)
 /// The code of the first character, as the pane will hold it.
 int codeOf(const QString& text) { return static_cast<unsigned char>(paneText(text.left(1)).bytes[0]); }
 
+/// What a key adds to the zoom; 0 stands for none at all.
+std::optional<int> zoomStep(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers ignored = Qt::KeypadModifier | Qt::ShiftModifier; // "+" is Shift+= on many keyboards
+    const bool ctrl = (event.modifiers() & ~ignored) == Qt::ControlModifier;
+    if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0) return 0;
+    if (ctrl && (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal)) return zoom::step;
+    if (event.matches(QKeySequence::ZoomOut)) return -zoom::step;
+    return std::nullopt;
+}
+
 } // namespace
 
 /// The user acts on what is in the pane, and the pane learns of it before anything else happens.
@@ -61,6 +73,7 @@ bool PaneView::event(QEvent* event)
             return true;
         }
         if (pressKey && key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) event->accept(); // not the menu's
+        if (zoomStep(key)) event->accept(); // "+" with Shift isn't taken by the menu's shortcut
     }
     if (!isInput(*event)) return QPlainTextEdit::event(event);
     settle();
@@ -148,18 +161,9 @@ void PaneView::announceEdit()
 
 bool PaneView::zoomByKey(const QKeyEvent& event)
 {
-    const Qt::KeyboardModifiers ignored = Qt::KeypadModifier | Qt::ShiftModifier; // "+" is Shift+= on many keyboards
-    const bool ctrl = (event.modifiers() & ~ignored) == Qt::ControlModifier;
-    if (event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0) {
-        zoomTo(zoom::normal);
-    } else if (ctrl && (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal)) {
-        zoomTo(m_zoom + zoom::step);
-    } else if (event.matches(QKeySequence::ZoomOut)) {
-        zoomTo(m_zoom - zoom::step);
-    } else {
-        return false;
-    }
-    return true;
+    const std::optional<int> step = zoomStep(event);
+    if (step) zoomTo(*step == 0 ? zoom::normal : m_zoom + *step);
+    return step.has_value();
 }
 
 void PaneView::zoomTo(int percent)
