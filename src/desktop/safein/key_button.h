@@ -6,7 +6,7 @@
 
 namespace tarvex {
 
-/// A drawn key: a button that draws its cap as large as fits, with the sign of the user's layout small in its
+/// A drawn key: a button that draws its cap as large as fits, with the user's own keyboard sign small in its
 /// corner where that is another one.
 class KeyButton : public QPushButton {
     Q_OBJECT
