@@ -24,8 +24,8 @@ struct FileStamp {
 class AppendFile {
 public:
     virtual ~AppendFile() = default;
-    /// What was appended outlives the process from now on, however that ends; the end of the machine only once it is
-    /// synced. Throws RuntimeError; a part of the bytes may be in the file then.
+    /// Appended bytes survive a crash of the process at once, and a power failure after the next sync. Throws
+    /// RuntimeError; a part of the bytes may be in the file then.
     virtual void append(std::string_view bytes) = 0;
     /// Has everything appended so far put onto the disk, without waiting for that. False: the disk is still busy with
     /// an earlier call, ask again. Throws RuntimeError when the disk didn't take what an earlier call gave it.

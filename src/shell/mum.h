@@ -39,7 +39,7 @@ struct Mum {
     Property<tarvex::MousePointer> MousePointer = tarvex::MousePointer::Default;
 };
 
-// What the status bar shows is read back: texts of different commands stay up against each other.
+// These read the status bar back: some texts stay until a certain other command replaces them.
 
 /// Panel 1 has the result of a download; it stays until another command's message replaces it.
 bool showsCompileResult(const Mum& mum);

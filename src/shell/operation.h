@@ -6,7 +6,7 @@
 namespace tarvex {
 
 /// An operation that one unit offers and another, which must not know that unit, calls. The unit that does the work
-/// assigns it; until somebody does, calling it does nothing.
+/// assigns it; until then, calling it does nothing.
 template <typename... Args> class Operation {
 public:
     template <typename Work> Operation& operator=(Work work)

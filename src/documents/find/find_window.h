@@ -78,7 +78,7 @@ struct FindPage {
 FindPage findPage(FindAndReplace& window);
 FindPage replacePage(FindAndReplace& window);
 
-/// What the button of a search says: whether the search begins at the top or goes on behind the last match.
+/// Captions of the search button; the caption decides whether a search begins at the top or behind the last match.
 inline constexpr char findFirst[] = "Find first";
 inline constexpr char findNext[] = "Find next";
 

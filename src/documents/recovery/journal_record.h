@@ -12,7 +12,7 @@
 
 namespace tarvex {
 
-/// What one document's unsaved edits are kept by.
+/// The journal of one document's unsaved edits.
 struct JournalRecord {
     RichText Base;               ///< the text that was opened or saved last
     std::optional<FileSum> File; ///< the file that it stands in; none: in no file

@@ -8,7 +8,7 @@
 // The file that keeps what is typed until it is saved: a mark, a start record with the text as it was saved last and
 // what has become of it, and a record for each edit since, and for each other file in the pane beside it. Each record
 // carries its length and a check sum that also covers all records before it, so that a half-written end, or one of
-// another time, can be recognised among the rest.
+// another time, is detected.
 
 namespace tarvex {
 

@@ -65,8 +65,8 @@ const Key* keyOfCode(std::uint8_t byte, bool extended);
 /// Whether this byte behind #E0 is a shift that no finger holds: grey keys come with them.
 constexpr bool isFakeShift(std::uint8_t byte) { return byte == 0x12 || byte == 0x59; }
 
-/// What the cap of a key shows beside its label: the sign that the user's keyboard layout prints there, UTF-8, where
-/// that is another one than the label. Keys that write nothing have none.
+/// The second sign on a key cap: the character of the current keyboard layout, UTF-8, where it differs from the label.
+/// Empty for keys that write nothing.
 std::string_view secondSign(const Key& key, bool shiftHeld, std::string_view layoutSign);
 
 inline constexpr std::array<std::uint8_t, 8> pauseBytes = {0xE1, 0x14, 0x77, 0xE1, 0xF0, 0x14, 0xF0, 0x77};
