@@ -135,7 +135,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     program.help.useSystem(helpSystem);
     application.setErrorRecord(&program.shared.errors);
     Appearance appearance(files, platform.programDirectory, program.menus);
-    const ThemeView theme(appearance);
+    const ThemeView theme(appearance, program.shared.extras);
     MumWindow window(program);
     dialogues.setParent(&window);
     dialogues.setMenus(&program.menus);

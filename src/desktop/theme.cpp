@@ -9,7 +9,7 @@ namespace tarvex {
 namespace {
 
 struct Colours {
-    QColor window, text, base, alternate, button, highlight, highlightedText, link, dimmed;
+    QColor window, text, base, alternate, button, highlight, highlightedText, link, hint, dimmed;
 };
 
 QPalette paletteOf(const Colours& colours)
@@ -22,12 +22,22 @@ QPalette paletteOf(const Colours& colours)
     palette.setColor(QPalette::Base, colours.base);
     palette.setColor(QPalette::AlternateBase, colours.alternate);
     palette.setColor(QPalette::ToolTipBase, colours.alternate);
-    palette.setColor(QPalette::PlaceholderText, colours.dimmed);
+    palette.setColor(QPalette::PlaceholderText, colours.hint);
     palette.setColor(QPalette::Highlight, colours.highlight);
     palette.setColor(QPalette::HighlightedText, colours.highlightedText);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, colours.dimmed);
     palette.setColor(QPalette::Link, colours.link);
     return palette;
+}
+
+/// As when the style itself is another one.
+void announceChange()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        QEvent change(QEvent::StyleChange);
+        QApplication::sendEvent(widget, &change);
+    }
 }
 
 } // namespace
@@ -42,6 +52,7 @@ QPalette lightPalette()
                       .highlight = QColor(0x2F, 0x6F, 0xB3),
                       .highlightedText = Qt::white,
                       .link = QColor(0x1F, 0x5F, 0xA8),
+                      .hint = QColor(0x68, 0x6C, 0x72),
                       .dimmed = QColor(0x9A, 0x9D, 0xA2)});
 }
 
@@ -55,12 +66,34 @@ QPalette darkPalette()
                       .highlight = QColor(0x2F, 0x6F, 0xB3),
                       .highlightedText = Qt::white,
                       .link = QColor(0x6F, 0xAE, 0xEC),
+                      .hint = QColor(0x9A, 0x9F, 0xA6),
                       .dimmed = QColor(0x7C, 0x80, 0x87)});
 }
 
-ThemeView::ThemeView(Appearance& appearance)
+QPalette highContrastPalette()
 {
-    QApplication::setStyle(new ThemeStyle);
+    return paletteOf({.window = Qt::black,
+                      .text = Qt::white,
+                      .base = Qt::black,
+                      .alternate = QColor(0x20, 0x20, 0x20),
+                      .button = Qt::black,
+                      .highlight = Qt::yellow,
+                      .highlightedText = Qt::black,
+                      .link = QColor(0x7F, 0xD4, 0xFF),
+                      .hint = QColor(0xC8, 0xC8, 0xC8),
+                      .dimmed = QColor(0xA0, 0xA0, 0xA0)});
+}
+
+ThemeView::ThemeView(Appearance& appearance, Extras& extras)
+{
+    auto* style = new ThemeStyle; // the application's own from now on
+    QApplication::setStyle(style);
+    style->setDarkPanes(extras.on(extraKey::darkFiles));
+    m_bindings.follow(extras.changed, [style, &extras](std::string_view key) {
+        if (key != extraKey::darkFiles) return;
+        style->setDarkPanes(extras.on(key));
+        announceChange();
+    });
     m_bindings.bind(appearance.theme, [](Appearance::Theme theme) {
         switch (theme) {
         case Appearance::Theme::System:
@@ -71,6 +104,9 @@ ThemeView::ThemeView(Appearance& appearance)
             break;
         case Appearance::Theme::Dark:
             QApplication::setPalette(darkPalette());
+            break;
+        case Appearance::Theme::HighContrast:
+            QApplication::setPalette(highContrastPalette());
             break;
         }
     });

@@ -4,6 +4,7 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <array>
 
 namespace tarvex {
 
@@ -11,26 +12,42 @@ namespace {
 
 constexpr int darkest = 128; // a window with less lightness is dark
 
-/// Of a frame in the text's colour, from 0 to 1.
-constexpr qreal strength(QStyle::PrimitiveElement element)
+/// Of frames in the text's colour, from 0 to 1.
+struct Strength {
+    QStyle::PrimitiveElement element;
+    qreal onDark;
+    qreal highContrast;
+};
+
+constexpr std::array strengths{
+    Strength{QStyle::PE_IndicatorCheckBox, 0.6, 1}, Strength{QStyle::PE_IndicatorRadioButton, 0.6, 1},
+    Strength{QStyle::PE_FrameGroupBox, 0.25, 1},    Strength{QStyle::PE_PanelButtonCommand, 0, 1},
+    Strength{QStyle::PE_FrameLineEdit, 0, 1},       Strength{QStyle::PE_Frame, 0, 1},
+    Strength{QStyle::PE_FrameMenu, 0, 1},           Strength{QStyle::PE_FrameTabWidget, 0, 1},
+};
+
+qreal strengthOf(QStyle::PrimitiveElement element, const QPalette& palette)
 {
-    switch (element) {
-    case QStyle::PE_IndicatorCheckBox:
-    case QStyle::PE_IndicatorRadioButton:
-        return 0.6;
-    case QStyle::PE_FrameGroupBox:
-        return 0.25;
-    default:
-        return 0;
-    }
+    const auto* row =
+        std::find_if(strengths.begin(), strengths.end(), [=](const Strength& s) { return s.element == element; });
+    if (row == strengths.end() || palette.color(QPalette::Window).lightness() >= darkest) return 0;
+    return isHighContrast(palette) ? row->highContrast : row->onDark;
 }
 
-QColor frameColour(QStyle::PrimitiveElement element, const QStyleOption& option)
+QPen framePen(qreal strength, const QStyleOption& option)
 {
+    constexpr qreal thick = 3;
+    const bool isOn = option.state.testFlag(QStyle::State_On) || option.state.testFlag(QStyle::State_Sunken);
     QColor colour = option.palette.color(QPalette::Active, QPalette::WindowText);
-    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-    colour.setAlphaF(static_cast<float>(enabled ? strength(element) : strength(element) / 2));
-    return colour;
+    colour.setAlphaF(static_cast<float>(option.state.testFlag(QStyle::State_Enabled) ? strength : strength / 2));
+    return {colour, isHighContrast(option.palette) && isOn ? thick : 1};
+}
+
+/// Of what has the keyboard, with high contrast.
+QPen focusPen(const QStyleOption& option)
+{
+    constexpr qreal thick = 2;
+    return {option.palette.color(QPalette::Active, QPalette::Highlight), thick};
 }
 
 /// Along the frame that the base style has drawn; its title stands above a group's.
@@ -38,18 +55,54 @@ void drawFrame(QPainter& painter, QStyle::PrimitiveElement element, const QRect&
 {
     constexpr qreal roundness = 2.5;
     const int top = element == QStyle::PE_FrameGroupBox ? title : 0;
-    const QRectF edge = QRectF(area.adjusted(0, top, 0, 0)).adjusted(0.5, 0.5, -0.5, -0.5); // the middle of the pixels
+    const qreal inside = painter.pen().widthF() / 2; // the middle of the pixels
+    const QRectF edge = QRectF(area.adjusted(0, top, 0, 0)).adjusted(inside, inside, -inside, -inside);
     if (element == QStyle::PE_IndicatorRadioButton) {
         const qreal radius = (area.width() | 1) / 2.0 - 1; // the base style's circle, about the same pixel
         painter.drawEllipse(QPointF(area.center() + QPoint(1, 1)), radius, radius);
-    } else if (element == QStyle::PE_FrameGroupBox) {
+    } else if (element == QStyle::PE_FrameGroupBox || element == QStyle::PE_PanelButtonCommand) {
         painter.drawRoundedRect(edge, roundness, roundness);
     } else {
         painter.drawRect(edge);
     }
 }
 
+/// Saves the painter's state until it ends.
+class Drawing {
+public:
+    explicit Drawing(QPainter& painter, const QPen& pen) : m_painter(painter)
+    {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(pen);
+        painter.setBrush(Qt::NoBrush);
+    }
+    Drawing(const Drawing&) = delete;
+    Drawing& operator=(const Drawing&) = delete;
+    ~Drawing() { m_painter.restore(); }
+
+private:
+    QPainter& m_painter;
+};
+
+void drawBox(QPainter& painter, const QRect& area, const QPen& pen)
+{
+    const Drawing drawing(painter, pen);
+    drawFrame(painter, QStyle::PE_Frame, area, 0);
+}
+
+bool hasKeyboard(const QStyleOption& option)
+{
+    return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
+}
+
 } // namespace
+
+bool isHighContrast(const QPalette& palette)
+{
+    return palette.color(QPalette::Active, QPalette::Window) == QColor(Qt::black) &&
+           palette.color(QPalette::Active, QPalette::WindowText) == QColor(Qt::white);
+}
 
 ThemeStyle::ThemeStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
@@ -57,15 +110,42 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
                                const QWidget* widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (strength(element) == 0 || option->palette.color(QPalette::Window).lightness() >= darkest) return;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(frameColour(element, *option));
-    painter->setBrush(Qt::NoBrush);
+    const bool strong = isHighContrast(option->palette);
+    if (element == PE_FrameFocusRect && strong) return drawBox(*painter, option->rect, focusPen(*option));
+    const qreal strength = strengthOf(element, option->palette);
+    if (strength == 0) return;
+    const Drawing drawing(*painter, strong && hasKeyboard(*option) ? focusPen(*option) : framePen(strength, *option));
     constexpr int titleMargin = 3;
     const int indicator = pixelMetric(PM_IndicatorHeight, option, widget);
     drawFrame(*painter, element, option->rect, std::max(indicator, option->fontMetrics.height()) + titleMargin);
-    painter->restore();
+}
+
+void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const bool hasFrame =
+        element == CE_TabBarTabShape || element == CE_ProgressBarGroove || element == CE_HeaderSection;
+    if (hasFrame && isHighContrast(option->palette)) drawBox(*painter, option->rect, framePen(1, *option));
+}
+
+void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (!isHighContrast(option->palette)) return;
+    switch (control) {
+    case CC_ComboBox:
+    case CC_SpinBox:
+        return drawBox(*painter, option->rect, hasKeyboard(*option) ? focusPen(*option) : framePen(1, *option));
+    case CC_ScrollBar:
+        return drawBox(*painter, subControlRect(control, option, SC_ScrollBarSlider, widget), framePen(1, *option));
+    case CC_Slider:
+        return drawBox(*painter, subControlRect(control, option, SC_SliderHandle, widget),
+                       hasKeyboard(*option) ? focusPen(*option) : framePen(1, *option));
+    default:
+        return;
+    }
 }
 
 } // namespace tarvex

@@ -9,9 +9,10 @@ namespace tarvex {
 
 namespace {
 
-std::array<MenuItem*, 3> appearanceItems(Menus& menus)
+std::array<MenuItem*, 4> appearanceItems(Menus& menus)
 {
-    return {&menus.mnuAppearanceSystem, &menus.mnuAppearanceLight, &menus.mnuAppearanceDark};
+    return {&menus.mnuAppearanceSystem, &menus.mnuAppearanceLight, &menus.mnuAppearanceDark,
+            &menus.mnuAppearanceContrast};
 }
 
 void showAppearance(ExtrasPage& page)
@@ -22,7 +23,7 @@ void showAppearance(ExtrasPage& page)
 
 void wireAppearance(ExtrasPage& page)
 {
-    constexpr const char* captions[] = {"As the deskto&p", "L&ight", "Dar&k"};
+    constexpr const char* captions[] = {"As the deskto&p", "L&ight", "Dar&k", "Hi&gh contrast"};
     const auto items = appearanceItems(page.editor.menus);
     for (std::size_t i = 0; i < page.Appearance.size(); ++i) {
         page.Appearance[i].Caption = captions[i];

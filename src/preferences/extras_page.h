@@ -35,7 +35,7 @@ struct ExtrasPage {
     Button DriveAdd;                           ///< asks for a folder and puts it behind the first free letter from d
     Button DriveReset;                         ///< takes the user's choice for the chosen drive back
     std::array<RunnerRow, 2> Runners;
-    std::array<OptionButton, 3> Appearance; ///< as the desktop; light; dark
+    std::array<OptionButton, 4> Appearance; ///< as the desktop; light; dark; high contrast
     TextBox SettingsFolder;                 ///< native path; not to be changed
     Button OpenFolder;
     Button Import;              ///< brings an old installation along

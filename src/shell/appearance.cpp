@@ -16,6 +16,7 @@ constexpr Choice choices[] = {
     {Appearance::Theme::System, "system", &Menus::mnuAppearanceSystem},
     {Appearance::Theme::Light, "light", &Menus::mnuAppearanceLight},
     {Appearance::Theme::Dark, "dark", &Menus::mnuAppearanceDark},
+    {Appearance::Theme::HighContrast, "contrast", &Menus::mnuAppearanceContrast},
 };
 
 constexpr std::string_view section = "Appearance";

@@ -22,6 +22,8 @@ constexpr ExtraTick ticks[] = {
      "Marks the controls that have a statement in the joystick file, and shows it under the mouse", true},
     {extraKey::lineNumbers, "Show line numbers beside the text", "The margin on the left of both files", true},
     {extraKey::currentLine, "Mark the line that I'm in", "Shades the line of the insertion point", true},
+    {extraKey::darkFiles, "Show the files dark, too, when the windows are dark",
+     "Their colours are made lighter on the screen; the colour scheme and printed pages keep them", true},
     {extraKey::colourAsTyped, "Colour as I type", "What I write gets its colours by itself when I pause", false},
 };
 

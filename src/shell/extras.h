@@ -24,6 +24,7 @@ constexpr std::string_view printPageNumbers = "PrintPageNumbers";
 constexpr std::string_view printFileName = "PrintFileName";
 constexpr std::string_view lineNumbers = "LineNumbers";
 constexpr std::string_view currentLine = "CurrentLine";
+constexpr std::string_view darkFiles = "DarkFiles";
 constexpr std::string_view colourAsTyped = "ColourAsTyped";
 } // namespace extraKey
 

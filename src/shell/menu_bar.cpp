@@ -192,8 +192,8 @@ MenuEntry preferencesMenu(Menus& m)
                     command(m.mnuJoyPopUpSingleFile),
                     menu(m.mnuMacrosSaveOptions, {command(m.mnuMacrosSaveOptions1), command(m.mnuMacrosSaveOptions2)}),
                     divider,
-                    menu(m.mnuAppearance,
-                         {command(m.mnuAppearanceSystem), command(m.mnuAppearanceLight), command(m.mnuAppearanceDark)}),
+                    menu(m.mnuAppearance, {command(m.mnuAppearanceSystem), command(m.mnuAppearanceLight),
+                                           command(m.mnuAppearanceDark), command(m.mnuAppearanceContrast)}),
                 });
 }
 

@@ -152,6 +152,7 @@ struct Menus {
     MenuItem mnuAppearanceSystem{"mnuAppearanceSystem", "As the des&ktop"};
     MenuItem mnuAppearanceLight{"mnuAppearanceLight", "&Light"};
     MenuItem mnuAppearanceDark{"mnuAppearanceDark", "&Dark"};
+    MenuItem mnuAppearanceContrast{"mnuAppearanceContrast", "&High contrast"};
 
     MenuItem mnuHelp{"mnuHelp", "&Help"};
     MenuItem mnuHelpContents{"mnuHelpContents", "&Tarvex help topics"};

@@ -37,6 +37,25 @@ TEST(Appearance, ChosenCommandIsTickedKeptAndReadAgain)
     EXPECT_TRUE(nextMenus.mnuAppearanceDark.Checked);
 }
 
+TEST(Appearance, EachChoiceHasItsOwnWordInTheFile)
+{
+    MemoryFiles files;
+    files.createDirectory("c:\\tarvex");
+    Menus menus;
+    Appearance appearance(files, "c:\\tarvex", menus);
+    using Theme = Appearance::Theme;
+    for (const auto& [theme, word] : {std::pair(Theme::System, "system"),
+                                      {Theme::Light, "light"},
+                                      {Theme::Dark, "dark"},
+                                      {Theme::HighContrast, "contrast"}}) {
+        appearance.choose(theme);
+        EXPECT_EQ(files.read(path), std::string("[Appearance]\r\nTheme=") + word + "\r\n");
+        Menus next;
+        EXPECT_EQ(Appearance(files, "c:\\tarvex", next).theme, theme);
+    }
+    EXPECT_TRUE(menus.mnuAppearanceContrast.Checked);
+}
+
 TEST(Appearance, UnknownValueIsAsTheDesktopAndOtherKeysStay)
 {
     MemoryFiles files;

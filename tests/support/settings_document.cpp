@@ -115,7 +115,7 @@ constexpr std::string_view ofThisMachine =
     "What belongs to this machine, and choices beyond those above; the page \"Extras\" of the preferences and the View "
     "menu set it. Paths are those of this system, from \"/\" on.\n\n"
     "| Section | Key | Default | Meaning |\n|---|---|---|---|\n"
-    "| `Appearance` | `Theme` | as the desktop | `light` or `dark` |\n"
+    "| `Appearance` | `Theme` | as the desktop | `light`, `dark` or `contrast` |\n"
     "| `Programs` | `Wine`, `DOSBox` | the one in `PATH` | what runs Windows and DOS programs |\n"
     "| `Drives` | `c`, `d`, ... | as found | folder of a drive |\n"
     "| `Extras` | `TemplatesCopied` |  | `1`: the program's templates have been copied into `Templates\\`; without it "

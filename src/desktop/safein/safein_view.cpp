@@ -3,6 +3,7 @@
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
 #include "desktop/menus/menu_view.h"
+#include "desktop/pane_colours.h"
 #include "desktop/platform/native_keys.h"
 #include "desktop/safein/key_pad_view.h"
 #include "desktop/toggle_view.h"
@@ -182,10 +183,10 @@ QPushButton* SafeinView::toggle(ToggleLabel& state, const char* name)
 
 void SafeinView::showStatementColour(QLineEdit& field)
 {
-    const QColor back = toQt(m_window.TotalCombinedBackColor.get());
+    const PaneColours shown = paneColours(m_window.TotalCombinedBackColor);
     QPalette colours = palette();
-    colours.setColor(QPalette::Base, back);
-    colours.setColor(QPalette::Text, readableOn(back));
+    colours.setColor(QPalette::Base, shown.ground);
+    colours.setColor(QPalette::Text, shown.isDarkened() ? shown.text(0) : readableOn(shown.ground));
     field.setPalette(colours);
 }
 
@@ -231,6 +232,9 @@ bool SafeinView::eventFilter(QObject* watched, QEvent* event)
 void SafeinView::changeEvent(QEvent* event)
 {
     ToolFormWindow::changeEvent(event);
+    const bool isLook = event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange;
+    if (auto* statement = isLook ? findChild<QLineEdit*>(QStringLiteral("TotalCombinedText")) : nullptr)
+        showStatementColour(*statement);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         raise();
         QTimer::singleShot(0, this, [this] { m_pad->showSigns(readKeyboardSigns()); });

@@ -19,7 +19,7 @@ DesktopProgram::DesktopProgram()
     program = std::make_unique<Program>(platform);
     program->help.useSystem(helpSystem);
     appearance = std::make_unique<Appearance>(machine.files, TestMachine::programDirectory, program->menus);
-    theme = std::make_unique<ThemeView>(*appearance);
+    theme = std::make_unique<ThemeView>(*appearance, program->shared.extras);
     window = std::make_unique<MumWindow>(*program);
     dialogues.setParent(window.get());
     dialogues.setMenus(&program->menus);

@@ -29,6 +29,14 @@ void PaneFormats::setZoom(double zoom)
     forget();
 }
 
+bool PaneFormats::setColours(const PaneColours& colours)
+{
+    if (m_colours == colours) return false;
+    m_colours = colours;
+    forget();
+    return true;
+}
+
 const QTextCharFormat& PaneFormats::look(FormatId id)
 {
     if (m_known.size() <= id) m_known.resize(std::max<std::size_t>(id + 1U, m_pane.formats()->size()));
@@ -42,7 +50,7 @@ QTextCharFormat PaneFormats::makeLook(const CharacterFormat& format) const
 {
     const PaneFont& font = m_pane.Font();
     QTextCharFormat look;
-    if (format.colour != 0) look.setForeground(toQt(format.colour));
+    if (format.colour != 0) look.setForeground(m_colours.text(format.colour));
     if (format.fontName != font.name) look.setFontFamilies({toQt(format.fontName)});
     if (format.fontSize != font.size && format.fontSize > 0) look.setFontPointSize(format.fontSize * m_zoom);
     if (format.bold != font.bold) look.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/pane_colours.h"
 #include "documents/text/pane.h"
 
 #include <QTextBlock>
@@ -19,6 +20,8 @@ public:
 
     /// Point sizes grow by this factor.
     void setZoom(double zoom);
+    /// False: they are shown like that already.
+    bool setColours(const PaneColours& colours);
     /// Formats are made anew: the pane's own font, from which they differ, is another one.
     void forget() { m_known.clear(); }
 
@@ -45,6 +48,7 @@ private:
 
     const Pane& m_pane;
     double m_zoom = 1;
+    PaneColours m_colours;
     std::vector<std::optional<QTextCharFormat>> m_known; ///< by FormatId
 };
 

@@ -260,14 +260,21 @@ void PaneView::showFont()
     viewport()->update();
 }
 
-/// The pane keeps its colour scheme whatever the program's appearance: text without a colour is black on BackColor.
+/// Text without a colour is black on BackColor, or what stands for that in dark windows.
 void PaneView::showColours()
 {
+    const PaneColours colours = paneColours(m_pane.BackColor.get());
+    const bool dark = colours.isDarkened();
     QPalette shown = QApplication::palette(this);
-    shown.setColor(QPalette::Base, toQt(m_pane.BackColor.get()));
-    shown.setColor(QPalette::Text, Qt::black);
-    shown.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0x9B, 0xC1, 0xEE)); // found from another window
-    shown.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    shown.setColor(QPalette::Base, colours.ground);
+    shown.setColor(QPalette::Text, colours.text(0));
+    // Found from another window:
+    shown.setColor(QPalette::Inactive, QPalette::Highlight, dark ? QColor(0x36, 0x4F, 0x6E) : QColor(0x9B, 0xC1, 0xEE));
+    shown.setColor(QPalette::Inactive, QPalette::HighlightedText, dark ? Qt::white : Qt::black);
+    if (m_mirror.formats().setColours(colours)) {
+        m_mirror.markAllStale();
+        viewport()->update();
+    }
     if (shown == palette()) return;
     setPalette(shown);
     m_margin->update();
