@@ -3,6 +3,8 @@
 #include "platform/dos_path.h"
 #include "shell/toolbar_buttons.h"
 
+#include <stdexcept>
+
 namespace tarvex {
 
 namespace {
@@ -20,6 +22,16 @@ std::string savedStateTip(const std::string& name, std::int16_t state)
 }
 
 bool isProtected(const Editor& editor) { return editor.menus.mnuPreferencesProtectMacroFile.Checked; }
+
+/// The bar ends before this button, so there is a failure to record instead. It isn't thrown: opening a pair gets here
+/// nine times, and the first exception alone brings the tables of the unwinder into memory.
+void enableCompileButton(Editor& editor, bool enabled, const Steps& step)
+{
+    static const std::out_of_range noSuchButton("The toolbar has no button for the compiler");
+    ToolBar& bar = editor.mum.Toolbar1;
+    if (toolbarButton::compile > bar.Count()) return step.fail(noSuchButton);
+    bar.Buttons(toolbarButton::compile).Enabled = enabled;
+}
 
 } // namespace
 
@@ -58,7 +70,7 @@ void updateDownload(Editor& editor)
     else if (menus.mnuAppsQuiet.Checked)
         menus.mnuAppsQuiet.Enabled = false;
     menus.mnuSendToJoystick.Caption = fits ? "&Download " + caption : "&Download ";
-    step([&] { editor.mum.Toolbar1.Buttons(toolbarButton::compile).Enabled = fits; });
+    enableCompileButton(editor, fits, step);
 }
 
 void UpdateSavedIcon(Editor& editor)
