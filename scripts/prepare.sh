@@ -17,6 +17,7 @@ package   lintian debootstrap flatpak-builder
 tidy      clang-tidy-14
 sanitize  clang-14 libclang-rt-14-dev llvm-14
 bench     libbenchmark-dev libx11-dev libxdamage-dev
+order     valgrind
 peers     geany mousepad featherpad highlight source-highlight python3-pygments bat
 TABLE
 }
