@@ -7,7 +7,9 @@
 #include <QApplication>
 #include <QMouseEvent>
 
+#include <functional>
 #include <stdexcept>
+#include <utility>
 
 namespace tarvex::benchmarks {
 
@@ -34,6 +36,36 @@ protected:
 
 private:
     QString m_name;
+    bool m_painted = false;
+};
+
+/// Waits until a widget is painted in a certain state. Paints of an earlier state don't count.
+class PaintedState : public QObject {
+public:
+    /// `reached` is asked when the widget is about to paint.
+    PaintedState(QWidget& widget, std::function<bool()> reached) : m_reached(std::move(reached))
+    {
+        widget.installEventFilter(this);
+    }
+
+    /// Lets events run until the widget was painted in that state.
+    void wait()
+    {
+        constexpr double longest = 5; // seconds
+        const auto start = Clock::now();
+        for (m_painted = false; !m_painted && secondsSince(start) < longest;) QApplication::processEvents();
+        if (!m_painted) throw std::runtime_error("the awaited state isn't painted");
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && m_reached()) m_painted = true;
+        return false;
+    }
+
+private:
+    std::function<bool()> m_reached;
     bool m_painted = false;
 };
 
