@@ -1,6 +1,7 @@
 #include "desktop/composer/composer_macro_list.h"
 
 #include "composer/macro_tab.h"
+#include "desktop/documents/window/macro_delegate.h"
 #include "desktop/input.h"
 #include "desktop/platform/mime.h"
 
@@ -41,6 +42,7 @@ ComposerMacroList::ComposerMacroList(InsertOptions& window, QWidget* parent) : Q
 {
     setObjectName(QStringLiteral("List1"));
     setAccessibleName(QStringLiteral("Macros"));
+    setItemDelegate(new MacroDelegate(this));
     setModel(&m_model);
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -1,5 +1,6 @@
 #include "desktop/documents/window/macro_list_view.h"
 
+#include "desktop/documents/window/macro_delegate.h"
 #include "desktop/input.h"
 #include "desktop/platform/mime.h"
 #include "language/commands/macro_filter.h"
@@ -11,46 +12,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 #include <QToolTip>
 
 namespace tarvex {
-
-namespace {
-
-/// Items as wide as the list, so that long names are cut and marked, with a little air between them.
-class MacroDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        constexpr int air = 4;
-        return {1, QStyledItemDelegate::sizeHint(option, index).height() + air};
-    }
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::paint(painter, option, index);
-        constexpr int half = 128;
-        if (option.palette.color(QPalette::Base).lightness() >= half) return;
-        // The style draws the box darker than its ground, which can't be seen on a dark one.
-        QStyleOptionViewItem shown = option;
-        initStyleOption(&shown, index);
-        QColor line = option.palette.color(QPalette::Text);
-        line.setAlphaF(0.5F);
-        painter->setPen(line);
-        painter->drawRect(tickRect(shown).adjusted(0, 0, -1, -1));
-    }
-    static QRect tickRect(const QStyleOptionViewItem& option)
-    {
-        return option.widget->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, option.widget);
-    }
-    int wholeWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const
-    {
-        return QStyledItemDelegate::sizeHint(option, index).width();
-    }
-};
-
-} // namespace
 
 MacroListView::MacroListView(Editor& editor, QWidget* frame) : QListView(frame), m_editor(editor)
 {
