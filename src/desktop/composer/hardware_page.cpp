@@ -3,11 +3,13 @@
 #include "composer/overlay.h"
 #include "desktop/composer/field_row.h"
 #include "desktop/composer/hardware_picture.h"
+#include "desktop/composer/statement_box.h"
 #include "desktop/text.h"
 
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
+#include <QKeyEvent>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -16,14 +18,32 @@ namespace tarvex {
 namespace {
 
 constexpr char portToggle[] = "ROTARY(7)";
-constexpr int statementLines = 4;
+// A tip can't be scrolled, and hides what is under it.
+constexpr int tipLines = 12;
+constexpr int tipColumns = 80;
+
+/// What of the statements goes into a tip.
+QString cutToTip(const QString& statements)
+{
+    QStringList lines = statements.split(u'\n');
+    const qsizetype more = lines.size() - tipLines;
+    if (more > 1) {
+        lines.resize(tipLines);
+        lines.append(QStringLiteral("... and %1 more lines, in the box below the picture").arg(more));
+    }
+    for (QString& line : lines) {
+        if (line.size() > tipColumns) line = line.left(tipColumns - 3) + QStringLiteral("...");
+    }
+    return lines.join(u'\n');
+}
 
 /// The statements of a control above its tip.
-QString tipOf(const std::string& statements, const std::string& tip)
+QString tipOf(const QString& statements, const std::string& tip)
 {
-    QString text = toQt(statements).toHtmlEscaped().replace(u' ', QStringLiteral("&nbsp;"));
-    text.replace(u'\n', QStringLiteral("<br>"));
-    if (!text.isEmpty()) text = QStringLiteral("<code>") + text + QStringLiteral("</code>");
+    QString text;
+    if (!statements.isEmpty())
+        text = QStringLiteral("<pre style=\"margin: 0\">") + cutToTip(statements).toHtmlEscaped() +
+               QStringLiteral("</pre>");
     if (!text.isEmpty() && !tip.empty()) text += QStringLiteral("<hr>");
     return text + toQt(tip).toHtmlEscaped();
 }
@@ -34,8 +54,12 @@ HardwarePage::HardwarePage(InsertOptions& window, Bindings& bindings, QWidget* p
     : QWidget(parent), m_window(window), m_bindings(bindings)
 {
     auto* column = new QVBoxLayout(this);
-    column->addWidget(makePictures(), 1);
-    column->addWidget(makeStatement());
+    auto* parts = new QSplitter(Qt::Vertical, this);
+    parts->addWidget(makePictures());
+    parts->addWidget(makeStatement());
+    parts->setStretchFactor(0, 1);
+    parts->setChildrenCollapsible(false);
+    column->addWidget(parts, 1);
     column->addLayout(makeSlashRow());
     column->addLayout(makeItemRow());
     column->addLayout(makeRemarkRow());
@@ -43,7 +67,7 @@ HardwarePage::HardwarePage(InsertOptions& window, Bindings& bindings, QWidget* p
     showControls();
 }
 
-QTabWidget* HardwarePage::makePictures()
+QWidget* HardwarePage::makePictures()
 {
     constexpr std::array shown{PictureOf::F22AndF16Stick, PictureOf::OlderStick, PictureOf::Tqs, PictureOf::Wcs};
     auto* tabs = new QTabWidget(this);
@@ -56,20 +80,19 @@ QTabWidget* HardwarePage::makePictures()
         tabs->addTab(m_pictures[i], {});
     }
     m_bindings.pages(m_window.SSTabHardware, *tabs);
+    connect(tabs, &QTabWidget::currentChanged, this, [this] {
+        m_attended.clear();
+        showAttended();
+    });
     return tabs;
 }
 
 QWidget* HardwarePage::makeStatement()
 {
-    m_statement = new QPlainTextEdit(this);
+    m_statement = new StatementBox(this);
     m_statement->setObjectName(QStringLiteral("AssignedText"));
     m_statement->setAccessibleName(QStringLiteral("What is on the control"));
-    m_statement->setReadOnly(true);
-    m_statement->setFocusPolicy(Qt::ClickFocus);
-    m_statement->setPlaceholderText(
-        QStringLiteral("Point at a control to see what your joystick file has on it. A green mark: something is."));
-    m_statement->setFixedHeight(statementLines * m_statement->fontMetrics().lineSpacing() +
-                                2 * m_statement->frameWidth() + 8);
+    m_statement->showHint(hint());
     m_bindings.bind(m_window.CheckShowAssigned.Value, [this](bool on) { m_statement->setVisible(on); });
     return m_statement;
 }
@@ -140,7 +163,7 @@ void HardwarePage::showControls()
     for (const HardwarePicture* shown : m_pictures) {
         for (const PictureControl& control : shown->picture().controls) showControl(control.id);
     }
-    attend(m_attended);
+    showAttended();
 }
 
 void HardwarePage::showControl(std::string_view id)
@@ -175,21 +198,45 @@ void HardwarePage::click(const QString& id)
     showControl(portToggle); // what was clicked shows its value, not the click
 }
 
-/// Only now, because the keys of all macros on all controls take a while to look up.
+/// A control that is left stays the one whose statements are shown, so that they can be scrolled and read to the end.
 void HardwarePage::attend(const QString& id)
 {
+    if (id.isEmpty()) return;
     m_attended = id;
-    const std::string name = fromQt(id);
-    const std::string statements = assignedText(m_window, name);
-    const QString text = toQt(statements);
-    if (text != m_statement->toPlainText()) m_statement->setPlainText(text);
+    showAttended();
+}
+
+/// Only for the control at hand, because the keys of all macros on all controls take a while to look up.
+void HardwarePage::showAttended()
+{
+    const std::string name = fromQt(m_attended);
+    const QString text = toQt(assignedText(m_window, name));
+    m_statement->showStatements(text);
+    m_statement->showHint(hint());
     const Button* button = controlButton(m_window, name);
     for (const HardwarePicture* shown : m_pictures) {
         HardwareControl* view = shown->control(name);
         if (view == nullptr || button == nullptr) continue;
-        view->setToolTip(tipOf(statements, button->ToolTipText));
+        view->setToolTip(tipOf(text, button->ToolTipText));
         view->setAccessibleDescription(text);
     }
+}
+
+QString HardwarePage::hint() const
+{
+    const std::string name = fromQt(m_attended);
+    for (const HardwarePicture* shown : m_pictures) {
+        const PictureControl* control = findControl(shown->picture(), name);
+        if (!shown->isVisible() || control == nullptr || control->name.empty()) continue;
+        return QStringLiteral("Your joystick file has nothing on %1 yet.").arg(toQt(control->name));
+    }
+    return QStringLiteral("Point at a control to see what your joystick file has on it. A green mark: something is.");
+}
+
+/// The box doesn't take the keyboard from the control whose statements it shows, so its keys come from there.
+void HardwarePage::keyPressEvent(QKeyEvent* event)
+{
+    if (!m_statement->isVisible() || !m_statement->scrollByKey(event->key())) QWidget::keyPressEvent(event);
 }
 
 } // namespace tarvex

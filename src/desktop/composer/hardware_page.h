@@ -7,13 +7,13 @@
 
 #include <array>
 
-class QPlainTextEdit;
 class QTabWidget;
 
 namespace tarvex {
 
 class HardwareControl;
 class HardwarePicture;
+class StatementBox;
 
 /// The first page of the Composer: the pictures of the controllers under their tabs, what the control at hand has in
 /// the joystick file, slash modifiers, delays and remarks.
@@ -23,8 +23,11 @@ public:
     /// `bindings` are destroyed before this.
     HardwarePage(InsertOptions& window, Bindings& bindings, QWidget* parent = nullptr);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
-    QTabWidget* makePictures();
+    QWidget* makePictures();
     QWidget* makeStatement();
     QLayout* makeSlashRow();
     QLayout* makeItemRow();
@@ -35,12 +38,14 @@ private:
     void showState(HardwareControl& view, std::string_view id);
     void click(const QString& id);
     void attend(const QString& id);
+    void showAttended();
+    QString hint() const;
 
     InsertOptions& m_window;
     Bindings& m_bindings;
     std::array<HardwarePicture*, 4> m_pictures{};
-    QPlainTextEdit* m_statement = nullptr;
-    QString m_attended; ///< id of the control at hand
+    StatementBox* m_statement = nullptr;
+    QString m_attended; ///< id of the control that the mouse or the focus was on last
 };
 
 } // namespace tarvex
