@@ -1,6 +1,8 @@
 #include "desktop/composer/statement_forms.h"
 
+#include "desktop/composer/control_scene.h"
 #include "desktop/composer/field_row.h"
+#include "desktop/composer/form_scenes.h"
 #include "desktop/toggle_view.h"
 
 #include <QCheckBox>
@@ -25,7 +27,7 @@ constexpr Labels stepsLabels{"Steps", "Step up", "Step down"};
 constexpr Labels centredLabels{"Steps", "Step up", "Centre", "Step down"};
 constexpr Labels fiveFieldLabels{"Steps", "Full up", "Full up to centre", "Centre", "Centre to full down", "Full down"};
 
-/// A page: columns of forms, a row of buttons below, and the tick at its foot.
+/// A page: columns of forms with a picture of what they are about, and the tick at its foot.
 class FormPage : public QWidget {
 public:
     enum class Place { NextColumn, Below };
@@ -34,7 +36,7 @@ public:
         : m_window(window), m_bindings(bindings), m_column(new QVBoxLayout(this)), m_forms(new QHBoxLayout)
     {
         m_column->addLayout(m_forms);
-        m_column->addStretch(1);
+        m_column->addStretch(leastStretch);
         auto* box = new QCheckBox(this);
         box->setObjectName(QStringLiteral("CheckMultiAddCR(%1)").arg(tick));
         bindings.checkBox(window.CheckMultiAddCR[tick], *box);
@@ -58,14 +60,28 @@ public:
         rows->addRow(QString(), button);
         if (place == Place::NextColumn) {
             m_stack = new QVBoxLayout;
-            m_stack->addStretch(1);
+            m_stack->addStretch(leastStretch);
             m_forms->addLayout(m_stack, 1);
         }
         m_stack->insertWidget(m_stack->count() - 1, group);
     }
 
-    /// Below the forms.
-    void below(QLayout* layout) { m_column->insertLayout(m_column->count() - 2, layout); }
+    /// Below the last form.
+    void below(QPushButton* button) { m_stack->insertWidget(m_stack->count() - 1, button, 0, Qt::AlignLeft); }
+    /// The picture takes the room that is left below the last form, or below all of them.
+    ControlScene* sceneInColumn()
+    {
+        auto* scene = new ControlScene(this);
+        m_stack->insertWidget(m_stack->count() - 1, scene, all);
+        m_column->setStretchFactor(m_forms, all);
+        return scene;
+    }
+    ControlScene* sceneBelow()
+    {
+        auto* scene = new ControlScene(this);
+        m_column->insertWidget(m_column->count() - 2, scene, all);
+        return scene;
+    }
     void above(QLayout* layout) { m_column->insertLayout(0, layout); }
     void beside(QWidget* widget, int stretch = 1) { m_forms->addWidget(widget, stretch, Qt::AlignTop); }
 
@@ -83,6 +99,9 @@ protected:
     Bindings& m_bindings;
 
 private:
+    static constexpr int leastStretch = 1; // of what takes the room where there is no picture
+    static constexpr int all = 1'000;
+
     QVBoxLayout* m_column;
     QHBoxLayout* m_forms;
     QVBoxLayout* m_stack = nullptr; ///< the column of forms that was begun last; a stretch ends it
@@ -191,6 +210,7 @@ QWidget* rangePage(InsertOptions& window, Bindings& bindings)
     page->form("RNG 1", stepsLabels, window.fields.Rng1, "Rng1", window.Command3, "Command3");
     page->form("RNG 2", {"Steps", "Full up", "In between", "Full down"}, window.fields.Rng2, "Rng2", window.Command4,
                "Command4");
+    page->sceneBelow()->showControls(PictureOf::Tqs, {QStringLiteral("ROTARY(0)")});
     return page;
 }
 
@@ -199,6 +219,7 @@ QWidget* antennaPage(InsertOptions& window, Bindings& bindings)
     auto* page = new FormPage(window, bindings, 1);
     page->form("ANT 1", centredLabels, window.fields.Ant1, "Ant1", window.Command8[0], "Command8(0)");
     page->form("ANT 2", fiveFieldLabels, window.fields.Ant2, "Ant2", window.InsertANT, "InsertANT");
+    page->sceneBelow()->showControls(PictureOf::Tqs, {QStringLiteral("ROTARY(1)")});
     return page;
 }
 
@@ -209,9 +230,10 @@ QWidget* throttlePage(InsertOptions& window, Bindings& bindings)
                {"Throttle steps", "Afterburner steps", "Throttle up", "Throttle down", "AB entry", "AB exit", "AB up",
                 "AB down"},
                window.fields.Thr1, "Thr1", window.Command12[0], "Command12(0)");
+    page->below(page->button(window.Command15[0], QStringLiteral("Command15(0)")));
     page->form("THR 2", {"Throttle steps", "Afterburner steps", "Throttle characters", "Afterburner characters"},
                window.fields.Thr2, "Thr2", window.Command12[1], "Command12(1)");
-    page->below(leftAligned({page->button(window.Command15[0], QStringLiteral("Command15(0)"))}));
+    showThrottle(window, bindings, *page->sceneInColumn());
     return page;
 }
 
@@ -230,8 +252,9 @@ QWidget* axesPage(InsertOptions& window, Bindings& bindings)
     page->form("Form 1", centredLabels, window.fields.Axis1, "Axis1", window.Command8[1], "Command8(1)");
     page->form("Form 2", fiveFieldLabels, window.fields.Axis2, "Axis2", window.Command8[2], "Command8(2)",
                FormPage::Place::Below);
+    page->below(page->button(window.Command15[1], QStringLiteral("Command15(1)")));
     page->form("Form 3", {"Left", "Centre", "Right"}, window.fields.Axis3, "Axis3", window.Command8[3], "Command8(3)");
-    page->below(leftAligned({page->button(window.Command15[1], QStringLiteral("Command15(1)"))}));
+    showAxis(window, bindings, *page->sceneInColumn());
     return page;
 }
 
@@ -245,6 +268,7 @@ QWidget* setUpPage(InsertOptions& window, Bindings& bindings)
     column->addWidget(valueGroup(window, bindings));
     page->beside(left);
     page->beside(miceGroup(window, bindings));
+    showMouseButtons(window, bindings, *page->sceneBelow());
     return page;
 }
 
