@@ -9,7 +9,7 @@ run       fonts-liberation libqt6sql6-sqlite
 wayland   qt6-wayland
 display   xvfb
 picture   openbox wmctrl imagemagick
-test      poppler-utils python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool umockdev libumockdev-dev pkg-config aspell aspell-en
+test      poppler-utils python3 clang-format-14 libgtest-dev libgmock-dev strace dosbox xdotool umockdev libumockdev-dev pkg-config aspell aspell-en dbus at-spi2-core python3-pyatspi
 desktop   desktop-file-utils appstream shared-mime-info libglib2.0-bin xdg-utils mandoc zsh fish
 handbook  pngquant optipng
 release   git dpkg-dev file binutils xz-utils
