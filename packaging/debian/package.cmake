@@ -1,6 +1,10 @@
 # How cpack makes the Debian package:  cpack -G DEB
-set(TARVEX_MAINTAINER "The Tarvex developers <developers@tarvex.invalid>" CACHE STRING
-    "Who answers for the Debian package; the address of a packager who can be reached belongs here")
+# Debian's own tools know the packager from these two variables.
+set(packager "The Tarvex developers <developers@tarvex.invalid>")
+if(DEFINED ENV{DEBFULLNAME} AND DEFINED ENV{DEBEMAIL})
+    set(packager "$ENV{DEBFULLNAME} <$ENV{DEBEMAIL}>")
+endif()
+set(TARVEX_MAINTAINER "${packager}" CACHE STRING "Who answers for the Debian package: name and <address>")
 
 set(CPACK_PACKAGE_NAME tarvex)
 set(CPACK_PACKAGE_VENDOR "Tarvex")

@@ -67,7 +67,7 @@ check "both builds have the same bytes" same_bytes
 check "no path of the build is in the package" no_path_inside
 check "lintian has no errors and no warnings" lintian --allow-root --fail-on error,warning "$package"
 check "the package is smaller than 6 MB" small_enough
-check "flatpak-builder takes the manifest" silent flatpak-builder --state-dir="$work/flatpak" --show-manifest \
+check "flatpak-builder takes the manifest" silent env -C "$work" flatpak-builder --show-manifest \
     "$top/packaging/flatpak/org.tarvex.Tarvex.yml"
 if [ "$(id -u)" != 0 ]; then
     not_run "installation, start, upgrade and removal in a bare Debian: needs root"
