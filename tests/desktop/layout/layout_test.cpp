@@ -1,35 +1,24 @@
 // Every window that a command opens has its widgets in place: nothing on top of another, nothing outside, no text cut.
 // A window of the future takes part by itself, or the test says that no command led to it.
 
-#include "desktop_program.h"
 #include "layout_faults.h"
+#include "window_walk.h"
 
-#include <QAbstractButton>
-#include <QAction>
 #include <QApplication>
-#include <QDialog>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
-#include <QStackedWidget>
-#include <QTabWidget>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <cxxabi.h>
 #include <map>
-#include <typeinfo>
+#include <set>
 
 namespace tarvex {
 namespace {
@@ -132,129 +121,25 @@ TEST(LayoutFaults, APageIsLookedAtThroughItsScrollAreaAndMustNotScrollSideways)
 
 // ---- the walk -------------------------------------------------------------------------------------------------------
 
-/// Commands that end the program, or undo the choice of the walk.
-const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
-
-/// Forms that only other forms show.
-constexpr const char* withoutCommand[] = {"FilesHome", "Import", "SelectPictureForm"};
-
 /// Dialogues of the toolkit's own making.
 bool isToolkits(const QWidget& window) { return qobject_cast<const QFileDialog*>(&window) != nullptr; }
 
-/// Of the object itself; Qt only knows the classes with Q_OBJECT.
-std::string className(const QWidget& window)
-{
-    char* name = abi::__cxa_demangle(typeid(window).name(), nullptr, nullptr, nullptr);
-    const std::string result = name != nullptr ? name : typeid(window).name();
-    std::free(name); // NOLINT(cppcoreguidelines-no-malloc): that is how it is allocated
-    return result;
-}
-
-/// Runs every command of the menus, and looks at each window that comes up.
-class LayoutWalk {
+/// Collects what the look at each window notices.
+class LayoutWalk : public WindowWalk {
 public:
-    explicit LayoutWalk(Appearance::Theme theme)
-    {
-        m_desktop.appearance->choose(theme);
-        QObject::connect(&m_user, &QTimer::timeout, &m_user, [this] { lookAtModal(); });
-        m_user.start(0);
-    }
-
-    void run()
-    {
-        look(*m_desktop.window);
-        for (const QString& name : commands()) trigger(name);
-        m_desktop.program->shared.settings.UseTCA = 1;
-        trigger(QStringLiteral("mnuAppsJoyAnalyser"));
-        for (const char* form : withoutCommand) {
-            m_command = form;
-            m_desktop.dialogues.showModal(form);
-        }
-        QList<QPointer<QAbstractButton>> buttons; // some close the window that others are in
-        for (QAbstractButton* button : m_desktop.window->findChildren<QAbstractButton*>()) buttons.append(button);
-        for (const QPointer<QAbstractButton>& button : buttons) {
-            if (!button) continue;
-            m_command = fromQt(button->objectName());
-            if (button->isVisible()) button->click();
-            QApplication::processEvents();
-            lookAtOpenWindows();
-        }
-    }
+    explicit LayoutWalk(Appearance::Theme theme) { m_desktop.appearance->choose(theme); }
 
     std::map<std::string, std::string> faults; ///< and the command after which each was seen first
     std::set<std::string> seen;                ///< classes of windows
 
 private:
-    QStringList commands() const
-    {
-        QStringList names;
-        for (const QAction* action : m_desktop.window->findChildren<QAction*>()) {
-            const bool isCommand = !action->objectName().isEmpty() && action->menu() == nullptr;
-            if (isCommand && !notWalked.contains(action->objectName())) names.append(action->objectName());
-        }
-        return names;
-    }
-    void trigger(const QString& name)
-    {
-        m_desktop.openPair();
-        m_command = fromQt(name);
-        if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
-        QApplication::processEvents();
-        lookAtOpenWindows();
-    }
-    void look(const QWidget& window)
+    void look(const QWidget& window) override
     {
         const std::string name = className(window);
         seen.insert(name);
         if (isToolkits(window)) return;
-        for (const std::string& fault : layoutFaults(window)) faults.try_emplace(name + ": " + fault, m_command);
+        for (const std::string& fault : layoutFaults(window)) faults.try_emplace(name + ": " + fault, command());
     }
-    void lookAtAllPages(QWidget& window)
-    {
-        look(window);
-        for (QTabWidget* tabs : window.findChildren<QTabWidget*>()) {
-            for (int page = 0; page < tabs->count(); ++page) {
-                tabs->setCurrentIndex(page);
-                QCoreApplication::sendPostedEvents();
-                look(window);
-            }
-        }
-        for (QStackedWidget* pages : window.findChildren<QStackedWidget*>()) {
-            if (qobject_cast<QTabWidget*>(pages->parentWidget())) continue; // those of the tabs
-            const int before = pages->currentIndex();
-            for (int page = 0; page < pages->count(); ++page) {
-                pages->setCurrentIndex(page);
-                QCoreApplication::sendPostedEvents();
-                look(window);
-            }
-            pages->setCurrentIndex(before);
-        }
-    }
-    /// As a user who looks at what comes up and closes it.
-    void lookAtModal()
-    {
-        if (QWidget* popUp = QApplication::activePopupWidget()) {
-            if (qobject_cast<QMenu*>(popUp) == nullptr) look(*popUp);
-            popUp->close();
-        } else if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            lookAtAllPages(*modal);
-            modal->reject();
-        }
-    }
-    void lookAtOpenWindows()
-    {
-        look(*m_desktop.window);
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (!window->isVisible() || window == m_desktop.window.get() || !window->isWindow()) continue;
-            if (window->windowType() != Qt::Dialog && window->windowType() != Qt::Window) continue;
-            lookAtAllPages(*window);
-            window->close();
-        }
-    }
-
-    std::string m_command = "the start";
-    DesktopProgram m_desktop;
-    QTimer m_user;
 };
 
 /// Classes that the sources derive from FormWindow, directly or not, but for those that others are derived from.

@@ -1,0 +1,131 @@
+#include "window_walk.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QPointer>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+#include <cstdlib>
+#include <cxxabi.h>
+#include <typeinfo>
+
+namespace tarvex {
+
+namespace {
+
+/// Commands that end the program, or undo the choice of the walk.
+const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
+
+/// Forms that only other forms show.
+constexpr const char* withoutCommand[] = {"FilesHome", "Import", "SelectPictureForm"};
+
+} // namespace
+
+std::string className(const QWidget& window)
+{
+    char* name = abi::__cxa_demangle(typeid(window).name(), nullptr, nullptr, nullptr);
+    const std::string result = name != nullptr ? name : typeid(window).name();
+    std::free(name); // NOLINT(cppcoreguidelines-no-malloc): that is how it is allocated
+    return result;
+}
+
+WindowWalk::WindowWalk()
+{
+    QObject::connect(&m_user, &QTimer::timeout, &m_user, [this] { lookAtModal(); });
+}
+
+void WindowWalk::run()
+{
+    m_user.start(0);
+    look(*m_desktop.window);
+    for (const QString& name : commands()) trigger(name);
+    m_desktop.program->shared.settings.UseTCA = 1;
+    trigger(QStringLiteral("mnuAppsJoyAnalyser"));
+    for (const char* form : withoutCommand) {
+        m_command = form;
+        m_desktop.dialogues.showModal(form);
+    }
+    clickButtons();
+}
+
+void WindowWalk::clickButtons()
+{
+    QList<QPointer<QAbstractButton>> buttons; // some close the window that others are in
+    for (QAbstractButton* button : m_desktop.window->findChildren<QAbstractButton*>()) buttons.append(button);
+    for (const QPointer<QAbstractButton>& button : buttons) {
+        if (!button) continue;
+        m_command = fromQt(button->objectName());
+        if (button->isVisible()) button->click();
+        QApplication::processEvents();
+        lookAtOpenWindows();
+    }
+}
+
+QStringList WindowWalk::commands() const
+{
+    QStringList names;
+    for (const QAction* action : m_desktop.window->findChildren<QAction*>()) {
+        const bool isCommand = !action->objectName().isEmpty() && action->menu() == nullptr;
+        if (isCommand && !notWalked.contains(action->objectName())) names.append(action->objectName());
+    }
+    return names;
+}
+
+void WindowWalk::trigger(const QString& name)
+{
+    m_desktop.openPair();
+    m_command = fromQt(name);
+    if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
+    QApplication::processEvents();
+    lookAtOpenWindows();
+}
+
+void WindowWalk::lookAtAllPages(QWidget& window)
+{
+    look(window);
+    for (QTabWidget* tabs : window.findChildren<QTabWidget*>()) {
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            QCoreApplication::sendPostedEvents();
+            look(window);
+        }
+    }
+    for (QStackedWidget* pages : window.findChildren<QStackedWidget*>()) {
+        if (qobject_cast<QTabWidget*>(pages->parentWidget())) continue; // those of the tabs
+        const int before = pages->currentIndex();
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            QCoreApplication::sendPostedEvents();
+            look(window);
+        }
+        pages->setCurrentIndex(before);
+    }
+}
+
+void WindowWalk::lookAtModal()
+{
+    if (QWidget* popUp = QApplication::activePopupWidget()) {
+        if (qobject_cast<QMenu*>(popUp) == nullptr) look(*popUp);
+        popUp->close();
+    } else if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        lookAtAllPages(*modal);
+        modal->reject();
+    }
+}
+
+void WindowWalk::lookAtOpenWindows()
+{
+    look(*m_desktop.window);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || window == m_desktop.window.get() || !window->isWindow()) continue;
+        if (window->windowType() != Qt::Dialog && window->windowType() != Qt::Window) continue;
+        lookAtAllPages(*window);
+        window->close();
+    }
+}
+
+} // namespace tarvex
