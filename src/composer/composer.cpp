@@ -112,7 +112,7 @@ void presetDelays(InsertOptions& window)
     window.flags.TxtFlag[flagDelay].Text = delay;
 }
 
-/// The number that a field holds; what isn't a 16-bit number leaves the setting as it is.
+/// The number in a field; a text that isn't a 16-bit number leaves the setting as it is.
 void takeNumber(const TextBox& field, std::int16_t& setting)
 {
     const std::string& text = field.Text;

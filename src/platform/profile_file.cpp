@@ -22,7 +22,7 @@ Names cleanNames(std::string_view section, std::string_view key)
     return {cleanProfileName(section, "]"), cleanProfileName(key, "=")};
 }
 
-/// What the value reads as: no blanks or quotes around it, UTF-8.
+/// The value as it is read: without blanks or quotes around it, UTF-8.
 std::string readable(std::string_view bytes) { return decodeProfileText(strippedValue(cutProfileValue(bytes))); }
 
 std::optional<std::string> findValue(const ProfileLines& lines, const Names& names)
@@ -211,7 +211,7 @@ void ProfileFile::flush() noexcept
         m_stamp = m_files.stamp(m_path);
     } catch (const std::exception& error) {
         m_whyNotWritten = error.what();
-        m_loaded = false; // what the file holds counts
+        m_loaded = false; // the next read is from the file
     }
 }
 

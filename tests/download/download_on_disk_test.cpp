@@ -1,4 +1,4 @@
-// A whole download with real loaders: the stand-in, and such as nobody would like to have.
+// A whole download with real loader processes: the stand-in, and others that misbehave.
 
 #include "dos_loader.h"
 #include "platform/posix/processes/runners.h"

@@ -40,7 +40,7 @@ QImage filled(QImage shape, const QColor& colour)
     return shape;
 }
 
-/// What lies around a shape, `width` pixels wide; the image is larger than the shape by `margin` on each side.
+/// The band around a shape, `width` pixels wide; the image is larger than the shape by `margin` on each side.
 QImage halo(const QImage& shape, const QColor& colour, qreal width, int margin)
 {
     constexpr int directions = 16;
@@ -58,7 +58,7 @@ QImage halo(const QImage& shape, const QColor& colour, qreal width, int margin)
     return around;
 }
 
-/// Lightens or colours what is drawn; in a way that keeps a name on the control legible.
+/// Lightens or colours the shape so that a name on the control stays legible.
 void paintTint(QPainter& painter, const QImage& shape, const HardwareControl& control, bool hovered)
 {
     struct Tint {
@@ -197,7 +197,7 @@ void HardwarePicture::changeEvent(QEvent* event)
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange) invalidate();
 }
 
-/// Puts each control where the drawing shows it; what takes the mouse is what is drawn.
+/// Puts each control where the drawing shows it; only the drawn shape takes the mouse.
 void HardwarePicture::place()
 {
     const qreal ratio = devicePixelRatioF();

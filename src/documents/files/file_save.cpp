@@ -47,8 +47,8 @@ void reportFailedBackup(Editor& editor, const Side& side, const std::string& why
 
 bool saveAs(Editor& editor, Side& side);
 
-/// Writes the document, or has it saved elsewhere. The macro list isn't touched. `agreed`: the user has just allowed to
-/// replace what the path holds.
+/// Writes the document, or has it saved elsewhere. The macro list isn't touched. `agreed`: the user has just agreed
+/// to replace the file at the path.
 bool saveText(Editor& editor, Side& side, bool agreed = false)
 {
     const Steps step(editor.shared.errors, byKind(side, "ED_SaveJoystickText", "ED_SaveMacroText"));

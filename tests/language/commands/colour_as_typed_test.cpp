@@ -29,7 +29,7 @@ struct ColourAsTypedTest : testing::Test {
     {
         t.files.addFile("c:\\tm\\a.b50", text);
         t.files.addFile("c:\\tm\\a.m50", "");
-        editor.joystick.Changed = changed::saved; // what was there may go
+        editor.joystick.Changed = changed::saved; // the former text may be dropped
         t.openBoth("c:\\tm\\a.b50");
         editor.TabStrip1.Select(1);
         t.dialogues.boxes.clear();

@@ -123,7 +123,7 @@ void PaneView::mousePressEvent(QMouseEvent* event)
 {
     QPlainTextEdit::mousePressEvent(event);
     settle();
-    if (event->button() != Qt::RightButton) emit mousePressed(event->button()); // that one's business is the pop-up
+    if (event->button() != Qt::RightButton) emit mousePressed(event->button()); // the right button opens the pop-up
 }
 
 void PaneView::mouseReleaseEvent(QMouseEvent* event)

@@ -51,7 +51,7 @@ struct FindView : testing::Test {
         QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
         events();
     }
-    /// Into whatever has the keyboard.
+    /// Types into the widget that has the keyboard.
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         events();
