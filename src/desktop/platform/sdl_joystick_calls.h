@@ -1,17 +1,14 @@
 #pragma once
 
-#include <QLibrary>
-
-#include <SDL.h>
+#include "desktop/platform/sdl_library.h"
 
 namespace tarvex {
 
-/// The functions of SDL that joysticks need, found at run time. Their types are those of its header.
-struct SdlJoystickCalls {
+/// The functions of SDL that joysticks need.
+struct SdlJoystickCalls : SdlLibrary {
     bool load()
     {
-        return library.load() && find(setHint, "SDL_SetHint") && find(initSubSystem, "SDL_InitSubSystem") &&
-               find(quitSubSystem, "SDL_QuitSubSystem") && find(count, "SDL_NumJoysticks") &&
+        return loadLibrary() && find(setHint, "SDL_SetHint") && find(count, "SDL_NumJoysticks") &&
                find(nameForIndex, "SDL_JoystickNameForIndex") && find(pathForIndex, "SDL_JoystickPathForIndex") &&
                find(guidForIndex, "SDL_JoystickGetDeviceGUID") && find(guidText, "SDL_JoystickGetGUIDString") &&
                find(open, "SDL_JoystickOpen") && find(close, "SDL_JoystickClose") &&
@@ -23,8 +20,6 @@ struct SdlJoystickCalls {
     }
 
     decltype(&SDL_SetHint) setHint = nullptr;
-    decltype(&SDL_InitSubSystem) initSubSystem = nullptr;
-    decltype(&SDL_QuitSubSystem) quitSubSystem = nullptr;
     decltype(&SDL_NumJoysticks) count = nullptr;
     decltype(&SDL_JoystickNameForIndex) nameForIndex = nullptr;
     decltype(&SDL_JoystickPathForIndex) pathForIndex = nullptr;
@@ -42,14 +37,6 @@ struct SdlJoystickCalls {
     decltype(&SDL_JoystickUpdate) update = nullptr;
     decltype(&SDL_PollEvent) pollEvent = nullptr;
     decltype(&SDL_JoystickInstanceID) instance = nullptr;
-
-private:
-    template <typename Function> bool find(Function& function, const char* name)
-    {
-        function = reinterpret_cast<Function>(library.resolve(name));
-        return function != nullptr;
-    }
-    QLibrary library{QStringLiteral("SDL2-2.0"), 0};
 };
 
 } // namespace tarvex

@@ -1,34 +1,28 @@
 #include "desktop/platform/sdl_sound.h"
 
+#include "desktop/platform/sdl_library.h"
 #include "desktop/text.h"
 #include "platform/errors.h"
 #include "platform/posix/drive_map.h"
 
 #include <QElapsedTimer>
-#include <QLibrary>
 
-#include <SDL.h>
+#include <algorithm>
 
 namespace tarvex {
 
 namespace {
 
-/// The functions of the library that a sound needs, found at run time. Their types are those of its header.
-class Sdl {
-public:
-    Sdl() : m_library(QStringLiteral("SDL2-2.0"), 0) {}
-
+/// The functions of SDL that a sound needs.
+struct SdlSoundCalls : SdlLibrary {
     bool load()
     {
-        return m_library.load() && find(initSubSystem, "SDL_InitSubSystem") &&
-               find(quitSubSystem, "SDL_QuitSubSystem") && find(fromFile, "SDL_RWFromFile") &&
-               find(loadWav, "SDL_LoadWAV_RW") && find(freeWav, "SDL_FreeWAV") && find(open, "SDL_OpenAudioDevice") &&
-               find(queue, "SDL_QueueAudio") && find(queued, "SDL_GetQueuedAudioSize") &&
-               find(pause, "SDL_PauseAudioDevice") && find(close, "SDL_CloseAudioDevice") && find(delay, "SDL_Delay");
+        return loadLibrary() && find(fromFile, "SDL_RWFromFile") && find(loadWav, "SDL_LoadWAV_RW") &&
+               find(freeWav, "SDL_FreeWAV") && find(open, "SDL_OpenAudioDevice") && find(queue, "SDL_QueueAudio") &&
+               find(queued, "SDL_GetQueuedAudioSize") && find(pause, "SDL_PauseAudioDevice") &&
+               find(close, "SDL_CloseAudioDevice") && find(delay, "SDL_Delay");
     }
 
-    decltype(&SDL_InitSubSystem) initSubSystem = nullptr;
-    decltype(&SDL_QuitSubSystem) quitSubSystem = nullptr;
     decltype(&SDL_RWFromFile) fromFile = nullptr;
     decltype(&SDL_LoadWAV_RW) loadWav = nullptr;
     decltype(&SDL_FreeWAV) freeWav = nullptr;
@@ -38,18 +32,11 @@ public:
     decltype(&SDL_PauseAudioDevice) pause = nullptr;
     decltype(&SDL_CloseAudioDevice) close = nullptr;
     decltype(&SDL_Delay) delay = nullptr;
-
-private:
-    template <typename Function> bool find(Function& function, const char* name)
-    {
-        function = reinterpret_cast<Function>(m_library.resolve(name));
-        return function != nullptr;
-    }
-    QLibrary m_library;
 };
 
 /// A device that stops taking samples holds nobody longer than the sound lasts.
-void playOn(const Sdl& sdl, SDL_AudioDeviceID device, const SDL_AudioSpec& form, const Uint8* samples, Uint32 size)
+void playOn(const SdlSoundCalls& sdl, SDL_AudioDeviceID device, const SDL_AudioSpec& form, const Uint8* samples,
+            Uint32 size)
 {
     constexpr Uint32 pollMilliseconds = 10;
     constexpr qint64 deviceLatency = 300; // milliseconds
@@ -64,7 +51,7 @@ void playOn(const Sdl& sdl, SDL_AudioDeviceID device, const SDL_AudioSpec& form,
     sdl.delay(static_cast<Uint32>(std::min(inTheDevice, deviceLatency)));
 }
 
-void playFile(const Sdl& sdl, const std::string& nativePath)
+void playFile(const SdlSoundCalls& sdl, const std::string& nativePath)
 {
     SDL_AudioSpec form{};
     Uint8* samples = nullptr;
@@ -82,7 +69,7 @@ void playFile(const Sdl& sdl, const std::string& nativePath)
 
 void SdlSound::play(const std::string& path)
 {
-    Sdl sdl;
+    SdlSoundCalls sdl;
     if (!sdl.load() || sdl.initSubSystem(SDL_INIT_AUDIO) != 0) return;
     try {
         playFile(sdl, m_drives.toNative(path));
