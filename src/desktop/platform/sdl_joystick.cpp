@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace tarvex {
 
@@ -19,6 +20,12 @@ namespace {
 constexpr int askMilliseconds = 1;    // for what an open device has sent
 constexpr int lookMilliseconds = 500; // for devices, where the system doesn't report them
 constexpr int settleMilliseconds = 300;
+
+// A device that reports often is read at intervals, which halves the cost at 1,000 reports a second. The kernel keeps
+// at least eight reports.
+constexpr int longestRest = 2;                  // milliseconds
+constexpr int reportsInRest = 3;                // at most
+constexpr std::int64_t fastMicroseconds = 4000; // between two reports
 
 /// Where the system makes its device files; devices appear there without anybody asking.
 QString deviceFolder() { return QStringLiteral("/dev/input"); }
@@ -71,10 +78,12 @@ struct SdlJoystick::Found {
     SDL_Joystick* handle = nullptr;
 };
 
-SdlJoystick::SdlJoystick() : m_asking(new QTimer(this)), m_settling(new QTimer(this))
+SdlJoystick::SdlJoystick() : m_asking(new QTimer(this)), m_resting(new QTimer(this)), m_settling(new QTimer(this))
 {
-    m_asking->setTimerType(Qt::PreciseTimer);
+    for (QTimer* timer : {m_asking, m_resting}) timer->setTimerType(Qt::PreciseTimer);
     connect(m_asking, &QTimer::timeout, this, &SdlJoystick::ask);
+    m_resting->setSingleShot(true);
+    connect(m_resting, &QTimer::timeout, this, &SdlJoystick::readDeviceFile);
     m_settling->setSingleShot(true);
     m_settling->setInterval(settleMilliseconds);
     connect(m_settling, &QTimer::timeout, this, &SdlJoystick::lookForDevices);
@@ -225,6 +234,7 @@ void SdlJoystick::open()
         return;
     }
     m_state = m_reader->state();
+    m_read = 0;
     m_notifier = std::make_unique<QSocketNotifier>(m_reader->descriptor(), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &SdlJoystick::readDeviceFile);
 }
@@ -232,6 +242,7 @@ void SdlJoystick::open()
 void SdlJoystick::close()
 {
     m_asking->stop();
+    m_resting->stop();
     if (m_notifier) {
         m_notifier->setEnabled(false);
         m_notifier.release()->deleteLater(); // it may be the one that fired
@@ -264,7 +275,23 @@ void SdlJoystick::readDeviceFile()
         report(state);
         if (m_reader.get() != reader) return; // a listener chose another device
     }
-    if (result.gone) lost();
+    if (result.gone) return lost();
+    rest(result.reports);
+}
+
+/// Decides when the device file is read again: when something comes, or a little after these reports.
+void SdlJoystick::rest(const std::vector<DeviceState>& reports)
+{
+    std::int64_t interval = fastMicroseconds;
+    if (!reports.empty()) {
+        const std::int64_t last = reports.back().microseconds;
+        interval = (last - std::exchange(m_read, last)) / static_cast<std::int64_t>(reports.size());
+    }
+    const auto milliseconds =
+        static_cast<int>(std::clamp<std::int64_t>(reportsInRest * interval / 1000, 0, longestRest));
+    const bool rests = interval < fastMicroseconds && milliseconds > 0;
+    m_notifier->setEnabled(!rests);
+    if (rests) m_resting->start(milliseconds);
 }
 
 /// All values of a device that SDL reads.

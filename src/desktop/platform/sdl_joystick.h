@@ -40,6 +40,7 @@ private:
     void open();
     void close();
     void readDeviceFile();
+    void rest(const std::vector<DeviceState>& reports);
     void ask();
     void readState();
     void report(const DeviceState& state);
@@ -56,8 +57,10 @@ private:
     std::unique_ptr<EvdevReader> m_reader;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
-    QTimer* m_asking;   ///< for a device without a file
-    QTimer* m_settling; ///< a device file gets its rights a little after it is made
+    std::int64_t m_read = 0; ///< time of the last report that was read from the file
+    QTimer* m_asking;        ///< for a device without a file
+    QTimer* m_resting;       ///< until a fast device's file is read again
+    QTimer* m_settling;      ///< a device file gets its rights a little after it is made
 };
 
 } // namespace tarvex
