@@ -1,19 +1,28 @@
 #include "mock_stick.h"
 
-#include <gtest/gtest.h>
 #include <umockdev.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <stdexcept>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvex {
 
 namespace {
 
-constexpr const char* file = "/dev/input/event7";
-constexpr const char* place = "/sys/devices/home/input/input7/event7";
+constexpr const char* file = MockStick::file;
+
+void check(const GError* error)
+{
+    if (error != nullptr) throw std::runtime_error(error->message);
+}
 
 template <typename T> std::string bytesOf(const T& value)
 {
@@ -29,7 +38,11 @@ void setBit(std::string& bits, unsigned bit)
 } // namespace
 
 struct MockStick::World {
-    explicit World(MockStick& stick) { g_signal_connect(requests, "handle-ioctl", G_CALLBACK(answer), &stick); }
+    explicit World(MockStick& stick)
+    {
+        g_signal_connect(requests, "handle-ioctl", G_CALLBACK(answer), &stick);
+        g_signal_connect(requests, "handle-read", G_CALLBACK(refuse), &stick);
+    }
     ~World()
     {
         g_object_unref(testbed);
@@ -40,13 +53,32 @@ struct MockStick::World {
     UMockdevIoctlBase* requests = umockdev_ioctl_base_new();
 
     static gboolean answer(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
+    static gboolean refuse(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self);
 };
 
 MockStick::MockStick() : m_world(std::make_unique<World>(*this)) {}
 
-MockStick::~MockStick() = default;
+MockStick::~MockStick()
+{
+    if (m_port >= 0) ::close(m_port);
+    if (m_pipe.empty()) return;
+    ::unlink(m_pipe.c_str());
+    umockdev_testbed_detach_ioctl(m_world->testbed, file, nullptr);
+}
 
+/// umockdev's own device file is a terminal, from which a reader may get half an event, and can't be made twice. A pipe
+/// takes a report as a whole.
 void MockStick::plug()
+{
+    if (m_pipe.empty()) describe();
+    if (m_port >= 0) ::close(m_port);
+    if (::mkfifo(m_pipe.c_str(), 0600) != 0)
+        throw std::runtime_error(m_pipe + " can't be made: " + std::strerror(errno));
+    m_port = ::open(m_pipe.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+    m_gone = false;
+}
+
+void MockStick::describe()
 {
     GError* error = nullptr;
     umockdev_testbed_add_from_string(
@@ -54,15 +86,20 @@ void MockStick::plug()
         "P: /devices/home/input/input7/event7\nN: input/event7\nE: DEVNAME=/dev/input/event7\n"
         "E: SUBSYSTEM=input\nE: ID_INPUT=1\nE: ID_INPUT_JOYSTICK=1\n",
         &error);
-    ASSERT_EQ(error, nullptr) << error->message;
+    check(error);
     umockdev_testbed_attach_ioctl(m_world->testbed, file, m_world->requests, &error);
-    ASSERT_EQ(error, nullptr) << error->message;
+    check(error);
+    m_pipe = std::getenv("UMOCKDEV_DIR") + std::string(file);
+    ::unlink(m_pipe.c_str());
 }
 
+/// The file is gone at once; what is still open gets an error from then on, and is woken up for it.
 void MockStick::unplug()
 {
-    umockdev_testbed_detach_ioctl(m_world->testbed, file, nullptr);
-    umockdev_testbed_remove_device(m_world->testbed, place);
+    m_gone = true;
+    ::unlink(m_pipe.c_str());
+    const input_event wake{};
+    if (::write(m_port, &wake, sizeof wake) < 0) throw std::runtime_error("the reader isn't woken up");
 }
 
 void MockStick::send(const std::vector<Change>& changes, std::int64_t microseconds)
@@ -80,8 +117,11 @@ void MockStick::send(const std::vector<Change>& changes, std::int64_t microsecon
     };
     for (const Change& change : changes) add(change.type, change.code, change.value);
     add(EV_SYN, SYN_REPORT, 0);
-    const int port = umockdev_testbed_get_dev_fd(m_world->testbed, file);
-    EXPECT_EQ(::write(port, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size())) << std::strerror(errno);
+    pollfd room{m_port, POLLOUT, 0};
+    constexpr int patience = 20'000; // milliseconds, for a reader that is slower
+    ::poll(&room, 1, patience);
+    if (::write(m_port, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
+        throw std::runtime_error(std::string("a report isn't sent: ") + std::strerror(errno));
 }
 
 /// What the kernel would fill the program's buffer with, by the number of the request.
@@ -123,6 +163,13 @@ gboolean MockStick::World::answer(UMockdevIoctlBase*, UMockdevIoctlClient* clien
     umockdev_ioctl_data_update(buffer, 0, reinterpret_cast<guint8*>(answer.data()), static_cast<gint>(answer.size()));
     umockdev_ioctl_data_unref(buffer);
     umockdev_ioctl_client_complete(client, static_cast<glong>(answer.size()), 0);
+    return TRUE;
+}
+
+gboolean MockStick::World::refuse(UMockdevIoctlBase*, UMockdevIoctlClient* client, gpointer self)
+{
+    if (!static_cast<MockStick*>(self)->m_gone) return FALSE;
+    umockdev_ioctl_client_complete(client, -1, ENODEV);
     return TRUE;
 }
 

@@ -2,6 +2,7 @@
 
 #include <linux/input.h>
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,9 +10,11 @@
 namespace tarvex {
 
 /// A stick with throttle and rudder of our own description, as the kernel shows it: a device file that answers the
-/// kernel's requests. Needs umockdev's wrapper around the process.
+/// kernel's requests. Needs umockdev's wrapper around the process; a program that is started from it sees the file,
+/// too. What umockdev refuses is thrown as std::runtime_error.
 class MockStick {
 public:
+    static constexpr const char* file = "/dev/input/event7";
     struct Axis {
         unsigned code;
         int minimum;
@@ -45,8 +48,12 @@ public:
 private:
     struct World;
     std::string contents(unsigned number, std::size_t size) const;
+    void describe();
 
     std::unique_ptr<World> m_world;
+    std::string m_pipe;              ///< what stands for the device file
+    int m_port = -1;                 ///< its writing end
+    std::atomic<bool> m_gone = true; ///< as the kernel reports it; read by umockdev's thread
 };
 
 } // namespace tarvex
