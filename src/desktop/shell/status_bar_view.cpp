@@ -52,6 +52,20 @@ private:
     QIcon m_icon;
 };
 
+/// Gives a label all of its room. A new text then doesn't lay out and paint the whole bar anew, which an analyser would
+/// cause with each frame of the display.
+class TextPlace : public QWidget {
+public:
+    explicit TextPlace(QLabel& label) : QWidget(label.parentWidget()), m_label(label) { m_label.setParent(this); }
+    QSize sizeHint() const override { return {0, m_label.sizeHint().height()}; }
+
+protected:
+    void resizeEvent(QResizeEvent*) override { m_label.setGeometry(rect()); }
+
+private:
+    QLabel& m_label;
+};
+
 } // namespace
 
 StatusBarView::StatusBarView(Mum& mum, QWidget* parent) : QStatusBar(parent)
@@ -70,7 +84,7 @@ void StatusBarView::addPanels(Mum& mum)
     auto* progressText = new ElidedLabel(this);
     progressText->setContentsMargins(4, 0, 4, 0);
     bindPanel(mum.StatusBar.Panels(panel::progress), *progressText);
-    addWidget(progressText, 1);
+    addWidget(new TextPlace(*progressText), 1);
     auto* progress = new QProgressBar(this);
     progress->setFixedWidth(progressWidth);
     progress->setMaximumHeight(fontMetrics().height());

@@ -2,18 +2,18 @@
 
 #include "desktop/text.h"
 
-#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarvex {
 
 namespace {
 
-constexpr int dotStep = 3; // in widths of a line
-constexpr int shortLine = 96;
+constexpr int dotStep = 3;     // in widths of a line
+constexpr int beyondEdge = 96; // pixels; what lies further out is cut
 
 } // namespace
 
@@ -33,8 +33,14 @@ void FieldView::makeCanvas()
     if (m_canvas.size() == wanted) return;
     m_canvas = QImage(wanted, QImage::Format_RGB32);
     m_canvas.setDevicePixelRatio(devicePixelRatioF());
+    clear();
+}
+
+void FieldView::clear()
+{
     m_canvas.fill(toQt(m_field.background()));
-    m_longLines.clear();
+    m_rows.assign(static_cast<std::size_t>(m_canvas.height()), {});
+    m_columns.assign(static_cast<std::size_t>(m_canvas.width()), {});
     update();
 }
 
@@ -42,25 +48,18 @@ void FieldView::flush()
 {
     if (size().isEmpty()) return;
     makeCanvas();
-    if (m_field.isCleared()) {
-        m_canvas.fill(toQt(m_field.background()));
-        m_longLines.clear();
-        update();
-    }
-    QRect crosses;
+    if (m_field.isCleared()) clear();
+    QRect changed;
     for (const Stroke& stroke : m_field.strokes()) {
         const QRect place = placeOf(stroke);
         paint(place, stroke);
-        if (std::max(place.width(), place.height()) < shortLine) {
-            crosses |= place;
-        } else if (changesPicture(place, stroke)) {
-            updateCanvas(place);
-        }
+        if (changesPicture(place, stroke)) changed |= place;
     }
     m_field.painted();
-    if (!crosses.isEmpty()) updateCanvas(crosses);
+    if (!changed.isEmpty()) updateCanvas(changed);
 }
 
+/// As one rectangle: copying the little more is cheaper than clipping to the parts.
 void FieldView::updateCanvas(const QRect& part)
 {
     const double ratio = devicePixelRatioF();
@@ -73,7 +72,7 @@ int FieldView::pixelOf(float coordinate, int pixels) const
 {
     const float range = m_field.high() - m_field.low();
     const float at = (coordinate - m_field.low()) / range * static_cast<float>(pixels - 1);
-    const auto beyond = static_cast<float>(pixels + shortLine);
+    const auto beyond = static_cast<float>(pixels + beyondEdge);
     return static_cast<int>(std::lround(std::clamp(at, -beyond, 2 * beyond)));
 }
 
@@ -89,34 +88,35 @@ QRect FieldView::placeOf(const Stroke& stroke) const
 void FieldView::paint(const QRect& place, const Stroke& stroke)
 {
     const QRect part = place & m_canvas.rect();
+    if (part.isEmpty()) return;
     const QRgb colour = toQt(stroke.colour).rgb();
     const int dot = std::max(1, std::min(place.width(), place.height()));
-    for (int y = part.top(); y <= part.bottom(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(m_canvas.scanLine(y));
+    const auto pixelsInLine = m_canvas.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
+    auto* line = reinterpret_cast<QRgb*>(m_canvas.bits()) + part.top() * pixelsInLine;
+    for (int y = part.top(); y <= part.bottom(); ++y, line += pixelsInLine) {
         for (int x = part.left(); x <= part.right(); ++x) {
             if (!stroke.dotted || (x - place.left() + y - place.top()) / dot % dotStep == 0) line[x] = colour;
         }
     }
 }
 
-/// Whether a long line is new or has another colour. A dotted one never hides a solid one at its place.
+/// A line across the field does only in another colour than before. A dotted one never hides a solid one at its place.
 bool FieldView::changesPicture(const QRect& place, const Stroke& stroke)
 {
-    const auto known = std::ranges::find(m_longLines, place, &LongLine::place);
-    if (known == m_longLines.end()) {
-        m_longLines.push_back({place, stroke.colour});
-        return true;
-    }
-    if (known->colour == stroke.colour) return false;
-    known->colour = stroke.colour;
-    return true;
+    const QRect all = m_canvas.rect();
+    const bool isRow = place.left() <= all.left() && place.right() >= all.right();
+    const bool isColumn = place.top() <= all.top() && place.bottom() >= all.bottom();
+    if (isRow == isColumn) return true;
+    const int at = isRow ? place.top() : place.left();
+    std::vector<std::optional<Colour>>& colours = isRow ? m_rows : m_columns;
+    if (at < 0 || at >= static_cast<int>(colours.size())) return false;
+    return std::exchange(colours[static_cast<std::size_t>(at)], stroke.colour) != stroke.colour;
 }
 
-void FieldView::paintEvent(QPaintEvent* event)
+void FieldView::paintEvent(QPaintEvent*)
 {
     makeCanvas();
     QPainter painter(this);
-    painter.setClipRegion(event->region());
     painter.drawImage(QPointF(0, 0), m_canvas);
 }
 

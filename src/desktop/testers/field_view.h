@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace tarvex {
@@ -30,13 +31,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// A line across the field is drawn again and again; only in another colour does it change what is seen.
-    struct LongLine {
-        QRect place;
-        Colour colour;
-    };
-
     void makeCanvas();
+    void clear();
     QRect placeOf(const Stroke& stroke) const;
     int pixelOf(float coordinate, int pixels) const;
     void paint(const QRect& place, const Stroke& stroke);
@@ -45,7 +41,9 @@ private:
 
     DrawingField& m_field;
     QImage m_canvas; ///< in pixels of the screen
-    std::vector<LongLine> m_longLines;
+    // Lines across the field are drawn again and again: their colours by their first pixel.
+    std::vector<std::optional<Colour>> m_rows;
+    std::vector<std::optional<Colour>> m_columns;
     Bindings m_bindings;
 };
 
