@@ -82,15 +82,13 @@ std::vector<std::string> deviceTexts(const std::vector<JoystickDevice>& devices)
 
 Numbers::Numbers(Editor& theEditor, Joystick& theJoystick) : editor(theEditor), joystick(theJoystick)
 {
-    SavePicture.Caption = "Save picture...";
-    SaveSamples.Caption = "Save samples...";
-    CopySummary.Caption = "Copy summary";
-    StartAgain.Caption = "Start again";
+    SavePicture.Caption = "Save &picture...";
+    SaveSamples.Caption = "Save &samples...";
+    CopySummary.Caption = "&Copy summary";
+    StartAgain.Caption = "Start &again";
     mnuNumbers.handler = [this] {
-        Visible = !Visible;
-        mnuNumbers.Checked = Visible.get();
+        unfold(!Visible);
         editor.shared.platformIni.writeString(joystickSection, "Numbers", Visible ? "1" : "0");
-        refresh();
     };
     SavePicture.handler = [this] {
         saveFile("Save picture", "Pictures (*.png)|*.png", "png", [this] { return picture ? picture() : ""; });
@@ -142,9 +140,15 @@ void Numbers::restart()
 {
     statistics.clear();
     m_refreshed = 0;
-    Visible = editor.shared.platformIni.readInt(joystickSection, "Numbers", 0) != 0;
-    mnuNumbers.Checked = Visible.get();
-    refresh();
+    unfold(editor.shared.platformIni.readInt(joystickSection, "Numbers", 0) != 0);
+}
+
+/// The texts come first: the panel unfolds at their height.
+void Numbers::unfold(bool visible)
+{
+    if (visible) showAll();
+    Visible = visible;
+    mnuNumbers.Checked = visible;
 }
 
 void Numbers::refreshSometimes()
@@ -155,7 +159,11 @@ void Numbers::refreshSometimes()
 
 void Numbers::refresh()
 {
-    if (!Visible) return;
+    if (Visible) showAll();
+}
+
+void Numbers::showAll()
+{
     if (!statistics.samples().empty()) m_refreshed = statistics.samples().back().microseconds;
     JOYCAPS caps;
     joystick.joyGetDevCapsA(caps);

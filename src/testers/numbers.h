@@ -60,6 +60,8 @@ struct Numbers {
     std::vector<Connection> connections;
 
 private:
+    void unfold(bool visible);
+    void showAll();
     void showCells();
     void saveFile(const char* title, const char* filter, const char* extension,
                   const std::function<std::string()>& contents);

@@ -357,6 +357,52 @@ TEST_F(JoyPlotTest, UnpluggingGivesOneMessageAndAFrozenDisplay)
     EXPECT_TRUE(form.JoyTimer.Enabled);
 }
 
+TEST_F(JoyPlotTest, AJoystickThatVanishesAtOpeningGivesOneMessage)
+{
+    open(); // its capabilities could be read
+    joystick.unplug();
+    form.JoyTimer.Tick();
+    ASSERT_EQ(dialogues.boxes.size(), 1U);
+    EXPECT_THAT(lastBox().text, testing::StartsWith("I think your joystick is unplugged"));
+    EXPECT_FALSE(form.JoyTimer.Enabled);
+    EXPECT_TRUE(form.form.isLoaded());
+}
+
+TEST_F(JoyPlotTest, AJoystickThatVanishesWhileADialogueIsUpGivesOneMessage)
+{
+    openPainted();
+    tickAt(100, 200);
+    dialogues.filesToSave.push_back({});
+    dialogues.whileSaving = [&] {
+        joystick.unplug();
+        form.JoyTimer.Tick();
+    };
+    form.numbers.SaveSamples.Click();
+    EXPECT_EQ(dialogues.boxes.size(), 1U);
+    EXPECT_FALSE(form.JoyTimer.Enabled);
+}
+
+TEST_F(JoyPlotTest, AMinuteOfEightThousandReportsASecondIsAllInTheTrail)
+{
+    openPainted();
+    tickAt(0, 0);
+    constexpr int frames = 3'750;
+    constexpr std::uint32_t inFrame = 128;
+    int incomplete = 0;
+    for (int frame = 0; frame < frames; ++frame) {
+        form.PicJoy.painted();
+        for (std::uint32_t i = 0; i < inFrame; ++i) joystick.send(i * 500, 65535 - i * 500, 125);
+        form.JoyTimer.Tick();
+        // Each report but the last has its erased cross and its mark; the last one its cross and the lines, too.
+        const std::size_t expected = inFrame * 4 + 4 + 2 + 12;
+        incomplete += form.PicJoy.strokes().size() == expected ? 0 : 1;
+    }
+    EXPECT_EQ(incomplete, 0);
+    EXPECT_TRUE(form.waiting.empty());
+    EXPECT_EQ(form.numbers.statistics.reports(), 1 + std::size_t{frames} * inFrame);
+    EXPECT_NEAR(form.numbers.statistics.rate(), 8000, 1);
+}
+
 TEST_F(JoyPlotTest, AnyOtherErrorGivesItsOwnMessage)
 {
     openPainted();

@@ -202,6 +202,31 @@ TEST_F(NumbersTest, ADeviceThatCameWhileTheWindowWasClosedIsListed)
     EXPECT_EQ(numbers.Device.Items.get().size(), 2U);
 }
 
+TEST_F(NumbersTest, EachOf32AxesCanBeChosen)
+{
+    JoystickDevice& device = joystick.plugged.front();
+    device.buttons = 128;
+    for (std::size_t i = device.axes.size(); i < mostAxes; ++i) device.axes.push_back({.name = axisName(-1, i)});
+    joystick.devicesChanged();
+    EXPECT_EQ(numbers.Device.Text.get(), "TM F-22 Pro (32 axes, 128 buttons)");
+    ComboBox& rudder = numbers.Axis[axisRole::rudder];
+    ASSERT_EQ(rudder.Items.get().size(), 2 + mostAxes);
+    rudder.Text = "Axis 32";
+    rudder.Click();
+    EXPECT_EQ(joystick.wanted.axes[axisRole::rudder], 31);
+    EXPECT_EQ(rudder.Text.get(), "Axis 32");
+}
+
+TEST_F(NumbersTest, ADeviceWithoutAxesHasNoneToChoose)
+{
+    joystick.plugged.front().axes.clear();
+    joystick.caps.wCaps = 0;
+    joystick.devicesChanged();
+    EXPECT_THAT(numbers.Axis[axisRole::x].Items.get(), ElementsAre("Automatic: none", "None"));
+    send(32768, 1);
+    EXPECT_EQ(cell(axisRole::throttle, 0), "");
+}
+
 TEST_F(NumbersTest, AnotherDeviceStartsWithNothingMeasured)
 {
     send(0, 10);

@@ -217,6 +217,17 @@ TEST_F(TcaTest, EachOfTheFourIndicatorsFollowsItsButton)
     }
 }
 
+TEST_F(TcaTest, OfA128ButtonsThoseBeyondTheIndicatorsAreNamed)
+{
+    open();
+    JoystickReport report;
+    report.buttons.set();
+    joystick.reported(report);
+    form.JoyTimer.Tick();
+    EXPECT_THAT(form.MoreButtons.Caption.get(), testing::StartsWith("Buttons 5, 6, "));
+    EXPECT_THAT(form.MoreButtons.Caption.get(), testing::EndsWith(", 127, 128"));
+}
+
 TEST_F(TcaTest, WithoutItsFileTheBandIsHighAndTheGridMedium)
 {
     open();

@@ -43,31 +43,55 @@ void AnalyserWindow::fill(const std::vector<MenuEntry>& menus, QWidget* middle, 
     fillMenuBar(*bar, menus, m_bindings);
     column->setMenuBar(bar);
     column->addWidget(middle, 1);
-    m_numbers = new NumbersView(m_analyser.numbers, this);
+    Numbers& numbers = m_analyser.numbers;
+    // Showing the panel would lay the window out at its old height first.
+    m_bindings.follow(numbers.Visible, [this] { layout()->setEnabled(false); });
+    m_numbers = new NumbersView(numbers, this);
     column->addWidget(m_numbers);
-    m_bindings.follow(m_analyser.numbers.Visible, [this] { makeRoomForNumbers(m_analyser.numbers.Visible); });
+    m_bindings.follow(numbers.Visible, [this] {
+        layout()->setEnabled(true);
+        makeRoomForNumbers();
+    });
+    for (Label* text : {&numbers.Verdict, &numbers.Rate, &numbers.Kernel})
+        m_bindings.follow(text->Caption, [this] { makeRoomForNumbers(); });
+    makeRoomForNumbers();
     m_analyser.numbers.picture = [this] { return pngOf(field()->canvas()); };
     m_bindings.follow(m_analyser.PicJoy.refreshWanted, [this] { flush(); });
     auto* clock = new JoystickClock(m_analyser, this);
     connect(clock, &JoystickClock::ticked, this, [this] { flush(); });
 }
 
-/// The field keeps its size where the screen has room for that.
-void AnalyserWindow::makeRoomForNumbers(bool shown)
+/// They are as wide as the window, and as high as their texts are in so many lines.
+int AnalyserWindow::heightOfNumbers() const
 {
-    if (!isVisible() || isMaximized()) return;
-    const int height = m_numbers->sizeHint().height() + layout()->spacing();
-    const QRect room = screen()->availableGeometry();
-    const QSize border = frameGeometry().size() - size();
-    resize(width(), std::min(this->height() + (shown ? height : -height), room.height() - border.height()));
-    const int over = frameGeometry().top() + this->height() + border.height() - room.bottom();
-    if (over > 0) move(x(), std::max(room.top(), frameGeometry().top() - over));
+    const QMargins margins = layout()->contentsMargins();
+    return m_numbers->layout()->totalHeightForWidth(width() - margins.left() - margins.right());
 }
 
+/// The window gets higher, where the screen has room for that, and the field keeps its size: another one would lose the
+/// trail. Shorter texts give no room back.
+void AnalyserWindow::makeRoomForNumbers()
+{
+    const int room =
+        m_numbers->isHidden() ? 0 : std::max(m_numbersRoom, heightOfNumbers() + std::max(0, layout()->spacing()));
+    const int change = room - std::exchange(m_numbersRoom, room);
+    if (change == 0) return;
+    m_numbers->setMinimumHeight(std::max(0, room - layout()->spacing()));
+    if (!isVisible() || isMaximized()) return;
+    const QRect available = screen()->availableGeometry();
+    const QSize border = frameGeometry().size() - size();
+    resize(width(), std::min(height() + change, available.height() - border.height()));
+    const int over = frameGeometry().top() + height() + border.height() - available.bottom();
+    if (over > 0) move(x(), std::max(available.top(), frameGeometry().top() - over));
+}
+
+/// Wide enough for the numbers from the start.
 QSize AnalyserWindow::sizeHint() const
 {
-    const int numbers = m_numbers->isHidden() ? 0 : m_numbers->sizeHint().height() + layout()->spacing();
-    return QSize(usualSize.width(), usualSize.height() + numbers).boundedTo(screen()->availableSize() * 9 / 10);
+    const QMargins margins = layout()->contentsMargins();
+    const int width = m_numbers->layout()->minimumSize().width() + margins.left() + margins.right();
+    return QSize(std::max(usualSize.width(), width), usualSize.height() + m_numbersRoom)
+        .boundedTo(screen()->availableSize() * 9 / 10);
 }
 
 void AnalyserWindow::flush()

@@ -23,10 +23,12 @@ protected:
 
 private:
     void flush();
-    void makeRoomForNumbers(bool shown);
+    void makeRoomForNumbers();
+    int heightOfNumbers() const;
 
     Analyser& m_analyser;
     QWidget* m_numbers = nullptr;
+    int m_numbersRoom = 0;            ///< height of the numbers in this window, with the space above them
     std::vector<FieldView*> m_fields; ///< the first one is that of the stick
 };
 

@@ -19,6 +19,7 @@ NumbersView::NumbersView(Numbers& numbers, QWidget* parent) : QWidget(parent), m
     column->addWidget(text(numbers.Kernel, "Kernel"));
     column->addLayout(choices());
     column->addLayout(buttons());
+    column->addStretch();
     QFont strong = font();
     strong.setBold(true);
     findChild<QLabel*>(QStringLiteral("Verdict"))->setFont(strong);

@@ -1,5 +1,6 @@
 #include "desktop/testers/tca_view.h"
 
+#include "desktop/shell/elided_label.h"
 #include "desktop/testers/field_view.h"
 #include "desktop/testers/lamp.h"
 
@@ -52,7 +53,7 @@ QLayout* TcaView::buttonRow(TCAform& window)
         lamp->setAccessibleName(QStringLiteral("Button %1").arg(i + 1));
         row->addWidget(lamp);
     }
-    auto* more = new QLabel(this);
+    auto* more = new ElidedLabel(this); // many buttons must not make the window wider
     more->setObjectName(QStringLiteral("MoreButtons"));
     m_bindings.bind(window.MoreButtons.Caption, [more](const std::string& text) { more->setText(toQt(text)); });
     row->addWidget(more, 1);

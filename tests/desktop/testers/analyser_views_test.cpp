@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -79,6 +80,22 @@ TEST_F(JoyPlotViewTest, EveryReportBetweenTwoFramesIsInTheTrail)
     waitUntil([&] { return form.waiting.empty() && form.PicJoy.strokes().empty(); });
     for (std::uint32_t x = 2000; x < 30000; x += 2000) EXPECT_EQ(at(*field, x, 50000), blue) << x;
     EXPECT_EQ(form.numbers.statistics.reports(), 14U);
+}
+
+TEST_F(JoyPlotViewTest, TheScreenShowsAllThatWasDrawn)
+{
+    const auto onScreen = [&] {
+        return view.screen()
+            ->grabWindow(view.winId())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32)
+            .copy(QRect(field->mapTo(&view, QPoint()), field->size()));
+    };
+    for (const auto& [x, y] : {std::pair(2000U, 50000U), {32768U, 20000U}, {64000U, 1000U}, {32768U, 32768U}}) {
+        joystick.send(x, y);
+        waitUntil([&] { return form.LastX == x && form.PicJoy.strokes().empty(); });
+        waitUntil([&] { return onScreen() == field->canvas(); });
+    }
 }
 
 TEST_F(JoyPlotViewTest, TheCentreLineTurnsGreen)
@@ -162,6 +179,37 @@ TEST_F(JoyPlotViewTest, TheNumbersUnfoldAndTheirButtonsWork)
     EXPECT_NE(clipboard.content.text, "");
 }
 
+TEST_F(JoyPlotViewTest, UnfoldingTheNumbersKeepsTheTrail)
+{
+    joystick.send(60000, 50000);
+    waitUntil([&] { return form.LastX == 60000 && form.PicJoy.strokes().empty(); });
+    const QSize before = field->size();
+    trigger(view, "mnuNumbers");
+    QApplication::processEvents();
+    EXPECT_EQ(field->size(), before);
+    EXPECT_EQ(at(*field, 10000, 20000), blue);
+    trigger(view, "mnuNumbers");
+    QApplication::processEvents();
+    EXPECT_EQ(field->size(), before);
+    EXPECT_EQ(at(*field, 10000, 20000), blue);
+}
+
+TEST_F(JoyPlotViewTest, ALongerVerdictKeepsTheTrail)
+{
+    trigger(view, "mnuNumbers");
+    QApplication::processEvents();
+    const QSize before = field->size();
+    form.numbers.Verdict.Caption =
+        "Centred. 1 spike on X in 60 s: clean or replace that pot. 2 spikes on Y in 60 s: "
+        "clean or replace that pot. 3 spikes on Throttle in 60 s: clean or replace that pot.";
+    QApplication::processEvents();
+    EXPECT_EQ(field->size(), before);
+    form.numbers.Verdict.Caption = "Centred.";
+    QApplication::processEvents();
+    EXPECT_EQ(field->size(), before);
+    EXPECT_EQ(at(*field, 10000, 20000), blue);
+}
+
 TEST_F(JoyPlotViewTest, ReopeningStartsAfresh)
 {
     view.close();
@@ -203,6 +251,16 @@ TEST_F(TcaViewTest, AButtonLightsItsLamp)
     joystick.send();
     waitUntil([&] { return form.JoyButtonAnalogue[1].isHeld(); });
     EXPECT_EQ(view.findChild<QLabel*>("JoyButtonAnalogue_1")->palette().color(QPalette::Window), QColor(255, 192, 128));
+}
+
+TEST_F(TcaViewTest, ManyPressedButtonsDoNotWidenTheWindow)
+{
+    const int width = view.minimumSizeHint().width();
+    JoystickReport report;
+    report.buttons.set();
+    joystick.reported(report);
+    waitUntil([&] { return !form.MoreButtons.Caption.get().empty(); });
+    EXPECT_EQ(view.minimumSizeHint().width(), width);
 }
 
 TEST_F(TcaViewTest, DensityAndSensitivityAreChosenInTheMenu)
