@@ -6,6 +6,7 @@ set -uo pipefail
 program=${1:?the program to walk through}
 place=$(mktemp -d)
 pid=
+runner=() # a command that becomes the program
 
 finish() {
     [ -n "$pid" ] && kill -KILL "$pid" 2>/dev/null
@@ -101,7 +102,7 @@ start() {
     start_again "$@"
 }
 start_again() {
-    "$place/tarvex" "$@" >"$place/output" 2>&1 &
+    "${runner[@]}" "$place/tarvex" "$@" >"$place/output" 2>&1 &
     pid=$!
     expect_title "Tarvex - "
     expect_active "Tarvex - "
