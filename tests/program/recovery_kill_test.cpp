@@ -184,7 +184,7 @@ TEST(RecoveryKill, EveryCharacterThatReachedAPaneBeforeTheKillComesBack)
     Restarted t(disk.path());
     t.dialogues.otherAnswers = [](const MessageBox&) { return Answer::No; };
     ASSERT_TRUE(t.program->exit());
-    EXPECT_TRUE(namesIn(disk / "Recover").empty());
+    EXPECT_EQ(namesIn(disk / "Recover"), std::vector<std::string>());
 }
 
 } // namespace tarvex

@@ -38,6 +38,7 @@ struct DiskProgram {
                                                .commandLine = drives.fromArgument(commandLine)}
     {
         std::filesystem::create_directories(folder + "/drive_c");
+        writer.sweep(folder + "/Recover"); // as each start does
     }
     bool start()
     {

@@ -1,6 +1,7 @@
 #include "platform/posix/posix_append_file.h"
 
 #include "platform/posix/system_error.h"
+#include "platform/posix/temporary_file.h"
 
 #include <aio.h>
 #include <cerrno>
@@ -9,6 +10,10 @@
 namespace tarvex {
 
 namespace {
+
+constexpr mode_t privateMode = 0600;
+
+std::string directoryOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
 
 /// The path, once its directory is there.
 const std::string& inPrivateDirectory(SystemCalls& calls, const std::string& path)
@@ -58,25 +63,45 @@ bool BackgroundSync::hasEnded()
 
 // ---- PosixAppendFile ------------------------------------------------------------------------------------------------
 
-PosixAppendFile::PosixAppendFile(SystemCalls& calls, const std::string& path)
-    : m_file(calls, inPrivateDirectory(calls, path), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW, 0600),
-      m_sync(calls, m_file.descriptor())
+PosixAppendFile::PosixAppendFile(SystemCalls& calls, const std::string& path) : m_calls(calls), m_path(path)
 {
+    m_file.emplace(calls, inPrivateDirectory(calls, path), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW,
+                   privateMode);
+    m_sync.emplace(calls, m_file->descriptor());
     const int folder = O_RDONLY | O_DIRECTORY;
     try {
-        m_directory.emplace(calls, path.substr(0, path.rfind('/') + 1), folder);
+        m_directory.emplace(calls, directoryOf(path), folder);
         m_directorySync.emplace(calls, m_directory->descriptor());
     } catch (const RuntimeError&) { // a folder that may be written but not read: its name has to wait for the system
     }
 }
 
+void PosixAppendFile::append(std::string_view bytes)
+{
+    if (m_isEmpty) return begin(bytes);
+    m_file->writeAll(bytes);
+}
+
+/// In the place of the empty file, which has kept the name for it.
+void PosixAppendFile::begin(std::string_view bytes)
+{
+    TemporaryFile whole(m_calls, directoryOf(m_path), privateMode);
+    whole.file().writeAll(bytes);
+    whole.renameTo(m_path);
+    m_sync.reset(); // before the file that it syncs
+    m_file.reset();
+    m_file.emplace(std::move(whole.file()));
+    m_sync.emplace(m_calls, m_file->descriptor());
+    m_isEmpty = false;
+}
+
 bool PosixAppendFile::sync()
 {
     if (m_directorySync && !m_nameAsked) syncName();
-    return m_sync.start();
+    return m_sync->start();
 }
 
-bool PosixAppendFile::isSynced() { return isNameSynced() && m_sync.hasEnded(); }
+bool PosixAppendFile::isSynced() { return isNameSynced() && m_sync->hasEnded(); }
 
 void PosixAppendFile::syncName()
 {

@@ -32,22 +32,28 @@ private:
     bool m_started = false; ///< and its result not asked for
 };
 
-/// A new file of the disk that grows, for its owner alone. Path and errors are the system's.
+/// A new file of the disk that grows, for its owner alone. Path and errors are the system's. It is empty until all of
+/// the first bytes are there: a process that is killed while it writes them leaves no half of a beginning. They are
+/// written under a temporary name; what is left under one is a matter of removeTemporaryFiles.
 class PosixAppendFile final : public AppendFile {
 public:
     /// Makes the directory when it isn't there. `calls` outlives this.
     PosixAppendFile(SystemCalls& calls, const std::string& path);
 
-    void append(std::string_view bytes) override { m_file.writeAll(bytes); }
+    void append(std::string_view bytes) override;
     bool sync() override;
     bool isSynced() override;
 
 private:
+    void begin(std::string_view bytes);
     void syncName();
     bool isNameSynced();
 
-    OpenFile m_file;
-    BackgroundSync m_sync;
+    SystemCalls& m_calls;
+    std::string m_path;
+    std::optional<OpenFile> m_file;
+    std::optional<BackgroundSync> m_sync;
+    bool m_isEmpty = true;
     std::optional<OpenFile> m_directory; ///< the name of the file has to be safe in it as well
     std::optional<BackgroundSync> m_directorySync;
     bool m_nameAsked = false;

@@ -101,6 +101,21 @@ TEST(PosixAppendFile, EachFailedCallIsReportedAndLeavesNoFileOpen)
     }
 }
 
+TEST(PosixAppendFile, IsEmptyUntilAllOfItsBeginningIsThere)
+{
+    const TemporaryDirectory disk;
+    FaultyCalls calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "");
+    calls.room = 3;
+    EXPECT_THROW(file.append("the beginning"), RuntimeError);
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "") << "none of it";
+    EXPECT_EQ(namesIn(disk / "Recover"), std::vector<std::string>{"1.journal"});
+    calls.room = 100;
+    file.append("the beginning");
+    EXPECT_EQ(bytesOf(disk / "Recover/1.journal"), "the beginning");
+}
+
 TEST(PosixAppendFile, AFolderThatCannotBeOpenedForSyncingDoesNoHarm)
 {
     const TemporaryDirectory disk;

@@ -183,13 +183,14 @@ std::vector<std::string> bringAllBack(Editor& editor, const Offer& offer)
 {
     const Steps step(editor.shared.errors, tag);
     std::vector<std::string> open;
+    // First, so that the new journal names it from its first record on.
+    if (offer.wanted.size() == 1) step([&] { openPartner(editor, offer.wanted.front(), open); });
     for (const LeftJournal& found : offer.wanted) {
         step([&] {
             open.push_back(bringBack(editor, found));
             open.push_back(found.journal.start.path);
         });
     }
-    if (offer.wanted.size() == 1) step([&] { openPartner(editor, offer.wanted.front(), open); });
     step([&] { editor.TabStrip1.Select(sideOf(editor, offer.wanted.front()).tab); });
     Operations& operations = editor.operations;
     step([&] {

@@ -44,6 +44,24 @@ TEST(Recovery, BringsBackBothPanesModifiedAndUndoable)
     EXPECT_EQ(t.journals(), 0U);
 }
 
+/// A journal's first record alone.
+Journal startOf(const std::string& bytes)
+{
+    Journal journal;
+    for (std::size_t size = 0; size <= bytes.size(); ++size)
+        if (readJournal(bytes.substr(0, size), journal) == JournalState::Readable) break;
+    return journal;
+}
+
+TEST(Recovery, AKillRightAfterTheStartStillLeavesBothFilesKnown)
+{
+    OpenPair t;
+    t.typeMacro("gear = g\r\n");
+    t.killAndStart({Answer::Yes});
+    t.diskIsDone();
+    EXPECT_EQ(startOf(t.files.read(t.onlyJournal())).start.partnerPath, joystickPath);
+}
+
 constexpr const char* boxBeginning =
     "Somebody pulled the plug on me last time, before everything was saved. Don't panic: "
     "I'd been taking notes all along, and here's what I've got:\n";
