@@ -90,7 +90,8 @@ Lines count from 1; without a statement both are null.)";
 
 constexpr const char* sheetTeaching =
     R"(The sheet has a page for each controller: its picture, and what its controls do, with
-the layers /U /M /D and /I /O side by side and the keys behind each macro. Without
+the layers /U /M /D and /I /O side by side and the keys behind each macro. What has no
+room in letters that are read from a metre goes on on a second page. Without
 MACROFILE the one is taken that the joystick file's MDEF names, else the one of its
 name, in its folder. OUT ends in .pdf, .svg or .html.)";
 
@@ -206,6 +207,7 @@ void addSheet(CLI::App& app, Work& work)
     command->add_option("MACROFILE", options->macroFile, "its macro file");
     command->add_option("-o,--output", options->output, "the file to write")->type_name("OUT")->required();
     command->add_flag("--letter", options->letter, "US Letter paper instead of A4");
+    command->add_flag("--one-page", options->onePage, "smaller letters rather than a second page for a controller");
 }
 
 void addKey(CLI::App& app, Work& work)

@@ -84,7 +84,9 @@ int sheetCommand(const SheetOptions& options)
                            .joystickText = text,
                            .macroName = macroFile.empty() ? "" : fs::path(displayName(macroFile)).filename().string(),
                            .macroText = macroText};
-    write(options.output, sheetFile(controlSheet(files, today()), *form, options.letter ? sheetLetter : sheetA4));
+    const SheetSpread spread = options.onePage ? SheetSpread::OnePage : SheetSpread::MorePages;
+    write(options.output,
+          sheetFile(controlSheet(files, today()), *form, options.letter ? sheetLetter : sheetA4, spread));
     return exitStatus::done;
 }
 

@@ -1,6 +1,7 @@
 #include "sheet/control_layers.h"
 
 #include "platform/windows1252.h"
+#include "sheet/short_keys.h"
 
 #include <algorithm>
 
@@ -33,47 +34,30 @@ template <typename Take> void eachLine(std::string_view text, Take take)
     }
 }
 
-/// Keys as they are shown beside a macro: raw codes say nothing to a reader, and a long definition would fill the page.
-std::string shownKeys(const std::string& keys)
-{
-    constexpr std::size_t longest = 28;
-    if (upperUtf8(keys).find("RAW") != std::string::npos) return "(raw codes)";
-    if (utf8Length(keys) <= longest) return "(" + keys + ")";
-    return "(" + std::string(utf8Left(keys, longest - 1)) + "…)";
-}
-
-/// A word each, so that lines can break between them.
-void addKeys(std::vector<SheetWord>& words, const std::string& keys)
-{
-    for (std::size_t at = 0; at < keys.size();) {
-        const std::size_t end = std::min(keys.find(' ', at), keys.size());
-        words.push_back({keys.substr(at, end - at), SheetWord::Kind::Keys});
-        at = end + 1;
-    }
-}
-
 /// The modifiers in force while a statement is read.
 class Modifiers {
 public:
     char dogfight = ' ';
     char shift = ' ';
 
-    /// False: the word is no modifier of a layer.
-    bool take(std::string_view word)
+    static bool isOne(std::string_view word)
     {
         const std::string upper = upperWindows1252(word);
-        if (upper == "/U" || upper == "/M" || upper == "/D") {
-            setOuter(Outer::Dogfight);
-            if (m_outer == Outer::Dogfight) shift = ' ';
-            dogfight = upper[1];
-        } else if (upper == "/I" || upper == "/O") {
+        return upper.size() == 2 && upper[0] == '/' && std::string_view("UMDIO").find(upper[1]) != std::string::npos;
+    }
+    /// `word` is one.
+    void take(std::string_view word)
+    {
+        const char letter = upperWindows1252(word)[1];
+        if (letter == 'I' || letter == 'O') {
             setOuter(Outer::Shift);
             if (m_outer == Outer::Shift) dogfight = ' ';
-            shift = upper[1];
+            shift = letter;
         } else {
-            return false;
+            setOuter(Outer::Dogfight);
+            if (m_outer == Outer::Dogfight) shift = ' ';
+            dogfight = letter;
         }
-        return true;
     }
 
 private:
@@ -92,12 +76,40 @@ std::size_t wordsInHead(const std::vector<std::string_view>& words)
     return std::min<std::size_t>(first == "BTN" || first == "RKR" ? 2 : 1, words.size());
 }
 
-void addWord(ControlLayer& layer, std::string_view word, const MacroKeys& macros)
+/// The layers of one position of the dogfight switch, without it.
+std::vector<ControlLayer> layersIn(const std::vector<ControlLayer>& layers, char dogfight)
 {
-    const auto macro = macros.find(word);
-    const bool isMacro = macro != macros.end();
-    layer.words.push_back({utf8FromWindows1252(word), isMacro ? SheetWord::Kind::Macro : SheetWord::Kind::Plain});
-    if (isMacro && !macro->second.empty()) addKeys(layer.words, shownKeys(macro->second));
+    std::vector<ControlLayer> found;
+    for (ControlLayer layer : layers) {
+        if (layer.dogfight != dogfight) continue;
+        layer.dogfight = ' ';
+        found.push_back(std::move(layer));
+    }
+    return found;
+}
+
+/// S3 makes no difference where it does the same held in and out.
+void joinShift(std::vector<ControlLayer>& layers)
+{
+    std::vector<ControlLayer> joined;
+    for (ControlLayer& layer : layers) {
+        const bool alike = !joined.empty() && joined.back().dogfight == layer.dogfight && joined.back().shift != ' ' &&
+                           layer.shift != ' ' && joined.back().shift != layer.shift &&
+                           joined.back().words == layer.words;
+        if (alike)
+            joined.back().shift = ' ';
+        else
+            joined.push_back(std::move(layer));
+    }
+    layers = std::move(joined);
+}
+
+/// The same for the three positions of the dogfight switch.
+void joinDogfight(std::vector<ControlLayer>& layers)
+{
+    const std::vector<ControlLayer> up = layersIn(layers, 'U');
+    if (up.empty() || layers.size() != 3 * up.size()) return;
+    if (layersIn(layers, 'M') == up && layersIn(layers, 'D') == up) layers = up;
 }
 
 } // namespace
@@ -110,10 +122,7 @@ MacroKeys macroKeys(std::string_view macroFile)
         if (equals == std::string_view::npos) return;
         const auto name = wordsOf(line.substr(0, equals));
         if (name.size() != 1) return;
-        std::string keys;
-        for (const std::string_view word : wordsOf(line.substr(equals + 1)))
-            keys += (keys.empty() ? "" : " ") + utf8FromWindows1252(word);
-        macros.try_emplace(std::string(name.front()), std::move(keys));
+        macros.try_emplace(std::string(name.front()), shortKeys(wordsOf(line.substr(equals + 1))));
     });
     return macros;
 }
@@ -125,16 +134,25 @@ std::vector<ControlLayer> controlLayers(std::string_view statement, const MacroK
         for (const std::string_view word : wordsOf(line)) words.push_back(word);
     });
     words.erase(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(wordsInHead(words)));
-    std::vector<ControlLayer> layers(1);
+    std::vector<ControlLayer> layers;
     Modifiers modifiers;
+    std::vector<std::string_view> ofLayer;
+    const auto end = [&] {
+        layers.push_back({modifiers.dogfight, modifiers.shift, shortWords(ofLayer, macros)});
+        ofLayer.clear();
+    };
     for (const std::string_view word : words) {
-        if (modifiers.take(word)) {
-            layers.push_back({modifiers.dogfight, modifiers.shift, {}});
+        if (Modifiers::isOne(word)) {
+            end();
+            modifiers.take(word);
         } else {
-            addWord(layers.back(), word, macros);
+            ofLayer.push_back(word);
         }
     }
+    end();
     std::erase_if(layers, [](const ControlLayer& layer) { return layer.words.empty(); });
+    joinShift(layers);
+    joinDogfight(layers);
     return layers;
 }
 

@@ -7,7 +7,7 @@
 
 namespace tarvex {
 
-/// Keys of the macros (UTF-8) by their names (bytes).
+/// Keys of the macros, as the sheet shows them (UTF-8), by their names (bytes).
 using MacroKeys = std::map<std::string, std::string, std::less<>>;
 
 /// The macros of a macro file (bytes). Of several with one name the first counts; comments don't belong to the keys.
@@ -15,7 +15,7 @@ MacroKeys macroKeys(std::string_view macroFile);
 
 /// A word of what a control does, UTF-8.
 struct SheetWord {
-    enum class Kind { Plain, Macro, Keys };
+    enum class Kind { Plain, Macro, Keys, Modifier };
     std::string text;
     Kind kind = Kind::Plain;
     bool operator==(const SheetWord&) const = default;
@@ -31,7 +31,8 @@ struct ControlLayer {
 };
 
 /// The layers of a statement (bytes), in its order; those that do nothing are left out. The modifier that comes first
-/// is the outer one: the inner one begins anew below it. Each macro is followed by its keys.
+/// is the outer one: the inner one begins anew below it. Each macro is followed by its keys. What a control does in
+/// every position of a switch alike is one layer of any position.
 std::vector<ControlLayer> controlLayers(std::string_view statement, const MacroKeys& macros);
 
 } // namespace tarvex

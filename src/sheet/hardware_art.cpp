@@ -107,6 +107,7 @@ ArtShape shapeOf(const Element& element)
         shape.text = element.text;
         shape.x = numberOf(element, "x");
         shape.y = numberOf(element, "y");
+        shape.isLabel = attribute(element, "fill") == "currentColor";
         shape.size = numberOf(element, "font-size");
         shape.anchor = attribute(element, "text-anchor");
     }

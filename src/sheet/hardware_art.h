@@ -52,7 +52,8 @@ struct ArtShape {
     double x = 0; ///< of the text
     double y = 0;
     double size = 0;
-    std::string anchor; ///< "start", "middle", "end"
+    bool isLabel = false; ///< a text beside the drawing, which has room to grow
+    std::string anchor;   ///< "start", "middle", "end"
 };
 
 struct Art {

@@ -192,7 +192,10 @@ public:
         const Art art = readArt(hardwareDrawing(picture.picture));
         m_stream += "q " + numbers({picture.scale, 0, 0, -picture.scale, picture.x, m_paper.height - picture.y}) +
                     "cm 1 J 1 j\n";
-        for (const ArtShape& shape : art.shapes) paint(art, shape);
+        for (ArtShape shape : art.shapes) {
+            if (shape.isLabel) shape.size = picture.labelSize;
+            paint(art, shape);
+        }
         m_stream += "Q\n";
     }
 

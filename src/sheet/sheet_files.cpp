@@ -16,9 +16,9 @@ std::optional<SheetForm> sheetForm(std::string_view fileName)
     return std::nullopt;
 }
 
-std::string sheetFile(const ControlSheet& sheet, SheetForm form, const SheetPaper& paper)
+std::string sheetFile(const ControlSheet& sheet, SheetForm form, const SheetPaper& paper, SheetSpread spread)
 {
-    const std::vector<LaidOutPage> pages = layOut(sheet, paper);
+    const std::vector<LaidOutPage> pages = layOut(sheet, paper, spread);
     switch (form) {
     case SheetForm::Svg:
         return svgSheet(pages);

@@ -14,6 +14,6 @@ enum class SheetForm { Pdf, Svg, Html };
 std::optional<SheetForm> sheetForm(std::string_view fileName);
 
 /// The bytes of a file with the sheet.
-std::string sheetFile(const ControlSheet& sheet, SheetForm form, const SheetPaper& paper);
+std::string sheetFile(const ControlSheet& sheet, SheetForm form, const SheetPaper& paper, SheetSpread spread);
 
 } // namespace tarvex

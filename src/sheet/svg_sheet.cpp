@@ -40,13 +40,14 @@ void replaceAll(std::string& text, std::string_view from, const std::string& to)
 
 /// What stands within the drawing's outer element, for a place beside other drawings: no ids but those of its
 /// gradients.
-std::string innerDrawing(PictureOf what, const std::string& prefix)
+std::string innerDrawing(const SheetPicture& picture, const std::string& prefix)
 {
-    const std::string_view svg = hardwareDrawing(what);
+    const std::string_view svg = hardwareDrawing(picture.picture);
     const std::size_t start = std::min(svg.find('>'), svg.size() - 1) + 1;
     std::string inner(svg.substr(start, svg.rfind("</svg>") - start));
     replaceAll(inner, "url(#g", "url(#" + prefix + "g");
     replaceAll(inner, "Gradient id=\"g", "Gradient id=\"" + prefix + "g");
+    replaceAll(inner, "font-size=\"15\"", "font-size=\"" + decimal(picture.labelSize) + "\""); // beside the drawing
     replaceAll(inner, "currentColor", "#222222");
     for (std::size_t at = inner.find(" id=\""); at != std::string::npos; at = inner.find(" id=\"", at + 1)) {
         const bool ofGradient = at >= 8 && std::string_view(inner).substr(at - 8, 8) == "Gradient";
@@ -83,7 +84,7 @@ struct Writer {
     std::string operator()(const SheetPicture& picture) const
     {
         return "<g transform=\"translate(" + decimal(picture.x) + " " + decimal(picture.y) + ") scale(" +
-               scaleText(picture.scale) + ")\">" + innerDrawing(picture.picture, prefix) + "</g>\n";
+               scaleText(picture.scale) + ")\">" + innerDrawing(picture, prefix) + "</g>\n";
     }
 };
 

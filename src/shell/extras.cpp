@@ -1,6 +1,7 @@
 #include "shell/extras.h"
 
 #include "shell/composer_extra.h"
+#include "shell/paper_extras.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -18,6 +19,10 @@ constexpr ExtraTick ticks[] = {
     {extraKey::printPageNumbers, "Print page numbers at the foot", "Numbers the pages of printed files", false},
     {extraKey::printFileName, "Print the file's name at the foot", "Names the file on each of its printed pages",
      false},
+    {extraKey::darkenedPaper, "Print the light letters of a dark window darker",
+     "On white paper they would be pale. Colours of a light window are printed as they are", true},
+    {extraKey::sheetOnOnePage, "Keep the sheet of each controller on one page",
+     "Makes its letters smaller where a second page would keep them legible", false},
     {extraKey::showAssigned, "Show in the Composer what the &joystick file has",
      "Marks the controls that have a statement in the joystick file, and shows it under the mouse", true},
     {extraKey::lineNumbers, "Show line numbers beside the text", "The margin on the left of both files", true},

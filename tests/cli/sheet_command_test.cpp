@@ -33,7 +33,7 @@ TEST_F(SheetCommandTest, WritesTheFormOfTheExtension)
 TEST_F(SheetCommandTest, TakesTheMacrosOfTheFileThatMdefNamesInAnyCase)
 {
     EXPECT_EQ(tarvexctl({"sheet", file, "-o", directory / "a.svg"}).status, 0);
-    EXPECT_THAT(made("a.svg"), HasSubstr(">(SPC)<"));
+    EXPECT_THAT(made("a.svg"), HasSubstr(">Spacebar<"));
     EXPECT_THAT(made("a.svg"), HasSubstr("KEYS.M22"));
 }
 
@@ -42,14 +42,14 @@ TEST_F(SheetCommandTest, WithoutMdefTakesTheMacrosOfItsOwnName)
     const std::string other = directory.put("su27.f22", "BTN S1 Fire");
     directory.put("su27.m22", "Fire = ENT\r\n");
     EXPECT_EQ(tarvexctl({"sheet", other, "-o", directory / "a.svg"}).status, 0);
-    EXPECT_THAT(made("a.svg"), HasSubstr(">(ENT)<"));
+    EXPECT_THAT(made("a.svg"), HasSubstr(">Enter<"));
 }
 
 TEST_F(SheetCommandTest, AGivenMacroFileCounts)
 {
     const std::string mine = directory.put("mine.m22", "Fire = x\r\n");
     EXPECT_EQ(tarvexctl({"sheet", file, mine, "-o", directory / "a.svg"}).status, 0);
-    EXPECT_THAT(made("a.svg"), HasSubstr(">(x)<"));
+    EXPECT_THAT(made("a.svg"), HasSubstr(">x<"));
 }
 
 TEST_F(SheetCommandTest, StandardInputHasNoMacrosOfItsOwn)
@@ -63,6 +63,27 @@ TEST_F(SheetCommandTest, LetterIsAnotherPaper)
 {
     EXPECT_EQ(tarvexctl({"sheet", file, "--letter", "-o", directory / "a.pdf"}).status, 0);
     EXPECT_THAT(made("a.pdf"), HasSubstr("/MediaBox [0 0 792.000 612.000 ]"));
+}
+
+TEST_F(SheetCommandTest, ACrowdedControllerHasFurtherPagesUnlessOneIsAskedFor)
+{
+    std::string text = "USE TQS\r\n";
+    for (const char* hat : {"H1", "H2", "H3", "H4"}) {
+        for (const char* way : {"U", "D", "L", "R", "M", "UL", "UR"})
+            text += std::string("BTN ") + hat + way +
+                    " /U /I Look_Left /O Look_Right /M Look_Back /D /I Gear_Up /O Gear_Down\r\n";
+    }
+    const std::string full = directory.put("full.b50", text);
+    const auto pages = [&](const std::vector<std::string>& more) {
+        std::vector<std::string> call{"sheet", full, "-o", directory / "full.pdf"};
+        call.insert(call.end(), more.begin(), more.end());
+        EXPECT_EQ(tarvexctl(call).status, 0);
+        const std::string pdf = made("full.pdf");
+        const std::size_t at = pdf.find("/Count ");
+        return std::stoi(pdf.substr(at + 7));
+    };
+    EXPECT_EQ(pages({"--one-page"}), 2);
+    EXPECT_EQ(pages({}), 3);
 }
 
 TEST_F(SheetCommandTest, AnotherExtensionOrNoOutputIsAWrongCall)

@@ -10,7 +10,7 @@ using Kind = SheetWord::Kind;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const MacroKeys macros{{"Fire", "SPC"}, {"Gear", "g"}, {"Long", std::string(40, 'k')}, {"Pause", "RAW (#E1 #14)"}};
+const MacroKeys macros{{"Fire", "Spacebar"}, {"Gear", "g"}, {"Zoom", "Shift+F6 Up arrow"}};
 
 ControlLayer layer(char dogfight, char shift, std::vector<SheetWord> words)
 {
@@ -20,7 +20,7 @@ ControlLayer layer(char dogfight, char shift, std::vector<SheetWord> words)
 TEST(ControlLayers, AStatementWithoutModifiersIsOneLayer)
 {
     EXPECT_THAT(controlLayers("BTN S1 Fire x", macros),
-                ElementsAre(layer(' ', ' ', {{"Fire", Kind::Macro}, {"(SPC)", Kind::Keys}, {"x", Kind::Plain}})));
+                ElementsAre(layer(' ', ' ', {{"Fire", Kind::Macro}, {"Spacebar", Kind::Keys}, {"x", Kind::Plain}})));
 }
 
 TEST(ControlLayers, ThePositionsOfTheDogfightSwitchAreLayers)
@@ -44,8 +44,7 @@ TEST(ControlLayers, TheDogfightSwitchWithinS3BeginsAnewInBothPositions)
 
 TEST(ControlLayers, ModifiersCountInAnyCaseAndOthersAreWords)
 {
-    EXPECT_THAT(controlLayers("btn s1 /i /P a /R b", macros),
-                ElementsAre(layer(' ', 'I', {{"/P"}, {"a"}, {"/R"}, {"b"}})));
+    EXPECT_THAT(controlLayers("btn s1 /i /T a /B b", macros), ElementsAre(layer(' ', 'I', {{"a"}, {"/B"}, {"b"}})));
 }
 
 TEST(ControlLayers, CommentsAreNoWords)
@@ -68,15 +67,38 @@ TEST(ControlLayers, AnAxisIsNamedByOneWordAndARockerByTwo)
     EXPECT_THAT(controlLayers("RKR UP a", macros), ElementsAre(layer(' ', ' ', {{"a"}})));
 }
 
-TEST(ControlLayers, LongKeysAreCutAndRawCodesOnlyNamed)
+TEST(ControlLayers, EachKeyOfAMacroIsAWord)
 {
-    EXPECT_THAT(controlLayers("BTN S1 Long Pause", macros),
-                ElementsAre(layer(' ', ' ',
-                                  {{"Long", Kind::Macro},
-                                   {"(" + std::string(27, 'k') + "…)", Kind::Keys},
-                                   {"Pause", Kind::Macro},
-                                   {"(raw", Kind::Keys},
-                                   {"codes)", Kind::Keys}})));
+    EXPECT_THAT(
+        controlLayers("BTN S1 Zoom", macros),
+        ElementsAre(layer(
+            ' ', ' ', {{"Zoom", Kind::Macro}, {"Shift+F6", Kind::Keys}, {"Up", Kind::Keys}, {"arrow", Kind::Keys}})));
+}
+
+TEST(ControlLayers, WhatS3DoesNotChangeIsOneLayer)
+{
+    EXPECT_THAT(controlLayers("BTN TG1 /I Fire /O Fire", macros),
+                ElementsAre(layer(' ', ' ', {{"Fire", Kind::Macro}, {"Spacebar", Kind::Keys}})));
+    EXPECT_THAT(controlLayers("BTN S1 /U /I a /O a /M /I a /O b", macros),
+                ElementsAre(layer('U', ' ', {{"a"}}), layer('M', 'I', {{"a"}}), layer('M', 'O', {{"b"}})));
+}
+
+TEST(ControlLayers, WhatTheDogfightSwitchDoesNotChangeIsOneLayer)
+{
+    EXPECT_THAT(controlLayers("BTN S1 /U /I a /O b /M /I a /O b /D /I a /O b", macros),
+                ElementsAre(layer(' ', 'I', {{"a"}}), layer(' ', 'O', {{"b"}})));
+    EXPECT_THAT(controlLayers("BTN S1 /U a /M a /D b", macros),
+                ElementsAre(layer('U', ' ', {{"a"}}), layer('M', ' ', {{"a"}}), layer('D', ' ', {{"b"}})));
+    EXPECT_THAT(controlLayers("BTN S1 /U a /M a", macros),
+                ElementsAre(layer('U', ' ', {{"a"}}), layer('M', ' ', {{"a"}})))
+        << "the third position does nothing";
+}
+
+TEST(ControlLayers, AStatementWithTenThousandModifiersIsRead)
+{
+    std::string statement = "BTN S1";
+    for (int i = 0; i < 10'000; ++i) statement += i % 2 == 0 ? " /I a" : " /O b";
+    EXPECT_EQ(controlLayers(statement, macros).size(), 10'000U);
 }
 
 TEST(ControlLayers, BytesOfTheCodePageBecomeUtf8)
@@ -89,7 +111,7 @@ TEST(MacroKeys, AreWhatStandsBehindTheEqualsSignWithoutComments)
     const MacroKeys keys =
         macroKeys("Rem mine\r\nFire = SPC  Rem bang\r\nTwo Words = x\r\nGear=g\r\nFire = z\r\nNone =\r\n");
     EXPECT_EQ(keys.size(), 3U);
-    EXPECT_EQ(keys.at("Fire"), "SPC");
+    EXPECT_EQ(keys.at("Fire"), "Spacebar");
     EXPECT_EQ(keys.at("Gear"), "g");
     EXPECT_EQ(keys.at("None"), "");
 }

@@ -50,7 +50,7 @@ TEST(ControlSheet, ControlsThatDoNothingAreListedApart)
     EXPECT_THAT(made.pages[0].unused, Contains("S3"));
     EXPECT_THAT(made.pages[0].unused, Contains("H1U"));
     EXPECT_THAT(made.pages[0].unused, Not(Contains("S1")));
-    EXPECT_EQ(made.pages[0].rows.at(0).layers.at(0).words.at(1).text, "(SPC)");
+    EXPECT_EQ(made.pages[0].rows.at(0).layers.at(0).words.at(1).text, "Spacebar");
 }
 
 TEST(ControlSheet, SwaptgDoesItsWorkByItself)

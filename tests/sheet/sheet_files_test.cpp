@@ -43,7 +43,7 @@ TEST(SheetForm, IsThatOfTheExtensionInAnyCase)
 
 TEST(SheetSvg, HasBothPagesBelowEachOtherAndEscapesTexts)
 {
-    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4);
+    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4, SheetSpread::MorePages);
     EXPECT_THAT(svg, StartsWith("<svg xmlns="));
     EXPECT_THAT(svg, HasSubstr("height=\"1190.00pt\""));
     EXPECT_THAT(svg, HasSubstr("mig &amp; co.b50"));
@@ -53,7 +53,7 @@ TEST(SheetSvg, HasBothPagesBelowEachOtherAndEscapesTexts)
 
 TEST(SheetSvg, IdsAreUniqueAndEveryReferenceLeadsToOne)
 {
-    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4);
+    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4, SheetSpread::MorePages);
     std::set<std::string> ids;
     for (std::size_t at = svg.find(" id=\""); at != std::string::npos; at = svg.find(" id=\"", at + 1)) {
         const std::string id = svg.substr(at + 5, svg.find('"', at + 5) - at - 5);
@@ -67,7 +67,7 @@ TEST(SheetSvg, IdsAreUniqueAndEveryReferenceLeadsToOne)
 
 TEST(SheetHtml, IsOnePageOfTheWebWithADrawingForEachController)
 {
-    const std::string html = sheetFile(twoPages(), SheetForm::Html, sheetLetter);
+    const std::string html = sheetFile(twoPages(), SheetForm::Html, sheetLetter, SheetSpread::MorePages);
     EXPECT_THAT(html, StartsWith("<!DOCTYPE html>"));
     EXPECT_THAT(html, HasSubstr("<title>mig &amp; co.b50</title>"));
     EXPECT_EQ(countOf(html, "<svg "), 2U);
@@ -76,7 +76,7 @@ TEST(SheetHtml, IsOnePageOfTheWebWithADrawingForEachController)
 
 TEST(SheetPdf, HasAPageForEachControllerAndATableThatFits)
 {
-    const std::string pdf = sheetFile(twoPages(), SheetForm::Pdf, sheetA4);
+    const std::string pdf = sheetFile(twoPages(), SheetForm::Pdf, sheetA4, SheetSpread::MorePages);
     EXPECT_THAT(pdf, StartsWith("%PDF-1.4"));
     EXPECT_EQ(countOf(pdf, "/Type /Page "), 2U);
     EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 842.000 595.000 ]"));
@@ -91,7 +91,7 @@ TEST(SheetPdf, HasAPageForEachControllerAndATableThatFits)
 
 TEST(SheetPdf, BracketsAndBackslashesAreEscaped)
 {
-    const std::string pdf = sheetFile(twoPages(), SheetForm::Pdf, sheetA4);
+    const std::string pdf = sheetFile(twoPages(), SheetForm::Pdf, sheetA4, SheetSpread::MorePages);
     EXPECT_THAT(pdf, HasSubstr("(\\(a\\))"));
     EXPECT_THAT(pdf, HasSubstr("(\\\\b)"));
 }
@@ -131,6 +131,16 @@ TEST(HardwareArt, ReadsColoursGradientsAndCircles)
     EXPECT_THAT(art.shapes[0].path, StartsWith("M7.00 6.00 C"));
     EXPECT_EQ(art.shapes[1].text, "S1");
     EXPECT_EQ(art.shapes[1].anchor, "end");
+    EXPECT_TRUE(art.shapes[1].isLabel);
+    EXPECT_FALSE(art.shapes[0].isLabel);
+}
+
+TEST(HardwareArt, LabelsBesideTheDrawingsAreOfTheSizeThatTheSheetEnlarges)
+{
+    for (const HardwareDrawing& drawing : hardwareDrawings) {
+        for (const ArtShape& shape : readArt(drawing.svg).shapes)
+            EXPECT_EQ(shape.isLabel, shape.size == SheetPicture().labelSize) << drawing.file << ' ' << shape.text;
+    }
 }
 
 TEST(HardwareArt, DamagedDrawingsAreReadAsFarAsTheyGo)

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tarvex {
 namespace {
 
@@ -17,7 +19,9 @@ std::string joystickText(int layers)
             text += std::string("BTN ") + hat + position;
             for (const char* dogfight : {"/U", "/M", "/D"}) {
                 text += std::string(" ") + dogfight;
-                for (int i = 0; i < layers; ++i) text += i == 0 ? " /I Look_Around_Corner" : " /O Select_Next_Weapon";
+                for (int i = 0; i < layers; ++i)
+                    text +=
+                        (i == 0 ? " /I Look_Around_Corner_" : " /O Select_Next_Weapon_") + std::string(dogfight + 1);
             }
             text += "\r\n";
         }
@@ -25,11 +29,12 @@ std::string joystickText(int layers)
     return text;
 }
 
-std::vector<LaidOutPage> laidOut(const std::string& text, const SheetPaper& paper = sheetA4)
+std::vector<LaidOutPage> laidOut(const std::string& text, const SheetPaper& paper = sheetA4,
+                                 SheetSpread spread = SheetSpread::MorePages)
 {
     return layOut(
         controlSheet({.joystickName = "mig.b50", .joystickText = text, .macroName = {}, .macroText = {}}, "today"),
-        paper);
+        paper, spread);
 }
 
 std::vector<std::string> textsOf(const LaidOutPage& page)
@@ -62,24 +67,79 @@ void expectTidy(const LaidOutPage& page)
     }
 }
 
+double smallestMacro(const LaidOutPage& page)
+{
+    double smallest = 100;
+    for (const SheetItem& item : page.items) {
+        const auto* text = std::get_if<SheetText>(&item);
+        if (text != nullptr && text->text.starts_with("Look")) smallest = std::min(smallest, text->size);
+    }
+    return smallest;
+}
+
+std::size_t picturesOn(const LaidOutPage& page)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(
+        page.items, [](const SheetItem& item) { return std::holds_alternative<SheetPicture>(item); }));
+}
+
 TEST(SheetLayout, AFewControlsArePrintedInTheLargestText)
 {
     const LaidOutPage page = laidOut("BTN S1 Fire\r\nBTN S2 Gear\r\n").at(0);
-    EXPECT_EQ(page.textSize, 14);
+    EXPECT_EQ(page.textSize, 18);
     EXPECT_EQ(page.left, 0U);
     EXPECT_THAT(textsOf(page), testing::IsSupersetOf({"mig.b50", "S1", "Fire", "S2", "Gear", "Control", "does"}));
     expectTidy(page);
 }
 
-TEST(SheetLayout, EveryControlInEveryLayerStillHasRoomOnOnePage)
+TEST(SheetLayout, EveryControlInEveryLayerGoesOnOnFurtherPagesInLegibleLetters)
 {
     for (const SheetPaper& paper : {sheetA4, sheetLetter}) {
         const std::vector<LaidOutPage> pages = laidOut(joystickText(2), paper);
+        ASSERT_GT(pages.size(), 2U) << "the throttle's is the last one";
+        for (const LaidOutPage& page : pages) {
+            EXPECT_EQ(page.left, 0U);
+            EXPECT_GE(page.textSize, legibleText);
+            EXPECT_GE(smallestMacro(page), legibleText);
+            expectTidy(page);
+        }
+        EXPECT_EQ(picturesOn(pages[0]), 1U);
+        EXPECT_EQ(picturesOn(pages[1]), 0U);
+        EXPECT_THAT(textsOf(pages[0]),
+                    testing::Contains(testing::EndsWith(", 1 of " + std::to_string(pages.size() - 1))));
+        for (const char* hat : {"H1U", "H4DR"}) {
+            const auto has = [hat](const LaidOutPage& page) { return std::ranges::count(textsOf(page), hat) > 0; };
+            EXPECT_EQ(std::ranges::count_if(pages, has), 1) << hat;
+        }
+    }
+}
+
+TEST(SheetLayout, OnOnePageTheLettersGetSmallerInstead)
+{
+    for (const SheetPaper& paper : {sheetA4, sheetLetter}) {
+        const std::vector<LaidOutPage> pages = laidOut(joystickText(2), paper, SheetSpread::OnePage);
         ASSERT_EQ(pages.size(), 2U) << "one page for each controller";
         EXPECT_EQ(pages[0].left, 0U);
-        EXPECT_LT(pages[0].textSize, 14);
+        EXPECT_LT(pages[0].textSize, legibleText);
         for (const LaidOutPage& page : pages) expectTidy(page);
     }
+}
+
+TEST(SheetLayout, WhatFitsInLegibleLettersStaysOnOnePage)
+{
+    std::string text = "USE TQS\r\n";
+    for (const char* name : {"S1", "S2", "S4", "TG1", "TG2", "H1U", "H1D", "H1L", "H1R", "H2U", "H2D", "H2L", "H2R"})
+        text += std::string("BTN ") + name + " /U Look_Left /M Look_Right /D Gear\r\n";
+    const std::vector<LaidOutPage> pages = laidOut(text);
+    EXPECT_EQ(pages.size(), 2U);
+    EXPECT_GE(pages[0].textSize, legibleText);
+}
+
+TEST(SheetLayout, LettersAreLargerThanUsualOnlyWhereNoWordIsParted)
+{
+    const LaidOutPage page = laidOut("BTN S1 /U Look_Around_The_Corner /M b /D c").at(0);
+    EXPECT_LE(page.textSize, 14);
+    EXPECT_GT(laidOut("BTN S1 /U Look /M b /D c").at(0).textSize, 14);
 }
 
 TEST(SheetLayout, WhatFindsNoRoomIsCounted)
@@ -90,7 +150,7 @@ TEST(SheetLayout, WhatFindsNoRoomIsCounted)
         for (int word = 0; word < 2000; ++word) text += " macro";
         text += "\r\n";
     }
-    const LaidOutPage page = laidOut(text).at(0);
+    const LaidOutPage page = laidOut(text, sheetA4, SheetSpread::OnePage).at(0);
     EXPECT_GT(page.left, 0U);
     EXPECT_THAT(textsOf(page).back(), testing::StartsWith("No room for " + std::to_string(page.left) + " more. "));
 }
@@ -104,9 +164,54 @@ TEST(SheetLayout, TheDogfightSwitchHasThreeColumnsAndS3Two)
     EXPECT_THAT(texts, testing::Not(testing::Contains("/U dogfight up")));
 }
 
+TEST(SheetLayout, ASwitchThatNoControlComparesMakesNoColumns)
+{
+    const auto texts = textsOf(laidOut("BTN S1 /D c\r\nBTN S2 /I a").at(0));
+    EXPECT_THAT(texts, testing::IsSupersetOf({"does", "/D", "c", "/I", "a"}));
+    EXPECT_THAT(texts, testing::Not(testing::Contains("/U dogfight up")));
+}
+
+TEST(SheetLayout, AControlOfOnePositionHasTheWholeWidthAndNamesIt)
+{
+    const auto texts = textsOf(laidOut("BTN S1 /U a /M b /D c\r\nBTN S2 /D /I d /O e").at(0));
+    EXPECT_THAT(texts, testing::IsSupersetOf({"/D down", "/D /I", "d", "/D /O", "e"}));
+}
+
+TEST(SheetLayout, NeighbouringColumnsThatDoTheSameShareACell)
+{
+    EXPECT_THAT(textsOf(laidOut("BTN S1 /U a /M b /D b").at(0)), testing::IsSupersetOf({"a", "/M /D", "b"}));
+    EXPECT_EQ(std::ranges::count(textsOf(laidOut("BTN S1 /U a /M b /D b").at(0)), "b"), 1);
+}
+
+TEST(SheetLayout, KeysAreSmallerThanTheMacroThatSendsThem)
+{
+    const auto pages = layOut(controlSheet({.joystickName = "mig.b50",
+                                            .joystickText = "BTN S1 Fire",
+                                            .macroName = "mig.m50",
+                                            .macroText = "Fire = SHF F6"},
+                                           ""),
+                              sheetA4, SheetSpread::MorePages);
+    double macro = 0;
+    double keys = 0;
+    for (const SheetItem& item : pages.at(0).items) {
+        if (const auto* text = std::get_if<SheetText>(&item)) {
+            if (text->text == "Fire") macro = text->size;
+            if (text->text == "Shift+F6") keys = text->size;
+        }
+    }
+    EXPECT_EQ(macro, 18);
+    EXPECT_EQ(keys, 13.5);
+}
+
+TEST(SheetLayout, AWordOfThirtyThousandLettersIsLaidOut)
+{
+    const std::string text = "BTN S1 " + std::string(30'000, 'x');
+    EXPECT_EQ(laidOut(text, sheetA4, SheetSpread::OnePage).at(0).left, 1U);
+}
+
 TEST(SheetLayout, S3WithinAColumnIsNamedByItsModifier)
 {
-    EXPECT_THAT(textsOf(laidOut("BTN S1 /U /I a /O b").at(0)), testing::IsSupersetOf({"/I", "a", "/O", "b"}));
+    EXPECT_THAT(textsOf(laidOut("BTN S1 /U /I a /O b /M c").at(0)), testing::IsSupersetOf({"/I", "a", "/O", "b"}));
 }
 
 TEST(SheetLayout, ALongFileNameIsCut)
@@ -114,7 +219,7 @@ TEST(SheetLayout, ALongFileNameIsCut)
     const auto pages = layOut(
         controlSheet(
             {.joystickName = std::string(200, 'x') + ".b50", .joystickText = "", .macroName = {}, .macroText = {}}, ""),
-        sheetA4);
+        sheetA4, SheetSpread::MorePages);
     expectTidy(pages.at(0));
 }
 
@@ -123,12 +228,15 @@ TEST(WordWrap, BreaksBetweenWordsAndInWordsThatAreTooWide)
     const double width = textWidth("one two", 10, false);
     const auto lines = wrapWords({{"one"}, {"two"}, {"three"}}, width, 10);
     ASSERT_EQ(lines.size(), 2U);
-    EXPECT_EQ(lines[0].size(), 2U);
-    EXPECT_EQ(lines[1].at(0).text, "three");
+    EXPECT_EQ(lines[0].words.size(), 2U);
+    EXPECT_FALSE(lines[0].parted);
+    EXPECT_EQ(lines[1].words.at(0).text, "three");
     const auto pieces = wrapWords({{"abcdefghijklmnop"}}, width, 10);
+    EXPECT_TRUE(pieces.at(0).parted);
+    EXPECT_FALSE(pieces.back().parted);
     std::string all;
     for (const PlacedLine& line : pieces) {
-        for (const PlacedWord& word : line) {
+        for (const PlacedWord& word : line.words) {
             EXPECT_LE(word.x + textWidth(word.text, 10, false), width);
             all += word.text;
         }
@@ -136,6 +244,36 @@ TEST(WordWrap, BreaksBetweenWordsAndInWordsThatAreTooWide)
     EXPECT_EQ(all, "abcdefghijklmnop");
     EXPECT_TRUE(wrapWords({}, width, 10).empty());
     EXPECT_EQ(wrapWords({{"ä"}}, 0.1, 10).size(), 1U) << "a letter is never parted";
+}
+
+TEST(WordWrap, AWordThatIsTooWideIsPartedBehindAnUnderscore)
+{
+    const auto lines = wrapWords({{"Look_Around_Corner"}}, textWidth("Look_Around_Cor", 10, false), 10);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].words.at(0).text, "Look_Around_");
+    EXPECT_EQ(lines[1].words.at(0).text, "Corner");
+}
+
+TEST(WordWrap, KeysStayTogetherWhereALineHoldsThem)
+{
+    using Kind = SheetWord::Kind;
+    const std::vector<SheetWord> words{
+        {"Zoom_In", Kind::Macro}, {"Page", Kind::Keys}, {"up", Kind::Keys}, {"or", Kind::Keys}};
+    const auto lines = wrapWords(words, textWidth("Zoom_In Page", 10, true), 10, 3);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].words.size(), 1U);
+    EXPECT_EQ(lines[1].words.size(), 3U);
+    EXPECT_EQ(lines[1].words[0].x, 3) << "hanging";
+    EXPECT_EQ(lines[1].size, 7.5);
+}
+
+TEST(WordWrap, AModifierIsNotLeftAloneBeforeAWordThatHasToBeParted)
+{
+    const auto lines =
+        wrapWords({{"/I", SheetWord::Kind::Modifier}, {"Look_Around"}}, textWidth("/I Look_Ar", 10, false), 10);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].words.size(), 2U);
+    EXPECT_EQ(lines[0].words[1].text, "Look_");
 }
 
 TEST(TextWidth, IsThatOfHelvetica)

@@ -1,7 +1,9 @@
 #include "documents/printing/print_pane.h"
 
+#include "documents/printing/paper_ink.h"
 #include "documents/printing/print_rtf.h"
 #include "platform/dos_path.h"
+#include "shell/paper_extras.h"
 
 namespace tarvex {
 
@@ -15,6 +17,13 @@ struct Foot {
 Foot wantedFoot(const Extras& extras)
 {
     return {.name = extras.on(extraKey::printFileName), .number = extras.on(extraKey::printPageNumbers)};
+}
+
+/// Letters that are light because the window is dark would be pale on paper.
+PaperInk wantedInk(const Extras& extras, const Pane& pane)
+{
+    const bool darkened = isDarkGround(pane.BackColor) && extras.on(extraKey::darkenedPaper);
+    return darkened ? PaperInk(inkOnPaper) : PaperInk();
 }
 
 /// In the middle of the bottom margin, so that it never meets the text.
@@ -41,15 +50,16 @@ bool mayOverwrite(Editor& editor, const std::string& path)
 PrintJob printJob(Editor& editor, const Pane& pane, const std::string& name)
 {
     const Foot foot = wantedFoot(editor.shared.extras);
-    return [&editor, &pane, name, foot](Printer& printer) {
+    return [&editor, &pane, name, foot, ink = wantedInk(editor.shared.extras, pane)](Printer& printer) {
         printer.Print("");
         printer.setFontBold(true);
         printer.Print(name);
         printer.Print("Date printed: " + editor.platform.desktop.longDate());
         printer.setFontBold(false);
         printer.Print("");
-        PrintRTF(printer, pane, printMargin, printMargin, printMargin, printMargin,
-                 [&](int page, const PaperRectangle& text) { printFoot(printer, foot, name, page, text); });
+        PrintRTF(
+            printer, pane, printMargin, printMargin, printMargin, printMargin,
+            [&](int page, const PaperRectangle& text) { printFoot(printer, foot, name, page, text); }, ink);
     };
 }
 

@@ -13,6 +13,18 @@ struct Offset {
     int y;
 };
 
+/// Drops the printer's layout of the text, also when printing fails: the text doesn't outlive PrintRTF.
+class LayoutRelease {
+public:
+    explicit LayoutRelease(Printer& printer) : m_printer(printer) {}
+    ~LayoutRelease() { m_printer.releaseFormat(); }
+    LayoutRelease(const LayoutRelease&) = delete;
+    LayoutRelease& operator=(const LayoutRelease&) = delete;
+
+private:
+    Printer& m_printer;
+};
+
 Offset offsetInTwips(const Printer& printer)
 {
     const auto twips = [](int pixels, float scale) {
@@ -24,7 +36,7 @@ Offset offsetInTwips(const Printer& printer)
 
 } // namespace
 
-StyledText styledText(const Pane& pane)
+StyledText styledText(const Pane& pane, const PaperInk& ink)
 {
     StyledText text{pane.Text(), {}};
     for (const FormatRun& run : pane.runs()) {
@@ -35,14 +47,14 @@ StyledText styledText(const Pane& pane)
                              .bold = look.bold,
                              .italic = look.italic,
                              .underline = look.underline,
-                             .colour = look.colour,
+                             .colour = ink ? ink(look.colour) : look.colour,
                              .indent = look.indent});
     }
     return text;
 }
 
 void PrintRTF(Printer& printer, const Pane& pane, int leftMargin, int topMargin, int rightMargin, int bottomMargin,
-              const PageEnd& pageEnd)
+              const PageEnd& pageEnd, const PaperInk& ink)
 {
     printer.Print(" "); // opens the document, whose device then has its offsets
     const Offset offset = offsetInTwips(printer);
@@ -56,7 +68,8 @@ void PrintRTF(Printer& printer, const Pane& pane, int leftMargin, int topMargin,
         .page = {.left = -offset.x, .top = -offset.y, .right = width - offset.x, .bottom = height - offset.y},
         .start = 0,
         .end = pane.TextLength()};
-    const StyledText text = styledText(pane);
+    const StyledText text = styledText(pane, ink);
+    const LayoutRelease release(printer);
     for (int page = 1;; ++page) {
         const std::size_t next = printer.formatRange(text, range);
         if (pageEnd) pageEnd(page, range.rectangle);
@@ -67,7 +80,6 @@ void PrintRTF(Printer& printer, const Pane& pane, int leftMargin, int topMargin,
         printer.Print(" ");
         range.start = next;
     }
-    printer.releaseFormat();
 }
 
 } // namespace tarvex

@@ -7,6 +7,7 @@
 #include "sheet/sheet_files.h"
 #include "sheet/svg_sheet.h"
 #include "shell/handler.h"
+#include "shell/paper_extras.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,6 +24,11 @@ ControlSheet sheetOf(Editor& editor)
                            .macroName = hasMacros ? editor.tabCaption(editor.macro) : "",
                            .macroText = editor.macro.pane.Text()};
     return controlSheet(files, editor.platform.desktop.longDate());
+}
+
+SheetSpread spreadOf(const Editor& editor)
+{
+    return editor.shared.extras.on(extraKey::sheetOnOnePage) ? SheetSpread::OnePage : SheetSpread::MorePages;
 }
 
 /// Turns the printer to its long side for as long as it lives.
@@ -47,7 +53,7 @@ void preview(Editor& editor, const ControlSheet& sheet)
     const bool shown = step([&] {
         const OnLongSide turned(editor.platform.printers.current());
         editor.platform.printers.preview("Print preview - the controls of " + sheet.fileName, [&](Printer& printer) {
-            printSheet(printer, layOut(sheet, sheetPaper(printer)));
+            printSheet(printer, layOut(sheet, sheetPaper(printer), spreadOf(editor)));
         });
     });
     if (!shown) reportPaperFailure(editor, "The preview of the controls", step.whyNot());
@@ -62,7 +68,7 @@ void save(Editor& editor, const ControlSheet& sheet)
                               .defaultExtension = "pdf"};
     saveExport(editor, request, [&](const std::string& path) {
         const SheetPaper paper = sheetPaper(editor.platform.printers.current());
-        return sheetFile(sheet, sheetForm(path).value_or(SheetForm::Pdf), paper);
+        return sheetFile(sheet, sheetForm(path).value_or(SheetForm::Pdf), paper, spreadOf(editor));
     });
 }
 

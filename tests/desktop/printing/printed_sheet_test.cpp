@@ -63,16 +63,16 @@ protected:
 
 TEST_P(PrintedSheet, AsAFileHasAPictureAndTheTextsOfEachController)
 {
-    const PrintedPages printed(sheetFile(sheetFor(GetParam()), SheetForm::Pdf, sheetA4));
+    const PrintedPages printed(sheetFile(sheetFor(GetParam()), SheetForm::Pdf, sheetA4, SheetSpread::MorePages));
     expectPages(printed);
-    EXPECT_THAT(wordsOf(printed), IsSupersetOf({"Fire", "(SPC)", "Flaps", GetParam().file}));
+    EXPECT_THAT(wordsOf(printed), IsSupersetOf({"Fire", "Spacebar", "Flaps", GetParam().file}));
 }
 
 TEST_P(PrintedSheet, OnThePrinterHasAPictureAndFillsThePaper)
 {
     const PrintedPages printed(QtPrinters("").pdf("sheet", [](Printer& printer) {
         printer.setOrientation(orientation::landscape);
-        printSheet(printer, layOut(sheetFor(GetParam()), sheetA4));
+        printSheet(printer, layOut(sheetFor(GetParam()), sheetA4, SheetSpread::MorePages));
     }));
     expectPages(printed);
     for (std::size_t page = 0; page < printed.pages.size(); ++page)

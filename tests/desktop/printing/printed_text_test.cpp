@@ -6,6 +6,7 @@
 #include "desktop/platform/qt_printers.h"
 #include "documents/printing/print_pane.h"
 #include "documents/printing/print_rtf.h"
+#include "shell/paper_extras.h"
 #include "support/test_program.h"
 
 #include <QApplication>
@@ -81,6 +82,20 @@ TEST_F(PrintedTextTest, ColoursAreThoseOfThePane)
     EXPECT_TRUE(printed.has(0, QColor(255, 0, 0)));
     EXPECT_TRUE(printed.has(0, QColor(0, 128, 0)));
     EXPECT_FALSE(printed.has(0, QColor(0, 0, 255)));
+}
+
+TEST_F(PrintedTextTest, LightLettersOfADarkWindowArePrintedDarkerUnlessTheTickIsOff)
+{
+    pane.setText("BTN S1 fire\r\n");
+    look(0, 11);
+    pane.setSelColor(0x80FFFF); // pale yellow
+    pane.setSelFontSize(30);
+    const QColor pale(255, 255, 128);
+    EXPECT_TRUE(print().has(0, pale)) << "the window is light";
+    pane.BackColor = 0x202020;
+    EXPECT_FALSE(print().has(0, pale));
+    t.program().shared.extras.set(extraKey::darkenedPaper, false);
+    EXPECT_TRUE(print().has(0, pale));
 }
 
 TEST_F(PrintedTextTest, TheTextStandsWithinItsMarginsAndNothingAtTheEdge)

@@ -121,6 +121,7 @@ TEST_F(PrintCommandsTest, APrinterThatFailsHalfWayIsReportedAndTheDocumentGivenU
     t.menus().mnuFilePrintJoystick.Click();
     EXPECT_EQ(printer.ended, 0);
     EXPECT_EQ(printer.killed, 1);
+    EXPECT_EQ(printer.released, 1) << "the printer would lay out the next text in the look of this one";
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "MODULE PrintRTF");
     EXPECT_EQ(t.program().shared.errors.ErrorDescription, "Out of paper");
     EXPECT_THAT(t.lastBox().text, HasSubstr("Out of paper"));

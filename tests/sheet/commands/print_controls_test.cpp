@@ -1,5 +1,6 @@
 #include "sheet/commands/print_controls.h"
 
+#include "shell/paper_extras.h"
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
@@ -32,7 +33,7 @@ TEST_F(PrintControlsTest, SeeAndPrintShowsAPageForEachControllerOnItsLongSide)
     EXPECT_THAT(t.printers.previews, ElementsAre("Print preview - the controls of mig.b50"));
     ASSERT_EQ(t.printers.other.pages.size(), 2U);
     EXPECT_THAT(t.printers.other.pages[0].drawings.at(0), HasSubstr(">fire<"));
-    EXPECT_THAT(t.printers.other.pages[0].drawings.at(0), HasSubstr(">(SPC)<"));
+    EXPECT_THAT(t.printers.other.pages[0].drawings.at(0), HasSubstr(">Spacebar<"));
     EXPECT_THAT(t.printers.other.pages[1].drawings.at(0), HasSubstr(">gear<"));
     EXPECT_EQ(t.printers.printer.orientation, orientation::portrait) << "as it was before";
 }
@@ -48,6 +49,24 @@ TEST_F(PrintControlsTest, SaveWritesTheFormOfTheExtension)
     }
     EXPECT_EQ(t.dialogues.saveRequests.at(0).suggestedName, "mig controls.pdf");
     EXPECT_EQ(t.status(), "mig.html saved");
+}
+
+TEST_F(PrintControlsTest, ATickKeepsACrowdedControllerOnOnePage)
+{
+    std::string text = "USE TQS\r\n";
+    for (const char* hat : {"H1", "H2", "H3", "H4"}) {
+        for (const char* way : {"U", "D", "L", "R", "M", "UL", "UR"})
+            text += std::string("BTN ") + hat + way +
+                    " /U /I Look_Left /O Look_Right /M Look_Back /D /I Gear_Up /O Gear_Down\r\n";
+    }
+    t.editor().JoystickText.setText(text);
+    for (const bool onePage : {false, true}) {
+        t.program().shared.extras.set(extraKey::sheetOnOnePage, onePage);
+        t.dialogues.answers = {Answer::Yes};
+        t.menus().mnuFilePrintControls.Click();
+        EXPECT_EQ(t.printers.other.pages.size(), onePage ? 2U : 3U);
+        t.printers.other.pages.clear();
+    }
 }
 
 TEST_F(PrintControlsTest, CancelDoesNothing)
