@@ -1,5 +1,6 @@
 #include "help/handbook.h"
 
+#include "help/handbook_place.h"
 #include "help/web_links.h"
 #include "shell/help_topics.h"
 
@@ -117,8 +118,14 @@ Handbook::Handbook(Editor& theEditor) : editor(theEditor)
 
 void wireHandbook(Handbook& handbook)
 {
-    handbook.form.Load = [&handbook] { handbook.form.markLoaded(); };
-    handbook.form.Unload = [&handbook] { handbook.form.markUnloaded(); };
+    handbook.form.Load = [&handbook] {
+        readHandbookPlace(handbook);
+        handbook.form.markLoaded();
+    };
+    handbook.form.Unload = [&handbook] {
+        saveHandbookPlace(handbook);
+        handbook.form.markUnloaded();
+    };
     handbook.Back.handler = [&handbook] { step(handbook, true); };
     handbook.Forward.handler = [&handbook] { step(handbook, false); };
     handbook.Home.handler = [&handbook] { showHandbookPage(handbook, ""); };
@@ -132,7 +139,7 @@ void showHandbook(Handbook& handbook)
     const Steps steps;
     steps([&] {
         if (!makeReady(handbook)) return;
-        if (handbook.visited.empty()) visit(handbook, "");
+        if (handbook.visited.empty()) visit(handbook, lastHandbookPage(handbook));
         handbook.form.open();
     });
 }

@@ -48,7 +48,7 @@ struct Handbook {
 
 void wireHandbook(Handbook& handbook);
 
-/// Shows the handbook at its first page, or where it was left if it is open.
+/// Shows the handbook where it was left, in this run or an earlier one; at first at its first page.
 void showHandbook(Handbook& handbook);
 /// Shows a page. A target without a page shows the first one.
 void showHandbookPage(Handbook& handbook, const std::string& target);

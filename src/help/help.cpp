@@ -44,6 +44,7 @@ void wireHelp(Help& help)
     menus.mnuHelpContents.handler = [&help] { mnuHelpContents_Click(help); };
     menus.mnuHowDoIArray.setHandler([&help](int index) { mnuHowDoIArray_Click(help, index); });
     menus.mnuTMhelp.setHandler([&help](int index) { mnuTMhelp_Click(help, index); });
+    menus.mnuInsertQuickTip.handler = [&help] { HelpKeyword(help.handbook, "Escape"); };
     menus.mnuHelpTips.handler = [&dialogues] { showQuietly(dialogues, "frmTip"); };
     menus.mnuHelpAbout.handler = [&dialogues] { showQuietly(dialogues, "frmAbout"); };
     menus.mnuWebTarvex.setHandler(

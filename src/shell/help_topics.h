@@ -13,8 +13,10 @@ constexpr int rawCodes = 2510;
 constexpr int findPage = 3100; ///< the tabs of the find window follow each other: find, replace, go to a line
 constexpr int composer = 4100;
 constexpr int firstPreferencesPage = 5200; ///< and so do the pages of the preferences; that of WinLoad has no number
+constexpr int importing = 5300;
 constexpr int templateEditor = 6100;
 constexpr int imageViewer = 6200;
+constexpr int printing = 6210;
 constexpr int handbook = 6300;
 constexpr int joystickAnalyser = 7021;
 constexpr int controllerAnalyser = 7100;
@@ -32,7 +34,7 @@ constexpr int spiking = 9410;
 
 /// All of them, in order.
 inline constexpr std::array helpTopics = {100,  1400, 2500, 2510, 3100, 3101, 3102, 4100, 5200, 5201, 5202,
-                                          5203, 5204, 5205, 5206, 5208, 6100, 6200, 6300, 7021, 7100, 7300,
-                                          8200, 9010, 9020, 9030, 9040, 9050, 9060, 9070, 9410};
+                                          5203, 5204, 5205, 5206, 5208, 5300, 6100, 6200, 6210, 6300, 7021,
+                                          7100, 7300, 8200, 9010, 9020, 9030, 9040, 9050, 9060, 9070, 9410};
 
 } // namespace tarvex

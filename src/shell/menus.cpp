@@ -7,7 +7,6 @@ Menus::Menus()
     mnuEditUndo.Enabled = false;
     mnuEditRedo.Enabled = false;
     mnuViewMacros.Checked = false;
-    mnuInsertQuickTip.Enabled = false; // it only informs
     for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray}) {
         list->plain = true;
         list->hidesBlanks = true;

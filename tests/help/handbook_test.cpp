@@ -157,6 +157,14 @@ TEST_F(HandbookTest, ANewcomerWithoutAHandbookIsShownNothing)
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
 
+TEST_F(HandbookTest, TheTipOfTheInsertMenuLeadsToWhatEscDoes)
+{
+    system.files["index.txt"] += "keyword\tEscape\tsafein.html#esc\n";
+    EXPECT_TRUE(t.menus().mnuInsertQuickTip.Enabled);
+    t.menus().mnuInsertQuickTip.Click();
+    EXPECT_EQ(target(), "safein.html#esc");
+}
+
 TEST_F(HandbookTest, TheLogicTabsHelpIsAKeyword)
 {
     system.files["index.txt"] += "keyword\tlogic\ttour.html\n";
@@ -290,6 +298,44 @@ TEST_F(HandbookTest, ClosedAndOpenedAgainItIsWhereItWas)
     t.menus().mnuHelpContents.Click();
     EXPECT_EQ(target(), "safein.html");
     EXPECT_TRUE(book.form.Visible);
+}
+
+TEST_F(HandbookTest, PlaceAndPageAreKeptForTheNextRun)
+{
+    keyword("BTN S1");
+    book.form.Left = 1500.0F;
+    book.form.Top = 900.0F;
+    book.form.Width = 9000.0F;
+    book.form.Height = 6000.0F;
+    book.form.Close();
+    Handbook next(t.editor());
+    next.system = &system;
+    wireHandbook(next);
+    showHandbook(next);
+    EXPECT_EQ(next.Target.get(), "btn.html#s1");
+    EXPECT_EQ(next.form.Left, 1500.0F);
+    EXPECT_EQ(next.form.Top, 900.0F);
+    EXPECT_EQ(next.form.Width, 9000.0F);
+    EXPECT_EQ(next.form.Height, 6000.0F);
+}
+
+TEST_F(HandbookTest, APlaceOffTheScreenADamagedSizeAndAPageThatIsGoneAreReplaced)
+{
+    for (const auto& [key, value] : {std::pair("Left", "-99999"), std::pair("Top", "99999"), std::pair("Width", "-7"),
+                                     std::pair("Height", "x"), std::pair("Page", "gone.html")})
+        t.program().shared.platformIni.writeString("Handbook", key, value);
+    t.menus().mnuHelpContents.Click();
+    EXPECT_EQ(target(), "first.html");
+    EXPECT_EQ(book.form.Left, placeOffScreen);
+    EXPECT_EQ(book.form.Top, placeOffScreen);
+    EXPECT_EQ(book.form.Width, 0.0F) << "the view's own";
+}
+
+TEST_F(HandbookTest, TheExitKeepsThePlaceToo)
+{
+    topic(2500);
+    t.menus().mnuFileExit.Click();
+    EXPECT_EQ(t.program().shared.platformIni.readString("Handbook", "Page", ""), "safein.html");
 }
 
 } // namespace

@@ -15,9 +15,7 @@ namespace {
 using Names = std::set<std::string>;
 
 /// Commands whose windows don't exist yet; the views grey them.
-const Names commandsToCome = {
-    "mnuInsertQuickTip",
-};
+const Names commandsToCome = {};
 
 /// Operations that nobody carries out yet.
 const Names operationsToCome = {};

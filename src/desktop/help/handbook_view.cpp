@@ -76,6 +76,9 @@ HandbookView::HandbookView(Handbook& handbook, QWidget* parent)
         markInContents();
     });
     m_bindings.follow(handbook.form.frontWanted, [this] { comeBeforeModalWindow(); });
+    if (handbook.form.Width > 0)
+        resize(
+            QSize(toPixels(handbook.form.Width), toPixels(handbook.form.Height)).boundedTo(screen()->availableSize()));
     m_page->setFocus();
 }
 
