@@ -4,7 +4,7 @@
 # One row per purpose; a package stands in one row only.
 package_table() {
     cat <<'TABLE'
-build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev libsdl2-dev libevdev-dev libxcb1-dev libxcb-xkb-dev libxkbcommon-dev qt6-tools-dev qt6-documentation-tools python3-markdown
+build     cmake ninja-build g++ libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-svg-dev zlib1g-dev libsdl2-dev libevdev-dev libxcb1-dev libxcb-xkb-dev libxkbcommon-dev qt6-tools-dev qt6-documentation-tools python3-markdown
 run       fonts-liberation libqt6sql6-sqlite
 wayland   qt6-wayland
 display   xvfb

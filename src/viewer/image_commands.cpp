@@ -18,6 +18,7 @@ void show(ViewImage& window, const std::string& path)
 {
     window.Picture3 = window.editor.platform.pictures.load(path);
     window.Zoom = 1;
+    window.SavedAs.clear();
     RepositionControls(window);
 }
 
@@ -90,7 +91,8 @@ void mnuImageLoad_Click(ViewImage& window)
     if (!editor.platform.files.fileExists(path)) return sayNotFound(window, path);
     editor.status("Opening " + path);
     const Steps step(editor.shared.errors, "IMAGE mnuImageLoad_Click");
-    if (!step([&] { show(window, path); })) return editor.status(path + " is no picture that I can read");
+    if (!step([&] { show(window, path); }))
+        return editor.status(path + " is no picture that I can read (" + step.whyNot() + ")");
     editor.shared.settings.ImageFilePath = path;
     editor.shared.store.write(Access::SaveApps, "MODULE SaveApps");
     editor.status(path + " successfully opened");
@@ -99,7 +101,8 @@ void mnuImageLoad_Click(ViewImage& window)
 void mnuImageRefresh_Click(ViewImage& window)
 {
     const Steps step(window.editor.shared.errors, "IMAGE mnuImageRefresh_Click");
-    step([&] { show(window, imagePath(window)); });
+    if (!step([&] { show(window, imagePath(window)); }))
+        window.editor.status(imagePath(window) + " couldn't be read again (" + step.whyNot() + ")");
 }
 
 void mnuShowSize_Click(ViewImage& window)
@@ -124,15 +127,17 @@ void mnuFileSave_Click(ViewImage& window)
     const auto& picture = window.Picture3.get();
     if (!picture) return;
     const Steps step(editor.shared.errors, "IMAGE mnuFileSave_Click");
-    const std::string name = fileNameOf(imagePath(window));
+    const std::string& last = window.SavedAs.empty() ? imagePath(window) : window.SavedAs;
+    const std::string name = fileNameOf(last);
     const bool done = step([&] {
         const auto path = editor.platform.dialogues.saveFile({.title = "",
                                                               .filter = "Picture file (*.bmp)|*.bmp",
-                                                              .directory = directoryOf(imagePath(window)),
+                                                              .directory = directoryOf(last),
                                                               .suggestedName = name.substr(0, name.rfind('.')) + ".bmp",
                                                               .defaultExtension = "bmp"});
         if (!path || !agreesToOverwrite(window, *path)) return;
         editor.platform.files.write(*path, editor.platform.pictures.bitmap(*picture));
+        window.SavedAs = *path;
         editor.status(fileNameOf(*path) + " saved");
     });
     if (!done) reportPaperFailure(editor, "Saving the image", step.whyNot());

@@ -14,8 +14,8 @@ namespace tarvex {
 namespace {
 
 constexpr std::string_view above = "..";
-constexpr std::array<std::string_view, 10> extensions{".bmp",  ".dib", ".gif", ".ico",  ".jpg",
-                                                      ".jpeg", ".png", ".svg", ".webp", ".xpm"};
+constexpr std::array<std::string_view, 11> extensions{".bmp", ".dib", ".gif",  ".ico",  ".jpg", ".jpeg",
+                                                      ".png", ".svg", ".svgz", ".webp", ".xpm"};
 
 std::string withBackslash(std::string path)
 {

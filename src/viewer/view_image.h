@@ -42,6 +42,7 @@ struct ViewImage {
     ScrollBar HScroll1;
     ScrollBar VScroll1;
     double Zoom = 1;
+    std::string SavedAs; ///< where the image shown was saved last; empty: not yet
 
     MenuItem mnuFile{"mnuFile", "&File"};
     MenuItem mnuFileSave{"mnuFileSave", "&Save as bitmap..."};

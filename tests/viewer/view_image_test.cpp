@@ -88,7 +88,8 @@ TEST_F(ViewImageTest, AFileThatIsNoPictureLeavesTheOneThatIsShown)
     open("c:\\pictures\\text.bmp");
     EXPECT_EQ(window.Picture3.get()->height(), 480);
     EXPECT_EQ(t.ini("Apps", "ImageFilePath"), "c:\\pictures\\keys.bmp");
-    EXPECT_EQ(t.status(), "c:\\pictures\\text.bmp is no picture that I can read");
+    EXPECT_THAT(t.status(),
+                testing::StartsWith("c:\\pictures\\text.bmp is no picture that I can read (Invalid picture"));
 }
 
 TEST_F(ViewImageTest, APictureSmallerThanTheWindowHasNoScrollBars)
@@ -175,6 +176,20 @@ TEST_F(ViewImageTest, SaveWritesABitmap)
     EXPECT_EQ(t.dialogues.saveRequests.at(0).filter, "Picture file (*.bmp)|*.bmp");
     EXPECT_EQ(t.dialogues.saveRequests.at(0).defaultExtension, "bmp");
     EXPECT_EQ(t.dialogues.saveRequests.at(0).suggestedName, "small.bmp");
+}
+
+TEST_F(ViewImageTest, SaveStartsFromTheLastNameUntilAnotherImageIsOpened)
+{
+    open("c:\\pictures\\small.png");
+    t.dialogues.filesToSave = {"c:\\pictures\\mine\\copy.bmp", "c:\\pictures\\b.bmp", "c:\\pictures\\c.bmp"};
+    t.files.addDirectory("c:\\pictures\\mine");
+    window.mnuFileSave.Click();
+    window.mnuFileSave.Click();
+    EXPECT_EQ(t.dialogues.saveRequests.at(1).suggestedName, "copy.bmp");
+    EXPECT_EQ(t.dialogues.saveRequests.at(1).directory, "c:\\pictures\\mine\\");
+    open("c:\\pictures\\small.png");
+    window.mnuFileSave.Click();
+    EXPECT_EQ(t.dialogues.saveRequests.at(2).suggestedName, "small.bmp");
 }
 
 TEST_F(ViewImageTest, SaveOverAFileAsksFirst)

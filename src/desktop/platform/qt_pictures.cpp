@@ -1,5 +1,7 @@
 #include "desktop/platform/qt_pictures.h"
 
+#include "desktop/platform/drawings/clean_svg.h"
+#include "desktop/platform/drawings/unzipped.h"
 #include "desktop/text.h"
 #include "platform/errors.h"
 #include "platform/posix/drive_map.h"
@@ -12,8 +14,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QUrl>
-#include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 
 namespace tarvex {
 
@@ -24,27 +24,6 @@ constexpr int mostMegabytes = 400; ///< of one picture in memory; 20,000 x 20,00
 [[noreturn]] void fail(const QString& reason)
 {
     throw RuntimeError(ErrorCode::InvalidPicture, "Invalid picture: " + fromQt(reason));
-}
-
-bool leadsOutside(const QXmlStreamAttribute& attribute)
-{
-    const QString value = attribute.value().trimmed().toString();
-    if (attribute.name() == u"href") return !value.startsWith(u'#') && !value.startsWith(QStringLiteral("data:"));
-    return value.contains(QStringLiteral("url(")) && !value.contains(QStringLiteral("url(#"));
-}
-
-void copyElement(const QXmlStreamReader& reader, QXmlStreamWriter& writer)
-{
-    writer.writeStartElement(reader.qualifiedName().toString());
-    for (const QXmlStreamNamespaceDeclaration& declaration : reader.namespaceDeclarations()) {
-        const QString prefix = declaration.prefix().toString();
-        writer.writeAttribute(prefix.isEmpty() ? QStringLiteral("xmlns") : QStringLiteral("xmlns:") + prefix,
-                              declaration.namespaceUri().toString());
-    }
-    for (const QXmlStreamAttribute& attribute : reader.attributes()) {
-        if (!leadsOutside(attribute))
-            writer.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
-    }
 }
 
 QImage drawing(const QByteArray& svg)
@@ -67,38 +46,11 @@ QByteArray wholeDrawing(QIODevice& file)
 {
     constexpr qint64 largest = 32LL * 1024 * 1024;
     if (file.size() > largest) fail(QStringLiteral("the drawing is too large"));
-    return file.readAll();
+    const QByteArray bytes = file.readAll();
+    return isZipped(bytes) ? unzipped(bytes, largest) : bytes;
 }
 
 } // namespace
-
-QByteArray withoutOutsideReferences(const QByteArray& svg)
-{
-    constexpr int deepest = 200; // Qt draws by recursion
-    QByteArray clean;
-    QXmlStreamReader reader(svg);
-    QXmlStreamWriter writer(&clean);
-    reader.setNamespaceProcessing(true);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (++depth > deepest) return {};
-            copyElement(reader, writer);
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            writer.writeEndElement();
-            break;
-        case QXmlStreamReader::Characters:
-            if (!reader.text().contains(QStringLiteral("@import"))) writer.writeCharacters(reader.text().toString());
-            break;
-        default: // declarations, comments and processing instructions, which name style sheets
-            break;
-        }
-    }
-    return reader.hasError() ? QByteArray() : clean;
-}
 
 std::shared_ptr<const LoadedPicture> QtPictures::load(const std::string& path)
 {

@@ -2,7 +2,6 @@
 
 #include "platform/pictures.h"
 
-#include <QByteArray>
 #include <QImage>
 
 namespace tarvex {
@@ -32,9 +31,5 @@ public:
 private:
     const DriveMap& m_drives;
 };
-
-/// The drawing without anything that Qt would fetch from elsewhere: style sheets, entities, and references that lead
-/// out of the document. Empty when the document is malformed or nested too deeply.
-QByteArray withoutOutsideReferences(const QByteArray& svg);
 
 } // namespace tarvex

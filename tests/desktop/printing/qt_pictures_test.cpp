@@ -1,3 +1,5 @@
+#include "desktop/platform/drawings/clean_svg.h"
+#include "desktop/platform/drawings/unzipped.h"
 #include "desktop/platform/qt_pictures.h"
 
 #include "platform/errors.h"
@@ -153,6 +155,80 @@ TEST_F(QtPicturesTest, ADrawingThatIsMalformedOrNestedTooDeeplyIsNoPicture)
     EXPECT_THAT(
         whyNot(put("deep.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='3'>" + deep + "</svg>")),
         testing::StartsWith("Invalid picture"));
+}
+
+/// "<svg ... width='40' height='30'>" with a blue rectangle, zipped.
+QByteArray zippedDrawing()
+{
+    return QByteArray::fromBase64(
+        "H4sIAAAAAAACA1XNMQ7CMAyF4atE6uAtttpOKM5dEDhxpEBRYgjHpx0YOn+/3gv9k933UZ+dQc1eF8Qxhh+L31rGmYhwL8CNcjdl"
+        "WAmcSslqDAtBDE1u9sf5jC6VWhkmogQYw7uL0yaJYTOV5vfZ6XrAcRB/SDlaRYgAAAA=");
+}
+
+TEST_F(QtPicturesTest, AZippedDrawingIsReadLikeAnyOther)
+{
+    const QImage& image = load(put("a.svgz", zippedDrawing()));
+    EXPECT_EQ(image.size(), QSize(40, 30));
+    EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(35, 5), QColor(Qt::white));
+}
+
+TEST_F(QtPicturesTest, AZippedDrawingFetchesNothingEither)
+{
+    const QByteArray drawing = unzipped(zippedDrawing(), 1000);
+    EXPECT_TRUE(drawing.contains("href='other.svg#a'"));
+    EXPECT_FALSE(withoutOutsideReferences(drawing).contains("other.svg"));
+}
+
+TEST_F(QtPicturesTest, AZippedDrawingThatIsCutIsNoPicture)
+{
+    EXPECT_THAT(whyNot(put("cut.svgz", zippedDrawing().chopped(12))), testing::StartsWith("Invalid picture"));
+    EXPECT_THAT(whyNot(put("head.svgz", zippedDrawing().first(10))), testing::StartsWith("Invalid picture"));
+}
+
+TEST(Unzipped, RefusesContentsThatAreLargerThanAllowed)
+{
+    const qsizetype size = unzipped(zippedDrawing(), 1000).size();
+    EXPECT_EQ(unzipped(zippedDrawing(), size).size(), size);
+    EXPECT_TRUE(unzipped(zippedDrawing(), size - 1).isEmpty());
+    EXPECT_TRUE(unzipped("no gzip at all", 1000).isEmpty());
+    EXPECT_TRUE(unzipped({}, 1000).isEmpty());
+}
+
+TEST(WithoutOutsideReferences, EveryReferenceOfAStyleHasToStayInside)
+{
+    const auto cleaned = [](const QByteArray& inner) { return withoutOutsideReferences("<svg>" + inner + "</svg>"); };
+    for (const char* inner :
+         {"<rect style='fill:url(#a) url(http://a.b)'/>", "<rect fill='URL( \"http://a.b\" )'/>",
+          "<style>.a{fill:url(http://a.b)}</style>", "<style>ur<!-- -->l(http://a.b)</style>",
+          "<style>.a{fill:\\75 rl(http://a.b)}</style>", "<style>@font-face{src:url(#a.b)}</style>"})
+        EXPECT_FALSE(cleaned(inner).contains("a.b")) << inner;
+    EXPECT_TRUE(cleaned("<style>.a{fill:url(#b)}</style>").contains("url(#b)"));
+}
+
+TEST_F(QtPicturesTest, APictureOfPixelsStaysAndADrawingThatCallsItselfOneDoesNot)
+{
+    const auto cleaned = [](const QByteArray& bytes) {
+        return withoutOutsideReferences("<svg><image href='data:image/png;base64," + bytes.toBase64() + "'/></svg>");
+    };
+    EXPECT_TRUE(cleaned(encoded(red(4, 3), "PNG")).contains("data:"));
+    EXPECT_FALSE(cleaned("<svg><image href='/etc/secret.png'/></svg>").contains("data:"));
+    EXPECT_FALSE(cleaned(zippedDrawing()).contains("data:"));
+}
+
+TEST(WithoutOutsideReferences, ElementsThatStandForOthersMayNotMultiply)
+{
+    const auto nested = [](int levels) {
+        QByteArray svg = "<svg><g id='a0'><rect/></g>";
+        for (int level = 1; level <= levels; ++level) {
+            const QByteArray use = "<use href='#a" + QByteArray::number(level - 1) + "'/>";
+            svg += "<g id='a" + QByteArray::number(level) + "'>" + use.repeated(10) + "</g>";
+        }
+        return QByteArray(svg + "</svg>");
+    };
+    EXPECT_FALSE(withoutOutsideReferences(nested(2)).isEmpty());
+    EXPECT_TRUE(withoutOutsideReferences(nested(9)).isEmpty());
+    EXPECT_TRUE(withoutOutsideReferences("<svg><g id='a'><use href='#a'/></g></svg>").isEmpty()) << "endless";
 }
 
 TEST(WithoutOutsideReferences, DropsStyleSheetsEntitiesAndAddresses)
