@@ -123,6 +123,8 @@ constexpr std::string_view ofThisMachine =
     "are at the next start, beside files of the same names |\n"
     "| `Extras` | `FilesCopied` |  | `1`: help texts, tips, addresses, picture and sounds have been copied into the "
     "program directory; without it they are at the next start, beside files of the same names |\n"
+    "| `Handbook` | `Left`, `Top`, `Width`, `Height` |  | place of the handbook's window, twips |\n"
+    "| `Handbook` | `Page` |  | the page that it showed last |\n"
     "| `Extras` | `Zoom` | `100` | size of the text in both files, per cent |\n";
 
 std::string extrasRows()
