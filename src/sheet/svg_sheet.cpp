@@ -2,6 +2,7 @@
 
 #include "sheet/hardware_art.h"
 #include "sheet/number_text.h"
+#include "sheet/text_width.h"
 
 #include <algorithm>
 #include <array>
@@ -68,6 +69,8 @@ struct Writer {
                            {"font-family", fonts},
                            {"font-size", decimal(text.size)},
                            {"font-weight", text.bold ? "bold" : "normal"},
+                           {"textLength", decimal(textWidth(text.text, text.size, text.bold))}, // in any font
+                           {"lengthAdjust", "spacingAndGlyphs"},
                            {"fill", hex(text.colour)}}) +
                ">" + escapedForXml(text.text) + "</text>\n";
     }

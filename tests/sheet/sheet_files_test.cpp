@@ -51,6 +51,14 @@ TEST(SheetSvg, HasBothPagesBelowEachOtherAndEscapesTexts)
     EXPECT_THAT(svg, Not(HasSubstr("currentColor")));
 }
 
+TEST(SheetSvg, EveryTextKeepsItsWidthInAFontThatIsWider)
+{
+    const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4, SheetSpread::MorePages);
+    EXPECT_GT(countOf(svg, " textLength=\""), 20U);
+    EXPECT_EQ(countOf(svg, " textLength=\""), countOf(svg, " lengthAdjust=\"spacingAndGlyphs\""));
+    EXPECT_EQ(countOf(svg, " textLength=\"0.00\""), 0U);
+}
+
 TEST(SheetSvg, IdsAreUniqueAndEveryReferenceLeadsToOne)
 {
     const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4, SheetSpread::MorePages);
