@@ -119,11 +119,13 @@ Handbook::Handbook(Editor& theEditor) : editor(theEditor)
 void wireHandbook(Handbook& handbook)
 {
     handbook.form.Load = [&handbook] {
-        readHandbookPlace(handbook);
+        const Steps steps;
+        const Editor& editor = handbook.editor;
+        steps([&] { readHandbookPlace(handbook.form, editor.shared.platformIni, editor.platform.desktop); });
         handbook.form.markLoaded();
     };
     handbook.form.Unload = [&handbook] {
-        saveHandbookPlace(handbook);
+        saveHandbookPlace(handbook.form, handbook.Target.get(), handbook.editor.shared.platformIni);
         handbook.form.markUnloaded();
     };
     handbook.Back.handler = [&handbook] { step(handbook, true); };
@@ -139,7 +141,7 @@ void showHandbook(Handbook& handbook)
     const Steps steps;
     steps([&] {
         if (!makeReady(handbook)) return;
-        if (handbook.visited.empty()) visit(handbook, lastHandbookPage(handbook));
+        if (handbook.visited.empty()) visit(handbook, lastHandbookPage(handbook.editor.shared.platformIni));
         handbook.form.open();
     });
 }

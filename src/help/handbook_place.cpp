@@ -1,6 +1,8 @@
 #include "help/handbook_place.h"
 
-#include "help/handbook.h"
+#include "platform/platform.h"
+#include "shell/errors.h"
+#include "shell/tool_form.h"
 
 #include <cmath>
 
@@ -21,47 +23,31 @@ constexpr PlaceKey placeKeys[] = {
 
 } // namespace
 
-void readHandbookPlace(Handbook& handbook)
+void readHandbookPlace(Form& form, const ProfileFile& ini, const Desktop& desktop)
 {
-    const Steps steps;
-    Form& form = handbook.form;
-    const Desktop& desktop = handbook.editor.platform.desktop;
-    steps([&] {
-        const ProfileFile& ini = handbook.editor.shared.platformIni;
-        for (const PlaceKey& one : placeKeys) {
-            const auto asIs = static_cast<int>(std::lround((form.*one.value).get()));
-            form.*one.value = static_cast<float>(ini.readInt(section, one.key, asIs));
-        }
-    });
+    for (const PlaceKey& one : placeKeys) {
+        const auto asIs = static_cast<int>(std::lround((form.*one.value).get()));
+        form.*one.value = static_cast<float>(ini.readInt(section, one.key, asIs));
+    }
     form.Left = onScreen(form.Left, desktop.screenWidth());
     form.Top = onScreen(form.Top, desktop.screenHeight());
-    if (form.Width < leastSize || form.Height < leastSize) { // the view has a size of its own
+    if (form.Width < leastSize || form.Height < leastSize) {
         form.Width = 0.0F;
         form.Height = 0.0F;
     }
 }
 
-void saveHandbookPlace(const Handbook& handbook)
+void saveHandbookPlace(const Form& form, const std::string& page, ProfileFile& ini)
 {
-    const Steps steps;
-    const Form& form = handbook.form;
-    ProfileFile& ini = handbook.editor.shared.platformIni;
-    const auto write = [&ini](std::string_view key, const std::string& value) {
-        if (ini.readString(section, key, "") != value) ini.writeString(section, key, value);
+    const Steps steps; // a file that can't be written is no reason to keep the window open
+    const auto write = [&](std::string_view key, const std::string& value) {
+        steps([&] { ini.writeString(section, key, value); });
     };
-    if (form.State != WindowState::Minimised) {
-        for (const PlaceKey& one : placeKeys)
-            steps([&] { write(one.key, std::to_string(std::lround((form.*one.value).get()))); });
-    }
-    if (!handbook.Target.get().empty()) steps([&] { write(pageKey, handbook.Target.get()); });
+    for (const PlaceKey& one : placeKeys)
+        if (form.State != WindowState::Minimised) write(one.key, std::to_string(std::lround((form.*one.value).get())));
+    if (!page.empty()) write(pageKey, page);
 }
 
-std::string lastHandbookPage(const Handbook& handbook)
-{
-    std::string page = handbook.Target.get();
-    const Steps steps;
-    if (page.empty()) steps([&] { page = handbook.editor.shared.platformIni.readString(section, pageKey, ""); });
-    return page;
-}
+std::string lastHandbookPage(const ProfileFile& ini) { return ini.readString(section, pageKey, ""); }
 
 } // namespace tarvex

@@ -1,25 +1,14 @@
 #pragma once
 
-#include <map>
-#include <string>
+#include "sheet/sheet_word.h"
+
 #include <string_view>
 #include <vector>
 
 namespace tarvex {
 
-/// Keys of the macros, as the sheet shows them (UTF-8), by their names (bytes).
-using MacroKeys = std::map<std::string, std::string, std::less<>>;
-
 /// The macros of a macro file (bytes). Of several with one name the first counts; comments don't belong to the keys.
 MacroKeys macroKeys(std::string_view macroFile);
-
-/// A word of what a control does, UTF-8.
-struct SheetWord {
-    enum class Kind { Plain, Macro, Keys, Modifier };
-    std::string text;
-    Kind kind = Kind::Plain;
-    bool operator==(const SheetWord&) const = default;
-};
 
 /// What a control does under one position of the dogfight switch ('U', 'M', 'D'; ' ': any) and of S3 ('I' held in, 'O'
 /// out; ' ': either).

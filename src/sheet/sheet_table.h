@@ -1,6 +1,7 @@
 #pragma once
 
-#include "sheet/sheet_layout.h"
+#include "sheet/control_sheet.h"
+#include "sheet/sheet_items.h"
 #include "sheet/word_wrap.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sheet/control_layers.h"
+#include "sheet/sheet_word.h"
 
 #include <string>
 #include <vector>
