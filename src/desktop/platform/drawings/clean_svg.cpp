@@ -98,20 +98,21 @@ private:
         QString targetId = {}; ///< of what a use stands for
         int target = -1;
         double times = 0;
+        double next = 0; ///< what `times` becomes
     };
     /// True: some count is another than before.
     bool countAgain()
     {
-        std::vector<double> times(m_elements.size(), 1);
+        for (Element& element : m_elements) element.next = 1;
         for (std::size_t i = m_elements.size(); i-- > 0;) { // children stand behind their parents
-            const Element& element = m_elements[i];
-            if (element.target >= 0) times[i] += m_elements[static_cast<std::size_t>(element.target)].times;
-            if (element.parent >= 0) times[static_cast<std::size_t>(element.parent)] += times[i];
+            Element& element = m_elements[i];
+            if (element.target >= 0) element.next += m_elements[static_cast<std::size_t>(element.target)].times;
+            if (element.parent >= 0) m_elements[static_cast<std::size_t>(element.parent)].next += element.next;
         }
         bool changed = false;
-        for (std::size_t i = 0; i < times.size(); ++i) {
-            changed = changed || m_elements[i].times != times[i];
-            m_elements[i].times = times[i];
+        for (Element& element : m_elements) {
+            changed = changed || element.times != element.next;
+            element.times = element.next;
         }
         return changed;
     }
