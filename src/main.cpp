@@ -1,13 +1,16 @@
 #include "desktop/application.h"
 #include "desktop/composer/composer_menus.h"
+#include "desktop/documents/files/file_forms.h"
 #include "desktop/generators/generator_forms.h"
 #include "desktop/help/help_windows.h"
 #include "desktop/help/program_files.h"
 #include "desktop/help/qt_help_system.h"
 #include "desktop/lists/list_forms.h"
+#include "desktop/platform/instance_calls.h"
 #include "desktop/platform/qt_clipboard.h"
 #include "desktop/platform/qt_desktop.h"
 #include "desktop/platform/qt_dialogues.h"
+#include "desktop/platform/qt_file_watch.h"
 #include "desktop/platform/qt_keyboard.h"
 #include "desktop/platform/qt_machine.h"
 #include "desktop/platform/qt_pictures.h"
@@ -77,15 +80,41 @@ int print(std::string_view text)
     return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+/// As the list of previous files does it.
+void openPath(tarvex::Program& program, const std::string& path)
+{
+    program.editor.OpeningPath = path;
+    tarvex::OpenPreviouslySavedFiles(program.editor);
+}
+
 void openDropped(tarvex::Program& program, const tarvex::DriveMap& drives, const QStringList& paths)
 {
     const tarvex::Steps step(program.shared.errors, "ED_OLEDragDrop");
-    for (const QString& path : paths) {
-        step([&] {
-            program.editor.OpeningPath = drives.toDos(tarvex::fromQt(path));
-            tarvex::OpenPreviouslySavedFiles(program.editor);
-        });
-    }
+    for (const QString& path : paths) step([&] { openPath(program, drives.toDos(tarvex::fromQt(path))); });
+}
+
+/// Another process of the user wants the window, or a file in it.
+void answerCall(tarvex::Program& program, const tarvex::DriveMap& drives, const tarvex::InstanceRequest& request)
+{
+    if (!request.token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(request.token));
+    program.mum.form.Show();
+    if (request.kind == tarvex::InstanceRequest::Kind::ComeForward)
+        return program.editor.status("Here I am! There's only one of me, so you needn't start me twice.");
+    const tarvex::Steps step(program.shared.errors, "ED_openForOther");
+    step([&] {
+        const std::string path = drives.fromArgument(request.path);
+        if (program.platform.files.fileExists(path)) return openPath(program, path);
+        program.editor.status("I was asked to open " + path + ", but there's no such file.");
+    });
+}
+
+/// The first copy of the program hears what others want; a further one makes the first come forward.
+void connectCopies(tarvex::QtDesktop& desktop, tarvex::InstanceCalls& calls, const std::string& directory)
+{
+    constexpr int patience = 1000; // milliseconds
+    const std::string socket = tarvex::instanceSocket(fromEnvironment("XDG_RUNTIME_DIR"), directory);
+    desktop.whenFirst = [&calls, socket] { calls.listen(socket); };
+    desktop.whenSecond = [socket] { tarvex::askRunningInstance(socket, {}, patience); };
 }
 
 /// The drives that the user chose take the places of those that were found.
@@ -133,6 +162,8 @@ int runProgram(tarvex::Application& application, const std::string& file)
     QtKeyboard keyboard;
     Program program(platform, InputDevices{joystick, keyboard});
     program.help.useSystem(helpSystem);
+    QtFileWatch fileWatch(drives);
+    useFileWatch(program.outsideNotices, fileWatch);
     application.setErrorRecord(&program.shared.errors);
     Appearance appearance(files, platform.programDirectory, program.menus);
     const ThemeView theme(appearance, program.shared.extras);
@@ -142,6 +173,7 @@ int runProgram(tarvex::Application& application, const std::string& file)
     dialogues.addPopUp(program.safein.mnuDelay, program.safein.delayMenu());
     addComposerMenus(dialogues, program.composer);
     dialogues.addPopUp(program.templateEditor.mnuPopShow, program.templateEditor.popUpMenu());
+    addFileForms(dialogues, program.differences, &window);
     addGeneratorForms(dialogues, program.generators, &window);
     addListForms(dialogues, program.lists, &window);
     addPreferencesForm(dialogues, program.preferences, &window);
@@ -149,12 +181,17 @@ int runProgram(tarvex::Application& application, const std::string& file)
     addViewerForms(dialogues, program.imageViewer, &window);
     QObject::connect(&window.editor(), &EditorView::filesDropped, &window,
                      [&](const QStringList& paths) { openDropped(program, drives, paths); });
+    InstanceCalls instanceCalls;
+    connectCopies(desktop, instanceCalls, directory);
+    QObject::connect(&instanceCalls, &InstanceCalls::wanted, &window,
+                     [&](const InstanceRequest& request) { answerCall(program, drives, request); });
     int status = EXIT_SUCCESS;
     copyShippedTemplates(platform, shippedTemplates);
     copyShippedFiles(platform, "FilesCopied", shippedProgramFiles);
     if (program.start() && !desktop.quits()) {
         for (const char* folder : {"", "/Backup", "/Rtf", "/Recover"}) writer.sweep(directory + folder);
         reportLeftCopies(dialogues, writer.leftCopies());
+        instanceCalls.fulfil();
         status = QApplication::exec();
     }
     application.setErrorRecord(nullptr);

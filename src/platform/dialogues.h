@@ -12,14 +12,14 @@ enum class BoxIcon { None, Information, Question, Exclamation };
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class Answer { Ok, Yes, No, Cancel };
 
-/// Texts are UTF-8; line breaks are "\n".
+/// Texts are UTF-8; line breaks are "\n". A caption behind those of the buttons makes one more, which answers Ok.
 struct MessageBox {
     std::string title;
     std::string text;
     BoxIcon icon = BoxIcon::None;
     BoxButtons buttons = BoxButtons::Ok;
     bool secondButtonIsDefault = false;
-    /// Of the first buttons, "&" before the access key; the others keep the system's own.
+    /// Of the first buttons, "&" before the access key; empty and missing ones leave the system's own.
     std::vector<std::string> captions = {};
 };
 

@@ -120,10 +120,10 @@ void wirePanes(Editor& editor)
 
 Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     : platform(thePlatform), shared(thePlatform), editor(thePlatform, shared, mum, menus, operations),
-      colourAsTyped(editor), findAndReplace(editor), findBar(findAndReplace), safein(editor), composer(editor),
-      generators(editor), wizards(editor), templateEditor(editor),
-      testers(editor, devices.value_or(InputDevices{noJoystick, noKeyboard})), imageViewer(editor), lists(editor),
-      preferences(editor, lists), help(editor)
+      colourAsTyped(editor), findAndReplace(editor), findBar(findAndReplace), outsideNotices(editor),
+      differences(editor), lastPair(editor), safein(editor), composer(editor), generators(editor), wizards(editor),
+      templateEditor(editor), testers(editor, devices.value_or(InputDevices{noJoystick, noKeyboard})),
+      imageViewer(editor), lists(editor), preferences(editor, lists), help(editor)
 {
     wireFileMenu(menus, editor);
     wireEditMenu(menus, editor);
@@ -135,6 +135,9 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     wireControlSheet(editor);
     wireFindAndReplace(findAndReplace);
     wireFindBar(findBar);
+    wireDifferences(differences);
+    wireOutsideNotices(outsideNotices);
+    outsideNotices.colour = [this](const Side& side) { colourAsTyped.colourAll(side); };
     wireSafein(safein);
     wireComposer(composer);
     offerComposer(composer);
@@ -156,14 +159,17 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     menus.mnuFileExit.handler = [this] { mnuFileExit_Click({platform, shared, mum, operations}); };
     menus.mnuMumFileExit.handler = [this] { mnuMumFileExit_Click({platform, shared, mum, operations}); };
     operations.ShowEditor = [this] {
-        Form_Load(editor);
+        Form_Load(lastPair);
         offerTemplateRecovery(templateEditor);
     };
     operations.QueryUnloadEditor = [this](bool& cancel) {
         cancel = !Form_QueryUnload(editor) || !closeTemplateEditor(templateEditor);
     };
     operations.CaretLeftLine = [this] { colourAsTyped.lineLeft(); };
-    operations.UnloadEditor = [this] { Form_Unload(editor); };
+    operations.UnloadEditor = [this] {
+        noteLastPair(lastPair);
+        Form_Unload(editor);
+    };
     shared.errors.exitInEmergency = [this] {
         operations.ReleaseGradient();
         for (const char* window : toolWindows) operations.UnloadForm(window);

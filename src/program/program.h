@@ -1,9 +1,12 @@
 #pragma once
 
 #include "composer/insert_options.h"
+#include "documents/files/differences.h"
+#include "documents/files/outside_notice.h"
 #include "documents/find/find_and_replace.h"
 #include "documents/find/find_bar.h"
 #include "documents/pair/editor.h"
+#include "documents/window/last_pair.h"
 #include "generators/generators.h"
 #include "help/help.h"
 #include "language/commands/colour_as_typed.h"
@@ -51,6 +54,9 @@ public:
     ColourAsTyped colourAsTyped;
     FindAndReplace findAndReplace;
     FindBar findBar;
+    OutsideNotices outsideNotices;
+    Differences differences;
+    LastPair lastPair;
     RAWform safein;
     InsertOptions composer;
     Generators generators;

@@ -2,6 +2,7 @@
 
 #include "shell/composer_extra.h"
 #include "shell/paper_extras.h"
+#include "shell/session_extras.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -30,6 +31,10 @@ constexpr ExtraTick ticks[] = {
     {extraKey::darkFiles, "Show the files dark, too, when the windows are dark",
      "Their colours are made lighter on the screen; the colour scheme and printed pages keep them", true},
     {extraKey::colourAsTyped, "Colour as I type", "What I write gets its colours by itself when I pause", false},
+    {extraKey::reloadUnmodified, "Reload a file that another program changed",
+     "Only while I haven't changed it myself; Undo brings the old text back", false},
+    {extraKey::openLastPair, "Open the last pair when I start",
+     "Both files come back as I left them, with the places that I was at", false},
 };
 
 const ExtraTick& rowOf(std::string_view key)

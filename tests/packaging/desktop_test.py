@@ -43,8 +43,9 @@ class Desktop(unittest.TestCase):
         entry = configparser.ConfigParser(interpolation=None)
         entry.optionxform = str
         entry.read(SHARE / "applications/tarvex.desktop")
-        self.assertEqual(entry["Desktop Entry"]["Exec"], "tarvex %f")
-        self.assertTrue((INSTALLED / "bin/tarvex").is_file())
+        self.assertEqual(entry["Desktop Entry"]["Exec"], "tarvex-open %f")
+        for name in ("tarvex-open", "tarvex"):
+            self.assertTrue((INSTALLED / "bin" / name).is_file())
         self.assertEqual(entry["Desktop Entry"]["Icon"], "tarvex")
         for action in entry["Desktop Entry"]["Actions"].strip(";").split(";"):
             self.assertIn(f"Desktop Action {action}", entry)

@@ -5,7 +5,7 @@ import unittest
 
 from installation import INSTALLED, SHARE, program, run
 
-PAGES = ("tarvex", "tarvexctl")
+PAGES = ("tarvex", "tarvex-open", "tarvexctl")
 
 
 def page(name):
@@ -45,8 +45,9 @@ class Manual(unittest.TestCase):
         self.assertEqual(sorted(file.name for file in (INSTALLED / "bin").iterdir()), sorted(PAGES))
         self.assertEqual(sorted(file.stem for file in (SHARE / "man/man1").iterdir()), sorted(PAGES))
 
-    def test_the_page_of_tarvex_has_the_options_of_its_help(self):
-        self.assertEqual(options_of_page(page("tarvex")) - {"h"}, options(program("tarvex", "--help")))
+    def test_the_pages_of_the_programs_with_a_window_have_the_options_of_their_help(self):
+        for name in ("tarvex", "tarvex-open"):
+            self.assertEqual(options_of_page(page(name)) - {"h"}, options(program(name, "--help")))
 
     def test_the_page_of_tarvexctl_has_the_commands_of_its_help(self):
         synopsis = page("tarvexctl").split(".Sh DESCRIPTION")[0]

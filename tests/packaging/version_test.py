@@ -1,4 +1,4 @@
-"""One number stands everywhere: in VERSION, both programs, the change log and the store entry."""
+"""One number stands everywhere: in VERSION, the programs, the change log and the store entry."""
 
 import re
 import unittest
@@ -17,8 +17,9 @@ class Version(unittest.TestCase):
     def releases(self):
         return [(number, date) for number, date in HEADING.findall(self.log) if number != "Unreleased"]
 
-    def test_both_programs_print_it(self):
+    def test_the_programs_print_it(self):
         self.assertEqual(program("tarvex", "--version"), f"Tarvex {VERSION}\n")
+        self.assertEqual(program("tarvex-open", "--version"), f"tarvex-open {VERSION}\n")
         self.assertEqual(program("tarvexctl", "--version"), f"tarvexctl {VERSION}\n")
 
     def test_it_is_the_newest_of_the_change_log(self):

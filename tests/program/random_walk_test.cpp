@@ -60,4 +60,17 @@ TEST(RandomWalk, WhatAnotherProgramWritesIsNotLost)
     EXPECT_GE(walk.keptOutside, steps / 1000) << "there was something to keep";
 }
 
+TEST(RandomWalk, WhatStripsDoLosesNothingThatAnybodyWrote)
+{
+    const unsigned steps = fromEnvironment("TARVEX_STEPS", 10'000);
+    Walk walk(randomSeed());
+    goForAWalk(walk, usualActions(), steps, [](Walk& user) {
+        if (below(user.random, 10) == 0) writeOutside(user);
+        if (below(user.random, 40) == 0) removeOutside(user);
+        if (below(user.random, 5) == 0) answerStrips(user);
+    });
+    if (HasFailure()) return;
+    EXPECT_GE(walk.stripsAnswered, steps / 100) << "there was something to answer";
+}
+
 } // namespace tarvex

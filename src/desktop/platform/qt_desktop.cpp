@@ -25,7 +25,12 @@ QSize screenSize()
 
 } // namespace
 
-bool QtDesktop::anotherInstanceRuns() { return !m_lock.take(m_programDirectory + "/Tarvex.lock"); }
+bool QtDesktop::anotherInstanceRuns()
+{
+    const bool isFirst = m_lock.take(m_programDirectory + "/Tarvex.lock");
+    (isFirst ? whenFirst : whenSecond)();
+    return !isFirst;
+}
 
 void QtDesktop::doEvents()
 {

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "platform/posix/instance_lock.h"
 
+#include <functional>
 #include <string>
 
 namespace tarvex {
@@ -12,7 +13,10 @@ public:
     /// `programDirectory` is a native path; the lock of the single instance lies there.
     explicit QtDesktop(std::string programDirectory) : m_programDirectory(std::move(programDirectory)) {}
 
+    /// Runs `whenFirst` or `whenSecond`.
     bool anotherInstanceRuns() override;
+    std::function<void()> whenFirst = [] {};  ///< this is the one copy of the program
+    std::function<void()> whenSecond = [] {}; ///< another copy runs already
     void doEvents() override;
     void waitForEscape() override;
     float screenWidth() const override;

@@ -119,10 +119,12 @@ void fillBox(QMessageBox& view, const MessageBox& box)
     constexpr std::array order{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
     for (std::size_t i = 0; i < std::min(box.captions.size(), order.size()); ++i) {
         QAbstractButton* const button = view.button(order[i]);
-        if (button == nullptr) continue;
+        if (button == nullptr || box.captions[i].empty()) continue;
         button->setText(toQt(box.captions[i]));
         button->setIcon({}); // the one of Yes or No says something else
     }
+    for (std::size_t i = order.size(); i < box.captions.size(); ++i)
+        view.addButton(toQt(box.captions[i]), QMessageBox::ActionRole);
     const bool twoButtons = box.buttons != BoxButtons::Ok;
     const auto first = twoButtons ? QMessageBox::Yes : QMessageBox::Ok;
     view.setDefaultButton(twoButtons && box.secondButtonIsDefault ? QMessageBox::No : first);

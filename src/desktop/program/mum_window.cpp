@@ -5,6 +5,7 @@
 #include "desktop/documents/find/find_and_replace_view.h"
 #include "desktop/documents/find/find_bar_view.h"
 #include "desktop/documents/window/colour_selector_view.h"
+#include "desktop/documents/window/outside_strip.h"
 #include "desktop/documents/window/toolbar_view.h"
 #include "desktop/help/help_windows.h"
 #include "desktop/icon_theme.h"
@@ -20,6 +21,7 @@
 #include "desktop/viewer/view_image_view.h"
 #include "desktop/wizards/wizard_forms.h"
 #include "documents/editing/pane_keys.h"
+#include "documents/files/outside_notice.h"
 #include "documents/window/editor_window.h"
 #include "documents/window/toolbar.h"
 #include "shell/frame/mum_window.h"
@@ -30,6 +32,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 
@@ -75,6 +78,8 @@ MumWindow::MumWindow(Program& program)
     addMenuBars();
     addShortcuts();
     addFindBar();
+    addOutsideStrips();
+    bindLastPair();
     new TruePathTips(program.platform, this);
     bindTitle();
     makeWhenShown(program.findAndReplace.form, m_bindings,
@@ -155,6 +160,32 @@ void MumWindow::addFindBar()
 {
     auto* bar = new FindBarView(m_program.findBar, this);
     m_editor->setFoot(*bar, m_program.findBar.Visible);
+}
+
+void MumWindow::addOutsideStrips()
+{
+    OutsideNotices& notices = m_program.outsideNotices;
+    for (OutsideNotice* notice : {&notices.joystick, &notices.macro}) {
+        const bool isJoystick = notice == &notices.joystick;
+        auto* strip = new OutsideStrip(
+            *notice, isJoystick ? QStringLiteral("OutsideJoystick") : QStringLiteral("OutsideMacro"), this);
+        m_editor->setHead(notice->side, *strip, notice->Visible);
+    }
+}
+
+/// A pane can scroll to its lines once it has its size and its text.
+void MumWindow::bindLastPair()
+{
+    m_program.lastPair.firstLine = [this](const Side& side) {
+        return m_editor->pane(side).verticalScrollBar()->value();
+    };
+    m_bindings.follow(m_program.lastPair.firstLineWanted, [this](const Side& side, int line) {
+        QTimer::singleShot(0, this, [this, &side, line] {
+            PaneView& pane = m_editor->pane(side);
+            pane.settle();
+            pane.verticalScrollBar()->setValue(line);
+        });
+    });
 }
 
 void MumWindow::bindTitle()
@@ -254,10 +285,12 @@ bool MumWindow::minimisedTooLate()
     return late;
 }
 
-/// From another window of the program the keyboard goes back to the pane; from another program to where it was.
+/// From another window of the program the keyboard goes back to the pane; from another program to where it was. Other
+/// programs may have written to the files meanwhile.
 void MumWindow::cameToTheFront()
 {
     if (!std::exchange(m_wasElsewhere, false)) Form_Activate(m_program.editor);
+    lookForOutsideChanges(m_program.outsideNotices);
 }
 
 /// Tool windows that cover what a command has just brought into sight make room for it.

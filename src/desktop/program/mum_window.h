@@ -38,6 +38,8 @@ private:
     void cameToTheFront();
     void uncover(const Side& side);
     void addFindBar();
+    void addOutsideStrips();
+    void bindLastPair();
     void reportPlace();
     bool minimisedTooLate();
 

@@ -1,5 +1,6 @@
 #include "documents/files/outside_change.h"
 
+#include "documents/files/largest_text.h"
 #include "documents/recovery/recovery_format.h"
 #include "platform/dos_path.h"
 #include "platform/free_path.h"
@@ -41,7 +42,7 @@ std::string outsidePath(const Editor& editor, const Side& side)
     return freePath(editor.platform.files, editor.shared.BackupDirectory, outsideName(fileNameOf(side.FilePath)));
 }
 
-Answer askWhatToDo(Editor& editor, const Side& side)
+Answer askOnce(Editor& editor, const Side& side)
 {
     return editor.platform.dialogues.show(
         {.title = "Whoa ... not so fast!",
@@ -53,7 +54,17 @@ Answer askWhatToDo(Editor& editor, const Side& side)
          .icon = BoxIcon::Exclamation,
          .buttons = BoxButtons::YesNoCancel,
          .secondButtonIsDefault = true,
-         .captions = {"&Save anyway", "Another &name ..."}});
+         .captions = {"&Save anyway", "Another &name ...", "", "Show the &differences ..."}});
+}
+
+Answer askWhatToDo(Editor& editor, const Side& side)
+{
+    Answer answer = askOnce(editor, side);
+    while (answer == Answer::Ok) { // the button beside the usual ones
+        editor.platform.dialogues.showModal("Differences");
+        answer = askOnce(editor, side);
+    }
+    return answer;
 }
 
 std::vector<FileSum> harmlessContents(const Side& side)
@@ -64,6 +75,26 @@ std::vector<FileSum> harmlessContents(const Side& side)
 }
 
 } // namespace
+
+FileNews fileNews(const Editor& editor, const Side& side)
+{
+    using Kind = FileNews::Kind;
+    const FileSystem& files = editor.platform.files;
+    if (!side.Journal.File) return {};
+    if (files.directoryExists(side.FilePath)) return {Kind::Unreadable};
+    const bool isThere = files.stamp(side.FilePath).identity != 0;
+    if (!isThere) return {Kind::Gone};
+    if (isTooLarge(editor, side.FilePath)) return {Kind::TooLarge, {.size = files.stamp(side.FilePath).size}};
+    FileNews news{Kind::Unreadable};
+    const Steps step;
+    step([&] {
+        const FileSum sum = sumOf(files.read(side.FilePath));
+        const auto harmless = harmlessContents(side);
+        const bool isHarmless = std::ranges::find(harmless, sum) != harmless.end();
+        news = isHarmless ? FileNews{} : FileNews{Kind::Changed, sum};
+    });
+    return news;
+}
 
 OutsideChange outsideChange(const Editor& editor, const Side& side)
 {

@@ -18,6 +18,22 @@ enum class OutsideChange {
 };
 OutsideChange outsideChange(const Editor& editor, const Side& side);
 
+/// What became of a document's file since the document last read or wrote it.
+struct FileNews {
+    enum class Kind {
+        None,
+        Changed,    ///< other contents, neither the document's last ones nor its present text
+        Gone,       ///< there is no such file
+        Unreadable, ///< there is something, and it can't be read as a file
+        TooLarge,   ///< it is larger than any text that is opened
+    };
+    Kind kind = Kind::None;
+    FileSum sum = {}; ///< of the contents, as far as they were read
+    bool operator==(const FileNews&) const = default;
+};
+/// A document that never read or wrote its file has none. Never throws.
+FileNews fileNews(const Editor& editor, const Side& side);
+
 enum class Overwriting { Agreed, UnderAnotherName, Cancelled };
 /// Asks the user when the file was changed outside, again for each further change. Agreed: the outside version, if any,
 /// is in the backup directory. Throws RuntimeError when it can't be copied there.

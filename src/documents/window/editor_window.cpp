@@ -87,10 +87,12 @@ std::string whyNotAFile(const FileSystem& files, const std::string& path)
     return "I couldn't open " + path + ": " + step.whyNot();
 }
 
-/// The command line's file wins over a favourite. Text that was brought back is shown in their stead; a file that is no
-/// part of it is opened after the usual question. Returns why the command line's file can't be opened, if it can't.
-std::string openFirstFile(Editor& editor)
+/// The command line's file wins over a favourite, and that over the pair of the last time. Text that was brought back
+/// is shown in their stead; a file that is no part of it is opened after the usual question. Returns why the command
+/// line's file can't be opened, if it can't.
+std::string openFirstFile(LastPair& lastPair)
 {
+    Editor& editor = lastPair.editor;
     Shared& shared = editor.shared;
     const auto broughtBack = offerRecovery(editor);
     std::string whyNot;
@@ -104,6 +106,8 @@ std::string openFirstFile(Editor& editor)
         OpenPreviouslySavedFiles(editor);
     } else if (broughtBack.empty() && !shared.settings.FavNameToLoad.empty() && shared.settings.FavLoadOnStart == 1) {
         openFavourite(editor);
+    } else if (broughtBack.empty()) {
+        openLastPair(lastPair);
     }
     return whyNot;
 }
@@ -142,8 +146,9 @@ void forgetToolWindowPlaces(Shared& shared)
 
 /// The settings, the two empty documents, the lists, and the file to begin with. None of it is the user's edit. Returns
 /// why the command line's file can't be opened, if it can't.
-std::string loadDocuments(Editor& editor, const Steps& step)
+std::string loadDocuments(LastPair& lastPair, const Steps& step)
 {
+    Editor& editor = lastPair.editor;
     Shared& shared = editor.shared;
     Settings& settings = shared.settings;
     Menus& menus = editor.menus;
@@ -166,7 +171,7 @@ std::string loadDocuments(Editor& editor, const Steps& step)
     editor.TabStrip1.Select(editor.joystick.tab);
 
     std::string whyNotOpened;
-    step([&] { whyNotOpened = openFirstFile(editor); });
+    step([&] { whyNotOpened = openFirstFile(lastPair); });
 
     shared.store.read(Access::GetLayoutFonts, "ED_Form_Load");
     return whyNotOpened;
@@ -184,8 +189,9 @@ void tickMenus(Editor& editor)
     menus.mnuMacrosSaveOptions2.Checked = settings.MacroSaveIdentifyJF == 1;
 }
 
-void Form_Load(Editor& editor)
+void Form_Load(LastPair& lastPair)
 {
+    Editor& editor = lastPair.editor;
     const Steps step(editor.shared.errors, "ED_Form_Load");
     Shared& shared = editor.shared;
     Settings& settings = shared.settings;
@@ -194,11 +200,11 @@ void Form_Load(Editor& editor)
     editor.mum.Toolbar1.Visible = true;
     readZoom(editor);
     editor.status("Loading up the main Tarvex Editor .... hang on ....");
-    const std::string whyNotOpened = loadDocuments(editor, step);
+    const std::string whyNotOpened = loadDocuments(lastPair, step);
     UpdateSavedIcon(editor);
     step([&] { editor.operations.UpdateEditorTooltips(); });
     menus.mnuAppsQuiet.Checked = settings.UseQonDownload == 1;
-    showLineNumber(editor, editor.joystick, editor.JoystickText.SelStart());
+    showLineNumber(editor, editor.selected(), editor.selected().pane.SelStart());
     UpdateSavedIcon(editor);
     F22MenusUpdate(editor);
     editor.status(whyNotOpened.empty() ? "Ready! Welcome to Tarvex!" : whyNotOpened);

@@ -95,6 +95,16 @@ void ColourAsTyped::colourNow()
     }
 }
 
+void ColourAsTyped::colourAll(const Side& side)
+{
+    for (OfSide& of : m_sides) {
+        if (of.side.tab != side.tab) continue;
+        of.before.reset();
+        of.known = colouredAnew(side, side.pane.Text());
+        of.side.pane.setFormats(0, of.known.formats);
+    }
+}
+
 /// On a pane of its own, so that neither views nor undo levels see the passes at work.
 ColourAsTyped::Coloured ColourAsTyped::colouredAnew(const Side& side, std::string text) const
 {

@@ -23,6 +23,8 @@ public:
 
     /// Colours what waits for it now.
     void colourNow();
+    /// Colours a whole document now, whether the user wants it while writing or not.
+    void colourAll(const Side& side);
     /// The line that waits for its colours is complete.
     void lineLeft();
 

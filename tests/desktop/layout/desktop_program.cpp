@@ -23,6 +23,7 @@ DesktopProgram::DesktopProgram()
     window = std::make_unique<MumWindow>(*program);
     dialogues.setParent(window.get());
     dialogues.setMenus(&program->menus);
+    addFileForms(dialogues, program->differences, window.get());
     addGeneratorForms(dialogues, program->generators, window.get());
     addListForms(dialogues, program->lists, window.get());
     addPreferencesForm(dialogues, program->preferences, window.get());

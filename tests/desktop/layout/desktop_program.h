@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/documents/files/file_forms.h"
 #include "desktop/generators/generator_forms.h"
 #include "desktop/help/help_windows.h"
 #include "desktop/lists/list_forms.h"

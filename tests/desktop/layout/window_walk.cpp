@@ -1,5 +1,7 @@
 #include "window_walk.h"
 
+#include "documents/files/outside_notice.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -21,7 +23,7 @@ namespace {
 const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
 
 /// Forms that only other forms show.
-constexpr const char* withoutCommand[] = {"FilesHome", "Import", "SelectPictureForm"};
+constexpr const char* withoutCommand[] = {"Differences", "FilesHome", "Import", "SelectPictureForm"};
 
 } // namespace
 
@@ -45,11 +47,25 @@ void WindowWalk::run()
     for (const QString& name : commands()) trigger(name);
     m_desktop.program->shared.settings.UseTCA = 1;
     trigger(QStringLiteral("mnuAppsJoyAnalyser"));
+    changeOutside();
     for (const char* form : withoutCommand) {
         m_command = form;
         m_desktop.dialogues.showModal(form);
     }
+    m_desktop.program->outsideNotices.joystick.Reload.Click();
     clickButtons();
+}
+
+/// Another program has changed both files, and the window says so.
+void WindowWalk::changeOutside()
+{
+    m_desktop.openPair();
+    m_command = "a change by another program";
+    for (const Side* side : {&m_desktop.program->editor.joystick, &m_desktop.program->editor.macro})
+        m_desktop.machine.files.addFile(side->FilePath, "Rem theirs\r\n");
+    lookForOutsideChanges(m_desktop.program->outsideNotices);
+    QApplication::processEvents();
+    look(*m_desktop.window);
 }
 
 void WindowWalk::clickButtons()

@@ -32,6 +32,7 @@ protected:
 private:
     QStringList commands() const;
     void trigger(const QString& name);
+    void changeOutside();
     void clickButtons();
     void lookAtAllPages(QWidget& window);
     void lookAtModal();

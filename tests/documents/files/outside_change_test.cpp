@@ -125,7 +125,8 @@ TEST_F(OutsideChangeTest, TheBoxOffersToSaveToRenameAndToCancel)
               "c:\\tarvex\\Backup\\mig-outside.b50\n\nOr give yours another name, and you'll have both. Or cancel, and "
               "have a look at what's there.");
     EXPECT_EQ(t.lastBox().buttons, BoxButtons::YesNoCancel);
-    EXPECT_EQ(t.lastBox().captions, (std::vector<std::string>{"&Save anyway", "Another &name ..."}));
+    EXPECT_EQ(t.lastBox().captions,
+              (std::vector<std::string>{"&Save anyway", "Another &name ...", "", "Show the &differences ..."}));
     EXPECT_TRUE(t.lastBox().secondButtonIsDefault) << "Return loses neither version";
     EXPECT_EQ(t.lastBox().icon, BoxIcon::Exclamation);
 }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <random>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -36,6 +37,8 @@ public:
     Random random;
     std::map<std::string, std::string> saved;   ///< what each file has to hold
     std::map<std::string, std::string> outside; ///< what other programs wrote, by path, until a document has read it
+    std::set<std::string> removed;              ///< files that other programs have removed, and nobody has made again
+    unsigned stripsAnswered = 0;                ///< that spoke of such changes
     unsigned keptOutside = 0;                   ///< how many of those were overwritten, and kept elsewhere
     unsigned broughtBack = 0;                   ///< texts, after the program was killed
     unsigned damagedJournals = 0;               ///< that were noticed as such
@@ -77,6 +80,11 @@ const Action& nextAction(Random& random, std::span<const Action> all);
 
 /// Another program writes to one of the files.
 void writeOutside(Walk& walk);
+
+/// Another program removes the file of a document.
+void removeOutside(Walk& walk);
+/// The user comes back to the window, and answers what it says of other programs, or doesn't.
+void answerStrips(Walk& walk);
 
 /// The program ends in an orderly way, which leaves nothing behind, and comes up again.
 void exitAndRestart(Walk& walk);

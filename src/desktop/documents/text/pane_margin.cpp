@@ -1,6 +1,8 @@
 #include "desktop/documents/text/pane_margin.h"
 
 #include "desktop/documents/text/mark_colours.h"
+#include "desktop/readable.h"
+#include "shell/dark_colours.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -37,6 +39,18 @@ void paintErrorMark(QPainter& painter, const QRect& place)
 
 } // namespace
 
+/// A ground between light and dark leaves little contrast: there the strip gives the numbers more of it.
+MarginColours marginColours(const QColor& ground)
+{
+    constexpr double ample = 7;
+    constexpr double tint = 0.06;
+    const bool dark = isDark(toColour(ground));
+    const QColor ink = dark ? Qt::white : Qt::black;
+    QColor strip = mixed(ground, ink, tint);
+    if (contrastOf(toColour(ink), toColour(strip)) < ample) strip = mixed(ground, dark ? Qt::black : Qt::white, tint);
+    return {strip, readableMix(strip, ink, 0.55), mixed(strip, ink, 0.95)};
+}
+
 PaneMargin::PaneMargin(QPlainTextEdit& view, MarginLines& lines) : QWidget(&view), m_view(view), m_lines(lines)
 {
     setObjectName(QStringLiteral("Margin"));
@@ -55,19 +69,9 @@ int PaneMargin::wantedWidth() const
     return metrics.horizontalAdvance(u'0') * digits + 2 * beside;
 }
 
-/// Against the ground that the user chose, which may be dark.
-PaneMargin::Colours PaneMargin::colours() const
-{
-    constexpr int half = 128;
-    const QColor ground = m_view.palette().color(QPalette::Base);
-    const QColor ink = ground.lightness() < half ? Qt::white : Qt::black;
-    const QColor strip = mixed(ground, ink, 0.06);
-    return {strip, mixed(strip, ink, 0.55), mixed(strip, ink, 0.9)};
-}
-
 void PaneMargin::paintEvent(QPaintEvent* event)
 {
-    const Colours shown = colours();
+    const MarginColours shown = marginColours(m_view.palette().color(QPalette::Base));
     QPainter painter(this);
     painter.fillRect(event->rect(), shown.ground);
     painter.setFont(m_view.font());

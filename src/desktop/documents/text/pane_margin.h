@@ -27,6 +27,14 @@ public:
     virtual void selectLineAt(int y) = 0;
 };
 
+struct MarginColours {
+    QColor ground;
+    QColor number;
+    QColor current; ///< the number of the line that the caret is in
+};
+/// Those beside text on a ground that the user chose.
+MarginColours marginColours(const QColor& ground);
+
 /// The strip on the left of a pane's text: the numbers of its lines, and a mark beside the line with an error. A click
 /// selects the line.
 class PaneMargin : public QWidget {
@@ -47,13 +55,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    struct Colours {
-        QColor ground;
-        QColor number;
-        QColor current;
-    };
-    Colours colours() const;
-
     QPlainTextEdit& m_view;
     MarginLines& m_lines;
     bool m_numbers = false;

@@ -196,6 +196,19 @@ void EditorView::setFoot(QWidget& foot, Property<bool>& visible)
     });
 }
 
+void EditorView::setHead(Side& side, QWidget& widget, Property<bool>& visible)
+{
+    head(side) = &widget;
+    widget.setParent(this);
+    const auto show = [this, &side, &visible, &widget] {
+        widget.setVisible(visible && side.pane.Visible);
+        placePane(side);
+    };
+    show();
+    m_bindings.follow(visible, show);
+    m_bindings.follow(side.pane.Visible, show);
+}
+
 void EditorView::addActiveMark()
 {
     m_activeMark->setObjectName(QStringLiteral("ActivePane"));
@@ -226,7 +239,17 @@ void EditorView::placePane(const Side& side)
         m_foot->setGeometry(room.left(), room.bottom() + 1 - height, room.width(), height);
         room.setHeight(room.height() - height);
     }
-    pane(side).setGeometry(room);
+    pane(side).setGeometry(belowHead(side, room));
+}
+
+/// What the strip above a pane leaves of its room.
+QRect EditorView::belowHead(const Side& side, const QRect& room)
+{
+    QWidget* const above = head(side);
+    if (above == nullptr || above->isHidden()) return room;
+    const int height = std::min(above->heightForWidth(room.width()), room.height());
+    above->setGeometry(room.left(), room.top(), room.width(), height);
+    return room.adjusted(0, height, 0, 0);
 }
 
 /// How much higher the tabs are with this font than the layout reckons.

@@ -8,6 +8,8 @@
 
 #include <QWidget>
 
+#include <array>
+
 namespace tarvex {
 
 /// The document window: the tabs, the two panes and the frame with the macros, each where the editor's layout has it.
@@ -20,6 +22,8 @@ public:
     DocumentTabs& tabs() { return *m_tabs; }
     /// Puts a widget at the foot of the pane in front whenever `visible` says so. It becomes the view's child.
     void setFoot(QWidget& foot, Property<bool>& visible);
+    /// Puts a widget above the pane of a document whenever `visible` says so. It becomes the view's child.
+    void setHead(Side& side, QWidget& head, Property<bool>& visible);
 
 signals:
     void filesDropped(const QStringList& paths);
@@ -36,6 +40,8 @@ private:
     void bindPlaces();
     void bindLook();
     void placePane(const Side& side);
+    QWidget*& head(const Side& side) { return m_heads[side.tab == 1 ? 0 : 1]; }
+    QRect belowHead(const Side& side, const QRect& room);
     void placePanes();
     void addActiveMark();
     void reportSize();
@@ -51,6 +57,7 @@ private:
     QWidget* m_foot = nullptr;
     QWidget* m_activeMark; ///< a line over the one of two panes that is in front
     bool m_footVisible = false;
+    std::array<QWidget*, 2> m_heads{}; ///< above the panes
     Bindings m_bindings;
 };
 

@@ -4,7 +4,9 @@
 
 #include "desktop/documents/text/match_scroll_bar.h"
 #include "desktop/mixed.h"
+#include "desktop/readable.h"
 #include "pane_picture.h"
+#include "shell/dark_colours.h"
 #include "shown_pane.h"
 
 #include <QHelpEvent>
@@ -72,6 +74,18 @@ TEST_F(MarginTest, IsAsWideAsTheNumbersOfTheLinesNeed)
     shown.pane.setText("x");
     settle();
     EXPECT_EQ(margin().width(), width);
+}
+
+TEST(MarginColours, NumbersAreReadableOnAnyGround)
+{
+    const QColor standard(0, 128, 255); // of a new colour scheme
+    for (const QColor& ground : {standard, QColor(Qt::white), QColor(Qt::black), QColor(Qt::gray), QColor(0, 0, 128),
+                                 QColor(255, 255, 192), QColor(0x1F, 0x21, 0x24)}) {
+        const MarginColours colours = marginColours(ground);
+        for (const QColor& ink : {colours.number, colours.current})
+            EXPECT_GE(contrastOf(toColour(ink), toColour(colours.ground)), readableContrast) << fromQt(ground.name());
+        EXPECT_NE(colours.ground, ground);
+    }
 }
 
 TEST_F(MarginTest, GoesWithTheLineNumbers)

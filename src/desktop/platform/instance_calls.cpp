@@ -1,0 +1,114 @@
+#include "desktop/platform/instance_calls.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <QWindow>
+
+#include <array>
+#include <cerrno>
+#include <memory>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace tarvex {
+
+namespace {
+
+constexpr int mostCallers = 16;
+constexpr std::size_t mostWaiting = 64;
+constexpr int patience = 1000; // milliseconds
+
+/// One process that says what it wants; gone when that is said, or when it takes too long.
+class Caller : public QObject {
+public:
+    Caller(FileDescriptor socket, QObject* parent, std::function<void(const InstanceRequest&)> hear)
+        : QObject(parent), m_socket(std::move(socket)), m_hear(std::move(hear)),
+          m_notifier(m_socket.get(), QSocketNotifier::Read)
+    {
+        connect(&m_notifier, &QSocketNotifier::activated, this, [this] { read(); });
+        QTimer::singleShot(patience, this, [this] { end(); });
+    }
+
+private:
+    void read()
+    {
+        std::array<char, 4096> piece;
+        const ssize_t count = ::recv(m_socket.get(), piece.data(), piece.size(), 0);
+        if (count > 0) {
+            m_bytes.append(piece.data(), static_cast<std::size_t>(count));
+            if (m_bytes.size() > longestRequest) end();
+            return;
+        }
+        if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+        const auto request = count == 0 ? readRequest(m_bytes) : std::nullopt;
+        if (request) answer(*request);
+        end();
+    }
+    void answer(const InstanceRequest& request)
+    {
+        const std::string_view text = requestAccepted();
+        ::send(m_socket.get(), text.data(), text.size(), MSG_NOSIGNAL);
+        m_hear(request);
+    }
+    void end()
+    {
+        m_notifier.setEnabled(false);
+        deleteLater();
+    }
+
+    FileDescriptor m_socket;
+    std::function<void(const InstanceRequest&)> m_hear;
+    QSocketNotifier m_notifier;
+    std::string m_bytes;
+};
+
+} // namespace
+
+InstanceCalls::~InstanceCalls()
+{
+    if (m_listening) ::unlink(m_path.c_str());
+}
+
+void InstanceCalls::listen(const std::string& socket)
+{
+    m_path = socket;
+    m_listening = listenForRequests(socket);
+    if (!m_listening) return;
+    auto* notifier = new QSocketNotifier(m_listening.get(), QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &InstanceCalls::accept);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &InstanceCalls::fulfilNext, Qt::QueuedConnection);
+}
+
+void InstanceCalls::accept()
+{
+    FileDescriptor socket = acceptCaller(m_listening.get());
+    if (!socket || m_callers >= mostCallers) return;
+    ++m_callers;
+    auto* caller = new Caller(std::move(socket), this, [this](const InstanceRequest& request) { hear(request); });
+    connect(caller, &QObject::destroyed, this, [this] { --m_callers; });
+}
+
+void InstanceCalls::hear(const InstanceRequest& request)
+{
+    if (m_waiting.size() < mostWaiting) m_waiting.push_back(request);
+    fulfilNext();
+}
+
+void InstanceCalls::fulfil()
+{
+    m_ready = true;
+    QTimer::singleShot(0, this, &InstanceCalls::fulfilNext);
+}
+
+/// What is asked for while a box is up waits until the box has gone, and with it the keyboard has moved.
+void InstanceCalls::fulfilNext()
+{
+    if (!m_ready || m_waiting.empty() || QApplication::activeModalWidget() != nullptr) return;
+    const InstanceRequest request = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    emit wanted(request); // may wait for the user, and so come here again
+    fulfilNext();
+}
+
+} // namespace tarvex
