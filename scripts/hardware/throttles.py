@@ -108,8 +108,8 @@ def tqs_handle(d, side):
 
 def tqs():
     d = Drawing(580, 480, "TQS throttle")
-    ground = Plane((246, 384), TQS_FORWARD, TQS_RIGHT, TQS_UP)
-    base(d, ground, 330, 130, 40, 0.16, LEFT_DARK)
+    ground = Plane((246, 380), TQS_FORWARD, TQS_RIGHT, TQS_UP)
+    base(d, ground, 330, 166, 40, 0.2, LEFT_DARK)
     ticks(d, ground, 40, 220, 9)
     arm = [(206, 352), (214, 280), (236, 240), (330, 240), (296, 300), (276, 340), (262, 352), (232, 360)]
     d.fill(smooth(arm), d.gradient((206, 0), (300, 0), "#1f2226", "#59606a", "#2b2f35"))
@@ -131,8 +131,8 @@ def tqs():
     with d.control("BTN(32)"):
         button(d, side, 98, 0, 14)
     with d.control("ROTARY(5)"):
-        ribbon(d, ground, 4, 112, 250, along=0)
-    x, y = ground.at(134, 116)
+        ribbon(d, ground, 8, 124, 250, along=0)
+    x, y = ground.at(138, 128)
     d.label("ROTARY(5)", "Throttle", (x + 10, y + 12))
     for name, text, y, start in (("ROTARY(0)", "RNG", 30, (214, 87)), ("BTN(11)", "T6", 30, (304, 78))):
         d.label(name, text, (start[0], y), "middle", [start, (start[0], y + 8)])
@@ -170,10 +170,10 @@ def wcs_handle(d, back, side):
 
 def wcs_picture(title, names, rocker_names):
     d = Drawing(580, 480, title)
-    ground = Plane((268, 380), WCS_RIGHT, (-0.5, 0.34), WCS_UP)
-    base(d, ground, 190, 230, 54, 0.58, LEFT_LIGHT, slot_along=1)
-    wall = Plane(ground.at(0, 115, 27), WCS_RIGHT, (0, 0.92), (-0.5, 0.34))
-    for a, colours in ((-62, RED), (-24, DARK)):
+    ground = Plane((262, 380), WCS_RIGHT, (-0.5, 0.34), WCS_UP)
+    base(d, ground, 250, 250, 46, 0.635, LEFT_LIGHT, slot_along=1)
+    wall = Plane(ground.at(0, 125, 23), WCS_RIGHT, (0, 0.92), (-0.5, 0.34))
+    for a, colours in ((-88, RED), (-48, DARK)):
         slide(d, wall, a, 6, colours)
     arm = [(236, 336), (240, 250), (330, 250), (322, 330), (280, 346)]
     d.fill(smooth(arm), d.gradient((236, 0), (330, 0), "#2b2f35", "#59606a", "#1f2226"))
@@ -192,8 +192,8 @@ def wcs_picture(title, names, rocker_names):
         if text:
             d.label(name, text, (480, y + 5), "start", [(x, y), (474, y)])
     with d.control("ROTARY(9)"):
-        ribbon(d, ground, 142, 0, 200, along=1)
-    x, y = ground.at(142, -90)
+        ribbon(d, ground, 170, 6, 200, along=1)
+    x, y = ground.at(170, -84)
     d.label("ROTARY(9)", "Throttle", (x + 24, y + 12))
     return d
 
