@@ -1,5 +1,6 @@
 #include "composer/insert_options.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace tarvex {
@@ -9,6 +10,8 @@ namespace {
 // The size of the window as it was drawn, twips.
 constexpr float firstWidth = 980.0F * twipsPerPixel;
 constexpr float firstHeight = 720.0F * twipsPerPixel;
+constexpr float leastWidth = 900.0F * twipsPerPixel; // about what its pages need
+constexpr float partOfScreen = 0.625F;
 
 /// The index of an id like "BTN(12)" of an array; nothing for another array.
 std::optional<std::size_t> indexIn(std::string_view id, std::string_view array)
@@ -41,9 +44,11 @@ InsertOptions::InsertOptions(Editor& theEditor)
     : editor(theEditor), form("InsertOptions", &ComposerOpen), flags(theEditor.formats), templates(theEditor.formats)
 {
     form.Caption = "Composer - to ease your programming somewhat !!!";
-    form.Width = firstWidth;
+    form.Width = composerWidth(theEditor.platform.desktop.screenWidth());
     form.Height = firstHeight;
 }
+
+float composerWidth(float screenWidth) { return std::clamp(screenWidth * partOfScreen, leastWidth, firstWidth); }
 
 std::vector<MenuEntry> InsertOptions::hatMenu()
 {

@@ -220,6 +220,10 @@ struct InsertOptions {
     std::vector<Connection> connections;
 };
 
+/// How wide the window is at first, in twips: as it was drawn, or less where it would leave the text beside it little
+/// of the screen.
+float composerWidth(float screenWidth);
+
 /// The control with this id of a picture, e.g. "BTN(0)" or "TRIG"; null for an id that there isn't.
 Button* controlButton(InsertOptions& window, std::string_view id);
 

@@ -105,6 +105,16 @@ TEST_F(ComposerStart, SettingsOfEveryWrongKindOpenTheWindowAllTheSame)
     EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 ");
 }
 
+TEST(ComposerWidth, OnANarrowScreenTheWindowLeavesTheTextMoreRoom)
+{
+    const auto pixels = [](float screen) { return composerWidth(screen * twipsPerPixel) / twipsPerPixel; };
+    EXPECT_FLOAT_EQ(pixels(800), 900); // the view makes it as narrow as the screen
+    EXPECT_FLOAT_EQ(pixels(1440), 900);
+    EXPECT_FLOAT_EQ(pixels(1500), 937.5F);
+    EXPECT_FLOAT_EQ(pixels(1568), 980);
+    EXPECT_FLOAT_EQ(pixels(1920), 980);
+}
+
 TEST_F(ComposerTest, LoadedItIsOpenAndHiddenItStaysLoaded)
 {
     EXPECT_EQ(window.ComposerOpen, 1);

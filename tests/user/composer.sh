@@ -81,7 +81,10 @@ settings "ThrottleName=1" "RudderName=1"
 start
 press F2
 expect_active "Composer - "
-wmctrl -r "Composer - " -e 0,300,0,-1,-1 # the left side of the text stays in sight
+# The left side of the text stays in sight; the size is the one that the places above are for.
+wmctrl -r "Composer - " -e 0,300,0,980,720
+sized() { [ "$(xdotool getwindowgeometry --shell "$(composer)" | grep -c 'WIDTH=980\|HEIGHT=720')" = 2 ]; }
+until_true 20 sized || fail "the Composer doesn't take its size"
 
 # The joystick file begins with a remark and what is set up.
 at $remark
