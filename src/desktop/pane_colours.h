@@ -13,6 +13,8 @@ struct PaneColours {
 
     /// Of text in this colour.
     QColor text(Colour colour) const;
+    /// The easier to read of black and white text, as it is shown.
+    QColor readable() const;
     /// Text is made lighter on the ground.
     bool isDarkened() const { return leastContrast > 0; }
     bool operator==(const PaneColours&) const = default;

@@ -1,10 +1,12 @@
 #include "desktop/theme_style.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace tarvex {
 
@@ -34,16 +36,22 @@ qreal strengthOf(QStyle::PrimitiveElement element, const QPalette& palette)
     return isHighContrast(palette) ? row->highContrast : row->onDark;
 }
 
-QPen framePen(qreal strength, const QStyleOption& option)
+QPen framePen(qreal strength, const QStyleOption& option, bool isOn = false)
 {
     constexpr qreal thick = 3;
-    const bool isOn = option.state.testFlag(QStyle::State_On) || option.state.testFlag(QStyle::State_Sunken);
     QColor colour = option.palette.color(QPalette::Active, QPalette::WindowText);
     colour.setAlphaF(static_cast<float>(option.state.testFlag(QStyle::State_Enabled) ? strength : strength / 2));
-    return {colour, isHighContrast(option.palette) && isOn ? thick : 1};
+    return {colour, isOn ? thick : 1};
 }
 
-/// Of what has the keyboard, with high contrast.
+/// A button that is down; a thick frame is all that shows it with high contrast.
+bool isDown(QStyle::PrimitiveElement element, const QStyleOption& option)
+{
+    return element == QStyle::PE_PanelButtonCommand && isHighContrast(option.palette) &&
+           (option.state.testFlag(QStyle::State_On) || option.state.testFlag(QStyle::State_Sunken));
+}
+
+/// Of what has the keyboard.
 QPen focusPen(const QStyleOption& option)
 {
     constexpr qreal thick = 2;
@@ -96,6 +104,24 @@ bool hasKeyboard(const QStyleOption& option)
     return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
 }
 
+/// Of the frame that the element gets; none: what the base style draws is enough.
+std::optional<QPen> penOf(QStyle::PrimitiveElement element, const QStyleOption& option, const QWidget* widget)
+{
+    const bool focused = hasKeyboard(option);
+    const qreal strength = strengthOf(element, option.palette);
+    if (isHighContrast(option.palette)) {
+        if (element == QStyle::PE_FrameFocusRect || (focused && strength > 0)) return focusPen(option);
+    } else if (focused) {
+        if (element == QStyle::PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)
+            return QPen(option.palette.color(QPalette::Highlight));
+        // A default button has the base style's outline without the keyboard, too.
+        if (element == QStyle::PE_PanelButtonCommand && option.state.testFlag(QStyle::State_KeyboardFocusChange))
+            return focusPen(option);
+    }
+    if (strength == 0) return std::nullopt;
+    return framePen(strength, option, isDown(element, option));
+}
+
 } // namespace
 
 bool isHighContrast(const QPalette& palette)
@@ -110,11 +136,9 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
                                const QWidget* widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool strong = isHighContrast(option->palette);
-    if (element == PE_FrameFocusRect && strong) return drawBox(*painter, option->rect, focusPen(*option));
-    const qreal strength = strengthOf(element, option->palette);
-    if (strength == 0) return;
-    const Drawing drawing(*painter, strong && hasKeyboard(*option) ? focusPen(*option) : framePen(strength, *option));
+    const std::optional<QPen> pen = penOf(element, *option, widget);
+    if (!pen) return;
+    const Drawing drawing(*painter, *pen);
     constexpr int titleMargin = 3;
     const int indicator = pixelMetric(PM_IndicatorHeight, option, widget);
     drawFrame(*painter, element, option->rect, std::max(indicator, option->fontMetrics.height()) + titleMargin);
@@ -126,7 +150,9 @@ void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option,
     QProxyStyle::drawControl(element, option, painter, widget);
     const bool hasFrame =
         element == CE_TabBarTabShape || element == CE_ProgressBarGroove || element == CE_HeaderSection;
-    if (hasFrame && isHighContrast(option->palette)) drawBox(*painter, option->rect, framePen(1, *option));
+    if (!hasFrame || !isHighContrast(option->palette)) return;
+    const bool isFront = element == CE_TabBarTabShape && option->state.testFlag(State_Selected);
+    drawBox(*painter, option->rect, framePen(1, *option, isFront));
 }
 
 void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -9,8 +9,7 @@ bool isHighContrast(const QPalette& palette);
 
 /// Fusion with contours that show on dark windows, too: it derives the frames of tick boxes, radio buttons and groups
 /// from the window's colour made darker, so on a dark ground nothing of them is left. With high contrast everything
-/// that can be used has a frame in the text's colour, and what has the keyboard a thick one in the colour of
-/// selections.
+/// that can be used has a frame in the text's colour. What has the keyboard has a frame in the colour of selections.
 class ThemeStyle : public QProxyStyle {
     Q_OBJECT
 public:

@@ -187,18 +187,19 @@ TEST_F(ThemeViewTest, APaneFollowsAppearanceAndTickAndItsTextKeepsItsColours)
     PaneView shown(pane);
     shown.show();
     const auto colourShown = [&shown] {
+        QApplication::processEvents();
         shown.formatAll();
         return shown.document()->firstBlock().layout()->formats().value(0).format.foreground().color();
     };
     appearance.choose(Appearance::Theme::Light);
     EXPECT_EQ(colourShown(), QColor(Qt::blue));
     appearance.choose(Appearance::Theme::Dark);
-    EXPECT_EQ(shown.palette().color(QPalette::Base), darkPalette().color(QPalette::Base));
     EXPECT_EQ(colourShown(), paneColours(white).text(blue));
+    EXPECT_EQ(shown.palette().color(QPalette::Base), darkPalette().color(QPalette::Base));
     EXPECT_NE(colourShown(), QColor(Qt::blue));
     extras.set(extraKey::darkFiles, false);
-    EXPECT_EQ(shown.palette().color(QPalette::Base), QColor(Qt::white));
     EXPECT_EQ(colourShown(), QColor(Qt::blue));
+    EXPECT_EQ(shown.palette().color(QPalette::Base), QColor(Qt::white));
     EXPECT_EQ(pane.SelColor(), blue);
     EXPECT_EQ(pane.BackColor, white);
 }

@@ -63,11 +63,13 @@ QPushButton* EnterGameNameView::helpButton(Button& state, const QString& name, c
     return widget;
 }
 
-void EnterGameNameView::addRow(QGridLayout& rows, const QString& caption, QWidget* box, QWidget* find, QWidget* help)
+void EnterGameNameView::addRow(QGridLayout& rows, const QString& caption, QWidget* box, QPushButton* find,
+                               QWidget* help)
 {
     const int row = rows.rowCount();
     auto* label = new QLabel(caption, this);
     label->setBuddy(box);
+    if (find != nullptr) find->setAccessibleName(find->text() + u' ' + QString(caption).remove(u'&').remove(u':'));
     rows.addWidget(label, row, 0);
     rows.addWidget(box, row, 1, 1, find == nullptr ? 3 : 1);
     if (find != nullptr) rows.addWidget(find, row, 2);

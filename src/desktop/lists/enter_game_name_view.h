@@ -18,7 +18,7 @@ public:
 private:
     QPushButton* button(Button& state, const QString& name);
     QPushButton* helpButton(Button& state, const QString& name, const QString& subject);
-    void addRow(QGridLayout& rows, const QString& caption, QWidget* box, QWidget* find, QWidget* help);
+    void addRow(QGridLayout& rows, const QString& caption, QWidget* box, QPushButton* find, QWidget* help);
     QBoxLayout* closingButtons(EnterGameName& form);
     void orderTabs();
 };

@@ -77,7 +77,7 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
     addPage(*tabs, extrasPageView(preferences.extrasPage, m_bindings));
     m_bindings.pages(preferences.SSTab1, *tabs);
     connect(tabs, &QTabWidget::currentChanged, this, [this, tabs] { clearAccessKeys(*tabs); });
-    m_bindings.follow(preferences.SSTab1.Tab, [this, tabs] { clearAccessKeys(*tabs); });
+    m_bindings.bind(preferences.SSTab1.Tab, [this, tabs](int) { clearAccessKeys(*tabs); });
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(tabs);

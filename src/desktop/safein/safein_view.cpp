@@ -37,12 +37,6 @@ void makeNarrow(QPushButton& button)
     button.setMinimumWidth(button.fontMetrics().horizontalAdvance(button.text()) + sides);
 }
 
-QColor readableOn(const QColor& background)
-{
-    constexpr int middle = 128;
-    return qGray(background.rgb()) < middle ? QColor(Qt::white) : QColor(Qt::black);
-}
-
 } // namespace
 
 SafeinView::SafeinView(RAWform& window, QWidget* parent)
@@ -186,7 +180,7 @@ void SafeinView::showStatementColour(QLineEdit& field)
     const PaneColours shown = paneColours(m_window.TotalCombinedBackColor);
     QPalette colours = palette();
     colours.setColor(QPalette::Base, shown.ground);
-    colours.setColor(QPalette::Text, shown.isDarkened() ? shown.text(0) : readableOn(shown.ground));
+    colours.setColor(QPalette::Text, shown.readable());
     field.setPalette(colours);
 }
 

@@ -41,6 +41,7 @@ void KeyListView::showAll()
     m_colours = paneColours(m_list.BackColor);
     QPalette colours = palette();
     colours.setColor(QPalette::Base, m_colours.ground);
+    colours.setColor(QPalette::Text, m_colours.text(0));
     setPalette(colours);
     clear();
     for (const ColouredList::Line& line : m_list.lines()) append(line);

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOption>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -69,10 +70,21 @@ void PictureArea::resizeEvent(QResizeEvent*)
 
 void PictureArea::paintEvent(QPaintEvent*)
 {
-    const Placement& frame = m_window.Picture2.get();
-    const Placement& shown = m_window.Picture3Place.get();
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
+    painter.save();
+    paintPicture(painter);
+    painter.restore();
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+}
+
+void PictureArea::paintPicture(QPainter& painter) const
+{
+    const Placement& frame = m_window.Picture2.get();
+    const Placement& shown = m_window.Picture3Place.get();
     if (m_picture.isNull()) {
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
                          QStringLiteral("No picture yet. Select Open from the Image menu."));

@@ -3,6 +3,7 @@
 #include "desktop/bind.h"
 #include "viewer/view_image.h"
 
+#include <QPainter>
 #include <QPixmap>
 #include <QScrollBar>
 #include <QWidget>
@@ -28,6 +29,7 @@ protected:
 private:
     QScrollBar* bar(ScrollBar& state, Qt::Orientation orientation, const char* name);
     void place();
+    void paintPicture(QPainter& painter) const;
 
     ViewImage& m_window;
     Bindings m_bindings;

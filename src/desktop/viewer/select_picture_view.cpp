@@ -76,6 +76,7 @@ SelectPictureView::SelectPictureView(SelectPictureForm& form, QWidget* parent)
     grid->addWidget(files, 1, 1, 2, 1);
     grid->addWidget(preview(form), 1, 2, 2, 1);
     grid->setColumnStretch(2, 1);
+    files->setAccessibleName(QStringLiteral("Files"));
     folders->setAccessibleName(QStringLiteral("Folders"));
 
     connect(files, &QListWidget::itemDoubleClicked, this, [&form] { form.Command1.Click(); });
