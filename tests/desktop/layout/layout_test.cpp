@@ -133,7 +133,7 @@ public:
     std::set<std::string> seen;                ///< classes of windows
 
 private:
-    void look(const QWidget& window) override
+    void look(QWidget& window) override
     {
         const std::string name = className(window);
         seen.insert(name);
@@ -198,9 +198,12 @@ TEST_P(AllWindows, OfEveryCommandHaveTheirWidgetsInPlace)
 
 INSTANTIATE_TEST_SUITE_P(AtThreeSizesOfText, AllWindows,
                          testing::Values(Look{8, Theme::Light}, Look{11, Theme::Light}, Look{16, Theme::Light},
-                                         Look{8, Theme::Dark}, Look{11, Theme::Dark}, Look{16, Theme::Dark}),
+                                         Look{8, Theme::Dark}, Look{11, Theme::Dark}, Look{16, Theme::Dark},
+                                         Look{11, Theme::HighContrast}),
                          [](const auto& look) {
-                             const std::string theme = look.param.theme == Theme::Dark ? "Dark" : "Light";
+                             const std::string theme = look.param.theme == Theme::Light  ? "Light"
+                                                       : look.param.theme == Theme::Dark ? "Dark"
+                                                                                         : "HighContrast";
                              return theme + std::to_string(look.param.points) + "Points";
                          });
 

@@ -89,7 +89,7 @@ public:
     std::map<QString, QString> texts; ///< by the name of the window's class
 
 private:
-    void look(const QWidget& window) override
+    void look(QWidget& window) override
     {
         const std::string name = className(window);
         const std::string ours = "tarvex::";

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QTabWidget>
 
@@ -20,7 +21,8 @@ namespace tarvex {
 namespace {
 
 /// Commands that end the program, or undo the choice of the walk.
-const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark"};
+const QStringList notWalked{"mnuFileExit", "mnuAppearanceSystem", "mnuAppearanceLight", "mnuAppearanceDark",
+                            "mnuAppearanceContrast"};
 
 /// Forms that only other forms show.
 constexpr const char* withoutCommand[] = {"Differences", "FilesHome", "Import", "SelectPictureForm"};
@@ -124,6 +126,8 @@ void WindowWalk::lookAtAllPages(QWidget& window)
 
 void WindowWalk::lookAtModal()
 {
+    if (m_looking) return;
+    const QScopedValueRollback<bool> looking(m_looking, true);
     if (QWidget* popUp = QApplication::activePopupWidget()) {
         if (qobject_cast<QMenu*>(popUp) == nullptr) look(*popUp);
         popUp->close();

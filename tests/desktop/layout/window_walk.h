@@ -23,7 +23,7 @@ public:
 
 protected:
     /// A window, or a page of it, is to be seen. The frame is looked at after each command.
-    virtual void look(const QWidget& window) = 0;
+    virtual void look(QWidget& window) = 0;
 
     const std::string& command() const { return m_command; } ///< what was run last
 
@@ -40,6 +40,7 @@ private:
 
     std::string m_command = "the start";
     QTimer m_user;
+    bool m_looking = false; ///< a look at a modal window may let events in
 };
 
 } // namespace tarvex
