@@ -15,6 +15,15 @@ std::string joined(const std::vector<std::string>& lines)
     return text;
 }
 
+bool holds(const FileSystem& files, const std::string& path, const std::string& text)
+{
+    if (!files.fileExists(path) || files.isReadOnly(path) || files.stamp(path).size != text.size()) return false;
+    bool isSame = false;
+    const Steps step; // a file that can't be read may still be replaced
+    step([&] { isSame = files.read(path) == text; });
+    return isSame;
+}
+
 } // namespace
 
 void GetEachLineFromMacroFile(Editor& editor)
@@ -27,7 +36,10 @@ void GetEachLineFromMacroFile(Editor& editor)
     editor.status("Opening " + editor.macro.FileName + " file for analysis ");
     lines.clear();
     step([&] { lines = keptMacroLines(files.read(path)); });
-    step([&] { files.writePrivate(linesFile, joined(lines)); });
+    const std::string text = joined(lines);
+    // A write is synced twice, which takes a sixth of the program's start; the file mostly has these lines already.
+    if (holds(files, linesFile, text)) return;
+    step([&] { files.writePrivate(linesFile, text); });
 }
 
 } // namespace tarvex

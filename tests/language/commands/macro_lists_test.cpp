@@ -70,6 +70,37 @@ TEST_F(MacroListTest, TheKeptLinesAreWrittenToTheDebrisFileAtEachRun)
     EXPECT_EQ(t.fileText("c:\\macro.txt"), "");
 }
 
+TEST_F(MacroListTest, ADebrisFileThatHasTheLinesIsNotWrittenAgain)
+{
+    analyse("A = a");
+    t.files.clearWrites();
+    analyse("A = a");
+    EXPECT_THAT(t.files.writes(), IsEmpty());
+    analyse("B = b");
+    ASSERT_EQ(t.files.writes().size(), 1U);
+    EXPECT_EQ(t.fileText("c:\\macro.txt"), "B = b\r\n");
+}
+
+TEST_F(MacroListTest, ADebrisFileThatCannotBeReadIsReplaced)
+{
+    analyse("A = a");
+    t.files.failReads("c:\\macro.txt", RuntimeError(ErrorCode::PermissionDenied, "no"));
+    t.files.clearWrites();
+    t.program().shared.errors.ErrorProcedure.clear();
+    analyse("A = a");
+    EXPECT_EQ(t.files.writes().size(), 1U);
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "");
+}
+
+TEST_F(MacroListTest, AReadOnlyDebrisFileGoesToTheReporterThoughItHasTheLines)
+{
+    analyse("A = a");
+    t.files.setReadOnly("c:\\macro.txt");
+    t.program().shared.errors.ErrorProcedure.clear();
+    analyse("A = a");
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_GetEachLineFromMacroFile");
+}
+
 TEST_F(MacroListTest, AFailureToWriteTheDebrisFileGoesToTheReporterAndTheListIsThere)
 {
     t.files.failWrites("c:\\macro.txt", RuntimeError(ErrorCode::PathFileAccess, "no"));
