@@ -114,9 +114,11 @@ QWidget* MacroFrameView::makeFilter(QWidget& list)
     box->setObjectName(QStringLiteral("Filter"));
     box->setAccessibleName(QStringLiteral("Filter"));
     box->setPlaceholderText(QStringLiteral("Filter"));
-    box->setClearButtonEnabled(true);
     box->setMinimumWidth(0);
-    m_bindings.bind(m_editor.FrameMacros.FilterVisible, [box](bool on) { box->setVisible(on); });
+    m_bindings.bind(m_editor.FrameMacros.FilterVisible, [box](bool on) {
+        if (on) box->setClearButtonEnabled(true); // Qt looks for its icon in all themes: not while the program starts
+        box->setVisible(on);
+    });
     m_bindings.textBox(m_editor.FrameMacros.Filter, *box);
     new FilterKeys(m_editor, *box, list);
     return box;

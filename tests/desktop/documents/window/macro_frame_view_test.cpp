@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QDrag>
 #include <QHelpEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -307,6 +308,16 @@ TEST_F(FrameViewTest, ListsThatGoWhileOneOfThemIsShownLeaveTheFirst)
     EXPECT_EQ(headings->currentText(), "All");
     frame.List1[0].Visible = false;
     EXPECT_EQ(list->model()->rowCount(), 0) << "no list is visible";
+}
+
+TEST_F(FrameViewTest, TheFilterGetsItsClearButtonOnlyWhenItIsShown)
+{
+    const auto* filter = view.findChild<QLineEdit*>(QStringLiteral("Filter"));
+    ASSERT_NE(filter, nullptr);
+    EXPECT_FALSE(filter->isClearButtonEnabled()) << "its icon is looked for in all themes";
+    frame.FilterVisible = true;
+    EXPECT_TRUE(filter->isVisibleTo(&view));
+    EXPECT_TRUE(filter->isClearButtonEnabled());
 }
 
 TEST_F(FrameViewTest, TwoThousandMacrosArriveAsAWhole)
