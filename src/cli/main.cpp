@@ -251,7 +251,7 @@ int fail(const std::string& text)
     return exitStatus::wrongCall;
 }
 
-/// What is wrong with a call, in one line.
+/// The fault of a call, in one line.
 std::string complaint(const CLI::App& app, const CLI::ParseError& error, int argc, char** argv)
 {
     const bool hasCommand = !app.get_subcommands().empty();

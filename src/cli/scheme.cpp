@@ -8,7 +8,7 @@ namespace tarvex::cli {
 
 namespace {
 
-/// A disk that holds one file, whatever path it is asked for, and drops what is written.
+/// A disk that gives the same file for every path and drops what is written.
 class OneFile final : public FileSystem {
 public:
     explicit OneFile(std::string bytes) : m_bytes(std::move(bytes)) {}

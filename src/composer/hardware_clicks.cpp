@@ -23,7 +23,7 @@ constexpr const char* slashCaptions[] = {"/U", "/M", "/D", "/I", "/O", "/T", "/P
 
 bool isRockerRow(int button) { return button == 4 || button == 16 || button == 17; }
 
-/// What a click of a ROTARY looks for, and where it leads when that isn't in the file.
+/// The statement that a click on a ROTARY looks for, and the tab that it opens when the file has none.
 struct Rotary {
     const char* word;
     int page;

@@ -14,7 +14,7 @@ namespace tarvex {
 
 namespace {
 
-/// What a button without fields inserts.
+/// The text that a button without fields inserts.
 struct PlainStatement {
     const char* caption;
     const char* text;

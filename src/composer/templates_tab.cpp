@@ -33,7 +33,7 @@ std::vector<std::string> filesOf(const std::vector<std::string>& names, std::str
     return files;
 }
 
-/// A file that isn't RTF, whatever its name says, is plain text.
+/// A file that isn't RTF is plain text, even when its name ends in .rtf.
 void show(Pane& preview, const std::string& bytes)
 {
     if (looksLikeRtf(bytes))

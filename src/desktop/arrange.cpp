@@ -11,7 +11,7 @@ namespace {
 
 constexpr int cascadeStep = 28;
 
-/// Those that stay before all others are in nobody's row.
+/// Windows that stay on top aren't arranged.
 QList<QWidget*> toolWindowsOf(QWidget& frame)
 {
     QList<QWidget*> windows;

@@ -69,8 +69,8 @@ bool savedOrAccepted(Editor& editor)
     return editor.joystick.Changed != changed::modified || editor.platform.dialogues.show(notSaved()) == Answer::Yes;
 }
 
-/// The loaders take names of the old kind only. A longer one is to be saved anew, whatever the user answers, and the
-/// command is his to give again.
+/// The loaders take names of the old kind only. With a longer one the user is asked to save under another, and the
+/// command ends after either answer.
 bool nameFits(Editor& editor)
 {
     if (utf8Length(editor.tabCaption(editor.joystick)) <= longestName) return true;

@@ -34,7 +34,7 @@ void writeRemStatement(Editor& editor, const std::string& words)
     if (settings.AddCRtoREM == 1) InsertCarriageReturn(editor);
 }
 
-/// What the user gave the dialogue, as bytes of a pane; empty after a cancel.
+/// The user's answer to the dialogue, as bytes of a pane; empty after a cancel.
 std::string askFor(Editor& editor, const char* form)
 {
     editor.shared.HeadingText.clear();

@@ -207,7 +207,7 @@ void searchHandbook(Handbook& handbook, const std::string& words)
     steps([&] {
         if (!makeReady(handbook)) return;
         std::string line = words.substr(0, words.find_first_of("\r\n"));
-        if (line.size() > longestSearch) line.clear(); // nobody looks for that
+        if (line.size() > longestSearch) line.clear(); // no sensible search
         handbook.Search.Text = line;
         searchNow(handbook);
         handbook.Ways.Select(Handbook::searchTab);

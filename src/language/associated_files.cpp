@@ -23,7 +23,7 @@ const Family* familyBy(std::string_view Family::*extension, const std::string& p
     return family == families.end() ? nullptr : family;
 }
 
-/// The family of the file decides, whatever hardware is set.
+/// Decided by the family of the file, not by the hardware that is set.
 std::string macroExtensionFor(const std::string& joystickPath, const Settings& settings)
 {
     const Family* family = familyBy(&Family::joystickFile, joystickPath);

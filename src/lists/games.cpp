@@ -25,7 +25,7 @@ void markModified(Editor& editor, const std::vector<Side*>& sides)
     UpdateSavedIcon(editor);
 }
 
-/// Nobody will ask about the text any more once the game runs. False: there is no copy, and the user would rather stay.
+/// Once the game runs, there is no further question about the text. False: there is no copy, and the user stays.
 bool keepCopy(Editor& editor, const Side& side)
 {
     const AsideCopy copy = putAside(editor, side);
@@ -123,7 +123,7 @@ void mnuGameArray_Click(Games& games, int index)
         const Game game = gameAt(editor.shared.settings, index);
         if (!saveDocuments(editor)) return;
         const std::vector<Side*> unsaved = modifiedSides(editor);
-        // The marks go whatever became of the saving, since the program is about to end without asking.
+        // Cleared even when saving failed, since the program is about to end without asking.
         for (Side* side : {&editor.joystick, &editor.macro}) side->Changed = changed::saved;
         UpdateSavedIcon(editor);
         games.current = game;

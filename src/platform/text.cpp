@@ -29,7 +29,7 @@ template <typename Whole> Whole rounded(std::string_view text)
     return static_cast<Whole>(value);
 }
 
-/// What a number becomes that no double holds: too large, or with a negative exponent too small.
+/// The value of a number that no double holds: too large, or with a negative exponent too small.
 double outOfRange(std::string_view digits)
 {
     const std::size_t exponent = digits.find_first_of("eE");

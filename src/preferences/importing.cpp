@@ -6,7 +6,7 @@ namespace tarvex {
 
 namespace {
 
-/// What the units read from the settings when they come up, apart from places on the screen.
+/// The settings that units read only when they come up, apart from places on the screen.
 constexpr Access readAgain[] = {Access::GetSpaces,      Access::GetSafeinOptions,       Access::GetOpenSingleOnly,
                                 Access::GetIndentStuff, Access::GetLastImagesDirectory, Access::GetTcaOptions};
 

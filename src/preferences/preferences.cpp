@@ -87,7 +87,7 @@ void writeSettings(Preferences& preferences, const Steps& step)
 
 using Unwritten = std::vector<SettingsStore::WriteFailure>;
 
-/// What the write just done has not brought to the disk.
+/// The keys that the last write has not brought to the disk.
 Unwritten unwrittenFiles(Preferences& preferences)
 {
     const Shared& shared = preferences.editor.shared;
@@ -98,7 +98,7 @@ Unwritten unwrittenFiles(Preferences& preferences)
     return failures;
 }
 
-/// The settings are in memory all the same: said once, whatever number of keys there are.
+/// One box for all keys; the settings are in memory all the same.
 void reportUnwritten(Preferences& preferences, const Unwritten& failures)
 {
     if (failures.empty()) return;

@@ -16,7 +16,7 @@ namespace {
 // A count in a damaged file must not make the program ask for billions of keys.
 constexpr int mostOfAFamily = std::numeric_limits<std::int16_t>::max();
 
-/// As a buffer: whatever the file holds.
+/// As the size of a buffer: no limit.
 constexpr std::size_t wholeText = std::numeric_limits<std::size_t>::max();
 
 std::size_t bufferOf(SettingForm form)

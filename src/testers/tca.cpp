@@ -54,7 +54,7 @@ void drawGridLine(TCAform& window, int coordinate)
 void drawGrid(TCAform& window)
 {
     const int divisions = window.editor.shared.settings.TCAGridCellSize;
-    if (divisions < 1 || divisions > mostDivisions) return; // a file that somebody has edited
+    if (divisions < 1 || divisions > mostDivisions) return; // an edited file
     const int centre = static_cast<int>(axisCentre);
     const int step = centre / divisions;
     for (int at = step; at <= centre - step; at += step) drawGridLine(window, at);

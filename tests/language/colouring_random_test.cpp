@@ -10,7 +10,7 @@
 namespace tarvex {
 namespace {
 
-/// What controller files are made of, and what isn't quite that.
+/// Words of controller files, and words that are nearly such.
 const std::vector<std::string> pieces{"BTN",
                                       "btn",
                                       "XBTN",

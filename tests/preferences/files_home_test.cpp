@@ -22,7 +22,7 @@ struct FilesHomeTest : testing::Test, PreferencesProgram {
         files.removeDirectory("c:\\tm");
     }
     FilesHome& form() { return preferences().filesHome; }
-    /// What the user does in the question, each time it is asked.
+    /// The answer of the user, each time the question is asked.
     void startAndAnswer(const std::function<void()>& answer)
     {
         dialogues.whileModal = [this, answer] {

@@ -22,7 +22,7 @@ constexpr char portToggle[] = "ROTARY(7)";
 constexpr int tipLines = 12;
 constexpr int tipColumns = 80;
 
-/// What of the statements goes into a tip.
+/// The part of the statements that goes into a tip.
 QString cutToTip(const QString& statements)
 {
     QStringList lines = statements.split(u'\n');

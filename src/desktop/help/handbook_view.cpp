@@ -273,7 +273,7 @@ void HandbookView::fillHits()
     }
 }
 
-/// The contents show where the reader is, whatever way led there.
+/// Selects the page shown in the contents, also when it was opened from elsewhere.
 void HandbookView::markInContents()
 {
     const HandbookIndex::Page* page = m_handbook.index.pageOf(m_handbook.Target.get());

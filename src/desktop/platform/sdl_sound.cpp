@@ -34,7 +34,7 @@ struct SdlSoundCalls : SdlLibrary {
     decltype(&SDL_Delay) delay = nullptr;
 };
 
-/// A device that stops taking samples holds nobody longer than the sound lasts.
+/// Waits no longer than the sound lasts, even when the device stops taking samples.
 void playOn(const SdlSoundCalls& sdl, SDL_AudioDeviceID device, const SDL_AudioSpec& form, const Uint8* samples,
             Uint32 size)
 {

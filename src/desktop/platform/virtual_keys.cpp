@@ -64,7 +64,7 @@ int keypadNumber(int key)
     return numberIn(keypadSigns, key);
 }
 
-/// The row of digits, whatever a layout writes with it.
+/// The row of digits; a layout may write other characters with it.
 int digitAt(int place)
 {
     constexpr int one = 2; // as the kernel numbers keys

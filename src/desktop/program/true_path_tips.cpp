@@ -21,7 +21,7 @@ bool beginsAsPath(const QString& text)
     return text.size() > 3 && text[0].isLetter() && text[1] == u':' && text[2] == u'\\';
 }
 
-/// What the widget shows at a point of it.
+/// The text that the widget shows at a point.
 QString textAt(const QWidget& widget, const QPoint& place)
 {
     if (const auto* menu = qobject_cast<const QMenu*>(&widget)) {

@@ -130,7 +130,7 @@ QLabel* StatusBarView::addPanel(StatusBar::Panel& panel, const QString& sample)
     return view;
 }
 
-/// The toolkit's own panels: dimmed until somebody knows that the key is on.
+/// The toolkit's own panels: dimmed until the key is known to be on.
 QLabel* StatusBarView::addKeyPanel(StatusBar::Panel& panel, const QString& name)
 {
     auto* view = new QLabel(name, this);

@@ -11,7 +11,7 @@ namespace tarvex {
 
 namespace {
 
-/// What a control runs, in resume-next mode: the small handlers report nothing.
+/// The handler of a control, in resume-next mode: the small handlers report nothing.
 template <typename Work> std::function<void()> quietly(Work work)
 {
     return [work] {
@@ -147,7 +147,7 @@ void open(FindAndReplace& window, int tab)
     window.ComboTextReplaceFind.SelectAll();
 }
 
-/// What the controls say and run.
+/// Captions and handlers of the controls.
 void wireControls(FindAndReplace& window)
 {
     window.form.Caption = "Find and replace";

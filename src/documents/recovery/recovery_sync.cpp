@@ -28,7 +28,7 @@ bool closeEnded(JournalRecord& journal)
     std::erase_if(journal.Closing, [](const std::unique_ptr<AppendFile>& file) {
         try {
             return file->isSynced();
-        } catch (const RuntimeError&) { // of a file that nobody needs any more
+        } catch (const RuntimeError&) { // the file is no longer needed
             return true;
         }
     });

@@ -63,8 +63,8 @@ std::int64_t MatchMarks::collect(std::int64_t from, std::int64_t lastStart, std:
     return std::max(next, lastStart + 1);
 }
 
-/// Only matches that touch the edit, or its neighbour characters, are sought anew; and those behind that a new match
-/// runs into, until the old ones fit again. A key in a long text thus costs no search through all of it.
+/// Searches anew only where matches touch the edit or its neighbour characters, and behind it until the old ones fit
+/// again, so that a key in a long text doesn't search all of it.
 void MatchMarks::followEdit(const Pane::Edit& edit)
 {
     if (m_wanted.empty()) return;

@@ -230,7 +230,7 @@ void Form_Activate(Editor& editor)
 bool Form_QueryUnload(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_Form_QueryUnload");
-    bool leave = false; // whatever fails in here, unsaved text keeps the program open
+    bool leave = false; // unsaved text keeps the program open when a step fails
     step([&] {
         editor.ExitInProgress = 1; // saving the macro file mustn't stop to analyse it
         leave = mayLeave(editor, editor.macro, questionBeforeExit());

@@ -13,7 +13,7 @@ namespace {
 constexpr int pause = 300;    // milliseconds without a key
 constexpr int afterLine = 30; // so that no key waits for it
 
-/// What two texts have in common at their beginnings and at their ends.
+/// The lengths of the common beginning and the common end of two texts.
 struct Common {
     std::size_t head;
     std::size_t tail;
@@ -59,7 +59,7 @@ bool ColourAsTyped::isOn()
     return *m_on;
 }
 
-/// What the program itself writes has its colours, or is coloured by it.
+/// Text that the program writes has its colours already, or gets them from the command that wrote it.
 void ColourAsTyped::followEdit(OfSide& of)
 {
     if (m_editor.shared.IsLoading == 1) {

@@ -11,7 +11,7 @@ namespace tarvex {
 
 namespace {
 
-/// What the highlighters of the two documents don't share.
+/// The differences between the highlighters of the two documents.
 struct Highlighter {
     Side& side;
     std::string_view tag;

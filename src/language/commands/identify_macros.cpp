@@ -10,7 +10,7 @@ namespace tarvex {
 
 namespace {
 
-/// The joystick text in the hidden pane, where a search disturbs nobody.
+/// The joystick text in the hidden pane, where a search doesn't move the caret of the user.
 class SearchedText {
 public:
     explicit SearchedText(Editor& editor) : m_pane(editor.TempRichTextBox)

@@ -147,7 +147,7 @@ std::string descend(std::string native, const std::vector<std::string>& names)
     return native.empty() ? "/" : native;
 }
 
-/// What is left of the path below the root; nothing when it lies elsewhere.
+/// The rest of the path below the root; nothing when it lies elsewhere.
 std::optional<std::string> below(const std::string& root, const std::string& path)
 {
     if (!path.starts_with(root) || (path.size() > root.size() && path[root.size()] != '/')) return std::nullopt;

@@ -60,7 +60,8 @@ Kept copyOwner(SystemCalls& calls, int file, const struct stat& old)
     return kept;
 }
 
-/// Somebody who changes class, as a member of a group that is lost becomes one of the others, must not gain by it.
+/// Drops rights that a change of owner or group would give to another class of users, such as the members of a lost
+/// group, who become others.
 mode_t modeFor(const Kept& kept, mode_t old)
 {
     if (kept.owner && kept.group) return old & allAndSpecialBits;

@@ -29,7 +29,7 @@ bool exists(const std::string& path)
 constexpr std::size_t dosHeader = 0x40; ///< bytes
 constexpr std::size_t newHeaderPlace = 0x3C;
 
-/// What stands at a place of the file; shorter at its end.
+/// The bytes at a place of the file; fewer at its end.
 std::string bytesAt(const OpenFile& file, std::uint32_t place, std::size_t size)
 {
     std::string bytes(size, '\0');

@@ -50,7 +50,7 @@ struct SafeinViewTest : testing::Test {
     }
     QString text(const QString& name) { return get<QLineEdit>(name)->text(); }
     std::string joystick() { return std::string(t.editor().JoystickText.Text()); }
-    /// A real key at the place of a drawn one, into whatever has the keyboard.
+    /// Presses a real key at the place of a drawn one, in the widget that has the keyboard.
     void pressReal(const char* name, int qtKey, Qt::KeyboardModifiers held = Qt::NoModifier, quint32 nativelyHeld = 0)
     {
         QWidget* control = form()->focusWidget() != nullptr ? form()->focusWidget() : form();

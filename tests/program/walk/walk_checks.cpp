@@ -68,7 +68,7 @@ void checkState(Walk& walk, const Side& side)
     EXPECT_TRUE(panel.ToolTipText.get().starts_with(side.FileName));
 }
 
-/// What a crash in this moment would leave behind.
+/// The files that a crash in this moment would leave behind.
 void checkJournal(Walk& walk, const Side& side)
 {
     const JournalRecord& record = side.Journal;

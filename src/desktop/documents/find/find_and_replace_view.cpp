@@ -183,7 +183,7 @@ void FindAndReplaceView::showAccessKey(Property<std::string>& caption, QAbstract
     m_bindings.bind(caption, [&view, key](const std::string& text) { view.setText(withAccessKey(toQt(text), key)); });
 }
 
-/// What Enter runs from wherever the page has the keyboard.
+/// The button that Enter presses while any control of the page has the keyboard.
 void FindAndReplaceView::showDefaultButton(int tab)
 {
     constexpr const char* names[] = {"Command1", "Command3", "Command7"};

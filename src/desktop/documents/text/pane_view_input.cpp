@@ -99,7 +99,7 @@ void PaneView::keyPressEvent(QKeyEvent* event)
         emit popUpWanted(true);
         return;
     }
-    // Ctrl+K and Ctrl+U are not for deleting here, whatever other programs of the desktop do with them.
+    // Ctrl+K and Ctrl+U delete text in other programs of the desktop, but not here.
     if (event->matches(QKeySequence::DeleteEndOfLine) || event->matches(QKeySequence::DeleteCompleteLine)) return;
     if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
         setOverwriteMode(!overwriteMode());

@@ -69,7 +69,7 @@ ColourSelectorView::ColourSelectorView(Editor& editor, QWidget* parent)
     }
 }
 
-/// Each time it starts at the first button, whatever was chosen last.
+/// Starts at the first button each time, not at the last choice.
 void ColourSelectorView::showEvent(QShowEvent* event)
 {
     ToolFormWindow::showEvent(event);

@@ -143,7 +143,7 @@ void MacroListView::keyReleaseEvent(QKeyEvent* event)
     if (!event->isAutoRepeat()) List1_KeyUp(m_editor, m_list, toLogic(event->modifiers()));
 }
 
-/// One item is picked at all times, whatever is held.
+/// Exactly one item is picked at all times, also while Ctrl or Shift is held.
 QItemSelectionModel::SelectionFlags MacroListView::selectionCommand(const QModelIndex& index, const QEvent* event) const
 {
     const auto command = QListView::selectionCommand(index, event);

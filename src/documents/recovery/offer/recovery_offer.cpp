@@ -211,7 +211,7 @@ void reportUnreadable(Editor& editor, const std::vector<std::string>& paths)
                                     .icon = BoxIcon::Exclamation});
 }
 
-/// What there is no place for, and all of it after a No, is put aside. True: the user wants the texts back.
+/// Texts without a place, and all of them after a No, are put aside. True: the user wants the texts back.
 bool areWanted(Editor& editor, const Offer& offer)
 {
     const Answer answer = editor.platform.dialogues.show({.title = "Phew ... nothing's lost!",

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t deepest = 1000; // groups within groups; what is deeper is skipped
 
-/// What a group inherits and gives back at its end.
+/// State that a group inherits and restores at its end.
 struct Group {
     enum class Holds { Text, Fonts, Colours, Nothing };
     RtfLook look;

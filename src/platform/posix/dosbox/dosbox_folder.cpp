@@ -52,7 +52,7 @@ FileDescriptor openLock(const FileDescriptor& folder, int flags)
     return FileDescriptor(::openat(folder.get(), lockName, always | flags, 0600));
 }
 
-/// Made by this user, for nobody else. In a folder that all share, a name says nothing.
+/// Owned by this user and closed to all others. In a shared folder the name proves nothing.
 bool isOurs(const FileDescriptor& folder)
 {
     struct stat state {};

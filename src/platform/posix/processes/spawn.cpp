@@ -20,7 +20,7 @@ void check(int error)
     if (error != 0) throw systemError(error);
 }
 
-/// What is done in the child before the program takes over.
+/// Steps that the child runs before the program takes over.
 class FileActions {
 public:
     FileActions(const std::string& directory, int kept, int output)

@@ -5,7 +5,7 @@
 namespace tarvex {
 namespace {
 
-/// Edits of both sides in any order; whatever they are, view and pane end up equal.
+/// Random edits of both sides in any order: view and pane end up equal.
 class RandomEdits {
 public:
     RandomEdits(ShownPane& shown, unsigned seed) : m_shown(shown), m_chance(seed) {}

@@ -1,4 +1,4 @@
-// Journals that a disk, a copy or somebody with bad intentions has changed: nothing vanishes without a word.
+// Journals damaged by a disk, by a copy or on purpose: no loss goes unreported.
 
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/open_pair.h"

@@ -26,7 +26,7 @@ struct World : ProcessWorld {
         }
         return "(not mounted)";
     }
-    /// What a program finds at a path inside, of a file in the root of a drive.
+    /// The text that a program inside reads at a path, when a file of that text is in the root of a drive.
     std::string bytes(const std::string& inside)
     {
         return bytesOf(placeOf(static_cast<char>(inside.at(0) | 0x20)) + "/" + inside.substr(3));

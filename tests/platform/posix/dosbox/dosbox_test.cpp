@@ -1,4 +1,4 @@
-// DOS programs in the real DOSBox, which shows itself to nobody.
+// DOS programs in the real DOSBox, without a window.
 
 #include "dos_show.h"
 #include "platform/posix/processes/process_world.h"

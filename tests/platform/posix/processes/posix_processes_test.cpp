@@ -335,7 +335,7 @@ struct Prefix : Settable {
         program.replace(0x40, 2, "PE");
         disk.put("drive_c/winld.exe", program);
     }
-    /// What reaches the program of an argument, `%` in it standing for the folder of drive_c.
+    /// The argument as it reaches the program; `%` in it stands for the folder of drive_c.
     std::string argumentSeen(const std::string& argument)
     {
         const DriveMap wines(
