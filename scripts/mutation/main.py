@@ -1,6 +1,7 @@
 """Runs random single changes and reports what no test noticed. See scripts/mutate."""
 
 import argparse
+import os
 import random
 import sys
 import tempfile
@@ -106,6 +107,7 @@ class Run:
 
     def work(self, changes):
         with tempfile.TemporaryDirectory(dir=self.scratch) as scratch:
+            os.chmod(scratch, 0o755)  # tests of file rights have other users look into it
             while found := self.next_of(changes):
                 change, entry = found
                 begun = time.monotonic()
