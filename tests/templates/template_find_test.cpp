@@ -73,6 +73,7 @@ TEST_F(TemplateFindTest, AMissingTextIsReportedAndTheSelectionStays)
     EXPECT_EQ(next(), 2);
     EXPECT_EQ(t.lastBox().title, "Text not found");
     EXPECT_EQ(t.lastBox().text, "\"rudder\" not found in untitled.rtf");
+    EXPECT_NE(t.status(), "That was all of it, so I went round once more");
 }
 
 TEST_F(TemplateFindTest, TakesTheSelectionUnlessItHasSeveralLines)

@@ -23,6 +23,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -175,6 +176,22 @@ TEST_F(HandbookViewTest, CtrlFFindsInThePageAndGoesRound)
     EXPECT_TRUE(view.isVisible());
     press(Qt::Key_Escape);
     EXPECT_FALSE(view.isVisible());
+}
+
+TEST_F(HandbookViewTest, TheWheelWithCtrlMakesLettersLargerAndSmaller)
+{
+    const auto turn = [this](int angle, Qt::KeyboardModifiers keys) {
+        QWheelEvent event(QPointF(10, 10), page.viewport()->mapToGlobal(QPointF(10, 10)), {}, QPoint(0, angle),
+                          Qt::NoButton, keys, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(page.viewport(), &event);
+    };
+    const int before = page.zoom();
+    turn(120, Qt::ControlModifier);
+    EXPECT_GT(page.zoom(), before);
+    turn(-120, Qt::ControlModifier);
+    EXPECT_EQ(page.zoom(), before);
+    turn(-120, Qt::NoModifier);
+    EXPECT_EQ(page.zoom(), before) << "it scrolls";
 }
 
 TEST_F(HandbookViewTest, LettersGetLargerAndSmallerWithinBounds)

@@ -73,6 +73,19 @@ TEST_F(OpenTest, ACancelledDialogueChangesNothing)
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 
+TEST_F(OpenTest, ACancelledDialogueSelectsNoOtherTabAndReportsNothing)
+{
+    t.editor().TabStrip1.Select(t.editor().macro.tab);
+    t.dialogues.filesToOpen = {std::nullopt, std::nullopt};
+    t.menus().mnuFileJoystickLoad.Click();
+    EXPECT_EQ(t.editor().selected().tab, t.editor().macro.tab);
+    EXPECT_NE(t.status(), "Done");
+    t.editor().TabStrip1.Select(t.editor().joystick.tab);
+    t.menus().MnuFileMacroLoad.Click();
+    EXPECT_EQ(t.editor().selected().tab, t.editor().joystick.tab);
+    EXPECT_NE(t.status(), "Finished opening up macro file and extracting macros from it");
+}
+
 TEST_F(OpenTest, OpenJoystickLowerCasesPathAndNameAndIsSaved)
 {
     addPair();
