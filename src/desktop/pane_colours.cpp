@@ -14,7 +14,7 @@ QColor PaneColours::text(Colour colour) const
     return toQt(isDarkened() ? onDarkGround(colour, toColour(ground), leastContrast) : colour);
 }
 
-QColor PaneColours::readable() const { return isDarkened() || !isDark(fromQt(ground)) ? text(0) : Qt::white; }
+QColor PaneColours::readable() const { return isDarkened() || !isDark(toColour(ground)) ? text(0) : Qt::white; }
 
 PaneColours paneColours(Colour background)
 {
