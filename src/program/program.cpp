@@ -169,6 +169,7 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
     operations.UnloadEditor = [this] {
         noteLastPair(lastPair);
         Form_Unload(editor);
+        operations.UnloadForm(help.handbook.form.Name); // keeps its place
     };
     shared.errors.exitInEmergency = [this] {
         operations.ReleaseGradient();

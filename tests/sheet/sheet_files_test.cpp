@@ -54,7 +54,7 @@ TEST(SheetSvg, HasBothPagesBelowEachOtherAndEscapesTexts)
 TEST(SheetSvg, EveryTextKeepsItsWidthInAFontThatIsWider)
 {
     const std::string svg = sheetFile(twoPages(), SheetForm::Svg, sheetA4, SheetSpread::MorePages);
-    EXPECT_GT(countOf(svg, " textLength=\""), 20U);
+    EXPECT_GT(countOf(svg, " textLength=\""), 10U);
     EXPECT_EQ(countOf(svg, " textLength=\""), countOf(svg, " lengthAdjust=\"spacingAndGlyphs\""));
     EXPECT_EQ(countOf(svg, " textLength=\"0.00\""), 0U);
 }
