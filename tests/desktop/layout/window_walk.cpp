@@ -63,6 +63,7 @@ void WindowWalk::changeOutside()
 {
     m_desktop.openPair();
     m_command = "a change by another program";
+    m_desktop.program->editor.TabStrip1.Select(1); // which tab the last command left doesn't matter
     for (const Side* side : {&m_desktop.program->editor.joystick, &m_desktop.program->editor.macro})
         m_desktop.machine.files.addFile(side->FilePath, "Rem theirs\r\n");
     lookForOutsideChanges(m_desktop.program->outsideNotices);

@@ -23,7 +23,7 @@ OutsideStrip::OutsideStrip(OutsideNotice& notice, const QString& name, QWidget* 
 {
     setObjectName(name);
     setAutoFillBackground(true);
-    setAccessibleName(QStringLiteral("Changed by another program"));
+    setAccessibleName(QStringLiteral("The %1 file and other programs").arg(toQt(notice.side.kind)));
     auto* rows = new QVBoxLayout(this); // beside another pane there is little room for one long row
     rows->setContentsMargins(around, around, around, around);
     rows->setSizeConstraint(QLayout::SetNoConstraint);
