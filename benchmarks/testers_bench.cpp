@@ -1,11 +1,14 @@
+#include "desktop/platform/sdl_joystick.h"
 #include "shown_program.h"
 
+#include <SDL.h>
 #include <benchmark/benchmark.h>
 
 #include <QTimer>
 
 #include <cstdint>
 #include <ctime>
+#include <stdexcept>
 #include <vector>
 
 // What a joystick costs while an analyser shows it, and how soon a report is seen.
@@ -85,6 +88,39 @@ void reportToPaintedCross(benchmark::State& state)
     state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
 }
 BENCHMARK(reportToPaintedCross)->Iterations(500)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// The same from the device: a movement of SDL's virtual joystick, through the adapter.
+void deviceToPaintedCross(benchmark::State& state)
+{
+    ShownProgram shown;
+    open(shown, false);
+    if (SDL_InitSubSystem(SDL_INIT_JOYSTICK) != 0) throw std::runtime_error(SDL_GetError());
+    SDL_Joystick* stick =
+        SDL_JoystickOpen(SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_FLIGHT_STICK, axisRole::count, 0, 0));
+    {
+        SdlJoystick device;
+        FakeJoystick& shownOne = shown.program.joystick;
+        const Connection passing = device.reported.connect([&](const JoystickReport& report) {
+            shownOne.position = report.position;
+            shownOne.reported(report);
+        });
+        device.start();
+        std::vector<double> times;
+        for (auto _ : state) {
+            PaintsOf field("PicJoy");
+            const auto start = Clock::now();
+            SDL_JoystickSetVirtualAxis(stick, 0, times.size() % 2 == 0 ? SDL_JOYSTICK_AXIS_MIN : SDL_JOYSTICK_AXIS_MAX);
+            field.wait();
+            times.push_back(secondsSince(start));
+            state.SetIterationTime(times.back());
+        }
+        state.counters["p99_ms"] = percentile(times, 0.99) * 1e3;
+    }
+    SDL_JoystickClose(stick);
+    SDL_JoystickDetachVirtual(0);
+    SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
+}
+BENCHMARK(deviceToPaintedCross)->Iterations(500)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void testerOpening(benchmark::State& state)
 {
