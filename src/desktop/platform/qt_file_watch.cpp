@@ -16,6 +16,7 @@ constexpr int latestTime = 1000;
 
 QString nativePath(const DriveMap& drives, const std::string& path)
 {
+    if (path.empty()) return {}; // a document without a file, as at each start: no exception for that
     try {
         return toQt(drives.toNative(path));
     } catch (const std::exception&) {
