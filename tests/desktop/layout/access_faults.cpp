@@ -54,7 +54,7 @@ bool isControl(const QWidget& widget)
         widget.objectName().startsWith("qt_"))
         return false;
     for (const QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget())
-        for (const char* kind : {"QComboBox", "QAbstractSpinBox", "QTabBar", "QMenuBar", "QHeaderView"})
+        for (const char* kind : {"QComboBox", "QLineEdit", "QAbstractSpinBox", "QTabBar", "QMenuBar", "QHeaderView"})
             if (above->inherits(kind)) return false;
     for (const char* kind : {"QAbstractButton", "QComboBox", "QLineEdit", "QAbstractSpinBox", "QAbstractSlider",
                              "QPlainTextEdit", "QTextEdit", "QAbstractItemView"})
