@@ -89,6 +89,13 @@ TEST_F(ThemeViewTest, OnDarkGroundEmptyTickBoxesAndRadioButtonsHaveVisibleFrames
     }
 }
 
+TEST_F(ThemeViewTest, OnDarkGroundOtherControlsHaveNoBrightFrames)
+{
+    appearance.choose(Appearance::Theme::Dark);
+    for (const auto element : {QStyle::PE_PanelButtonCommand, QStyle::PE_FrameLineEdit, QStyle::PE_Frame})
+        EXPECT_LT(contrast(element, QPalette::Window), 70) << element;
+}
+
 double contrastOf(const QPalette& palette, QPalette::ColorRole text, QPalette::ColorRole ground)
 {
     const auto colour = [&palette](QPalette::ColorRole role) {

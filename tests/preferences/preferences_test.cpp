@@ -128,6 +128,17 @@ TEST_F(PreferencesTest, ThrottleAndRuddersAreKeptByTheirPlaceInTheList)
     EXPECT_EQ(ini("FileLocations", "RudderName"), "2");
 }
 
+TEST_F(PreferencesTest, WithoutGamesAWrittenBoxChangesNothing)
+{
+    inPreferences([this] {
+        GamesPage& page = preferences().gamesPage;
+        ASSERT_TRUE(page.List3.Items.get().empty());
+        page.Text12.Text = "lance";
+        EXPECT_TRUE(page.List3.Items.get().empty());
+    });
+    EXPECT_NE(program().shared.errors.ErrorProcedure, "PREFS GameText_Change");
+}
+
 TEST_F(PreferencesTest, AnEmptyGamesCaptionBecomesGames)
 {
     inPreferences([this] { preferences().miscellaneousPage.ComboGamesCaption.Text = "Eat thi&s!"; });

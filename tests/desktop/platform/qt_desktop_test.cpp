@@ -1,11 +1,13 @@
 #include "desktop/platform/qt_desktop.h"
 
 #include "desktop/bind.h"
+#include "desktop/text.h"
 #include "held_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTest>
 #include <QTimer>
@@ -122,6 +124,14 @@ TEST(WaitForEscape, ReturnsAtOnceWhereNoWindowIsShown)
     desktop.waitForEscape();
     EXPECT_FALSE(happened) << "no event was handled";
     QApplication::processEvents();
+}
+
+TEST(QtDesktop, TheScreenIsAsLargeAsTheRoomForWindowsOnIt)
+{
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    const QtDesktop desktop("/nowhere");
+    EXPECT_EQ(desktop.screenWidth(), toTwips(room.width()));
+    EXPECT_EQ(desktop.screenHeight(), toTwips(room.height()));
 }
 
 } // namespace

@@ -140,6 +140,11 @@ TEST_F(PreferencesPagesTest, ExtrasShowsTheDrivesAndTakesAWrittenFolder)
     table->setFocus();
     table->setCurrentCell(0, 1);
     EXPECT_EQ(extras().DriveRow, 0);
+    QTest::keyClick(table, Qt::Key_Down);
+    EXPECT_EQ(extras().DriveRow, 1);
+    QTest::keyClick(table, Qt::Key_Return);
+    EXPECT_EQ(table->findChild<QLineEdit*>(), nullptr) << "the folder of this drive can't be changed";
+    QTest::keyClick(table, Qt::Key_Up);
     QTest::keyClick(table, Qt::Key_Return);
     auto* editor = table->findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);

@@ -236,13 +236,15 @@ TEST(WithoutOutsideReferences, DropsStyleSheetsEntitiesAndAddresses)
     const QByteArray clean = withoutOutsideReferences(
         "<?xml version='1.0'?><?xml-stylesheet href='file:///etc/a.css' type='text/css'?>"
         "<!DOCTYPE svg [<!ENTITY x SYSTEM 'file:///etc/passwd'>]>"
-        "<svg xmlns='http://www.w3.org/2000/svg'><style>@import url(http://a.b/c.css);</style>"
+        "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'><style>@import "
+        "url(http://a.b/c.css);</style>"
         "<rect fill='url(http://a.b/c.svg#d)' width='1'/><use href='other.svg#a'/><use href='#own'/>"
         "<rect fill='url(#own)'/></svg>");
     EXPECT_FALSE(clean.isEmpty());
     EXPECT_FALSE(clean.contains("file:"));
     EXPECT_FALSE(clean.contains("a.b"));
     EXPECT_FALSE(clean.contains("other.svg"));
+    EXPECT_TRUE(clean.contains("xmlns:xlink=\"http://www.w3.org/1999/xlink\""));
     EXPECT_TRUE(clean.contains("href=\"#own\""));
     EXPECT_TRUE(clean.contains("url(#own)"));
     EXPECT_TRUE(clean.contains("width=\"1\""));

@@ -169,6 +169,12 @@ TEST_F(MarginTest, TheTipNamesTheErrorBesideItsLine)
     EXPECT_EQ(tipAt(4), "The last download found an error in this line");
 }
 
+TEST_F(MarginTest, TheNumbersHaveRoomOnBothSides)
+{
+    const int digits = QFontMetrics(shown.view.font()).horizontalAdvance(QStringLiteral("200"));
+    EXPECT_GE(margin().width(), digits + 6);
+}
+
 TEST_F(MarginTest, AClickSelectsTheLineWithItsEnd)
 {
     QTest::mouseClick(&margin(), Qt::LeftButton, {}, row(2).center());
@@ -219,6 +225,19 @@ TEST_F(MarginTest, TenThousandMatchesInOneLineAreMarkedWhereTheyAreSeen)
     settle();
     EXPECT_EQ(matches.positions().size(), 10'000U);
     EXPECT_NE(painted(*shown.view.viewport()), QImage());
+    shown.view.horizontalScrollBar()->setValue(shown.view.horizontalScrollBar()->maximum() / 2);
+    const QImage there = painted(*shown.view.viewport());
+    matches.clear();
+    settle();
+    EXPECT_NE(painted(*shown.view.viewport()), there);
+}
+
+TEST_F(MarginTest, AMatchThatBeginsLeftOfTheViewIsMarkedWhereItIsSeen)
+{
+    shown.view.showCurrentLine(false);
+    shown.pane.setText(std::string(600, 'a'));
+    matches.show(std::string(500, 'a'), 0);
+    settle();
     shown.view.horizontalScrollBar()->setValue(shown.view.horizontalScrollBar()->maximum() / 2);
     const QImage there = painted(*shown.view.viewport());
     matches.clear();

@@ -233,6 +233,22 @@ TEST(ToolbarView, AWrappableBarGoesOnInFurtherRows)
     EXPECT_FALSE(t.seen(47));
 }
 
+TEST(ToolbarView, IconsAreAsHighAsTheyAreWide)
+{
+    Bar t;
+    for (const QToolButton* button : t.view().findChildren<QToolButton*>())
+        EXPECT_EQ(button->iconSize().width(), button->iconSize().height()) << fromQt(button->objectName());
+}
+
+TEST(ToolbarView, IsNeverNarrowerThanAButtonAndTheArrow)
+{
+    Bar t;
+    const int arrow = t.view().findChild<QToolButton*>("Extension")->sizeHint().width();
+    const int button = t.slot(1).width();
+    EXPECT_GE(t.view().layout()->minimumSize().width(), arrow + button);
+    EXPECT_LT(t.view().layout()->minimumSize().width(), arrow + 3 * button);
+}
+
 TEST(ToolbarView, ButtonsAreRaisedUnlessTheBarIsFlat)
 {
     Bar t;
