@@ -20,6 +20,13 @@ template <typename... Values> std::string format(const char* form, Values... val
     return text;
 }
 
+/// A number with its sign and so many decimals; what is nothing then has no minus.
+std::string withSign(double value, int decimals)
+{
+    const double factor = std::pow(10, decimals);
+    return format("%+.*f", decimals, std::round(value * factor) / factor + 0.0);
+}
+
 double percentOfRange(double units) { return units / axisLast * 100; }
 
 std::array<std::string, Numbers::columns.size()> cellsOf(const AxisNumbers& axis)
@@ -32,10 +39,10 @@ std::array<std::string, Numbers::columns.size()> cellsOf(const AxisNumbers& axis
             std::to_string(axis.maximum),
             format("%.1f %%", percentOfRange(axis.maximum - axis.minimum)),
             atRest(format("%.0f", axis.rest.position)),
-            atRest(format("%+.1f %%", offCentre)),
+            atRest(withSign(offCentre, 1) + " %"),
             atRest(format("%.1f (%d)", axis.rest.deviation, axis.rest.peakToPeak)),
             std::to_string(axis.spikes),
-            atRest(format("%+.0f", axis.drift))};
+            atRest(withSign(axis.drift, 0))};
 }
 
 std::string kernelText(const JoystickDevice& device)

@@ -51,6 +51,16 @@ TEST_F(NumbersTest, AStickAtRestIsJudged)
     EXPECT_EQ(numbers.Verdict.Caption.get(), "Centred within 0.4 %.");
 }
 
+TEST_F(NumbersTest, WhatIsNothingHasNoMinus)
+{
+    send(32768, 2000);
+    numbers.refresh(); // the first rest, which the drift counts from
+    send(32767, 500);
+    numbers.refresh();
+    EXPECT_EQ(cell(axisRole::x, 5), "+0.0 %");
+    EXPECT_EQ(cell(axisRole::x, 8), "+0");
+}
+
 TEST_F(NumbersTest, AStickOffItsCentreIsToBeCalibrated)
 {
     send(36000, 2000);

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <array>
+
 namespace tarvex {
 
 NumbersView::NumbersView(Numbers& numbers, QWidget* parent) : QWidget(parent), m_numbers(numbers)
@@ -42,13 +44,17 @@ QLabel* NumbersView::text(Label& state, const char* name)
 
 QLayout* NumbersView::table()
 {
+    // As wide as the columns get: a wider window would lose the trail.
+    constexpr std::array<const char*, Numbers::columns.size()> widest = {
+        "00000", "00000", "00000", "100.0 %", "00000", "+100.0 %", "1500.0 (3000)", "00000", "+00000"};
+    constexpr int cellMargin = 4; // a label is a little wider than its text
     auto* grid = new QGridLayout;
-    const int digits = fontMetrics().horizontalAdvance(QStringLiteral("00000"));
     for (std::size_t column = 0; column < Numbers::columns.size(); ++column) {
         auto* heading = new QLabel(QLatin1String(Numbers::columns[column]), this);
         heading->setAlignment(Qt::AlignRight);
         grid->addWidget(heading, 0, static_cast<int>(column) + 1);
-        grid->setColumnMinimumWidth(static_cast<int>(column) + 1, digits);
+        grid->setColumnMinimumWidth(static_cast<int>(column) + 1,
+                                    fontMetrics().horizontalAdvance(QLatin1String(widest[column])) + cellMargin);
         grid->setColumnStretch(static_cast<int>(column) + 1, 1);
     }
     for (std::size_t role = 0; role < Numbers::rows.size(); ++role) {

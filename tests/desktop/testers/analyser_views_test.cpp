@@ -204,6 +204,12 @@ TEST_F(JoyPlotViewTest, ALongerVerdictKeepsTheTrail)
         "clean or replace that pot. 3 spikes on Throttle in 60 s: clean or replace that pot.";
     QApplication::processEvents();
     EXPECT_EQ(field->size(), before);
+    for (auto& row : form.numbers.Cells) {
+        row[5].Caption = "-100.0 %";
+        row[6].Caption = "1234.5 (2999)"; // a stick that trembles a lot
+    }
+    QApplication::processEvents();
+    EXPECT_EQ(field->size(), before);
     form.numbers.Verdict.Caption = "Centred.";
     QApplication::processEvents();
     EXPECT_EQ(field->size(), before);
