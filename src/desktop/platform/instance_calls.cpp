@@ -41,9 +41,9 @@ private:
             return;
         }
         if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
+        end(); // first: the end of the request can be read again and again
         const auto request = count == 0 ? readRequest(m_bytes) : std::nullopt;
         if (request) answer(*request);
-        end();
     }
     void answer(const InstanceRequest& request)
     {
@@ -92,7 +92,7 @@ void InstanceCalls::accept()
 void InstanceCalls::hear(const InstanceRequest& request)
 {
     if (m_waiting.size() < mostWaiting) m_waiting.push_back(request);
-    fulfilNext();
+    QTimer::singleShot(0, this, &InstanceCalls::fulfilNext);
 }
 
 void InstanceCalls::fulfil()
