@@ -109,6 +109,7 @@ ThemeView::ThemeView(Appearance& appearance, Extras& extras)
             QApplication::setPalette(highContrastPalette());
             break;
         }
+        announceChange(); // panes have palettes of their own, which don't follow
     });
 }
 
