@@ -3,6 +3,7 @@
 #include "desktop/theme_style.h"
 
 #include <QApplication>
+#include <QWidget>
 
 namespace tarvex {
 
