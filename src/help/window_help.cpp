@@ -16,6 +16,7 @@ struct WindowTopic {
 /// The key tester isn't among them: it shows F1 as it shows every key.
 constexpr WindowTopic windowTopics[] = {
     {"ColourSelector", helpTopic::colourSelector},
+    {"Differences", helpTopic::outsideChanges},
     {"EnterFavouritename", helpTopic::favourites},
     {"EnterGameName", helpTopic::games},
     {"FilesHome", helpTopic::firstPreferencesPage},

@@ -510,7 +510,7 @@ TEST(Exit, TakesTheToolWindowsDownInOrder)
     t.program().operations.UnloadForm = [&](const std::string& name) { unloaded += name + " "; };
     EXPECT_TRUE(t.program().exit());
     EXPECT_EQ(unloaded, "FindAndReplace InsertOptions Heading KeyTestForm InfoWindow RAWform MacroWizard JoystickWiz "
-                        "SlashWizard JoyPlot TCAform Speedy ColourSelector KeyTestForm ");
+                        "SlashWizard JoyPlot TCAform Speedy Handbook ColourSelector KeyTestForm ");
 }
 
 TEST(ReportError, AnEmergencyExitUnloadsTheToolWindowsAndEnds)
