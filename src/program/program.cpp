@@ -181,7 +181,13 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
 
 Program::~Program() = default;
 
-bool Program::start() { return MDIForm_Load({platform, shared, mum, operations}); }
+bool Program::start()
+{
+    const bool started = MDIForm_Load({platform, shared, mum, operations});
+    // The tip of the day brought the frame before the tour of a newcomer.
+    if (started && help.handbook.form.Visible) help.handbook.form.Show();
+    return started;
+}
 
 bool Program::exit() { return mnuFileExit_Click({platform, shared, mum, operations}); }
 

@@ -149,6 +149,21 @@ TEST(FirstUse, LeadsThroughThePreferencesToTheTour)
     EXPECT_TRUE(program.help.handbook.form.Visible);
 }
 
+TEST(FirstUse, TheTourComesToTheFrontAfterTheTip)
+{
+    TestMachine machine;
+    machine.files.addFile("c:\\tqs\\b50load.exe", "");
+    FakeHelpSystem system;
+    system.files["index.txt"] += "topic\t100\ttour.html\n";
+    Program program(machine.platform);
+    program.help.useSystem(system);
+    std::size_t formsAtTheFront = 0;
+    const Connection front =
+        program.help.handbook.form.frontWanted.connect([&] { formsAtTheFront = machine.dialogues.modalForms.size(); });
+    EXPECT_TRUE(program.start());
+    EXPECT_EQ(formsAtTheFront, 2U) << "after the preferences and the tip";
+}
+
 TEST_F(HandbookTest, ANewcomerWithoutAHandbookIsShownNothing)
 {
     system.files.clear();
