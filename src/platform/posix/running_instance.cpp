@@ -149,7 +149,7 @@ FileDescriptor listenForRequests(const std::string& socket)
     struct stat status = {};
     const bool isLeft = ::lstat(socket.c_str(), &status) == 0 && S_ISSOCK(status.st_mode);
     if (!address || !listening) return {};
-    if (isLeft) ::unlink(socket.c_str()); // whoever calls this is the one Tarvex of its program directory
+    if (isLeft) ::unlink(socket.c_str()); // the caller holds the lock of its program directory
     const mode_t before = ::umask(S_IRWXG | S_IRWXO);
     const int bound = ::bind(listening.get(), general(*address), sizeof *address);
     ::umask(before);

@@ -9,7 +9,7 @@
 namespace tarvex {
 
 // A second process hands its wish to the Tarvex that runs, over a socket that only processes of the same user can talk
-// through: whoever is at the other end has its user id checked, too.
+// through; the user id of the other end is checked, too.
 
 /// What a second process wants of the Tarvex that runs.
 struct InstanceRequest {
