@@ -22,7 +22,7 @@ void reloadToPaintedView(benchmark::State& state)
     OutsideNotices& notices = t.program().outsideNotices;
     const std::size_t apart = text.size() / 10;
     for (auto _ : state) {
-        for (std::size_t place = 0; place < text.size(); place += apart) {
+        for (std::size_t place = 0; place + apart <= text.size(); place += apart) {
             char& changed = text[text.find_first_not_of("\r\n", place)];
             changed = changed == 'x' ? 'y' : 'x';
         }

@@ -22,6 +22,12 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
+# Libraries that the program loads when it first wants them. Not beside those of the system, or in a folder of theirs,
+# where packagers and ldconfig look for libraries to link.
+include(GNUInstallDirs)
+set(TARVEX_MODULES ${CMAKE_INSTALL_LIBDIR}/tarvex/modules)
+file(RELATIVE_PATH TARVEX_MODULES_FROM_PROGRAM /${CMAKE_INSTALL_BINDIR} /${TARVEX_MODULES})
+
 add_library(tarvex_compile_options INTERFACE)
 target_compile_options(tarvex_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual

@@ -55,7 +55,7 @@ opens_by_its_type() {
     local example=/usr/share/tarvex/examples/kestrel.b50 command
     command=$(program_for $example)
     echo "the desktop starts: $command"
-    [ "$command" = "tarvex $example" ] || return 1
+    [ "$command" = "tarvex-open $example" ] || return 1
     # shellcheck disable=SC2086 # words
     start_program "$work/first-start.png" $command && grep -qi 'kestrel\.b50' "$(settings)"
 }

@@ -29,7 +29,7 @@ class Help(unittest.TestCase):
         self.assertEqual(copied, {"examples"})
 
     def test_the_reader_of_the_collection_is_beside_the_program(self):
-        readers = list(INSTALLED.glob("lib*/**/tarvex/handbook.so"))
+        readers = list(INSTALLED.glob("lib*/**/tarvex/modules/handbook.so"))
         self.assertEqual(len(readers), 1)
         self.assertIn("openTarvexHelpCollection", output("nm", "-D", "--defined-only", readers[0]))
 
