@@ -37,7 +37,8 @@ start_program() {
     "$top/scripts/with-display" --manager bash -c 'picture=$1 root=$2 top=$3; shift 3
         exec "$top/scripts/take-picture" "$picture" chroot --userspec=pilot:pilot "$root" /usr/bin/env -i HOME=/home/pilot \
             XDG_RUNTIME_DIR=/run/user/pilot PATH=/usr/bin:/bin LC_ALL=C.UTF-8 DISPLAY="$DISPLAY" "$@"' - "$picture" "$root" "$top" "$@" || return 1
-    find "$root" -xdev -newer "$work/stamp" ! -path "$root/home/pilot*" ! -path "$root/run/user/*" >>"$work/written.txt"
+    find "$root" -xdev -newer "$work/stamp" ! -path "$root/home/pilot*" ! -path "$root/run/user/*" -printf "%p at %t by $*\n" \
+        >>"$work/written.txt"
 }
 
 # The program that the desktop starts for a file, from its type and the desktop file, as words.
@@ -86,7 +87,8 @@ nothing_outside() {
 leaves_no_trace() {
     local left
     in_root apt-get purge -y tarvex || return 1
-    left=$(find "$root" -xdev -iname '*tarvex*' ! -path "$root/home/*")
+    # The system clears the runtime directory when the user logs out.
+    left=$(find "$root" -xdev -iname '*tarvex*' ! -path "$root/home/*" ! -path "$root/run/user/*")
     printf '%s\n' "$left"
     [ -z "$left" ] && has_settings
 }
