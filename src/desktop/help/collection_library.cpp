@@ -1,7 +1,10 @@
 #include "desktop/help/help_collection.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHelpEngineCore>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -10,6 +13,13 @@
 namespace tarvex {
 
 namespace {
+
+/// Where nobody but the user looks, and which the system clears; the folder of all users when there is no such one.
+QString runtimeFolder()
+{
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return !own.isEmpty() && QFileInfo(own).isWritable() ? own : QDir::tempPath();
+}
 
 /// Qt Help keeps a list of the collections that it knows in a file that it writes; it is made anew for each run, so
 /// that it never refers to a collection that was moved or replaced.
@@ -39,7 +49,7 @@ public:
     QString error() const override { return m_error; }
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{runtimeFolder() + QStringLiteral("/tarvex-handbook-XXXXXX")};
     std::unique_ptr<QHelpEngineCore> m_engine;
     QString m_root;
     QString m_error;
