@@ -42,12 +42,14 @@
 #include <QDir>
 
 #include <cstdlib>
-#include <iostream>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace {
+
+using tarvex::fromEnvironment;
+using tarvex::printAnswer;
 
 constexpr std::string_view help =
     "Usage: tarvex [FILE]\n"
@@ -59,25 +61,12 @@ constexpr std::string_view help =
     "  -h, --help  show this text and end\n"
     "  --version   show the version and end\n";
 
-std::string fromEnvironment(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
 /// The folder of the Wine prefix in use; empty: there is none.
 std::string winePrefix()
 {
     const std::string chosen = fromEnvironment("WINEPREFIX");
     const std::string home = fromEnvironment("HOME");
     return !chosen.empty() || home.empty() ? chosen : home + "/.wine";
-}
-
-/// Prints the text; the process's exit status.
-int print(std::string_view text)
-{
-    std::cout << text << std::flush;
-    return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 /// As the list of previous files does it.
@@ -205,8 +194,8 @@ int main(int argumentCount, char** argumentValues)
     using namespace tarvex;
     fillStandardFiles();
     const CommandLine line = readCommandLine(std::span(argumentValues, argumentCount).subspan(1));
-    if (line.wish == CommandLine::Wish::ShowHelp) return print(help);
-    if (line.wish == CommandLine::Wish::ShowVersion) return print("Tarvex " TARVEX_VERSION "\n");
+    if (line.wish == CommandLine::Wish::ShowHelp) return printAnswer(help);
+    if (line.wish == CommandLine::Wish::ShowVersion) return printAnswer("Tarvex " TARVEX_VERSION "\n");
     int ownName = 1; // any other argument is part of the path, and none of it is Qt's
     Application application(ownName, argumentValues);
     QApplication::setApplicationName(QStringLiteral("Tarvex"));

@@ -15,6 +15,9 @@
 
 namespace {
 
+using tarvex::fromEnvironment;
+using tarvex::printAnswer;
+
 constexpr std::string_view help =
     "Usage: tarvex-open [FILE]\n"
     "Opens a joystick or macro file in the Tarvex that runs, or starts Tarvex with it.\n"
@@ -24,19 +27,6 @@ constexpr std::string_view help =
     "\n"
     "  -h, --help  show this text and end\n"
     "  --version   show the version and end\n";
-
-std::string fromEnvironment(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
-/// Prints the text; the process's exit status.
-int print(std::string_view text)
-{
-    std::cout << text << std::flush;
-    return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
-}
 
 /// The other process has another working directory. A DOS path stays as it is.
 std::string wholePath(const std::string& path)
@@ -59,10 +49,10 @@ tarvex::InstanceRequest requestFor(const std::string& path)
 int becomeTarvex(const std::string& executable, std::span<char*> arguments)
 {
     const std::string program = (std::filesystem::path(executable).parent_path() / "tarvex").string();
-    std::vector<char*> words{const_cast<char*>(program.c_str())}; // NOLINT: execv doesn't write to them
+    std::vector<char*> words{const_cast<char*>(program.c_str())}; // NOLINT: execvp doesn't write to them
     words.insert(words.end(), arguments.begin(), arguments.end());
     words.push_back(nullptr);
-    ::execv(program.c_str(), words.data());
+    ::execvp(program.c_str(), words.data()); // without /proc the folder is unknown, and the path is searched
     std::cerr << "tarvex-open: can't start " << program << ": " << std::strerror(errno) << '\n';
     return EXIT_FAILURE;
 }
@@ -75,8 +65,8 @@ int main(int argumentCount, char** argumentValues)
     constexpr int patience = 1000; // milliseconds
     const auto arguments = std::span(argumentValues, static_cast<std::size_t>(argumentCount)).subspan(1);
     const CommandLine line = readCommandLine(arguments);
-    if (line.wish == CommandLine::Wish::ShowHelp) return print(help);
-    if (line.wish == CommandLine::Wish::ShowVersion) return print("tarvex-open " TARVEX_VERSION "\n");
+    if (line.wish == CommandLine::Wish::ShowHelp) return printAnswer(help);
+    if (line.wish == CommandLine::Wish::ShowVersion) return printAnswer("tarvex-open " TARVEX_VERSION "\n");
     const ProgramPlaces places = readProgramPlaces();
     const std::string socket = instanceSocket(fromEnvironment("XDG_RUNTIME_DIR"), findProgramDirectory(places));
     if (askRunningInstance(socket, requestFor(line.path), patience)) return EXIT_SUCCESS;

@@ -1,6 +1,8 @@
 #include "platform/posix/command_line.h"
 
+#include <cstdlib>
 #include <filesystem>
+#include <iostream>
 
 namespace tarvex {
 
@@ -31,6 +33,18 @@ CommandLine readCommandLine(std::span<const char* const> arguments)
     const CommandLine::Wish wish = wishOf(line.path);
     if (wish == CommandLine::Wish::Start || namesFile(line.path)) return line;
     return {wish, {}};
+}
+
+int printAnswer(std::string_view text)
+{
+    std::cout << text << std::flush;
+    return std::cout ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+std::string fromEnvironment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value != nullptr ? value : "";
 }
 
 } // namespace tarvex

@@ -1,6 +1,7 @@
 #include "platform/posix/program_directory.h"
 
-#include <cstdlib>
+#include "platform/posix/command_line.h"
+
 #include <filesystem>
 #include <unistd.h>
 
@@ -9,12 +10,6 @@ namespace tarvex {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string environment(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
 
 bool isWritableDirectory(const fs::path& path)
 {
@@ -72,8 +67,8 @@ ProgramPlaces readProgramPlaces()
     places.executable = fs::read_symlink("/proc/self/exe", error).string();
     const fs::path installed = fs::path(places.executable).parent_path().parent_path() / "share/tarvex";
     if (fs::is_directory(installed, error)) places.installedFiles = installed.string();
-    places.dataHome = environment("XDG_DATA_HOME");
-    places.home = environment("HOME");
+    places.dataHome = fromEnvironment("XDG_DATA_HOME");
+    places.home = fromEnvironment("HOME");
     return places;
 }
 
