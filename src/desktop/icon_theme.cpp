@@ -24,6 +24,7 @@ public:
     explicit TintedSvg(QString name) : m_name(std::move(name)) {}
 
     QIconEngine* clone() const override { return new TintedSvg(m_name); }
+    QString iconName() override { return m_name; }
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override
     {

@@ -1,19 +1,18 @@
-// What stands in the windows: captions, tips, items, keys, and what screen readers say, compared with a list for each
-// window in tests/data/windows. With TARVEX_UPDATE_TEXTS set the lists are written instead; read the difference before
-// committing it.
+// What the windows are made of, compared with a list for each in tests/data/windows: how their widgets are nested,
+// captions, tips, keys, what screen readers say, and everything else that was set. And how they look, compared with
+// small pictures in tests/data/window_pictures. With TARVEX_UPDATE_TEXTS set both are written instead; read the
+// difference before committing it.
 
+#include "window_list.h"
+#include "window_picture.h"
 #include "window_walk.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
+#include <QFontInfo>
+#include <QMetaEnum>
 #include <QRegularExpression>
-#include <QTabWidget>
 
 #include <gtest/gtest.h>
 
@@ -22,107 +21,177 @@
 namespace tarvex {
 namespace {
 
-QString textOf(const QWidget& widget)
-{
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
-    if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) return group->title();
-    if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) return line->placeholderText();
-    QStringList items;
-    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
-        for (int i = 0; i < box->count(); ++i) items.append(box->itemText(i));
-    } else if (const auto* tabs = qobject_cast<const QTabWidget*>(&widget)) {
-        for (int i = 0; i < tabs->count(); ++i) items.append(tabs->tabText(i));
-    }
-    return items.join(u" | ");
-}
-
-/// A line such as `Command1 "OK", tip "..."`; nothing without any text.
-class Line {
-public:
-    Line& add(const char* kind, QString text)
-    {
-        if (!text.isEmpty()) m_line += QLatin1String(kind) + u'"' + text.replace(u'\n', QStringLiteral("\\n")) + u'"';
-        return *this;
-    }
-    QString of(const QObject& owner) const { return m_line.isEmpty() ? m_line : owner.objectName() + m_line + u'\n'; }
-
-private:
-    QString m_line;
-};
-
-QString lineOf(const QWidget& widget)
-{
-    Line line;
-    line.add(" ", textOf(widget)).add(", tip ", widget.toolTip()).add(", spoken ", widget.accessibleName());
-    return line.add(", described as ", widget.accessibleDescription()).of(widget);
-}
-
-QString lineOf(const QAction& action)
-{
-    Line line;
-    line.add(" ", action.text()).add(", keys ", action.shortcut().toString(QKeySequence::PortableText));
-    if (action.toolTip() != action.iconText()) line.add(", tip ", action.toolTip());
-    return line.of(action);
-}
-
 /// The clock and the version change by themselves.
-QString withoutTimeAndVersion(QString texts)
+QString withoutTimeAndVersion(QString list)
 {
-    texts.replace(QRegularExpression(QStringLiteral("\"\\d\\d:\\d\\d\"")), QStringLiteral("\"--:--\""));
-    return texts.replace(QRegularExpression(QStringLiteral("\"Version [\\d.]+\"")), QStringLiteral("\"Version ...\""));
+    list.replace(QRegularExpression(QStringLiteral("\"\\d\\d:\\d\\d\"")), QStringLiteral("\"--:--\""));
+    return list.replace(QRegularExpression(QStringLiteral("\"Version [\\d.]+\"")), QStringLiteral("\"Version ...\""));
 }
 
-QString textsOf(const QWidget& window)
-{
-    QString texts = QStringLiteral("\"%1\"\n").arg(window.windowTitle());
-    for (const QWidget* widget : window.findChildren<QWidget*>()) texts += lineOf(*widget);
-    for (const QAction* action : window.findChildren<QAction*>()) {
-        if (!action->objectName().isEmpty()) texts += lineOf(*action);
-    }
-    return withoutTimeAndVersion(texts);
-}
-
-/// Takes the texts of each kind of window as it is first seen.
-class TextWalk : public WindowWalk {
+/// Takes list and pictures of each kind of window the first time that it comes up.
+class ListWalk : public WindowWalk {
 public:
-    std::map<QString, QString> texts; ///< by the name of the window's class
+    ListWalk()
+    {
+        m_desktop.appearance->choose(Appearance::Theme::Light);
+        QApplication::processEvents(); // widgets learn of another palette by an event
+    }
+
+    std::map<QString, QString> lists;   ///< by the name of the window's class
+    std::map<QString, QImage> pictures; ///< by that name and a number from 0
 
 private:
     void look(QWidget& window) override
     {
         const std::string name = className(window);
         const std::string ours = "tarvex::";
-        if (name.starts_with(ours)) texts.try_emplace(toQt(name.substr(ours.size())), textsOf(window));
+        if (!name.starts_with(ours)) return;
+        const QString kind = toQt(name.substr(ours.size()));
+        if (!lists.contains(kind)) lists[kind] = withoutTimeAndVersion(m_list.of(window));
+        if (m_firstCommands.try_emplace(kind, command()).first->second == command()) takePicture(kind, window);
     }
+
+    /// Most looks are at a page that has been seen before.
+    void takePicture(const QString& kind, QWidget& window)
+    {
+        const QImage picture = reducedPicture(window);
+        int number = 0;
+        for (; pictures.contains(kind + QString::number(number)); ++number)
+            if (differentSquares(picture, pictures[kind + QString::number(number)]).isEmpty()) return;
+        pictures[kind + QString::number(number)] = picture;
+    }
+
+    PlainWidgets m_plain;
+    WindowList m_list{m_plain};
+    std::map<QString, std::string> m_firstCommands; ///< that showed a window of the class
 };
 
-const QString lists = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/windows/");
+const QString listFolder = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/windows/");
+const QString pictureFolder = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/window_pictures/");
 
-void writeLists(const std::map<QString, QString>& texts)
+const QString coloursFile = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/appearances.txt");
+
+/// A line for each colour of each appearance.
+QString coloursOfAppearances()
 {
-    QDir(lists).removeRecursively();
-    ASSERT_TRUE(QDir().mkpath(lists));
-    for (const auto& [window, text] : texts) {
-        QFile file(lists + window + QStringLiteral(".txt"));
+    constexpr QPalette::ColorRole roles[] = {QPalette::Window,
+                                             QPalette::WindowText,
+                                             QPalette::Base,
+                                             QPalette::AlternateBase,
+                                             QPalette::Text,
+                                             QPalette::Button,
+                                             QPalette::ButtonText,
+                                             QPalette::ToolTipBase,
+                                             QPalette::ToolTipText,
+                                             QPalette::Highlight,
+                                             QPalette::HighlightedText,
+                                             QPalette::Link,
+                                             QPalette::PlaceholderText};
+    const std::pair<const char*, QPalette> palettes[] = {
+        {"light", lightPalette()}, {"dark", darkPalette()}, {"high contrast", highContrastPalette()}};
+    const std::pair<const char*, QPalette::ColorGroup> groups[] = {{"", QPalette::Active},
+                                                                   {"disabled ", QPalette::Disabled}};
+    const QMetaEnum names = QMetaEnum::fromType<QPalette::ColorRole>();
+    QString list;
+    for (const auto& [appearance, palette] : palettes)
+        for (const auto& [groupName, group] : groups)
+            for (const QPalette::ColorRole role : roles)
+                list += QStringLiteral("%1: %2%3 %4\n")
+                            .arg(QLatin1String(appearance), QLatin1String(groupName),
+                                 QLatin1String(names.valueToKey(role)), palette.color(group, role).name());
+    return list;
+}
+
+void write(const ListWalk& walk)
+{
+    QFile colours(coloursFile);
+    ASSERT_TRUE(colours.open(QIODevice::WriteOnly));
+    colours.write(coloursOfAppearances().toUtf8());
+    for (const QString& folder : {listFolder, pictureFolder}) {
+        QDir(folder).removeRecursively();
+        ASSERT_TRUE(QDir().mkpath(folder));
+    }
+    for (const auto& [window, list] : walk.lists) {
+        QFile file(listFolder + window + QStringLiteral(".txt"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
+        file.write(list.toUtf8());
+    }
+    for (const auto& [name, picture] : walk.pictures)
+        ASSERT_TRUE(picture.save(pictureFolder + name + QStringLiteral(".png")));
+}
+
+/// With a font whose widths are the same on every machine: some sizes are so many characters.
+class WindowTexts : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        before = QApplication::font();
+        QFont font(QStringLiteral("Liberation Sans"), 9);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        ASSERT_EQ(fromQt(QFontInfo(font).family()), "Liberation Sans") << "the package fonts-liberation has it";
+        QApplication::setFont(font);
+        walk = std::make_unique<ListWalk>();
+        walk->run();
+        if (qEnvironmentVariableIsSet("TARVEX_UPDATE_TEXTS")) write(*walk);
+    }
+    void SetUp() override { ASSERT_NE(walk, nullptr); }
+    static void TearDownTestSuite()
+    {
+        walk.reset();
+        QApplication::setFont(before);
+    }
+
+    static inline QFont before;
+    static inline std::unique_ptr<ListWalk> walk;
+};
+
+TEST_F(WindowTexts, AreThoseOfTheLists)
+{
+    for (const auto& [window, list] : walk->lists) {
+        QFile file(listFolder + window + QStringLiteral(".txt"));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no list for the window " << fromQt(window);
+        EXPECT_EQ(fromQt(list), file.readAll().toStdString()) << fromQt(window);
+    }
+    for (const QString& list : QDir(listFolder).entryList(QDir::Files)) {
+        EXPECT_TRUE(walk->lists.contains(list.chopped(4))) << "no command led to the window of " << fromQt(list);
     }
 }
 
-TEST(WindowTexts, AreThoseOfTheLists)
+TEST_F(WindowTexts, LookAsTheirPicturesDo)
 {
-    TextWalk walk;
-    walk.run();
-    if (qEnvironmentVariableIsSet("TARVEX_UPDATE_TEXTS")) writeLists(walk.texts);
-    for (const auto& [window, text] : walk.texts) {
-        QFile file(lists + window + QStringLiteral(".txt"));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no list for the window " << fromQt(window);
-        EXPECT_EQ(fromQt(text), file.readAll().toStdString()) << fromQt(window);
+    for (const auto& [name, picture] : walk->pictures) {
+        const QImage wanted(pictureFolder + name + QStringLiteral(".png"));
+        const QStringList different = differentSquares(picture, wanted.convertToFormat(QImage::Format_RGB32));
+        EXPECT_EQ(fromQt(different.join(u'\n')), "") << "of squares with 8 pixels a side in " << fromQt(name);
     }
-    for (const QString& list : QDir(lists).entryList(QDir::Files)) {
-        EXPECT_TRUE(walk.texts.contains(list.chopped(4))) << "no command led to the window of " << fromQt(list);
+    for (const QString& name : QDir(pictureFolder).entryList(QDir::Files)) {
+        EXPECT_TRUE(walk->pictures.contains(name.chopped(4))) << "nothing is like " << fromQt(name);
     }
+}
+
+TEST_F(WindowTexts, AppearancesHaveTheColoursOfTheirList)
+{
+    QFile file(coloursFile);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(fromQt(coloursOfAppearances()), file.readAll().toStdString());
+}
+
+// ---- what the look at a window notices ------------------------------------------------------------------------------
+
+TEST(DifferentSquares, AnEdgeThatIsAPixelOffIsNoneAndOneThatIsTwoOffIs)
+{
+    const auto withEdgeAt = [](int x) {
+        QImage image(32, 32, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        for (int y = 0; y < 32; ++y)
+            for (int at = 0; at < x; ++at) image.setPixelColor(at, y, Qt::black);
+        return image.scaled(4, 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    EXPECT_EQ(differentSquares(withEdgeAt(12), withEdgeAt(13)).size(), 0);
+    EXPECT_EQ(differentSquares(withEdgeAt(12), withEdgeAt(14)).size(), 4);
+    EXPECT_EQ(
+        fromQt(differentSquares(QImage(3, 1, QImage::Format_RGB32), QImage(3, 2, QImage::Format_RGB32)).join(u' ')),
+        "3 x 1 squares and not 3 x 2");
 }
 
 } // namespace
