@@ -52,10 +52,11 @@ bool isDown(QStyle::PrimitiveElement element, const QStyleOption& option)
 }
 
 /// Of what has the keyboard.
-QPen focusPen(const QStyleOption& option)
+QPen focusPen(const QStyleOption& option, bool isOn = false)
 {
     constexpr qreal thick = 2;
-    return {option.palette.color(QPalette::Active, QPalette::Highlight), thick};
+    constexpr qreal thickest = 4;
+    return {option.palette.color(QPalette::Active, QPalette::Highlight), isOn ? thickest : thick};
 }
 
 /// Along the frame that the base style has drawn; its title stands above a group's.
@@ -110,7 +111,8 @@ std::optional<QPen> penOf(QStyle::PrimitiveElement element, const QStyleOption& 
     const bool focused = hasKeyboard(option);
     const qreal strength = strengthOf(element, option.palette);
     if (isHighContrast(option.palette)) {
-        if (element == QStyle::PE_FrameFocusRect || (focused && strength > 0)) return focusPen(option);
+        if (element == QStyle::PE_FrameFocusRect || (focused && strength > 0))
+            return focusPen(option, isDown(element, option));
     } else if (focused) {
         if (element == QStyle::PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)
             return QPen(option.palette.color(QPalette::Highlight));

@@ -1,6 +1,8 @@
 #include "desktop/platform/virtual_keys.h"
 
+#include <QFile>
 #include <QKeyEvent>
+#include <QMetaEnum>
 
 #include <gtest/gtest.h>
 
@@ -81,6 +83,39 @@ TEST(CharacterOf, IsThatOfTheCodePage)
     EXPECT_EQ(of(QString::fromUtf8("\xE2\x82\xAC")), 0x80);
     EXPECT_EQ(of(QString::fromUtf8("\xE4\xB8\xAD")), '?');
     EXPECT_EQ(of(""), 0);
+}
+
+// ---- all keys -------------------------------------------------------------------------------------------------------
+
+/// A line for each key that has a number: by its name, with the numeric pad's as "Keypad", and by its place alone.
+QByteArray allNumbers()
+{
+    QByteArray lines;
+    const auto add = [&lines](const QByteArray& name, int number) {
+        if (number != 0) lines += name + ' ' + QByteArray::number(number) + '\n';
+    };
+    const QMetaEnum keys = QMetaEnum::fromType<Qt::Key>();
+    for (int i = 0; i < keys.keyCount(); ++i) add(keys.key(i), numberOf(keys.value(i)));
+    for (int i = 0; i < keys.keyCount(); ++i) {
+        const int number = numberOf(keys.value(i), Qt::KeypadModifier);
+        if (number != numberOf(keys.value(i))) add(QByteArray("Keypad ") + keys.key(i), number);
+    }
+    for (quint32 place = 1; place < 128; ++place)
+        add("Place " + QByteArray::number(place), numberOf(Qt::Key_unknown, {}, place));
+    return lines;
+}
+
+/// With TARVEX_UPDATE_TEXTS set the list is written instead; read the difference before committing it.
+TEST(VirtualKeyOf, AllKeysHaveTheNumbersOfTheList)
+{
+    QFile list(QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/virtual_keys.txt"));
+    if (qEnvironmentVariableIsSet("TARVEX_UPDATE_TEXTS")) {
+        ASSERT_TRUE(list.open(QIODevice::WriteOnly));
+        list.write(allNumbers());
+        list.close();
+    }
+    ASSERT_TRUE(list.open(QIODevice::ReadOnly));
+    EXPECT_EQ(allNumbers().toStdString(), list.readAll().toStdString());
 }
 
 } // namespace
