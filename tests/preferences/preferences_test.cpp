@@ -64,6 +64,27 @@ TEST_F(PreferencesTest, FirstUseLeadsToThemAndIsOverWhenTheyClose)
     EXPECT_EQ(opened, 1);
 }
 
+TEST_F(PreferencesTest, AFileOfAnUnknownKindLeadsToTheFilledPagesAndWhatIsSetThereIsKept)
+{
+    files.addFile("c:\\notes.txt", "x");
+    dialogues.filesToOpen = {"c:\\notes.txt"};
+    FileLocationsPage& page = preferences().fileLocationsPage;
+    std::string shown;
+    dialogues.whileModal = [&] {
+        shown = page.Text2.Text;
+        page.Text2.Text = "C:\\TM\\Mine\\";
+        page.ComboJoystick.Text = "FCS";
+        page.ComboJoystick.Click();
+    };
+    const std::string before = settings().ProgramFilesPath;
+    ASSERT_FALSE(before.empty());
+    menus().mnuFileOpen.Click();
+    EXPECT_EQ(shown, before);
+    EXPECT_EQ(ini("FileLocations", "ProgramFilesPath"), "c:\\tm\\mine\\");
+    EXPECT_EQ(editor().joystick.FileName, "untitled.adv");
+    EXPECT_EQ(status(), "Files not opened");
+}
+
 // ---- what closing does
 // --------------------------------------------------------------------------------------------------
 

@@ -110,8 +110,7 @@ void refuseUnknownKind(Editor& editor)
                  " file. This is probably because you need to set the preferences to display what the default "
                  "extensions you will be using for your hardware. I'll take you there now. And don't start on me ... "
                  "I'm just the computer ... not the programmer."});
-    editor.platform.dialogues.showModal("Preferences");
-    if (editor.shared.FontChanged == 1) editor.operations.DamnFontWasChanged();
+    editor.menus.mnuPreferencesEdit.Click(); // fills the pages, and keeps what is set there
     editor.status("Files not opened");
 }
 
