@@ -2,12 +2,11 @@
 
 #include "documents/editing/pane_change.h"
 #include "documents/pair/loading.h"
+#include "documents/window/frame_commands.h"
 
 namespace tarvex {
 
 namespace {
-
-constexpr int calibrateButton = 37;
 
 void takeFont(Editor& editor, Side& side)
 {
@@ -55,13 +54,11 @@ void showSettingsInFrame(Editor& editor)
     mum.Toolbar1.Flat = settings.FlatToolbar == 1;
     mum.Toolbar1.Wrappable = settings.CanWrapToolbar == 1;
     step([&] { settings.GradientEffect == 1 ? operations.PaintGradient() : operations.ReleaseGradient(); });
-    const bool calibrate = settings.DisableCalibrateMenu != 1;
-    editor.menus.mnuAppsProPanel.Visible = calibrate;
-    step([&] { mum.Toolbar1.Buttons(calibrateButton).Visible = calibrate; });
     step([&] { operations.UpdateTooltips(); });
     step([&] { operations.UpdateToolBarOpenSaveTooltips(); });
     step([&] { operations.UpdateEditorTooltips(); });
     step([&] { operations.ShowExtraButtons(); });
+    step([&] { showCalibration(editor); }); // its button is an extra one with a setting of its own
     step([&] { mum.Toolbar1.Refresh(); });
 }
 

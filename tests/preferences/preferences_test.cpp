@@ -209,6 +209,23 @@ TEST_F(PreferencesTest, ToolbarTipsAndCalibrationFollowAtOnce)
     EXPECT_EQ(settings().SaveBothOnToolbar, 1);
 }
 
+TEST_F(PreferencesTest, TheCalibrationButtonStaysHiddenAmongTheExtraButtonsAndShownWithoutThem)
+{
+    const auto close = [this](bool extra, bool hidden) {
+        inPreferences([&] {
+            preferences().miscellaneousPage.CheckExtraToolbar.Value = extra;
+            preferences().miscellaneousPage.CheckDisableCalibrate.Value = hidden;
+        });
+    };
+    ToolBar& bar = program().mum.Toolbar1;
+    close(true, true);
+    EXPECT_TRUE(bar.Buttons(36).Visible);
+    EXPECT_FALSE(bar.Buttons(37).Visible);
+    close(false, false);
+    EXPECT_FALSE(bar.Buttons(36).Visible);
+    EXPECT_TRUE(bar.Buttons(37).Visible) << "as after a start";
+}
+
 TEST_F(PreferencesTest, TheDelayTakesWholeNumbersOnly)
 {
     inPreferences([this] {

@@ -10,10 +10,10 @@
 #include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/offer/recovery_offer.h"
+#include "documents/window/frame_commands.h"
 #include "documents/window/hardware_changes.h"
 #include "documents/window/zoom_commands.h"
 #include "platform/windows1252.h"
-#include "shell/toolbar_buttons.h"
 
 namespace tarvex {
 
@@ -163,9 +163,7 @@ std::string loadDocuments(LastPair& lastPair, const Steps& step)
     nameEmptyDocuments(editor);
     step([&] { DeleteUndosFromMemory(editor); });
     readLists(editor, step);
-    const bool calibrate = settings.DisableCalibrateMenu != 1;
-    menus.mnuAppsProPanel.Visible = calibrate;
-    step([&] { editor.mum.Toolbar1.Buttons(toolbarButton::calibrate).Visible = calibrate; });
+    step([&] { showCalibration(editor); });
     editor.JoystickText.setSelStart(0);
     editor.MacroText.setSelStart(0);
     editor.TabStrip1.Select(editor.joystick.tab);

@@ -3,6 +3,7 @@
 #include "documents/editing/clipboard_commands.h"
 #include "documents/window/colour_selector.h"
 #include "documents/window/toolbar.h"
+#include "shell/toolbar_buttons.h"
 #include "shell/toolbar_tips.h"
 
 namespace tarvex {
@@ -12,6 +13,13 @@ void UpdateEditorTooltips(Editor& editor)
     const bool on = editor.shared.settings.OKtoShowToolTips == 1;
     for (CheckListBox& list : editor.FrameMacros.List1)
         list.ToolTipText = on ? "Double click macro to insert into Joystick file, or use drag and drop" : "";
+}
+
+void showCalibration(Editor& editor)
+{
+    const bool shown = editor.shared.settings.DisableCalibrateMenu != 1;
+    editor.menus.mnuAppsProPanel.Visible = shown;
+    editor.mum.Toolbar1.Buttons(toolbarButton::calibrate).Visible = shown;
 }
 
 void wireFrame(Editor& editor)
