@@ -1,6 +1,7 @@
 #include "documents/window/hardware_changes.h"
 
 #include "documents/files/file_new.h"
+#include "documents/pair/document_status.h"
 #include "platform/dos_path.h"
 #include "shell/hardware/hardware_profile.h"
 
@@ -20,6 +21,7 @@ void HardwareHasChanged(Editor& editor)
     for (Side* side : {&editor.joystick, &editor.macro}) {
         if (editor.tabCaption(*side).starts_with("untitled")) nameUntitled(editor, *side);
     }
+    updateDownload(editor); // a named file may be for another controller now
     F22MenusUpdate(editor);
     editor.shared.HardwareChangedMark = 0;
 }

@@ -426,6 +426,23 @@ TEST_F(PairTest, AnotherJoystickRenamesUntitledDocumentsAndLeavesNamedOnesAlone)
     EXPECT_EQ(t.program().shared.HardwareChangedMark, 0);
 }
 
+TEST_F(PairTest, AnotherJoystickEndsTheDownloadOfANamedFileThatIsNotForIt)
+{
+    t.files.addFile("c:\\a\\x.b50", "");
+    t.files.addFile("c:\\a\\x.m50", "");
+    t.openBoth("c:\\a\\x.b50");
+    ASSERT_EQ(editor.macro.FileName, "x.m50");
+    ASSERT_TRUE(t.menus().mnuSendToJoystick.Enabled);
+    ComboJoystick_Click(t.program().shared, 4);
+    HardwareHasChanged(editor);
+    EXPECT_FALSE(t.menus().mnuSendToJoystick.Enabled);
+    EXPECT_EQ(t.menus().mnuSendToJoystick.Caption.get(), "&Download ");
+    ComboJoystick_Click(t.program().shared, 1);
+    HardwareHasChanged(editor);
+    EXPECT_TRUE(t.menus().mnuSendToJoystick.Enabled);
+    EXPECT_EQ(t.menus().mnuSendToJoystick.Caption.get(), "&Download x.b50");
+}
+
 TEST_F(PairTest, TheF22ProHasItsCommandsAndNoQuietDownloads)
 {
     t.settings().UseQonDownload = 1;
