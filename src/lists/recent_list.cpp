@@ -6,10 +6,11 @@ namespace tarvex {
 
 namespace {
 
-/// Place, from 1, of the last entry with this first text; 0 when there is none.
-int lastPlaceOf(const RecentList& list, const SettingText& text)
+/// Place, from 1, of the first entry if it has this first text, or else of the last one that has it; 0 when none has.
+int placeOf(const RecentList& list, const SettingText& text)
 {
     const std::vector<SettingText>& texts = *list.columns.front();
+    if (!texts.empty() && texts.front().whole() == text.whole()) return 1;
     auto found =
         std::find_if(texts.rbegin(), texts.rend(), [&](const SettingText& one) { return one.whole() == text.whole(); });
     if (found == texts.rend() && isOnMenu(list, text) != 0) found = std::find(texts.rbegin(), texts.rend(), text);
@@ -23,6 +24,17 @@ int placeForNew(const RecentList& list)
     ++list.count;
     resizeColumns(list);
     return list.count;
+}
+
+/// An entry has all of these texts.
+bool stands(const RecentList& list, const std::vector<SettingText>& entry)
+{
+    for (std::size_t row = 0; row < static_cast<std::size_t>(list.count); ++row) {
+        std::size_t column = 0;
+        while (column < entry.size() && list.columns[column]->at(row).whole() == entry[column].whole()) ++column;
+        if (column == entry.size()) return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -58,7 +70,9 @@ std::int16_t isOnMenu(const RecentList& list, const std::string& caption)
 void putOnTop(const RecentList& list, const std::vector<SettingText>& entry)
 {
     resizeColumns(list);
-    int place = lastPlaceOf(list, entry.front());
+    int place = placeOf(list, entry.front());
+    // Of two entries of one name the second was used; the texts of the first may stand nowhere else.
+    if (place == 1 && stands(list, entry)) return showMenu(list);
     if (place == 0) place = placeForNew(list);
     for (std::size_t i = 0; i < list.columns.size(); ++i) {
         const auto first = list.columns[i]->begin();

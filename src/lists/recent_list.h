@@ -28,8 +28,8 @@ void showMenu(const RecentList& list);
 /// -1 when an item, from 1 to the count, has exactly this caption, else 0.
 std::int16_t isOnMenu(const RecentList& list, const std::string& caption);
 /// Puts an entry, a text for each column, first: the one of the same first text moves there and takes the other texts
-/// (of several the last), otherwise it is a new one. Texts that were cut are the same when they are so as a whole. The
-/// menu follows.
+/// (of several the last, unless one is the first already), otherwise it is a new one. Texts that were cut are the same
+/// when they are so as a whole. The menu follows.
 void putOnTop(const RecentList& list, const std::vector<SettingText>& entry);
 
 } // namespace tarvex

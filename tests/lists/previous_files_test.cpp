@@ -270,6 +270,15 @@ TEST_P(PreviousFile, OfAPathThatStandsTwiceTheLastMovesToTheTop)
     EXPECT_THAT(paths(), ElementsAre(path(3), path(2), path(3)));
 }
 
+TEST_P(PreviousFile, ANewestPathThatStandsTwiceLeavesTheListAsItIs)
+{
+    startWith(3);
+    t.setIni(kind().section, std::string(kind().pathKey) + "3", path(1));
+    t.start();
+    t.openBoth(path(1));
+    EXPECT_THAT(paths(), ElementsAre(path(1), path(2), path(1)));
+}
+
 TEST_P(PreviousFile, ADamagedCountAbove30GivesAListAsLongUntilTheNextUpdateMovesEntriesWithinIt)
 {
     startWith(2);

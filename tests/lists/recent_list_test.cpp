@@ -74,6 +74,26 @@ TEST(PutOnTop, OfSeveralAlikeTheLastMovesUp)
     EXPECT_THAT(t.paths, ElementsAre("new", "p1", "p2", "p3"));
 }
 
+TEST(PutOnTop, AFirstEntryThatIsAlikeStaysFirstAndTheOthersStayWhereTheyAre)
+{
+    Names t(4);
+    t.names = {"x", "a", "x", "b"};
+    showMenu(t.list);
+    putOnTop(t.list, {"x", "new"});
+    EXPECT_THAT(t.names, ElementsAre("x", "a", "x", "b"));
+    EXPECT_THAT(t.paths, ElementsAre("new", "p2", "p3", "p4"));
+}
+
+TEST(PutOnTop, AnEntryThatIsUsedBehindAFirstOneOfItsNameChangesNothing)
+{
+    Names t(3);
+    t.names = {"x", "a", "x"};
+    showMenu(t.list);
+    putOnTop(t.list, {"x", "p3"});
+    EXPECT_THAT(t.names, ElementsAre("x", "a", "x"));
+    EXPECT_THAT(t.paths, ElementsAre("p1", "p2", "p3"));
+}
+
 TEST(PutOnTop, TwentyNineEntriesTakeOneMoreAndThirtyDropTheLast)
 {
     Names t(29);
