@@ -50,10 +50,9 @@ void lookForGame(EnterGameName& form)
 void lookForJoystickFile(EnterGameName& form)
 {
     Editor& editor = form.editor;
-    const auto path =
-        editor.platform.dialogues.openFile({.title = {},
-                                            .filter = joystickFilter(editor.shared.settings.JoystickExtension),
-                                            .directory = dialogueFolder(editor, editor.joystick)});
+    const auto path = askForFileToOpen(editor, {.title = {},
+                                                .filter = joystickFilter(editor.shared.settings.JoystickExtension),
+                                                .directory = dialogueFolder(editor, editor.joystick)});
     if (path) form.Text4.Text = *path;
 }
 

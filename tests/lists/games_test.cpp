@@ -227,6 +227,7 @@ TEST(EnterGameName, BrowsingForTheJoystickFileStartsInTheProgramsFolder)
     EXPECT_EQ(t.form().Text4.Text.get(), "c:\\tm\\b50progs\\Mig.f22");
     EXPECT_EQ(t.dialogues.openRequests[0].filter, "Joystick file (*.f22)|*.f22|All files (*.*)|*.*");
     EXPECT_EQ(t.dialogues.openRequests[0].directory, "c:\\tm\\b50progs\\");
+    EXPECT_EQ(t.program().shared.currentDirectory.path(), "c:\\") << "the root of its drive";
 }
 
 TEST(EnterGameName, SelectTakesAFolder)

@@ -12,6 +12,11 @@ std::string own(const std::string& kind, const std::string& extension)
     return kind + " (*." + extension + ")|*." + extension + "|";
 }
 
+void enterRoot(Editor& editor, const FileRequest& request)
+{
+    changeToRootOf(editor.shared.currentDirectory, request.directory, Steps()); // the dialogue needs no directory
+}
+
 } // namespace
 
 std::string joystickOpenFilter(const Settings& settings)
@@ -54,6 +59,18 @@ std::string dialogueFolder(const Editor& editor, const Side& side)
 {
     const std::string& programs = editor.shared.settings.ProgramFilesPath.whole();
     return programs.empty() ? directoryOf(side.FilePath) : programs;
+}
+
+std::optional<std::string> askForFileToOpen(Editor& editor, const FileRequest& request)
+{
+    enterRoot(editor, request);
+    return editor.platform.dialogues.openFile(request);
+}
+
+std::optional<std::string> askForFileToSave(Editor& editor, const FileRequest& request)
+{
+    enterRoot(editor, request);
+    return editor.platform.dialogues.saveFile(request);
 }
 
 } // namespace tarvex

@@ -21,7 +21,7 @@ struct Chosen {
 std::optional<Chosen> chooseFile(Editor& editor, const FileRequest& request)
 {
     if (editor.OpeningWithoutAsking == 1) return Chosen{lowerUtf8(editor.OpeningPath), lowerUtf8(editor.OpeningName)};
-    const auto path = editor.platform.dialogues.openFile(request);
+    const auto path = askForFileToOpen(editor, request);
     if (!path) return std::nullopt;
     return Chosen{lowerUtf8(*path), lowerUtf8(fileNameOf(*path))};
 }

@@ -106,12 +106,12 @@ bool mayOverwrite(Editor& editor, const std::string& path)
 bool saveAs(Editor& editor, Side& side)
 {
     const Settings& settings = editor.shared.settings;
-    const auto path = editor.platform.dialogues.saveFile(
-        {.title = {},
-         .filter = side.tab == 1 ? joystickSaveFilter(settings) : macroSaveFilter(settings),
-         .directory = dialogueFolder(editor, side),
-         .suggestedName = suggestedName(editor, side),
-         .defaultExtension = side.Extension});
+    const auto path =
+        askForFileToSave(editor, {.title = {},
+                                  .filter = side.tab == 1 ? joystickSaveFilter(settings) : macroSaveFilter(settings),
+                                  .directory = dialogueFolder(editor, side),
+                                  .suggestedName = suggestedName(editor, side),
+                                  .defaultExtension = side.Extension});
     if (!path || !mayOverwrite(editor, *path)) return false;
 
     const std::string oldPath = side.FilePath;

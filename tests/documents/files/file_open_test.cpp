@@ -73,6 +73,27 @@ TEST_F(OpenTest, ACancelledDialogueChangesNothing)
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 
+TEST_F(OpenTest, DialoguesStartInTheProgramsFolderWithItsRootAsTheCurrentDirectory)
+{
+    CurrentDirectory& current = t.program().shared.currentDirectory;
+    const std::pair<MenuItem*, bool> commands[] = {{&t.menus().mnuFileJoystickLoad, true},
+                                                   {&t.menus().MnuFileMacroLoad, true},
+                                                   {&t.menus().mnuFileOpen, true},
+                                                   {&t.menus().mnuFileSaveAs, false}};
+    for (const auto& [command, opens] : commands) {
+        current.ChDir("c:\\tarvex");
+        (opens ? t.dialogues.filesToOpen : t.dialogues.filesToSave) = {std::nullopt};
+        command->Click();
+        const auto& requests = opens ? t.dialogues.openRequests : t.dialogues.saveRequests;
+        EXPECT_EQ(requests.at(requests.size() - 1).directory, "c:\\tm\\b50progs\\") << command->Name;
+        EXPECT_EQ(current.path(), "c:\\") << command->Name;
+    }
+    current.ChDir("c:\\tarvex");
+    addPair();
+    t.openBoth(mig);
+    EXPECT_EQ(current.path(), "c:\\tarvex") << "without a dialogue it stays";
+}
+
 TEST_F(OpenTest, ACancelledDialogueSelectsNoOtherTabAndReportsNothing)
 {
     t.editor().TabStrip1.Select(t.editor().macro.tab);
