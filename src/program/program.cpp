@@ -172,7 +172,7 @@ Program::Program(Platform& thePlatform, std::optional<InputDevices> devices)
         operations.UnloadForm(help.handbook.form.Name); // keeps its place
     };
     shared.errors.exitInEmergency = [this] {
-        operations.ReleaseGradient();
+        ReleaseGradientInEmergency({platform, shared, mum, operations});
         for (const char* window : toolWindows) operations.UnloadForm(window);
         menus.mnuFileExit.Click();
         platform.desktop.quit();

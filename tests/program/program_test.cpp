@@ -518,9 +518,11 @@ TEST(ReportError, AnEmergencyExitUnloadsTheToolWindowsAndEnds)
     TestProgram t;
     std::vector<std::string> unloaded;
     t.program().operations.UnloadForm = [&](const std::string& name) { unloaded.push_back(name); };
+    t.program().mum.Gradient = true;
     ErrorRecord& errors = t.program().shared.errors;
     errors.reportWindow = [&] { errors.ExitRequestedByError = 1; };
     errors.report("MODULE Test", std::runtime_error("x"));
+    EXPECT_FALSE(t.program().mum.Gradient);
     ASSERT_GE(unloaded.size(), 20U);
     EXPECT_EQ(unloaded.front(), "ColourSelector");
     EXPECT_EQ(unloaded[19], "ViewImage");

@@ -125,6 +125,12 @@ void MDIForm_Resize(const MumContext& context)
     }
 }
 
+void ReleaseGradientInEmergency(const MumContext& context)
+{
+    const Steps step;
+    step([&] { context.operations.ReleaseGradient(); });
+}
+
 bool mnuFileExit_Click(const MumContext& context)
 {
     bool cancel = false;

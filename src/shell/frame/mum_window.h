@@ -29,6 +29,11 @@ void GetMumPosition(const MumContext& context);
 /// Writes nothing while the frame is minimised, so that the last real place survives.
 void SaveMumPosition(const MumContext& context);
 
+/// Gives the gradient's resources back before an emergency exit.
+void ReleaseGradientInEmergency(const MumContext& context);
+/// Does nothing, and nothing depends on it.
+inline void LastAttemptToSaveToolbar(const MumContext& /*context*/) {}
+
 /// Asks the document window whether it may close, and takes everything down. False: the user stays.
 bool mnuFileExit_Click(const MumContext& context);
 /// The frame's own Exit: gives the gradient's resources back first.
