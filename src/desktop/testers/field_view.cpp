@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 
 namespace tarvex {
@@ -17,7 +18,8 @@ constexpr int beyondEdge = 96; // pixels; what lies further out is cut
 
 } // namespace
 
-FieldView::FieldView(DrawingField& field, const char* name, QWidget* parent) : QWidget(parent), m_field(field)
+FieldView::FieldView(DrawingField& field, const char* name, QWidget* parent)
+    : QWidget(parent), m_field(field), m_colours(paneColours(field.background()))
 {
     setObjectName(QLatin1String(name));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -38,7 +40,7 @@ void FieldView::makeCanvas()
 
 void FieldView::clear()
 {
-    m_canvas.fill(toQt(m_field.background()));
+    m_canvas.fill(shown(m_field.background()));
     m_rows.assign(static_cast<std::size_t>(m_canvas.height()), {});
     m_columns.assign(static_cast<std::size_t>(m_canvas.width()), {});
     update();
@@ -89,7 +91,7 @@ void FieldView::paint(const QRect& place, const Stroke& stroke)
 {
     const QRect part = place & m_canvas.rect();
     if (part.isEmpty()) return;
-    const QRgb colour = toQt(stroke.colour).rgb();
+    const QRgb colour = shown(stroke.colour);
     const int dot = std::max(1, std::min(place.width(), place.height()));
     const auto pixelsInLine = m_canvas.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
     auto* line = reinterpret_cast<QRgb*>(m_canvas.bits()) + part.top() * pixelsInLine;
@@ -112,6 +114,46 @@ bool FieldView::changesPicture(const QRect& place, const Stroke& stroke)
     if (at < 0 || at >= static_cast<int>(colours.size())) return false;
     return std::exchange(colours[static_cast<std::size_t>(at)], stroke.colour) != stroke.colour;
 }
+
+// ---- colours --------------------------------------------------------------------------------------------------------
+
+QRgb FieldView::readable(Colour colour) const
+{
+    return (colour == m_field.background() ? m_colours.ground : m_colours.text(colour)).rgb();
+}
+
+QRgb FieldView::shown(Colour colour)
+{
+    const auto known = std::ranges::find(m_shown, colour, &Shown::colour);
+    if (known != m_shown.end()) return known->pixel;
+    return m_shown.emplace_back(Shown{colour, readable(colour)}).pixel;
+}
+
+/// What was painted stays, the trail above all, in the colours of another appearance.
+void FieldView::recolour()
+{
+    m_colours = paneColours(m_field.background());
+    const std::vector<Shown> before = m_shown;
+    for (Shown& each : m_shown) each.pixel = readable(each.colour);
+    const auto pixels = static_cast<std::size_t>(m_canvas.width());
+    for (int y = 0; y < m_canvas.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(m_canvas.scanLine(y));
+        for (QRgb& pixel : std::span(line, pixels)) {
+            const auto old = std::ranges::find(before, pixel, &Shown::pixel);
+            if (old != before.end()) pixel = m_shown[static_cast<std::size_t>(old - before.begin())].pixel;
+        }
+    }
+    update();
+}
+
+void FieldView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    const bool isLook = event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange;
+    if (isLook && paneColours(m_field.background()) != m_colours) recolour();
+}
+
+// ---- events of the widget -------------------------------------------------------------------------------------------
 
 void FieldView::paintEvent(QPaintEvent*)
 {

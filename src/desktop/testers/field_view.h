@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/bind.h"
+#include "desktop/pane_colours.h"
 #include "testers/drawing.h"
 
 #include <QImage>
@@ -12,7 +13,8 @@
 
 namespace tarvex {
 
-/// Shows a drawing field. What was painted stays on a canvas, so that only new strokes cost time.
+/// Shows a drawing field, in dark windows on a dark ground. What was painted stays on a canvas, so that only new
+/// strokes cost time.
 class FieldView : public QWidget {
     Q_OBJECT
 public:
@@ -29,8 +31,17 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    /// A colour of the drawing as it is shown.
+    struct Shown {
+        Colour colour;
+        QRgb pixel;
+    };
+    QRgb shown(Colour colour);
+    QRgb readable(Colour colour) const;
+    void recolour();
     void makeCanvas();
     void clear();
     QRect placeOf(const Stroke& stroke) const;
@@ -40,7 +51,9 @@ private:
     void updateCanvas(const QRect& part);
 
     DrawingField& m_field;
-    QImage m_canvas; ///< in pixels of the screen
+    PaneColours m_colours;
+    std::vector<Shown> m_shown; ///< the few that were used
+    QImage m_canvas;            ///< in pixels of the screen
     // Lines across the field are drawn again and again: their colours by their first pixel.
     std::vector<std::optional<Colour>> m_rows;
     std::vector<std::optional<Colour>> m_columns;

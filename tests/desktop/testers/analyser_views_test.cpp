@@ -1,6 +1,10 @@
+#include "desktop/pane_colours.h"
+#include "desktop/readable.h"
 #include "desktop/testers/field_view.h"
 #include "desktop/testers/joy_plot_view.h"
 #include "desktop/testers/tca_view.h"
+#include "desktop/theme.h"
+#include "shell/dark_colours.h"
 #include "support/test_program.h"
 
 #include <QAction>
@@ -104,6 +108,30 @@ TEST_F(JoyPlotViewTest, TheCentreLineTurnsGreen)
     waitUntil([&] { return form.LastX == 32768 && form.PicJoy.strokes().empty(); });
     EXPECT_EQ(at(*field, 32768, 5000), green);
     EXPECT_EQ(at(*field, 60000, 32768), red);
+}
+
+TEST_F(JoyPlotViewTest, InDarkWindowsTheFieldIsDarkAndReadableAndItsTrailStays)
+{
+    Appearance appearance(files, platform.programDirectory, menus());
+    const ThemeView theme(appearance, program().shared.extras);
+    appearance.choose(Appearance::Theme::Dark);
+    const PaneColours dark = paneColours(plotColour::field);
+    ASSERT_TRUE(dark.isDarkened());
+    joystick.send(12000, 40000);
+    waitUntil([&] { return form.LastX == 12000 && form.PicJoy.strokes().empty(); });
+    EXPECT_EQ(at(*field, 60000, 60000), dark.ground.rgb());
+    EXPECT_EQ(at(*field, 10500, 20000), dark.ground.rgb()) << "the old cross is erased";
+    EXPECT_EQ(at(*field, 12500, 40000), dark.text(plotColour::cross).rgb());
+    for (const auto& [x, y] : {std::pair(10000, 20000), {12000, 40000}})
+        EXPECT_EQ(at(*field, x, y), dark.text(plotColour::mark).rgb()) << x;
+    for (const Colour used : {plotColour::cross, plotColour::mark, plotColour::centred, plotColour::offCentre})
+        EXPECT_GE(contrastOf(toColour(dark.text(used)), toColour(dark.ground)), readableContrast) << used;
+
+    appearance.choose(Appearance::Theme::Light);
+    EXPECT_EQ(at(*field, 60000, 60000), white);
+    EXPECT_EQ(at(*field, 10000, 20000), blue);
+    EXPECT_EQ(at(*field, 12500, 40000), black);
+    appearance.choose(Appearance::Theme::System);
 }
 
 TEST_F(JoyPlotViewTest, CommandsOfTheMenuReachTheAnalyser)
