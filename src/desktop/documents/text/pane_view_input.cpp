@@ -221,8 +221,10 @@ QMimeData* PaneView::createMimeDataFromSelection() const { return toMime(selecti
 
 bool PaneView::canInsertFromMimeData(const QMimeData* source) const { return !m_pane.Locked && holdsContent(*source); }
 
+/// The middle button has just put the caret where it was pressed, and no signal has said so yet.
 void PaneView::insertFromMimeData(const QMimeData* source)
 {
+    m_userMoved = true;
     settle();
     announceEdit();
     const std::size_t lost = insertContent(m_pane, fromMime(*source));
