@@ -26,7 +26,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
-        static_cast<QAbstractButton*>(watched)->click();
+        auto* button = static_cast<QAbstractButton*>(watched);
+        if (button->isCheckable() && button->focusPolicy() & Qt::ClickFocus) button->setFocus();
+        button->click();
         return true;
     }
 };
@@ -121,6 +123,7 @@ void Bindings::checkBox(CheckBox& state, QCheckBox& widget)
     bind(state.Value, [&widget](bool on) { widget.setChecked(on); });
     bind(state.Enabled, [&widget](bool on) { widget.setEnabled(on); });
     bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
+    new ClickAtOnce(widget);
     QObject::connect(&widget, &QCheckBox::clicked, &widget, [&state](bool on) {
         state.Value = on;
         if (state.Click) state.Click();
@@ -134,6 +137,7 @@ void Bindings::optionButton(OptionButton& state, QRadioButton& widget)
         if (on) widget.setChecked(true); // which clears the others
     });
     bind(state.ToolTipText, [&widget](const std::string& tip) { widget.setToolTip(toQt(tip)); });
+    new ClickAtOnce(widget);
     QObject::connect(&widget, &QRadioButton::clicked, &widget, [&state] {
         if (state.Click) state.Click();
     });

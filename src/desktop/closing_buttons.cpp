@@ -4,9 +4,9 @@
 
 namespace tarvex {
 
-QDialogButtonBox* closingButtons(std::initializer_list<ClosingButton> buttons, Bindings& bindings)
+QDialogButtonBox* closingButtons(QDialog& dialogue, std::initializer_list<ClosingButton> buttons, Bindings& bindings)
 {
-    auto* row = new QDialogButtonBox;
+    auto* row = new QDialogButtonBox(&dialogue); // a button outside of it isn't noted as the one that Return presses
     for (const ClosingButton& button : buttons) {
         QPushButton* shown = row->addButton(button.kind);
         shown->setObjectName(button.name);

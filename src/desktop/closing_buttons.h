@@ -2,6 +2,7 @@
 
 #include "desktop/bind.h"
 
+#include <QDialog>
 #include <QDialogButtonBox>
 
 #include <initializer_list>
@@ -15,8 +16,8 @@ struct ClosingButton {
     QString name;  ///< of the button in the program
 };
 
-/// A row of such buttons in the order and with the captions of the desktop. Return presses the first of `buttons`.
-/// The row belongs to the layout or widget that it is put into.
-QDialogButtonBox* closingButtons(std::initializer_list<ClosingButton> buttons, Bindings& bindings);
+/// A row of such buttons in the order and with the captions of the desktop. Return presses the first of `buttons`,
+/// wherever in the dialogue the keyboard was meanwhile. The row is the dialogue's, and is yet to be laid out.
+QDialogButtonBox* closingButtons(QDialog& dialogue, std::initializer_list<ClosingButton> buttons, Bindings& bindings);
 
 } // namespace tarvex

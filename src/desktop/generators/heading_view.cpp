@@ -25,7 +25,8 @@ HeadingView::HeadingView(Heading& form, QWidget* parent) : FormWindow(form.Form,
     names->setMinimumWidth(names->fontMetrics().averageCharWidth() * widthInCharacters);
     m_bindings.comboBox(form.Combo1, *names);
 
-    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1[0], QStringLiteral("Command1_0")},
+    auto* buttons = closingButtons(*this,
+                                   {{QDialogButtonBox::Ok, form.Command1[0], QStringLiteral("Command1_0")},
                                     {QDialogButtonBox::Cancel, form.Command1[1], QStringLiteral("Command1_1")}},
                                    m_bindings);
 

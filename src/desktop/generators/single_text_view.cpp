@@ -19,7 +19,8 @@ SingleTextView::SingleTextView(SingleTextForm& form, QWidget* parent)
     lineEnd->setObjectName(QStringLiteral("CheckAddCR"));
     m_bindings.checkBox(form.CheckAddCR, *lineEnd);
 
-    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+    auto* buttons = closingButtons(*this,
+                                   {{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
                                     {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
                                    m_bindings);
 

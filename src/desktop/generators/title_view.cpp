@@ -26,7 +26,8 @@ TitleView::TitleView(Title& form, QWidget* parent) : FormWindow(form.Form, QStri
     rows->addRow(QStringLiteral("&Comment:"),
                  new TextArea(form.RichTextBox1, QStringLiteral("RichTextBox1"), commentLines));
 
-    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+    auto* buttons = closingButtons(*this,
+                                   {{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
                                     {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
                                    m_bindings);
     rows->addRow(buttons);

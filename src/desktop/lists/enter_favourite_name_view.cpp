@@ -30,7 +30,8 @@ EnterFavouriteNameView::EnterFavouriteNameView(EnterFavouritename& form, QWidget
     auto* name = new LineBox(form.Text1, QStringLiteral("Text1"), m_bindings);
     name->setMinimumWidth(name->fontMetrics().averageCharWidth() * widthInCharacters);
 
-    auto* buttons = closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+    auto* buttons = closingButtons(*this,
+                                   {{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
                                     {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
                                    m_bindings);
 

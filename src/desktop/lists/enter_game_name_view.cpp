@@ -80,7 +80,8 @@ void EnterGameNameView::addRow(QGridLayout& rows, const QString& caption, QWidge
 QBoxLayout* EnterGameNameView::closingButtons(EnterGameName& form)
 {
     auto* line = new QHBoxLayout;
-    line->addWidget(tarvex::closingButtons({{QDialogButtonBox::Ok, form.Command3, QStringLiteral("Command3")},
+    line->addWidget(tarvex::closingButtons(*this,
+                                           {{QDialogButtonBox::Ok, form.Command3, QStringLiteral("Command3")},
                                             {QDialogButtonBox::Cancel, form.Command4, QStringLiteral("Command4")}},
                                            m_bindings));
     return line;

@@ -29,7 +29,7 @@ FilesHomeView::FilesHomeView(FilesHome& form, QWidget* parent)
         column->addWidget(choice);
         if (form.Choices[i].Value) choice->setFocus();
     }
-    column->addWidget(closingButtons({{QDialogButtonBox::Ok, form.Ok, QStringLiteral("Ok")}}, m_bindings));
+    column->addWidget(closingButtons(*this, {{QDialogButtonBox::Ok, form.Ok, QStringLiteral("Ok")}}, m_bindings));
 }
 
 } // namespace tarvex

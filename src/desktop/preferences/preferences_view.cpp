@@ -81,7 +81,8 @@ PreferencesView::PreferencesView(Preferences& preferences, QWidget* parent)
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(tabs);
-    column->addWidget(closingButtons({{QDialogButtonBox::Ok, preferences.Command3, QStringLiteral("Command3")},
+    column->addWidget(closingButtons(*this,
+                                     {{QDialogButtonBox::Ok, preferences.Command3, QStringLiteral("Command3")},
                                       {QDialogButtonBox::Help, preferences.Command6, QStringLiteral("Command6")}},
                                      m_bindings));
     ensurePolished();

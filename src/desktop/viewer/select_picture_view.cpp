@@ -84,7 +84,8 @@ SelectPictureView::SelectPictureView(SelectPictureForm& form, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addLayout(grid, 1);
     column->addWidget(path);
-    column->addWidget(closingButtons({{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
+    column->addWidget(closingButtons(*this,
+                                     {{QDialogButtonBox::Ok, form.Command1, QStringLiteral("Command1")},
                                       {QDialogButtonBox::Cancel, form.Command2, QStringLiteral("Command2")}},
                                      m_bindings));
     files->setFocus();

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
 
@@ -102,6 +103,22 @@ TEST_F(PreferencesViewTest, LeavingTheUndoBoxShowsTheClampedValue)
     EXPECT_EQ(levels->text(), "40000");
     child<QLineEdit>("Text3")->setFocus();
     EXPECT_EQ(levels->text(), "30000");
+}
+
+TEST_F(PreferencesViewTest, ReturnIsOkOnEveryPage)
+{
+    QApplication::setActiveWindow(view.get());
+    auto* tabs = child<QTabWidget>("SSTab1");
+    auto* ok = child<QPushButton>("Command3");
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        child<QPushButton>("Command6")->setFocus(); // where the keyboard is while a page goes
+        tabs->setFocus();
+        EXPECT_TRUE(ok->isDefault()) << page;
+    }
+    const QSignalSpy clicks(ok, &QPushButton::clicked);
+    QTest::keyClick(tabs, Qt::Key_Return);
+    EXPECT_EQ(clicks.count(), 1);
 }
 
 TEST_F(PreferencesViewTest, ArrowKeysMoveAmongTheColourItemsAndReturnAsksForTheColour)

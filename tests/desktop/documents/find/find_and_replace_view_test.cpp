@@ -318,6 +318,20 @@ TEST_F(FindView, EveryTabAndControlOfAPageHasAnAccessKeyOfItsOwn)
     }
 }
 
+TEST_F(FindView, TicksAndChoicesTakeTheirKeysAtOnceAndTheKeyboard)
+{
+    press(Qt::Key_F, Qt::ControlModifier);
+    const auto alt = [this](Qt::Key key) { QTest::keyClick(form()->windowHandle(), key, Qt::AltModifier); };
+    alt(Qt::Key_S);
+    EXPECT_TRUE(get<QCheckBox>("MatchCaseF")->isChecked());
+    EXPECT_TRUE(get<QCheckBox>("MatchCaseF")->hasFocus());
+    alt(Qt::Key_S);
+    EXPECT_FALSE(get<QCheckBox>("MatchCaseF")->isChecked());
+    alt(Qt::Key_M);
+    EXPECT_TRUE(get<QRadioButton>("OptionMacroF")->isChecked());
+    EXPECT_TRUE(get<QRadioButton>("OptionMacroF")->hasFocus());
+}
+
 TEST_F(FindView, AltAndALetterGoesToATab)
 {
     press(Qt::Key_F, Qt::ControlModifier);
