@@ -88,7 +88,8 @@ void openByDialogue(TemplateForm& window)
         {.title = "", .filter = filter, .directory = window.TemplatePath, .defaultExtension = "rtf"});
     if (!chosen) return;
     const std::string name = fileNameOf(*chosen);
-    if (loadTemplate(window, lowerUtf8(*chosen), name)) status(window, name + " was opened successfully");
+    if (loadTemplate(window, lowerUtf8(*chosen), name, "TEMPLATE Command1_Click"))
+        status(window, name + " was opened successfully");
 }
 
 /// Where the loaders' configuration may be: in the folder that is set, above it or beside the loader.
@@ -121,9 +122,10 @@ bool mayGiveUpText(TemplateForm& window, const std::string& purpose, const std::
     return false;
 }
 
-bool loadTemplate(TemplateForm& window, const std::string& path, const std::string& name, bool plain)
+bool loadTemplate(TemplateForm& window, const std::string& path, const std::string& name, std::string_view tag,
+                  bool plain)
 {
-    const auto bytes = readForOpening(window.editor, path, name);
+    const auto bytes = readForOpening(window.editor, path, name, tag);
     if (!bytes) return false;
     Pane& pane = window.TemplateText;
     writeWithoutEdit(window, [&] {
@@ -169,14 +171,15 @@ void mnuFileSaveAs_Click(TemplateForm& window)
 
 void Command2_Click(TemplateForm& window)
 {
-    const Steps step(window.editor.shared.errors, "TEMPLATE Command2_Click");
+    constexpr std::string_view tag = "TEMPLATE Command2_Click";
+    const Steps step(window.editor.shared.errors, tag);
     step([&] {
         if (!mayGiveUpText(window, "before opening another file",
                            " for some reason. I won't proceed in opening up another file"))
             return;
         const std::string path = window.editor.shared.settings.TextFilePath.whole();
         const std::string name = fileNameOf(path);
-        if (loadTemplate(window, path, name)) status(window, name + " was opened successfully");
+        if (loadTemplate(window, path, name, tag)) status(window, name + " was opened successfully");
     });
 }
 
@@ -214,7 +217,8 @@ void showDefaultTemplate(TemplateForm& window)
 void mnuEditTmCFG_Click(TemplateForm& window)
 {
     Editor& editor = window.editor;
-    const Steps step(editor.shared.errors, "TEMPLATE mnuEditTmCFG_Click");
+    constexpr std::string_view tag = "TEMPLATE mnuEditTmCFG_Click";
+    const Steps step(editor.shared.errors, tag);
     step([&] {
         const std::vector<std::string> folders = configurationFolders(editor.shared.settings);
         for (const std::string& folder : folders) {
@@ -224,7 +228,7 @@ void mnuEditTmCFG_Click(TemplateForm& window)
                                " for some reason. I won't proceed in opening up another file"))
                 return;
             changeToFolderOf(editor.shared.currentDirectory, path, Steps());
-            loadTemplate(window, path, "Tm.cfg", true);
+            loadTemplate(window, path, "Tm.cfg", tag, true);
             return;
         }
         editor.platform.dialogues.show(

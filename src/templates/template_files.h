@@ -8,9 +8,10 @@ namespace tarvex {
 /// "before exiting"; `refusal` ends the message when the save failed.
 bool mayGiveUpText(TemplateForm& window, const std::string& purpose, const std::string& refusal);
 
-/// The text of a file takes the place of the present one; one that can't be read leaves it. A file that isn't RTF,
-/// whatever its name, or that is to be `plain`, is plain text.
-bool loadTemplate(TemplateForm& window, const std::string& path, const std::string& name, bool plain = false);
+/// The text of a file takes the place of the present one; one that can't be read leaves it, and the failure is on
+/// record under `tag`. A file that isn't RTF, whatever its name, or that is to be `plain`, is plain text.
+bool loadTemplate(TemplateForm& window, const std::string& path, const std::string& name, std::string_view tag,
+                  bool plain = false);
 
 /// Index 0 opens a file that the user chooses, 1 saves, 2 begins a new one.
 void Command1_Click(TemplateForm& window, std::size_t Index);

@@ -16,7 +16,7 @@ namespace {
 void showSavedText(TemplateForm& window, const JournalStart& start, bool fileIsSame)
 {
     std::optional<FileSum> file = fileIsSame ? start.file : std::nullopt;
-    if (!file || !loadTemplate(window, start.path, fileNameFor(start.name))) {
+    if (!file || !loadTemplate(window, start.path, fileNameFor(start.name), "TEMPLATE Form_Load")) {
         file.reset();
         beginNewTemplate(window);
     }

@@ -113,6 +113,30 @@ TEST_F(TemplateEditorTest, AFileThatCannotBeReadLeavesTextAndName)
     EXPECT_EQ(window.Text1.Text, "untitled.rtf");
 }
 
+TEST_F(TemplateEditorTest, AFailureIsOnRecordUnderTheNameOfItsCommand)
+{
+    const std::string& tag = t.program().shared.errors.ErrorProcedure;
+    for (const char* path : {"c:\\hat.txt", "c:\\tm\\tm.cfg"}) {
+        t.files.addFile(path, "x");
+        t.files.failReads(path, RuntimeError(ErrorCode::PathNotFound, "gone"));
+    }
+    open("c:\\hat.txt");
+    EXPECT_EQ(tag, "TEMPLATE Command1_Click");
+    t.settings().TextFilePath = "c:\\hat.txt";
+    window.Command2.Click();
+    EXPECT_EQ(tag, "TEMPLATE Command2_Click");
+    t.settings().ProgramFilesPath = "c:\\tm";
+    window.mnuEditTmCFG.Click();
+    EXPECT_EQ(tag, "TEMPLATE mnuEditTmCFG_Click");
+    pane.Change = [] { throw RuntimeError(ErrorCode::PathNotFound, "broken"); };
+    t.clipboard.content.text = "x";
+    window.mnuPaste.Click();
+    EXPECT_EQ(tag, "TEMPLATE mnuPaste_Click");
+    window.mnuSelectAll.Click();
+    window.mnuTextToBlack.Click();
+    EXPECT_EQ(tag, "TEMPLATE mnuTextToBlack_Click");
+}
+
 TEST_F(TemplateEditorTest, ACancelledOpenDialogueLeavesEverything)
 {
     t.dialogues.filesToOpen = {std::nullopt};

@@ -102,9 +102,10 @@ void listMacros(Editor& editor, const std::string& name, const Steps& step)
 
 } // namespace
 
-std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name)
+std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name,
+                                          std::string_view tag)
 {
-    const Steps step(editor.shared.errors, "ED_readForOpening");
+    const Steps step(editor.shared.errors, tag);
     std::optional<std::string> bytes;
     if (isTooLarge(editor, path)) {
         showTooLarge(editor, name);

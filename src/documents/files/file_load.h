@@ -4,12 +4,14 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tarvex {
 
 /// The bytes of a file that is to be opened; nothing when it can't be read or is larger than 64 MB, and the user was
-/// informed.
-std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name);
+/// informed. A failure is on record under `tag`.
+std::optional<std::string> readForOpening(Editor& editor, const std::string& path, const std::string& name,
+                                          std::string_view tag = "ED_readForOpening");
 
 /// Reads a file and shows it in its pane. False: it can't be read or is larger than 64 MB; the user was informed, and
 /// nothing changed.
