@@ -250,7 +250,7 @@ void Text1_LostFocus(TemplateForm& window)
     const std::string name = window.Text1.Text;
     if (name.empty())
         window.Text1.Text = TemplateForm::untitled;
-    else if (!lowerUtf8(name).ends_with(".rtf"))
+    else if (!name.ends_with(".rtf"))
         window.Text1.Text = name + ".rtf";
 }
 

@@ -285,7 +285,7 @@ TEST_F(TemplateEditorTest, LeavingTheNameCompletesIt)
     for (const auto& [typed, left] : {std::pair("", "untitled.rtf"),
                                       {"Tm.cfg", "Tm.cfg.rtf"},
                                       {"a", "a.rtf"},
-                                      {"a.RTF", "a.RTF"},
+                                      {"a.RTF", "a.RTF.rtf"},
                                       {"b.rtf", "b.rtf"}}) {
         window.Text1.Text = typed;
         window.Text1.LostFocus();
