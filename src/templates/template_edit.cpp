@@ -7,6 +7,8 @@
 #include "language/commands/colour_highlighting.h"
 #include "templates/template_journal.h"
 
+#include <algorithm>
+
 namespace tarvex {
 
 namespace {
@@ -25,9 +27,9 @@ void recordUndo(TemplateForm& window)
 {
     UndoHistory& history = window.Undo;
     if (window.TakeNewLevel == 1 || history.Position != 1) {
+        const auto most = static_cast<std::size_t>(std::max<int>(window.editor.shared.settings.UndoMax, 0)) + 1;
         history.Levels.push_front({});
-        while (static_cast<long>(history.Levels.size()) > window.editor.shared.settings.UndoMax + 1)
-            history.Levels.pop_back();
+        while (history.Levels.size() > most) history.Levels.pop_back();
         history.Position = 1;
         window.TakeNewLevel = 0;
     }

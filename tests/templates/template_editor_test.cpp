@@ -444,6 +444,16 @@ TEST_F(TemplateEditorTest, UndoDoesNotReachIntoTheFileBefore)
     EXPECT_EQ(text(), "other");
 }
 
+TEST_F(TemplateEditorTest, ANegativeNumberOfUndoLevelsIsNone)
+{
+    t.settings().UndoMax = -5; // the settings file may say anything
+    type("a");
+    type("b");
+    EXPECT_FALSE(window.mnuUndo.Enabled);
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "ab");
+}
+
 TEST_F(TemplateEditorTest, TheClipboardCarriesColours)
 {
     type("red");
