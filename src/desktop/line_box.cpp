@@ -26,6 +26,12 @@ public:
     }
 };
 
+/// The box's own menu, or the window's: the user is still in the box.
+bool isMenu(const QFocusEvent& event)
+{
+    return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
+}
+
 } // namespace
 
 LineBox::LineBox(TextBox& state, const QString& name, Bindings& bindings) : m_state(state)
@@ -38,7 +44,7 @@ LineBox::LineBox(TextBox& state, const QString& name, Bindings& bindings) : m_st
 void LineBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::PopupFocusReason) return; // back from its own menu
+    if (isMenu(*event)) return;
     // A click gives the keyboard first and puts the caret then.
     QTimer::singleShot(0, this, [this] {
         if (m_state.GotFocus) m_state.GotFocus();
@@ -48,7 +54,7 @@ void LineBox::focusInEvent(QFocusEvent* event)
 void LineBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && m_state.LostFocus) m_state.LostFocus();
+    if (!isMenu(*event) && m_state.LostFocus) m_state.LostFocus();
 }
 
 } // namespace tarvex

@@ -6,8 +6,9 @@
 
 namespace tarvex {
 
-/// A text box of one line that reports when it gets and loses the keyboard. Of a text of several lines that is pasted
-/// into it the first is kept.
+
+/// A text box of one line that reports when it gets and loses the keyboard; a menu that opens doesn't count. Of
+/// a text of several lines that is pasted into it the first is kept.
 class LineBox : public QLineEdit {
     Q_OBJECT
 public:

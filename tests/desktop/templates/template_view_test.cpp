@@ -120,6 +120,23 @@ TEST(TemplateView, LeavingTheNameCompletesIt)
     EXPECT_EQ(name.text(), "Tm.cfg.rtf");
 }
 
+TEST(TemplateView, OpeningAMenuByItsKeyDoesNotLeaveTheName)
+{
+    Shown t;
+    auto& name = t.child<QLineEdit>("Text1");
+    name.setFocus();
+    Shown::events();
+    name.selectAll();
+    QTest::keyClicks(&name, "hat.txt");
+    QTest::keyClick(&name, Qt::Key_F, Qt::AltModifier);
+    Shown::events();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(name.text(), "hat.txt");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    Shown::events();
+    EXPECT_EQ(name.text(), "hat.txt");
+}
+
 TEST(TemplateView, WrapFollowsItsButton)
 {
     Shown t;
