@@ -34,10 +34,12 @@ bool isMenu(const QFocusEvent& event)
 
 } // namespace
 
+QValidator* firstLineOnly(QObject* parent) { return new FirstLine(parent); }
+
 LineBox::LineBox(TextBox& state, const QString& name, Bindings& bindings) : m_state(state)
 {
     setObjectName(name);
-    setValidator(new FirstLine(this));
+    setValidator(firstLineOnly(this));
     bindings.textBox(state, *this);
 }
 

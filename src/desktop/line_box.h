@@ -4,11 +4,14 @@
 
 #include <QLineEdit>
 
+class QValidator;
+
 namespace tarvex {
 
+/// For fields of one line: of a text of several lines that is pasted, the first is kept.
+QValidator* firstLineOnly(QObject* parent);
 
-/// A text box of one line that reports when it gets and loses the keyboard; a menu that opens doesn't count. Of
-/// a text of several lines that is pasted into it the first is kept.
+/// A text box of one line that reports when it gets and loses the keyboard; a menu that opens doesn't count.
 class LineBox : public QLineEdit {
     Q_OBJECT
 public:

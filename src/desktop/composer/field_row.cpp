@@ -1,9 +1,12 @@
 #include "desktop/composer/field_row.h"
 
+#include "desktop/line_box.h"
+
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QValidator>
 
 namespace tarvex {
 
@@ -20,6 +23,7 @@ QLineEdit* newField(TextBox& state, const QString& name, Bindings& bindings, QWi
 {
     auto* field = new QLineEdit(parent);
     field->setObjectName(name);
+    field->setValidator(firstLineOnly(field)); // a statement ends where its line does
     bindings.textBox(state, *field);
     return field;
 }

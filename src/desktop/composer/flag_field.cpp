@@ -1,9 +1,11 @@
 #include "desktop/composer/flag_field.h"
 
+#include "desktop/line_box.h"
 #include "platform/windows1252.h"
 
 #include <QEvent>
 #include <QScopedValueRollback>
+#include <QValidator>
 
 namespace tarvex {
 
@@ -12,12 +14,16 @@ namespace {
 constexpr Colour chosenColour = 0xFFFFFF;
 constexpr int longestDefinition = 10'000;
 
+/// As a pane keeps it: each character is one of the code page, so that positions here and there are the same.
+QString asKept(const QString& text) { return toQt(utf8FromWindows1252(windows1252FromUtf8(fromQt(text)))); }
+
 } // namespace
 
 FlagField::FlagField(Pane& pane, std::function<void()> focused, QWidget* parent)
     : QLineEdit(parent), m_pane(pane), m_focused(std::move(focused))
 {
     setMaxLength(longestDefinition);
+    setValidator(firstLineOnly(this));
     showText();
     showColour();
     m_bindings.follow(pane.edited, [this](Pane::Edit) { showText(); });
@@ -40,7 +46,6 @@ void FlagField::showText()
     setText(toQt(utf8FromWindows1252(m_pane.Text())));
 }
 
-/// Each character of the code page is one of the line's.
 void FlagField::showSelection()
 {
     if (m_following) return;
@@ -68,6 +73,11 @@ void FlagField::takeText()
     if (m_following) return;
     {
         const QScopedValueRollback<bool> following(m_following, true);
+        if (const QString kept = asKept(text()); kept != text()) {
+            const auto caret = static_cast<int>(asKept(text().left(cursorPosition())).size());
+            setText(kept);
+            setCursorPosition(caret);
+        }
         m_pane.setText(windows1252FromUtf8(fromQt(text())));
     }
     takeSelection();

@@ -1,9 +1,11 @@
 #include "desktop/generators/heading_view.h"
 
 #include "desktop/closing_buttons.h"
+#include "desktop/line_box.h"
 
 #include <QComboBox>
 #include <QFormLayout>
+#include <QValidator>
 
 namespace tarvex {
 
@@ -21,6 +23,7 @@ HeadingView::HeadingView(Heading& form, QWidget* parent) : FormWindow(form.Form,
     names->setEditable(true);
     names->setInsertPolicy(QComboBox::NoInsert);
     names->setCompleter(nullptr); // it would complete a typed "View" to "Views"
+    names->setValidator(firstLineOnly(names));
     names->setMaxVisibleItems(namesShown);
     names->setMinimumWidth(names->fontMetrics().averageCharWidth() * widthInCharacters);
     m_bindings.comboBox(form.Combo1, *names);

@@ -2,6 +2,7 @@
 
 #include "desktop/icon_theme.h"
 #include "desktop/input.h"
+#include "desktop/line_box.h"
 #include "desktop/menus/menu_view.h"
 #include "desktop/pane_colours.h"
 #include "desktop/platform/native_keys.h"
@@ -18,6 +19,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <QValidator>
 
 namespace tarvex {
 
@@ -103,6 +105,7 @@ void SafeinView::addField(QGridLayout& grid, int row, const char* label, TextBox
     QLineEdit* field = lineEdit(state, name);
     auto* text = new QLabel(QLatin1String(label), this);
     text->setBuddy(field);
+    field->setValidator(firstLineOnly(field));
     const bool isStatement = &state == &m_window.TotalCombinedText;
     if (isStatement)
         m_bindings.bind(m_window.TotalCombinedBackColor, [this, field](Colour) { showStatementColour(*field); });

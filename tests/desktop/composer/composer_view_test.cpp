@@ -6,8 +6,10 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -188,6 +190,36 @@ TEST_F(ComposerViewTest, ADefinitionIsWrittenByKeysAndTermButtons)
     EXPECT_EQ(field->cursorPosition(), 13);
     click("Command13(1)");
     EXPECT_EQ(joystick(), "DEF X2 T1 AND T2\r\n");
+}
+
+TEST_F(ComposerViewTest, ACharacterThatADefinitionCannotHoldIsAQuestionMarkAndTermsFollowIt)
+{
+    showPage(composerPage::flags);
+    auto* field = get<QLineEdit>("RichTexFlag(0)");
+    field->setFocus();
+    events();
+    QInputMethodEvent input;
+    input.setCommitString(QString::fromUtf8("X1 \xF0\x9F\x98\x80")); // two code units
+    QApplication::sendEvent(field, &input);
+    EXPECT_EQ(field->text(), "X1 ?");
+    EXPECT_EQ(field->cursorPosition(), 4);
+    click("CMDCompare(0)");
+    EXPECT_EQ(field->text(), "X1 ? AND");
+    EXPECT_EQ(composer.flags.RichTexFlag[0].Text(), "X1 ? AND");
+}
+
+TEST_F(ComposerViewTest, OfSeveralPastedLinesAFieldTakesTheFirst)
+{
+    QApplication::clipboard()->setText("up\r\nBTN S1 a");
+    for (const auto& [page, name] :
+         {std::pair(composerPage::hardware, "RemTextBox"), {composerPage::flags, "RichTexFlag(0)"}}) {
+        showPage(page);
+        auto* field = get<QLineEdit>(name);
+        field->clear();
+        field->paste();
+        EXPECT_EQ(field->text(), "up") << name;
+    }
+    EXPECT_EQ(composer.fields.RemTextBox.Text.get(), "up");
 }
 
 TEST_F(ComposerViewTest, DefinitionsAreReadBackFromTheFile)

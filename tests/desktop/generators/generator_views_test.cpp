@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -122,6 +123,19 @@ TEST(HeadingView, TakesANameOfTheUsersOwnJustAsItIsWritten)
         Dialogue::press(Qt::Key_Return);
     });
     EXPECT_NE(t.macro().find("Rem view\r\n"), std::string::npos) << t.macro();
+}
+
+TEST(HeadingView, OfSeveralPastedLinesTheFirstIsTheHeading)
+{
+    Dialogue t;
+    t.editor().TabStrip1.Select(2);
+    QApplication::clipboard()->setText("Guns\r\nfire = f");
+    t.run(t.menus().mnuInsertHeading, [](QWidget&) {
+        Dialogue::press(Qt::Key_V, Qt::ControlModifier);
+        Dialogue::press(Qt::Key_Return);
+    });
+    EXPECT_NE(t.macro().find("Rem Guns\r\nRem -"), std::string::npos) << t.macro();
+    EXPECT_EQ(t.macro().find("fire"), std::string::npos);
 }
 
 TEST(HeadingView, CancelAndEscapeInsertNothing)

@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -136,6 +137,15 @@ TEST_F(SafeinViewTest, TypedTextReachesTheStateAndEnterInsertsItsField)
     QTest::keyClick(field, Qt::Key_Return);
     events();
     EXPECT_EQ(joystick(), "/T a\r\n");
+}
+
+TEST_F(SafeinViewTest, OfSeveralPastedLinesTheStatementTakesTheFirstAndTheFieldOfCodesAll)
+{
+    QApplication::clipboard()->setText("RAW (#1C)\n#F0 #1C");
+    get<QLineEdit>("TotalCombinedText")->paste();
+    EXPECT_EQ(safein.TotalCombinedText.Text.get(), "RAW (#1C)");
+    get<QLineEdit>("RawToRead")->paste();
+    EXPECT_NE(safein.RawToRead.Text.get().find("#F0 #1C"), std::string::npos);
 }
 
 TEST_F(SafeinViewTest, AStatementOfAHundredThousandCharactersIsNotCut)
