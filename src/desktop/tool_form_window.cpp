@@ -56,7 +56,8 @@ bool ToolFormWindow::filterKey(QKeyEvent& event)
         return true;
     }
     if (event.type() != QEvent::KeyPress || keepsKey(event)) return false;
-    return m_tool.KeyDown(toKeyCode(event.key()), toLogic(event.modifiers()));
+    const bool swallowed = m_tool.KeyDown(toKeyCode(event.key()), toLogic(event.modifiers()));
+    return swallowed || m_tool.State == WindowState::Minimised; // F4 would also open a list above the other windows
 }
 
 /// Esc comes here, and so does the frame's close button.

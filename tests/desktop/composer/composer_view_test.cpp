@@ -321,6 +321,18 @@ TEST_F(ComposerViewTest, KeysReachTheProgram)
     EXPECT_EQ(t.editor().JoystickText.SelLength(), 3);
 }
 
+TEST_F(ComposerViewTest, F4MinimisesItAndOpensNoList)
+{
+    composer.macros.Combo1.Items = std::vector<std::string>{"All", "Guns"}; // no list opens without entries
+    auto* headings = get<QComboBox>("Combo1");
+    headings->setFocus();
+    events();
+    ASSERT_EQ(form()->focusWidget(), headings);
+    QTest::keyClick(headings, Qt::Key_F4);
+    EXPECT_EQ(composer.form.State.get(), WindowState::Minimised);
+    EXPECT_FALSE(headings->view()->isVisible());
+}
+
 TEST_F(ComposerViewTest, AccessKeysAreUniqueOnEachPage)
 {
     use(0, 1, 1);
