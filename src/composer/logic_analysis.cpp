@@ -37,12 +37,10 @@ bool analyseLogic(InsertOptions& window)
     if (editor.JoystickText.TextLength() == 0) return false;
     for (Pane& field : window.flags.RichTexFlag) field.setText("");
     const std::vector<std::string> lines = logicalLines(throughFile(editor));
-    if (lines.empty()) {
+    if (lines.empty())
         editor.platform.dialogues.show({.title = "What logical statements?",
                                         .text = "I couldn't find any logical statements in your joystick file",
                                         .icon = BoxIcon::Information});
-        return false;
-    }
     for (std::size_t i = 0; i < lines.size() && i < FlagTab::count; ++i) window.flags.RichTexFlag[i].setText(lines[i]);
     return true;
 }

@@ -211,14 +211,18 @@ TEST_F(LogicTest, ALineThatBeginsWithABlankBeforeBTNXIsNotFound)
     EXPECT_THAT(logicalLines(" BTN X1 a\r\nBTN  X2 b\r\nBTN X3 c"), testing::ElementsAre("BTN X3 c"));
 }
 
-TEST_F(LogicTest, WithoutLogicalLinesABoxSaysSo)
+TEST_F(LogicTest, WithoutLogicalLinesABoxSaysSoAndTheFirstEmptyDefinitionIsChosen)
 {
     field(0).setText("mine");
+    window.SSTabFlags.Tab = 3;
+    tab.OptionFlag[30].Click();
     write("BTN S1 x\r\n");
     tab.Command13[2].Click();
     EXPECT_EQ(t.lastBox().title, "What logical statements?");
     EXPECT_EQ(t.lastBox().text, "I couldn't find any logical statements in your joystick file");
     EXPECT_EQ(field(0).Text(), "");
+    EXPECT_EQ(window.SSTabFlags.Tab.get(), 0);
+    EXPECT_TRUE(tab.OptionFlag[0].Value);
 }
 
 TEST_F(LogicTest, AnEmptyJoystickFileLeavesTheFieldsAsTheyAre)
