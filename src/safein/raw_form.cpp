@@ -24,7 +24,11 @@ std::vector<MenuEntry> RAWform::menuBar()
     const auto list = [](MenuArray& array) { return MenuEntry{nullptr, {}, {}, &array}; };
     return {
         {&mnuFile, {}, {command(mnuFileClose)}, nullptr},
-        {&mnuOptions, {}, {list(mnuOption1), command(mnuUseExtendedRAW), divider, command(mnuOptionsExplain)}, nullptr},
+        {&mnuOptions,
+         {},
+         {list(mnuOption1), command(mnuUseExtendedRAW), divider, command(mnuOptionsExplain),
+          command(mnuExtendedExplain)},
+         nullptr},
         {&mnuHelp,
          {},
          {command(mnuHelpContents), divider, command(mnuRawOverview), command(mnuHelpRawcodes),

@@ -49,6 +49,7 @@ struct RAWform {
         {"&Add carriage return", "Add &RAW ()", "&Use SHF key syntax", "&View slash modifiers", "&Keep on top"}};
     MenuItem mnuUseExtendedRAW{"mnuUseExtendedRAW", "&Use extended RAW codes as per An-0001.txt"};
     MenuItem mnuOptionsExplain{"mnuOptionsExplain", "&Explain these options"};
+    MenuItem mnuExtendedExplain{"mnuExtendedExplain", "Explain e&xtended RAW codes"};
     MenuItem mnuHelp{"mnuHelp", "&Help"};
     MenuItem mnuHelpContents{"mnuHelpContents", "&Tarvex help topics"};
     MenuItem mnuRawOverview{"mnuRawOverview", "&Overview"};

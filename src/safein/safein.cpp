@@ -15,6 +15,7 @@ constexpr PlaceSettings place{&Settings::SafeinTop, &Settings::SafeinLeft,   Acc
 
 namespace infoItem {
 constexpr int options = 30;
+constexpr int extendedCodes = 31;
 constexpr int hideButton = 32;
 } // namespace infoItem
 
@@ -35,6 +36,7 @@ void wireMenus(RAWform& window)
     wireHelp(window.mnuRawOverview, window.HelpTopic, helpTopic::safeinOverview);
     wireHelp(window.mnuHelpRawcodes, window.HelpTopic, helpTopic::rawCodes);
     wireHelp(window.mnuOptionsExplain, window.ShowInfoItem, infoItem::options);
+    wireHelp(window.mnuExtendedExplain, window.ShowInfoItem, infoItem::extendedCodes);
     wireHelp(window.mnuUseHideButton, window.ShowInfoItem, infoItem::hideButton);
 }
 

@@ -70,10 +70,13 @@ TEST_F(InfoPages, TheThrustmasterMenuBeginsWithPage10)
 TEST_F(InfoPages, SafeinShowsItsOwn)
 {
     addPage("Safein options.rtf", "{\\rtf1 options}");
+    addPage("Safein advanced menu.rtf", "{\\rtf1 extended}");
     addPage("Using the Hide button.rtf", "{\\rtf1 hide}");
     t.menus().mnuInsertRAW.Click();
     t.program().safein.mnuOptionsExplain.Click();
     EXPECT_EQ(text(), "options");
+    t.program().safein.mnuExtendedExplain.Click();
+    EXPECT_EQ(text(), "extended");
     t.program().safein.mnuUseHideButton.Click();
     EXPECT_EQ(text(), "hide");
 }

@@ -133,6 +133,8 @@ TEST_F(SafeinWindow, HelpThatIsNotThereIsGreyed)
     EXPECT_EQ(topic, 2510);
     window.mnuOptionsExplain.Click();
     EXPECT_EQ(item, 30);
+    window.mnuExtendedExplain.Click();
+    EXPECT_EQ(item, 31);
     window.mnuUseHideButton.Click();
     EXPECT_EQ(item, 32);
 }
