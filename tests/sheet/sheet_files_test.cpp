@@ -1,6 +1,9 @@
 #include "sheet/sheet_files.h"
 
+#include "expected_file.h"
 #include "sheet/hardware_art.h"
+#include "sheet/html_sheet.h"
+#include "sheet/pdf_sheet.h"
 #include "sheet/svg_sheet.h"
 
 #include <gmock/gmock.h>
@@ -104,6 +107,45 @@ TEST(SheetPdf, BracketsAndBackslashesAreEscaped)
     EXPECT_THAT(pdf, HasSubstr("(\\\\b)"));
 }
 
+/// Without pictures.
+std::vector<LaidOutPage> smallPages()
+{
+    const SheetText name{
+        .x = 10.5, .baseline = 30.25, .size = 12, .bold = true, .colour = 0x23405F, .text = "S1 & <b>"};
+    const SheetText fire{.x = 60, .baseline = 30, .size = 9.5, .bold = false, .colour = 0, .text = "Fire \"1\" ä"};
+    const SheetBox stripe{.x = 10, .y = 40, .width = 180, .height = 20.125, .fill = 0xEEF1F5};
+    return {{.paper = {200, 100}, .items = {name, fire}}, {.paper = {150.5, 120}, .items = {stripe, fire}}};
+}
+
+TEST(SheetForms, OfTwoSmallPagesAreTheFiles)
+{
+    expectFile(testData("sheet_forms/two_pages.svg"), svgSheet(smallPages()));
+    expectFile(testData("sheet_forms/two_pages.html"), htmlSheet(smallPages(), "mig & co"));
+    expectFile(testData("sheet_forms/two_pages.pdf"), pdfSheet(smallPages(), "mig (co)"));
+}
+
+TEST(SheetSvg, ADrawingIsPlacedAndKeepsItsElementsWithoutTheirIds)
+{
+    const SheetPicture wcs{.picture = PictureOf::Wcs, .x = 10, .y = 20, .scale = 0.123456, .labelSize = 18};
+    const std::string svg = svgPage({.paper = {200, 100}, .items = {wcs}}, "x");
+    const std::string_view drawing = hardwareDrawing(PictureOf::Wcs);
+    EXPECT_THAT(svg, HasSubstr("<g transform=\"translate(10.00 20.00) scale(0.12346)\">"));
+    EXPECT_THAT(svg, testing::EndsWith("</g>\n</svg>\n"));
+    for (const char* element : {"<path ", "<circle ", "<g", "<text ", "<linearGradient ", "<radialGradient "})
+        EXPECT_EQ(countOf(svg, element),
+                  countOf(std::string(drawing), element) + (element == std::string("<g") ? 1 : 0))
+            << element;
+    EXPECT_EQ(countOf(svg, " id=\""), countOf(svg, "Gradient id=\"xg"));
+    EXPECT_EQ(countOf(svg, "url(#xg"), countOf(std::string(drawing), "url(#g"));
+    EXPECT_EQ(countOf(svg, "font-size=\"18.00\""), countOf(std::string(drawing), "font-size=\"15\""));
+    EXPECT_EQ(countOf(svg, "\"#222222\""), countOf(std::string(drawing), "\"currentColor\"")) << "ink of contours";
+}
+
+TEST(SheetXml, HasNoSignsOfMarkupAndNoControlCharacters)
+{
+    EXPECT_EQ(escapedForXml("a<b>&\"c\" ä\t\x01\x1F "), "a&lt;b&gt;&amp;&quot;c&quot; ä    ");
+}
+
 TEST(HardwareArt, EveryPictureHasADrawingThatIsRead)
 {
     for (const Picture& one : allPictures()) {
@@ -140,6 +182,62 @@ TEST(HardwareArt, ReadsColoursGradientsAndCircles)
     EXPECT_EQ(art.shapes[1].text, "S1");
     EXPECT_EQ(art.shapes[1].anchor, "end");
     EXPECT_TRUE(art.shapes[1].isLabel);
+    EXPECT_FALSE(art.shapes[0].isLabel);
+}
+
+TEST(HardwareArt, AnEllipseIsFourCurvesFromItsRightEdge)
+{
+    const Art art =
+        readArt("<svg><ellipse cx=\"10\" cy=\"20\" rx=\"4\" ry=\"2\"/><circle cx=\"1\" cy=\"2\" r=\"1\"/></svg>");
+    ASSERT_EQ(art.shapes.size(), 2U);
+    EXPECT_EQ(art.shapes[0].path, "M14.00 20.00 "
+                                  "C14.00 21.10 12.21 22.00 10.00 22.00 "
+                                  "C7.79 22.00 6.00 21.10 6.00 20.00 "
+                                  "C6.00 18.90 7.79 18.00 10.00 18.00 "
+                                  "C12.21 18.00 14.00 18.90 14.00 20.00 z");
+    EXPECT_THAT(art.shapes[1].path, StartsWith("M2.00 2.00 C2.00 2.55 1.55 3.00 1.00 3.00 "));
+}
+
+TEST(HardwareArt, WhatAShapeDoesNotSayIsAPlainLineWithoutPaint)
+{
+    const Art art = readArt("<svg><path d=\"M1 2\"/><path d=\"M3 4\" fill=\"none\" stroke=\"#0a0B0c\" "
+                            "stroke-width=\"2.5\" stroke-opacity=\"0.4\"/><rect x=\"1\"/>\n</svg>");
+    ASSERT_EQ(art.shapes.size(), 2U);
+    EXPECT_EQ(art.shapes[0].path, "M1 2");
+    EXPECT_EQ(art.shapes[0].fill.kind, ArtPaint::Kind::None);
+    EXPECT_EQ(art.shapes[0].stroke.kind, ArtPaint::Kind::None);
+    EXPECT_EQ(art.shapes[0].strokeWidth, 1);
+    EXPECT_EQ(art.shapes[0].strokeOpacity, 1);
+    EXPECT_EQ(art.shapes[1].fill.kind, ArtPaint::Kind::None);
+    EXPECT_EQ(art.shapes[1].stroke.kind, ArtPaint::Kind::Colour);
+    EXPECT_EQ(art.shapes[1].stroke.colour, 0x0A0B0CU);
+    EXPECT_EQ(art.shapes[1].strokeWidth, 2.5);
+    EXPECT_EQ(art.shapes[1].strokeOpacity, 0.4);
+}
+
+TEST(HardwareArt, AStopThatLetsThroughMakesItsGradientTranslucent)
+{
+    const Art art = readArt("<svg><stop offset=\"1\"/><linearGradient id=\"g1\" x1=\"1\" y1=\"2\" x2=\"3\" y2=\"4\">"
+                            "<stop offset=\"0.25\" stop-color=\"#123\" stop-opacity=\"0.5\"/></linearGradient></svg>");
+    ASSERT_EQ(art.gradients.size(), 1U);
+    EXPECT_EQ(art.gradients[0].id, "g1");
+    EXPECT_EQ(art.gradients[0].line, (std::array<double, 4>{1, 2, 3, 4}));
+    EXPECT_FALSE(art.gradients[0].solid);
+    ASSERT_EQ(art.gradients[0].stops.size(), 1U);
+    EXPECT_EQ(art.gradients[0].stops[0].offset, 0.25);
+    EXPECT_EQ(art.gradients[0].stops[0].colour, 0x112233U);
+}
+
+TEST(HardwareArt, ATextHasItsPlaceAndSizeAndTheWordsUpToTheNextElement)
+{
+    const Art art =
+        readArt("<svg><text x=\"7\" y=\"8\" font-size=\"9\" text-anchor=\"middle\" fill=\"#fff\">H1 U</text></svg>");
+    ASSERT_EQ(art.shapes.size(), 1U);
+    EXPECT_EQ(art.shapes[0].text, "H1 U");
+    EXPECT_EQ(art.shapes[0].x, 7);
+    EXPECT_EQ(art.shapes[0].y, 8);
+    EXPECT_EQ(art.shapes[0].size, 9);
+    EXPECT_EQ(art.shapes[0].fill.colour, 0xFFFFFFU);
     EXPECT_FALSE(art.shapes[0].isLabel);
 }
 

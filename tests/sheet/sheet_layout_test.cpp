@@ -276,12 +276,82 @@ TEST(WordWrap, AModifierIsNotLeftAloneBeforeAWordThatHasToBeParted)
     EXPECT_EQ(lines[0].words[1].text, "Look_");
 }
 
+TEST(WordWrap, AWordThatFillsTheLineExactlyIsNotParted)
+{
+    const double width = textWidth("one two", 10, false);
+    EXPECT_EQ(wrapWords({{"one"}, {"two"}}, width, 10).size(), 1U);
+    EXPECT_EQ(wrapWords({{"one"}, {"two"}}, width - 0.01, 10).size(), 2U);
+    const auto whole = wrapWords({{"abcdef"}}, textWidth("abcdef", 10, false), 10);
+    ASSERT_EQ(whole.size(), 1U);
+    EXPECT_FALSE(whole[0].parted);
+}
+
+TEST(WordWrap, WordsStandABlankApartAndFurtherLinesHang)
+{
+    const auto lines = wrapWords({{"one"}, {"two"}, {"six"}}, textWidth("one two", 10, false), 10, 4);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].words.at(0).x, 0);
+    EXPECT_DOUBLE_EQ(lines[0].words.at(1).x, textWidth("one ", 10, false));
+    EXPECT_EQ(lines[1].words.at(0).x, 4);
+    EXPECT_EQ(lines[1].size, 10);
+}
+
+TEST(WordWrap, AWordThatBeginsWithAnUnderscoreIsPartedBetweenLetters)
+{
+    const auto lines = wrapWords({{"_abcdef"}}, textWidth("_abc", 10, false), 10);
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].words.at(0).text, "_abc");
+    EXPECT_EQ(lines[1].words.at(0).text, "def");
+}
+
+TEST(WordWrap, WhatFollowsAPartedWordStandsBehindItsRest)
+{
+    const auto lines = wrapWords({{"abcdefgh"}, {"i"}}, textWidth("abcdef", 10, false), 10);
+    ASSERT_EQ(lines.size(), 2U);
+    ASSERT_EQ(lines[1].words.size(), 2U);
+    EXPECT_EQ(lines[1].words[0].text, "gh");
+    EXPECT_DOUBLE_EQ(lines[1].words[1].x, textWidth("gh ", 10, false));
+}
+
+TEST(WordWrap, KeysThatNoLineHoldsAreNotKeptTogether)
+{
+    using Kind = SheetWord::Kind;
+    const std::vector<SheetWord> words{{"Zoom", Kind::Macro}, {"one", Kind::Keys}, {"two", Kind::Keys}};
+    const double twoKeys = textWidth("one two", 7.5, false);
+    const double zoom = textWidth("Zoom ", 10, true);
+    const auto kept = wrapWords(words, std::max(zoom, 3 + twoKeys), 10, 3);
+    ASSERT_EQ(kept.size(), 2U);
+    EXPECT_EQ(kept[0].words.size(), 1U);
+    const auto apart = wrapWords(words, zoom + textWidth("one", 7.5, false), 10, 30);
+    ASSERT_GE(apart.size(), 2U);
+    EXPECT_EQ(apart[0].words.size(), 2U) << "the first key stands behind its macro";
+}
+
 TEST(TextWidth, IsThatOfHelvetica)
 {
     EXPECT_DOUBLE_EQ(textWidth("Tarvex", 1000, false), 611 + 556 + 333 + 500 + 556 + 500);
     EXPECT_DOUBLE_EQ(textWidth("A", 1000, true), 722);
     EXPECT_DOUBLE_EQ(textWidth("", 1000, true), 0);
     EXPECT_DOUBLE_EQ(textWidth("ä…", 1000, false), 611 + 1000);
+    EXPECT_DOUBLE_EQ(textWidth("\x1F\x7F", 1000, false), 2 * 611) << "beside the printable ones";
+    EXPECT_DOUBLE_EQ(textWidth("ß€😀", 1000, true), 3 * 611) << "letters of two to four bytes";
+    EXPECT_DOUBLE_EQ(textWidth("…\xE2\x80", 1000, false), 1000 + 611) << "a letter that is cut off";
+}
+
+TEST(TextWidth, OfAllPrintableLettersIsThatOfLiberationSans)
+{
+    std::string all;
+    for (char letter = ' '; letter <= '~'; ++letter) all += letter;
+    EXPECT_DOUBLE_EQ(textWidth(all, 1000, false), 50058);
+    EXPECT_DOUBLE_EQ(textWidth(all, 1000, true), 52367);
+}
+
+TEST(CutText, ThatFitsStaysAndALongerOneEndsInAnEllipsis)
+{
+    const double width = textWidth("Tarvex", 10, true);
+    EXPECT_EQ(cutTo("Tarvex", width, 10, true), "Tarvex");
+    EXPECT_EQ(cutTo("Tarvex", width - 0.1, 10, true), "Tarv…");
+    EXPECT_EQ(cutTo("Tarvex", 0, 10, true), "T…") << "one letter at least";
 }
 
 } // namespace

@@ -94,6 +94,41 @@ TEST(ShortKeys, LongOnesAreCutBetweenKeys)
     EXPECT_EQ(keys(std::string(40, 'k')), std::string(30, 'k') + " …");
 }
 
+TEST(ShortKeys, RawCodesOfSeveralKeysAreEachRead)
+{
+    EXPECT_EQ(keys("RAW (#1C #F0 #1C #32 #F0 #32)"), "a b");
+    EXPECT_EQ(keys("RAW (#14 #12 #1C #F0 #1C #F0 #12 #F0 #14)"), "Ctrl+Shift+a") << "both are held";
+    EXPECT_EQ(keys("RAW (#12 #1C #F0 #1C #F0 #12 #1C #F0 #1C)"), "Shift+a a") << "no longer held";
+    EXPECT_EQ(keys("RAW (#12 #F0 #12 #14 #F0 #14)"), "Left Shift Left Ctrl");
+}
+
+TEST(ShortKeys, ARawStatementEndsAtItsBracket)
+{
+    EXPECT_EQ(keys("raw (#1C #F0 #1C) b"), "a b");
+    EXPECT_EQ(keys("RAW(#1C) b"), "a b");
+    EXPECT_EQ(keys("RAW b"), "RAW b") << "no bracket, no codes";
+}
+
+TEST(ShortKeys, ToggleAndReleaseAreReadInAnyCaseAndCountNothingAcross)
+{
+    EXPECT_EQ(keys("/t a /t b"), "a | b");
+    EXPECT_EQ(keys("/p a /r a"), "a /R a");
+    EXPECT_EQ(keys("ctl a"), "Ctrl+a");
+    EXPECT_EQ(keys("a a /T a a"), "a×2 | a×2");
+}
+
+TEST(ShortWords, AMacroIsNeverCountedAndHasEachOfItsKeys)
+{
+    using Kind = SheetWord::Kind;
+    EXPECT_EQ(shortWords(parted("Fire Fire"), {{"Fire", "x y"}}), (std::vector<SheetWord>{{"Fire", Kind::Macro},
+                                                                                          {"x", Kind::Keys},
+                                                                                          {"y", Kind::Keys},
+                                                                                          {"Fire", Kind::Macro},
+                                                                                          {"x", Kind::Keys},
+                                                                                          {"y", Kind::Keys}}));
+    EXPECT_EQ(shortWords(parted("Nil"), {{"Nil", ""}}), (std::vector<SheetWord>{{"Nil", Kind::Macro}}));
+}
+
 TEST(ShortWords, KeepTheirOrderAndNumber)
 {
     const auto words = shortWords(parted("1 3 a a =  RAW (#1C #F0 #1C)"), {});
