@@ -167,6 +167,28 @@ TEST(RawSummary, SaysKeyByKeyWhatHappens)
     EXPECT_EQ(rawSummary(""), "");
 }
 
+TEST(RawSummary, ShowsTwentyFourCharactersOfWhatIsNoKey)
+{
+    EXPECT_EQ(rawSummary(std::string(24, 'x')), "not a key: " + std::string(24, 'x'));
+    EXPECT_EQ(rawSummary(std::string(25, 'x')), "not a key: " + std::string(24, 'x'));
+    EXPECT_EQ(rawSummary("#1C #F0 #1C x y"), "a down, a up; not a key: x") << "the first";
+}
+
+TEST(DecodeRaw, OnlyBracketsBehindTheWordRawHoldCodes)
+{
+    EXPECT_THAT(eventsOf("(#1C) RAW  (#32) XRAW (#21) rAw(#23)"), ElementsAre("b+", "d+"));
+    EXPECT_THAT(eventsOf("AW (#1C)RAW(#32)"), ElementsAre("b+"));
+    EXPECT_THAT(eventsOf("RAW(#1C (#32) RAW (#21)"), ElementsAre("a+", "c+")) << "the bracket inside is a word";
+    EXPECT_THAT(unknownIn("RAW(#1C (#32)"), ElementsAre("8 (#32"));
+    EXPECT_THAT(eventsOf("1RAW (#1C)"), ElementsAre("a+")) << "a digit is no letter";
+}
+
+TEST(DecodeRaw, DigitsAreHexadecimalOnly)
+{
+    EXPECT_EQ(unknownIn("#/0 #0/ #:0 #0: #@0 #0@ #G0 #0G #`0 #0` #g0 #0g").size(), 12U);
+    EXPECT_THAT(eventsOf("#1a #1A"), ElementsAre("z+", "z+"));
+}
+
 TEST(RawSummary, NamesTwelveOfTheKeysThatStayDown)
 {
     const std::string twelve = "#1C #32 #21 #23 #24 #2B #34 #33 #43 #3B #42 #4B";
