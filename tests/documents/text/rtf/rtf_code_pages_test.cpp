@@ -73,8 +73,40 @@ TEST(RtfDecoder, CharacterOfTwoBytesMayComeInTwoPieces)
     EXPECT_EQ(decoder.decode("Ax", 932), "Ax");
 }
 
+TEST(RtfDecoder, OnlyFirstBytesOfAPairTakeTheNextOneWithThem)
+{
+    for (const RtfCodePage page : {932, 936, 949, 950, 1361}) {
+        EXPECT_EQ(decode("\x80x", page), "?x") << page;
+        EXPECT_EQ(decode("\x81xy", page), "?y") << page;
+        EXPECT_EQ(decode("\xFExy", page), "?y") << page;
+        EXPECT_EQ(decode("\xFFx", page), "?x") << page;
+        EXPECT_EQ(decode("\x7Fx", page), "\x7Fx") << page;
+    }
+    EXPECT_EQ(decode("\x9Fxy", 932), "?y");
+    EXPECT_EQ(decode("\xA0x", 932), "?x") << "half as wide, of one byte";
+    EXPECT_EQ(decode("\xDFx", 932), "?x");
+    EXPECT_EQ(decode("\xE0xy", 932), "?y");
+    EXPECT_EQ(decode("\xA0xy", 936), "?y");
+    EXPECT_EQ(decode("\xDFxy", 949), "?y");
+}
+
+TEST(CodePageOfCharset, CharsetsBesideThoseWithAPageAreOfTheFile)
+{
+    for (const int charset : {-1,  1,   3,   76,  78,  127, 131, 133, 135, 137, 160, 164,
+                              176, 179, 185, 187, 203, 205, 221, 223, 237, 239, 253, 256})
+        EXPECT_EQ(codePageOfCharset(charset), rtfCodePage::ofFile) << charset;
+}
+
 TEST(CodePageOfCharset, CharsetsHaveTheirPages)
 {
+    EXPECT_EQ(codePageOfCharset(129), 949);
+    EXPECT_EQ(codePageOfCharset(130), 1361);
+    EXPECT_EQ(codePageOfCharset(134), 936);
+    EXPECT_EQ(codePageOfCharset(136), 950);
+    EXPECT_EQ(codePageOfCharset(163), 1258);
+    EXPECT_EQ(codePageOfCharset(177), 1255);
+    EXPECT_EQ(codePageOfCharset(178), 1256);
+    EXPECT_EQ(codePageOfCharset(222), 874);
     EXPECT_EQ(codePageOfCharset(0), 1252);
     EXPECT_EQ(codePageOfCharset(1), rtfCodePage::ofFile);
     EXPECT_EQ(codePageOfCharset(2), 1252);

@@ -206,6 +206,51 @@ TEST(ReadRtf, GroupsThatHoldNoTextAreSkipped)
               "ab");
 }
 
+TEST(ReadRtf, EveryDestinationThatIsNotTheTextIsSkipped)
+{
+    for (const char* name :
+         {"stylesheet", "pntext",   "listtext", "info",     "pict",    "nonshppict", "shprslt",
+          "objdata",    "fldinst",  "header",   "headerf",  "headerl", "headerr",    "footer",
+          "footerf",    "footerl",  "footerr",  "footnote", "ftnsep",  "ftnsepc",    "ftncn",
+          "aftnsep",    "aftnsepc", "aftncn",   "filetbl",  "revtbl",  "listtable",  "listoverridetable",
+          "template",   "private",  "tc",       "xe",       "rxe",     "txe"})
+        EXPECT_EQ(textOf("a{\\" + std::string(name) + " b\\tab{\\b c}}d"), "ad") << name;
+}
+
+TEST(ReadRtf, EveryKindOfUnderlineIsOne)
+{
+    for (const char* name : {"ul", "uld", "uldb", "uldash", "ulth", "ulw", "ulwave"}) {
+        const RichText text = body("\\" + std::string(name) + " a\\" + name + "0 b");
+        EXPECT_TRUE(formatAt(text, 0).underline) << name;
+        EXPECT_FALSE(formatAt(text, 1).underline) << name;
+    }
+}
+
+TEST(ReadRtf, WideBlanksAreBlanksAndBreaksAreLineEnds)
+{
+    EXPECT_EQ(textOf("a\\emspace b\\enspace c\\qmspace d"), "a b c d");
+    EXPECT_EQ(textOf("a\\row b\\page c\\sect d"), "a\r\nb\r\nc\r\nd");
+}
+
+TEST(ReadRtf, SignsThatMeanNothingAreLeftOut) { EXPECT_EQ(textOf("a\\-b\\:c\\|d\\\te"), "abcd\te"); }
+
+TEST(ReadRtf, HalvesOfACharacterAreThoseOfTheirRanges)
+{
+    EXPECT_EQ(textOf("\\u55296?\\u56320?"), "?") << "the first of both";
+    EXPECT_EQ(textOf("\\u56319?\\u57343?"), "?") << "the last of both";
+    EXPECT_EQ(textOf("\\u55295?\\u56320?"), "??");
+    EXPECT_EQ(textOf("\\u56319?\\u57344?"), "??");
+    EXPECT_EQ(textOf("\\u55296?\\line\\u56320?"), "?\r\n?");
+}
+
+TEST(ReadRtf, SizesOfFontsHaveTheirBounds)
+{
+    const RichText text = body("\\fs1 a\\fs32767 b\\fs32768 c");
+    EXPECT_EQ(formatAt(text, 0).fontSize, 0.5F);
+    EXPECT_EQ(formatAt(text, 1).fontSize, 16383.5F);
+    EXPECT_EQ(formatAt(text, 2).fontSize, 16383.5F) << "out of bounds: the one before";
+}
+
 TEST(ReadRtf, StarOnlyCountsAtTheStartOfItsGroup)
 {
     EXPECT_EQ(read("{\\rtf1 A {\\loch\\*\\cs7 BTN S1} B}").text(), "A BTN S1 B");
@@ -264,6 +309,19 @@ TEST(ReadRtf, FileThatBreaksOffGivesWhatItHeld)
     EXPECT_EQ(read("{\\rtf1 a\\'e").text(), "ae");
     EXPECT_EQ(read("{\\rtf1 a\\'zz").text(), "azz");
     EXPECT_EQ(read("{\\rtf").text(), "");
+}
+
+TEST(ReadRtf, DigitsOfAByteAreHexadecimalInBothCases)
+{
+    EXPECT_EQ(textOf("\\'aF\\'Fa\\'09\\'90"), "\xAF\xFA\t\x90");
+    EXPECT_EQ(textOf("\\'ag\\'ga\\'`a\\'a`"), "agga`aa`");
+    EXPECT_EQ(textOf("\\'/0\\'0:"), "/00:");
+}
+
+TEST(ReadRtf, AWordEndsAtItsNumberAndTakesOneBlankWithIt)
+{
+    EXPECT_EQ(textOf("\\b0x\\b  y\\b-z\\b-1w"), "x y-zw");
+    EXPECT_EQ(textOf("\\B a\\TAB b"), "ab") << "words have lower-case letters";
 }
 
 TEST(ReadRtf, NumbersThatNoWordCanMeanAreBounded)

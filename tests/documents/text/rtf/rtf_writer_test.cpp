@@ -51,6 +51,33 @@ TEST(WriteRtf, TextBeginsInThePlainLookWhateverStoodBefore)
     EXPECT_EQ((*pasted.formats())[pasted.runs().front().format], format(0));
 }
 
+TEST(WriteRtf, SaysOfEachCharacterWhatDiffersFromTheOneBefore)
+{
+    CharacterFormat rich = format(0x030201, "Courier New", 8.5F);
+    rich.bold = true;
+    rich.italic = true;
+    rich.underline = true;
+    rich.indent = 20;
+    EXPECT_EQ(writeRtf(textIn("a1a", {format(0), rich})),
+              "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil Arial;}{\\f1\\fnil Courier New;}}\r\n"
+              "{\\colortbl ;\\red1\\green2\\blue3;}\r\n"
+              "\\pard\\plain\\uc1\\f0\\fs20 a\\li20\\f1\\fs17\\b\\i\\ul\\cf1 1"
+              "\\li0\\f0\\fs20\\b0\\i0\\ul0\\cf0 a\\par\r\n}\r\n");
+}
+
+TEST(WriteRtf, AnEmptyTextHasTheUsualFontAndNoColour)
+{
+    EXPECT_EQ(writeRtf(RichText()), "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil Arial;}}\r\n"
+                                    "{\\colortbl ;}\r\n\\pard\\plain\\uc1\\par\r\n}\r\n");
+}
+
+TEST(WriteRtf, ABlankStandsBehindAWordOnlyBeforeACharacter)
+{
+    EXPECT_THAT(writeRtf(textIn("\t a\t{b", {format(0)})), HasSubstr("\\fs20\\tab  a\\tab\\{b\\par"));
+    EXPECT_THAT(writeRtf(textIn("\xE9x", {format(0)})), HasSubstr("\\fs20\\'e9x\\par"));
+    EXPECT_THAT(writeRtf(textIn("\r\nx", {format(0)})), HasSubstr("\\fs20\\par\r\nx\\par"));
+}
+
 TEST(WriteRtf, EachLineIsAParagraph)
 {
     const std::string rtf = writeRtf(textIn("one\r\ntwo", {format(0)}));
