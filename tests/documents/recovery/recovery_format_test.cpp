@@ -54,6 +54,52 @@ TEST(ReadJournal, GivesBackWhatWasWritten)
     EXPECT_EQ(textOf(written.bytes), "yc\r\n\xE9");
 }
 
+std::string fromHex(std::string_view digits)
+{
+    const auto value = [](char digit) { return digit <= '9' ? digit - '0' : digit - 'a' + 10; };
+    std::string bytes;
+    for (std::size_t i = 0; i + 1 < digits.size(); i += 2)
+        bytes += static_cast<char>(value(digits[i]) * 16 + value(digits[i + 1]));
+    return bytes;
+}
+
+TEST(ReadJournal, FilesOfEarlierRunsKeepTheirMeaningByteByByte)
+{
+    const std::string bytes =
+        fromHex("546172766578206a6f75726e616c20311a0a538b00000000000000a45ac0ed9ea190ba01000000000000000700000000"
+                "0000000d00000000000000633a5c746d5c6d69672e62353007000000000000006d69672e6235300d0000000000000063"
+                "3a5c746d5c6d69672e6d3530010000000000000009000000000000008877665544332211090000000000000042544e20"
+                "533120610a07000000000000000100000000000000010000000000000062451c000000000000005162efee77d0934800"
+                "000000000000000000000000000000040000000000000052656d20501000000000000000d63d1c9dc46efdcb08000000"
+                "00000000633a5c782e6d3530");
+    const JournalStart start{.tab = 1,
+                             .replaces = 7,
+                             .path = "c:\\tm\\mig.b50",
+                             .name = "mig.b50",
+                             .partnerPath = "c:\\tm\\mig.m50",
+                             .file = FileSum{9, 0x1122334455667788U},
+                             .base = "BTN S1 a\n",
+                             .edit = {7, 1, "b"}};
+    std::uint64_t chain = 0;
+    std::string written = journalStart(start, chain);
+    written += journalEdit({0, 0, "Rem "}, chain);
+    written += journalPartner("c:\\x.m50", chain);
+    EXPECT_EQ(written, bytes);
+    Journal journal;
+    ASSERT_EQ(readJournal(bytes, journal), JournalState::Readable);
+    EXPECT_FALSE(journal.damaged);
+    EXPECT_EQ(journal.text, "Rem BTN S1 b\n");
+    EXPECT_EQ(journal.start.file, start.file);
+    EXPECT_EQ(journal.start.partnerPath, "c:\\x.m50");
+}
+
+TEST(CheckSum, IsTheSameInEachVersion)
+{
+    EXPECT_EQ(checkSum(""), 0x0U);
+    EXPECT_EQ(checkSum("abc"), 0xeca477d3edc4ece3U);
+    EXPECT_EQ(checkSum("12345678x", 5), 0xac1e3d2f6315872fU);
+}
+
 TEST(ReadJournal, TheLastPartnerCounts)
 {
     Written written;

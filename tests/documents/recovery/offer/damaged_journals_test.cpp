@@ -53,8 +53,8 @@ TEST(DamagedJournal, InTheMiddleBringsBackWhatPrecedesAndIsKept)
 
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.dialogues.boxes.size(), 1U);
-    EXPECT_NE(t.lastBox().text.find("Some of my notes on mig.b50 have gone bad, so you'll get it as it was before "
-                                    "those. I'll keep the lot as 1.damaged."),
+    EXPECT_NE(t.lastBox().text.find("\n\nSome of my notes on mig.b50 have gone bad, so you'll get it as it was before "
+                                    "those. I'll keep the lot as 1.damaged.\n\nShall I bring it back?"),
               std::string::npos)
         << t.lastBox().text;
     EXPECT_EQ(t.editor().JoystickText.Text(), "12BTN S1 fire\r\n");
@@ -106,7 +106,11 @@ TEST(DamagedJournal, ThatCannotBeReadIsRenamedAndTheUserInformedOnce)
         ASSERT_EQ(t.dialogues.boxes.size(), 1U);
         EXPECT_EQ(t.lastBox().title, "I can't read my own writing ...");
         EXPECT_EQ(t.lastBox().icon, BoxIcon::Exclamation);
-        EXPECT_NE(t.lastBox().text.find("\n    " + inRecover("3.damaged") + "\n"), std::string::npos);
+        EXPECT_EQ(
+            t.lastBox().text,
+            "These are notes that I took of something that wasn't saved, and they've gone bad, so I can't bring it "
+            "back. There may still be something of yours in there, so I've kept them:\n\n    " +
+                inRecover("3.damaged") + "\n\nI won't bother you with them again.");
         EXPECT_EQ(t.text("3.damaged"), bytes);
         EXPECT_FALSE(t.files.fileExists(inRecover("3.journal")));
         t.start({});

@@ -245,7 +245,12 @@ TEST(Recovery, AfterNoTheTextLiesInTheFolderAndIsNotOfferedAgain)
     t.typeJoystick("mine ");
     t.typeMacro("too ");
     t.killAndStart({Answer::No});
-    EXPECT_NE(t.lastBox().text.find("c:\\tarvex\\Recover"), std::string::npos);
+    EXPECT_EQ(
+        t.lastBox().text,
+        "Somebody pulled the plug on me last time, before everything was saved. Don't panic: I'd been taking notes "
+        "all along, and here's what I've got:\n\n    mig.b50\n    mig.m50\n\nShall I bring it back? It will be just "
+        "as you left it: not saved yet, and one Undo away from what was saved. If you press No it goes as plain "
+        "text into\n\n    c:\\tarvex\\Recover\n\nand I won't bother you with it again.");
     EXPECT_EQ(t.editor().JoystickText.Text(), "");
     EXPECT_EQ(t.joystick().Changed, changed::noText);
     EXPECT_EQ(t.fileText("c:\\tarvex\\Recover\\mig.b50"), "mine BTN S1 fire\r\n");
@@ -533,7 +538,11 @@ TEST(Recovery, ATextThatThePaneCannotTakeAsItIsStaysInItsJournal)
     ASSERT_GE(t.dialogues.boxes.size(), 2U);
     EXPECT_EQ(t.dialogues.boxes[1].title, "That's not quite it ...");
     EXPECT_EQ(t.dialogues.boxes[1].icon, BoxIcon::Exclamation);
-    EXPECT_NE(t.dialogues.boxes[1].text.find("odd.b50"), std::string::npos);
+    EXPECT_EQ(
+        t.dialogues.boxes[1].text,
+        "I couldn't bring odd.b50 back as you left it, so don't trust what you see there. My notes are still where "
+        "they were: I'll ask you again next time, and if you press No then, you'll find them as plain text "
+        "in\n\n    c:\\tarvex\\Recover");
     Journal ofThePane;
     ASSERT_EQ(readJournal(t.fileText("c:\\tarvex\\Recover\\2.journal"), ofThePane), JournalState::Readable);
     EXPECT_EQ(ofThePane.text, t.editor().JoystickText.Text()) << "what the pane shows has a journal at once";
@@ -566,7 +575,9 @@ TEST(Recovery, OfTwoForOnePaneTheNewestComesBackAndTheOtherIsPutAside)
     beginJournal(t.editor(), t.joystick(), 0);
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), "newBTN S1 fire\r\n");
-    EXPECT_NE(t.lastBox().text.find("older notes"), std::string::npos);
+    EXPECT_TRUE(t.lastBox().text.ends_with("\n\nand I won't bother you with it again. That's where I'll put some older "
+                                           "notes in any case, as there's no room for them here."))
+        << t.lastBox().text;
     EXPECT_EQ(t.fileText("c:\\tarvex\\Recover\\old.b50"), "old text") << "and in no other folder";
 }
 
