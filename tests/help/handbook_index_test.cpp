@@ -75,6 +75,27 @@ TEST_F(Index, LookUpTakesNoPartOfAWord)
     EXPECT_EQ(lookUp("/UP"), "(none)");
 }
 
+TEST_F(Index, DigitsUnderscoresAndLettersWithAccentsBelongToAWord)
+{
+    for (const char* word : {"BTN_", "BTN9", "BTN0", "BTNz", "BTNA", "BTNZ", "BTN\xC3\xA9", "a BTN_", "_BTN", "9BTN"})
+        EXPECT_EQ(lookUp(word), "(none)") << word;
+    for (const char* word : {"BTN-", "BTN(", "-BTN", "BTN@", "BTN[", "BTN`", "BTN{", "BTN/", "BTN:"})
+        EXPECT_EQ(lookUp(word), "btn.html") << word;
+}
+
+TEST_F(Index, AWordInsideIsFoundBehindAnotherThatOnlyBeginsLikeIt)
+{
+    EXPECT_EQ(lookUp("xbtnx BTN"), "btn.html");
+    EXPECT_EQ(lookUp("see /ux and /u"), "slash.html#u");
+}
+
+TEST_F(Index, LookUpLooksAtFourHundredLetters)
+{
+    const std::string before(396, '.');
+    EXPECT_EQ(lookUp(before + " BTN"), "btn.html");
+    EXPECT_EQ(lookUp(before + ". BTN"), "(none)");
+}
+
 TEST_F(Index, LookUpOfNothingFindsNothing)
 {
     EXPECT_EQ(lookUp(""), "(none)");
@@ -94,6 +115,39 @@ TEST_F(Index, SearchShowsPagesWithAllTheWords)
     EXPECT_THAT(found(" "), ElementsAre());
 }
 
+TEST_F(Index, AWordMayStandInTheTitleAndTheOtherInTheText)
+{
+    EXPECT_THAT(found("modifiers letter"), ElementsAre("slash.html"));
+    EXPECT_THAT(found("statement keyboard"), ElementsAre());
+}
+
+TEST_F(Index, PagesWithTheWordEquallyOftenStandInTheirOrder)
+{
+    EXPECT_THAT(found("button"), ElementsAre("btn.html", "safein.html"));
+    const HandbookIndex three(
+        "chapter\tc\npage\ta.html\tA\tone one\npage\tb.html\tB\tone\npage\tc.html\tC\tone one one\n");
+    std::vector<std::size_t> pages;
+    for (const auto& hit : three.search("one")) pages.push_back(hit.page);
+    EXPECT_THAT(pages, ElementsAre(2, 0, 1));
+}
+
+TEST_F(Index, MatchesOfAWordDoNotOverlap)
+{
+    const HandbookIndex two("chapter\tc\npage\ta.html\tA\taaaa\npage\tb.html\tB\taa aa aa\n");
+    EXPECT_EQ(two.search("aa").at(0).page, 1U) << "three times, and the other one twice";
+}
+
+TEST_F(Index, TheFirstOfTwoKeywordsOfOneNameCounts)
+{
+    const HandbookIndex twice("chapter\tc\npage\ta.html\tA\tx\nkeyword\tRaw\ta.html#1\nkeyword\tRAW\ta.html#2\n"
+                              "topic\t1\ta.html#3\ntopic\t1\ta.html#4\n");
+    EXPECT_EQ(twice.lookUp("raw"), "a.html#1");
+    ASSERT_EQ(twice.keywords().size(), 1U);
+    EXPECT_EQ(twice.keywords()[0].word, "Raw");
+    EXPECT_EQ(twice.keywords()[0].target, "a.html#1");
+    EXPECT_EQ(twice.topics().at(1), "a.html#3");
+}
+
 TEST_F(Index, SearchPutsTitlesFirstAndThenThePagesThatHaveTheWordMoreOften)
 {
     EXPECT_THAT(found("SLASH"), ElementsAre("slash.html", "btn.html", "safein.html"));
@@ -110,6 +164,36 @@ TEST_F(Index, AnExcerptShowsThePlaceBetweenWholeWords)
     EXPECT_TRUE(excerpt.starts_with("… word9")) << excerpt;
     EXPECT_TRUE(excerpt.ends_with(" …")) << excerpt;
     EXPECT_LT(excerpt.size(), 200U);
+}
+
+std::string excerptOf(const std::string& shown, const std::string& word)
+{
+    return HandbookIndex("chapter\tc\npage\ta.html\tA\t" + shown + "\n").search(word).at(0).excerpt;
+}
+
+TEST_F(Index, AnExcerptIsTheWholeTextWhereItIsShort)
+{
+    EXPECT_EQ(excerptOf("needle", "needle"), "needle");
+    EXPECT_EQ(excerptOf(std::string(50, 'x') + "needle", "needle"), std::string(50, 'x') + "needle");
+    EXPECT_EQ(excerptOf("needle" + std::string(154, 'x'), "needle"), "needle" + std::string(154, 'x')) << "160";
+    EXPECT_EQ(excerptOf("needle" + std::string(155, 'x'), "needle"), "needle" + std::string(154, 'x') + " …");
+}
+
+TEST_F(Index, AnExcerptBeginsFiftyLettersBeforeItsPlaceAtTheNextWord)
+{
+    EXPECT_EQ(excerptOf(std::string(51, 'x') + "needle", "needle"), "… " + std::string(50, 'x') + "needle");
+    EXPECT_EQ(excerptOf("aa bb " + std::string(47, 'x') + " needle", "needle"), "… " + std::string(47, 'x') + " needle")
+        << "the blank before that word is the fiftieth letter";
+    EXPECT_EQ(excerptOf("ab " + std::string(49, 'x') + " needle", "needle"), "… needle");
+}
+
+TEST_F(Index, AnExcerptEndsAtTheLastWordThatHasRoom)
+{
+    const std::string first = "needle " + std::string(150, 'x');
+    EXPECT_EQ(excerptOf(first + " yy zz", "needle"), first + " yy …") << "160 letters and a blank";
+    EXPECT_EQ(excerptOf(first + " yyy", "needle"), first + " …");
+    EXPECT_EQ(excerptOf("x needle" + std::string(160, 'y'), "needle"), "x needle" + std::string(152, 'y') + " …")
+        << "not before its own place";
 }
 
 TEST_F(Index, AnExcerptCutsNoCharacterInTwo)

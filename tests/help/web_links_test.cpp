@@ -2,6 +2,8 @@
 
 #include "help_program.h"
 
+#include <filesystem>
+
 namespace tarvex {
 namespace {
 
@@ -84,12 +86,40 @@ TEST_F(WebLinks, OtherSchemesFilesAndMetacharactersAreNotOpened)
     EXPECT_FALSE(opens("http://a.example/" + std::string(5000, 'a')));
 }
 
+TEST_F(WebLinks, TheBuiltInAddressesAreThePagesOfTheHandbookAndTheMakersSite)
+{
+    EXPECT_EQ(builtInAddresses[3], "https://support.thrustmaster.com/");
+    for (const std::string_view address : builtInAddresses) {
+        if (!address.starts_with("file:")) continue;
+        const std::string page(address.substr(5, address.rfind('.') - 5));
+        EXPECT_TRUE(address.ends_with(".html")) << address;
+        EXPECT_TRUE(std::filesystem::exists(TARVEX_SOURCE_DIRECTORY "/resources/help/" + page + ".md")) << address;
+    }
+}
+
+TEST_F(WebLinks, HostsAndPagesConsistOfTheirLettersOnly)
+{
+    for (const std::string line :
+         {"http://a.example:80/x", "http://0a-9.z/", "HTTPS://a.example", "http://a.example/~x!@&()*+,;=%$#[1]:?_",
+          "http://a.example?q", "http://a.example#f"})
+        EXPECT_TRUE(opens(line)) << line;
+    for (const std::string line : {"http://a_b.example/", "http://a.exa[mple/", "http://.example/", "http://:80/",
+                                   "http://a.example/{x}", "http://a.example/^", "http://a.example/'"})
+        EXPECT_FALSE(opens(line)) << line;
+    const std::string start = "http://a.example/";
+    EXPECT_TRUE(opens(start + std::string(2000 - start.size(), 'a')));
+    EXPECT_FALSE(opens(start + std::string(2001 - start.size(), 'a')));
+}
+
 TEST_F(WebLinks, ALineThatIsNoAddressIsShownAndNotOpened)
 {
     haveFile("javascript:alert(1)\r\n");
     click(0);
     EXPECT_TRUE(system.opened.empty());
-    EXPECT_THAT(t.lastBox().text, testing::HasSubstr("\"javascript:alert(1)\""));
+    EXPECT_EQ(t.lastBox().title, "Ooops!");
+    EXPECT_EQ(t.lastBox().text,
+              "This isn't an address that I can open: \"javascript:alert(1)\". An address begins with "
+              "http:// or https://, one on each line of Website.txt.");
     click(4);
     EXPECT_EQ(t.dialogues.boxes.size(), 2U) << "a file with too few lines";
 }
@@ -99,7 +129,7 @@ TEST_F(WebLinks, ASystemWithoutABrowserSaysSo)
     system.hasBrowser = false;
     haveFile("http://a.example/");
     click(0);
-    EXPECT_THAT(t.lastBox().text, testing::HasSubstr("browser"));
+    EXPECT_EQ(t.lastBox().text, "I couldn't find a browser that opens http://a.example/");
 }
 
 TEST_F(WebLinks, AFileThatCanNotBeReadIsReportedUnderItsTag)

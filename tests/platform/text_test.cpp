@@ -4,15 +4,22 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+
 namespace tarvex {
 
 namespace {
+
+const std::map<int, std::string> descriptions{
+    {5, "Invalid procedure call or argument"}, {6, "Overflow"}, {13, "Type mismatch"}};
 
 template <typename Call> int codeOf(Call call)
 {
     try {
         call();
     } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.what(), descriptions.at(static_cast<int>(error.code())));
         return static_cast<int>(error.code());
     }
     return 0;

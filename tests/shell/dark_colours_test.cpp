@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarvex {
 namespace {
@@ -100,6 +101,16 @@ TEST(OnDarkGround, ABrightColourThatIsReadableAlreadyStays)
 {
     EXPECT_EQ(onDarkGround(0x00FF00, ground, least), 0x00FF00);
     EXPECT_EQ(onDarkGround(0x00FFFF, ground, least), 0x00FFFF);
+}
+
+TEST(OnDarkGround, IsTheFirstLightnessWithEnoughContrast)
+{
+    // Found by going through all 1024 of them.
+    constexpr std::pair<Colour, Colour> colours[] = {
+        {0x000000, 0xE6E6E6}, {0xFFFFFF, 0x888888}, {0xFF0000, 0xFF7777}, {0x0000FF, 0x3838FF}, {0x008000, 0x00AB00},
+        {0x808080, 0x888888}, {0xC08000, 0xD68F00}, {0x804000, 0xFF860C}, {0x400040, 0xFF2EFF}, {0xC0FFFF, 0x008C8C},
+    };
+    for (const auto& [colour, shown] : colours) EXPECT_EQ(onDarkGround(colour, ground, least), shown) << colour;
 }
 
 TEST(OnDarkGround, AStrongerContrastIsReachedToo)

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <set>
 #include <string>
@@ -69,6 +70,15 @@ TEST(ToolbarButtons, EveryButtonHasHoverTextCommandAndAnIconOfItsOwn)
         if (button.number == toolbarButton::picture) continue;
         EXPECT_NE(button.joystick, nullptr) << button.number;
         EXPECT_TRUE(icons.insert(button.icon).second) << button.icon;
+    }
+}
+
+TEST(ToolbarButtons, EveryIconIsAFile)
+{
+    for (const ToolbarButton& button : toolbarButtons()) {
+        if (button.icon.empty()) continue;
+        const std::string file = std::string(button.icon) + ".svg";
+        EXPECT_TRUE(std::filesystem::exists(TARVEX_SOURCE_DIRECTORY "/resources/icons/" + file)) << file;
     }
 }
 

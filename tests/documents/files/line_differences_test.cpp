@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 
@@ -89,6 +90,59 @@ TEST(DifferingLines, MakeTheOneTextTheOtherWhateverTheyHold)
         for (const LineHunk& hunk : differences(left, right))
             ASSERT_TRUE(hunk.leftBegin < hunk.leftEnd || hunk.rightBegin < hunk.rightEnd);
     }
+}
+
+/// Lines that two texts have in common, in their order: as many as there can be.
+std::size_t mostInCommon(const std::vector<std::string_view>& left, const std::vector<std::string_view>& right)
+{
+    std::vector<std::vector<std::size_t>> best(left.size() + 1, std::vector<std::size_t>(right.size() + 1));
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        for (std::size_t j = 0; j < right.size(); ++j)
+            best[i + 1][j + 1] = left[i] == right[j] ? best[i][j] + 1 : std::max(best[i][j + 1], best[i + 1][j]);
+    }
+    return best[left.size()][right.size()];
+}
+
+TEST(DifferingLines, AreAsFewAsPossible)
+{
+    std::mt19937 random(2);
+    const auto text = [&] {
+        std::string lines;
+        for (auto count = random() % 30; count > 0; --count) lines += std::string(1, "abcd"[random() % 4]) + "\n";
+        return lines;
+    };
+    for (int round = 0; round < 2000; ++round) {
+        const std::string left = text();
+        const std::string right = text();
+        const auto old = linesWithEnds(left);
+        const auto now = linesWithEnds(right);
+        std::size_t differing = 0;
+        for (const LineHunk& hunk : differingLines(old, now))
+            differing += hunk.leftEnd - hunk.leftBegin + hunk.rightEnd - hunk.rightBegin;
+        ASSERT_EQ(differing, old.size() + now.size() - 2 * mostInCommon(old, now)) << left << "---\n" << right;
+    }
+}
+
+TEST(DifferingLines, UpTo800AreFoundOneByOneAndMoreAreOnePiece)
+{
+    std::string left;
+    std::string right;
+    for (int i = 0; i < 400; ++i) {
+        const std::string number = std::to_string(i) + "\n";
+        left += "left " + number + "shared " + number;
+        right += "right " + number + "shared " + number;
+    }
+    EXPECT_EQ(differences(left, right).size(), 400U);
+    EXPECT_EQ(differences("one more\n" + left, right), (Hunks{{0, 800, 0, 799}}));
+}
+
+TEST(RowsSideBySide, HaveEachLineOfBothTextsOnce)
+{
+    EXPECT_TRUE(rowsSideBySide(0, 0, {}).empty());
+    const std::vector<LineRow> added{{{}, 0, 0}, {0, 1, {}}, {{}, 2, 1}};
+    EXPECT_EQ(rowsSideBySide(1, 3, {{0, 0, 0, 1}, {1, 1, 2, 3}}), added);
+    const std::vector<LineRow> equal{{0, 0, {}}, {1, 1, {}}};
+    EXPECT_EQ(rowsSideBySide(2, 2, {}), equal);
 }
 
 TEST(RowsSideBySide, PairChangedLinesAndLeaveGapsBesideOthers)

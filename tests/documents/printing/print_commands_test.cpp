@@ -9,7 +9,6 @@ namespace tarvex {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct PrintCommandsTest : testing::Test {
@@ -124,7 +123,8 @@ TEST_F(PrintCommandsTest, APrinterThatFailsHalfWayIsReportedAndTheDocumentGivenU
     EXPECT_EQ(printer.released, 1) << "the printer would lay out the next text in the look of this one";
     EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "MODULE PrintRTF");
     EXPECT_EQ(t.program().shared.errors.ErrorDescription, "Out of paper");
-    EXPECT_THAT(t.lastBox().text, HasSubstr("Out of paper"));
+    EXPECT_EQ(t.lastBox().title, "Ooops!");
+    EXPECT_EQ(t.lastBox().text, "Printing mig.b50 went wrong: Out of paper");
     EXPECT_EQ(t.status(), "Printing mig.b50 failed");
 }
 
@@ -132,7 +132,7 @@ TEST_F(PrintCommandsTest, PaperSmallerThanTheMarginsIsReported)
 {
     printer.width = printer.height = 2835; // 5 cm
     t.menus().mnuFilePrintJoystick.Click();
-    EXPECT_THAT(t.lastBox().text, HasSubstr("no room"));
+    EXPECT_EQ(t.lastBox().text, "Printing mig.b50 went wrong: The margins leave no room for the text on this paper.");
     EXPECT_EQ(printer.killed, 1);
 }
 
@@ -195,6 +195,8 @@ TEST_F(PrintCommandsTest, APdfFileIsOverwrittenOnlyOnYes)
     t.dialogues.filesToSave = {"c:\\tm\\mig.pdf", "c:\\tm\\mig.pdf"};
     t.dialogues.answers = {Answer::No, Answer::Yes};
     t.menus().mnuFilePrintPdf.Click();
+    EXPECT_EQ(t.lastBox().title, "OK to overwrite?");
+    EXPECT_EQ(t.lastBox().text, "mig.pdf already exists. Do you want me to overwrite this file?");
     EXPECT_EQ(t.fileText("c:\\tm\\mig.pdf"), "old");
     t.menus().mnuFilePrintPdf.Click();
     EXPECT_EQ(t.fileText("c:\\tm\\mig.pdf"), "PDF of mig.b50, pages: 1");
@@ -205,8 +207,12 @@ TEST_F(PrintCommandsTest, APdfFileThatCannotBeWrittenIsReported)
     t.files.failWrites("c:\\tm\\mig.pdf", RuntimeError(ErrorCode::DiskFull, "Disk full"));
     t.dialogues.filesToSave = {"c:\\tm\\mig.pdf"};
     t.menus().mnuFilePrintPdf.Click();
-    EXPECT_THAT(t.lastBox().text, HasSubstr("Disk full"));
+    EXPECT_EQ(t.lastBox().text, "Saving mig.pdf went wrong: Disk full");
     EXPECT_EQ(t.status(), "Saving mig.pdf failed");
+    const FileRequest& request = t.dialogues.saveRequests.at(0);
+    EXPECT_EQ(request.title, "Save as PDF");
+    EXPECT_EQ(request.filter, "PDF file (*.pdf)|*.pdf|All files (*.*)|*.*");
+    EXPECT_EQ(request.defaultExtension, "pdf");
 }
 
 } // namespace

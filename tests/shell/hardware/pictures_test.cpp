@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
 #include <set>
 
@@ -49,6 +50,38 @@ TEST(Pictures, NameEachControlOnce)
             EXPECT_FALSE(control.kind.empty()) << control.id;
         }
     }
+}
+
+TEST(Pictures, AreReadOutInTheOrderOfTheirControls)
+{
+    const auto readOut = [](PictureOf what) {
+        std::string text(picture(what).description);
+        for (const PictureControl& control : picture(what).controls) text += "; " + accessibleName(control);
+        return text;
+    };
+    EXPECT_EQ(readOut(PictureOf::F22AndF16Stick),
+              "F-22 Pro or F-16 FLCS joystick; S2, button; H1, hat; H2, hat; H3, hat; S1, button; TG1 TG2, trigger; "
+              "SWAPTG, trigger order; H4, hat; S3, button; S4, paddle; JSY, axis; JSX, axis; PORT, game port; "
+              "Rudder, pedals");
+    EXPECT_EQ(readOut(PictureOf::OlderStick), "P FCS, Top Gun or FCS joystick; UB, button; H, hat; MB, button; "
+                                              "TG, trigger; LB, button; Rudder, pedals");
+    EXPECT_EQ(readOut(PictureOf::Tqs),
+              "TQS throttle; RNG, knob; T6, button; ANT, knob; T2, switch; T3, switch; T4, switch; T5, switch; "
+              "T7, switch; T8, switch; T9, switch; T10, switch; T1, button; T11, switch; T12, switch; T13, switch; "
+              "T14, switch; Throttle, axis");
+    EXPECT_EQ(readOut(PictureOf::Wcs), "WCS throttle; T3, button; T2, button; T1, button; T4, button; T5, button; "
+                                       "T6, button; T7, rocker; Middle, rocker; T8, rocker; Throttle, axis");
+    EXPECT_EQ(readOut(PictureOf::WcsWithOlderStick),
+              "WCS throttle beside an older joystick; 3, button; 2, button; 1, button; 4, button; 5, button; "
+              "6, button; RKR UP, rocker; RKR MD, rocker; RKR DN, rocker; Throttle, axis");
+}
+
+TEST(Pictures, HaveADrawingOfTheirName)
+{
+    for (const Picture& shown : allPictures())
+        EXPECT_TRUE(
+            std::filesystem::exists(TARVEX_SOURCE_DIRECTORY "/resources/hardware/" + std::string(shown.file) + ".svg"))
+            << shown.file;
 }
 
 TEST(StickPicture, FollowsTheJoystick)
