@@ -414,6 +414,17 @@ TEST_F(JoyPlotTest, AnyOtherErrorGivesItsOwnMessage)
     EXPECT_FALSE(form.JoyTimer.Enabled);
 }
 
+TEST_F(JoyPlotTest, ReportsThatWaitWhenTheWindowClosesAreNotShownAtTheNextOpening)
+{
+    openPainted();
+    joystick.send(5, 5);
+    EXPECT_EQ(form.waiting.size(), 1U);
+    form.mnuexit.Click();
+    open();
+    form.JoyTimer.Tick();
+    EXPECT_EQ(form.numbers.statistics.reports(), 0U);
+}
+
 TEST_F(JoyPlotTest, ReportsThatComeWhileNothingIsReadAreNotKept)
 {
     joystick.send(1, 1);

@@ -14,6 +14,15 @@ JoystickDevice deviceWith(std::initializer_list<int> codes)
     return device;
 }
 
+TEST(AxisName, IsThatOfItsCodeOrItsNumber)
+{
+    const char* names[] = {"X",        "Y",      "Z",     "X rotation", "Y rotation", "Twist",
+                           "Throttle", "Rudder", "Wheel", "Gas",        "Brake"};
+    for (int code = 0; code < 11; ++code) EXPECT_EQ(axisName(code, 3), names[code]);
+    EXPECT_EQ(axisName(11, 3), "Axis 4");
+    EXPECT_EQ(axisName(-1, 0), "Axis 1");
+}
+
 TEST(GuessAxes, ThrottleAndRudderAreTakenBeforeZAndTwist)
 {
     EXPECT_EQ(guessAxes(deviceWith({0, 1, 2, 5, 6, 7})), (AxisMap{0, 1, 4, 5}));

@@ -333,6 +333,7 @@ TEST_F(KeyTestTest, WithoutAJoystickItOpensAfterOneMessageAndTheKeyListsWork)
     EXPECT_EQ(lastBox().icon, BoxIcon::Exclamation);
     EXPECT_TRUE(form.form.Visible);
     EXPECT_FALSE(form.JoystickTimer.Enabled);
+    EXPECT_EQ(form.status.Caption.get(), "Status: No joystick");
     key(13);
     EXPECT_EQ(form.RTFKeysText.Text(), " Enter\r\n");
 }
@@ -429,6 +430,46 @@ TEST_F(KeyTestTest, FurtherButtonsAndHatsAreShownInWords)
     joystick.reported(report);
     form.JoystickTimer.Tick();
     EXPECT_EQ(form.MoreButtons.Caption.get(), "Buttons 5, 128   Hat up right, down");
+}
+
+TEST_F(KeyTestTest, HatsAreNamedByTheirDirectionAndStandAloneWithoutButtons)
+{
+    open();
+    const char* names[] = {"up", "up right", "right", "down right", "down", "down left", "left", "up left"};
+    for (std::uint32_t direction = 0; direction < 8; ++direction) {
+        JoystickReport report;
+        report.hats = {direction * 4500, povCentred, povCentred, povCentred};
+        joystick.reported(report);
+        form.JoystickTimer.Tick();
+        EXPECT_EQ(form.MoreButtons.Caption.get(), std::string("Hat ") + names[direction]);
+    }
+    joystick.reported({});
+    form.JoystickTimer.Tick();
+    EXPECT_EQ(form.MoreButtons.Caption.get(), "");
+}
+
+TEST_F(KeyTestTest, FailuresElsewhereInTheWindowAreReportedUnderTheirNames)
+{
+    open();
+    Connection failing = form.RTFKeysText.appended.connect(
+        [](const ColouredList::Line&) { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
+    Form_KeyPress(form, 'a');
+    EXPECT_EQ(program().shared.errors.ErrorProcedure, "KEYTEST Form_KeyPress");
+    failing.disconnect();
+    const auto checked =
+        form.mnuClear500[1].Checked.changed.connect([] { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
+    form.mnuClear500[1].Click();
+    EXPECT_EQ(program().shared.errors.ErrorProcedure, "KEYTEST mnuClear500_Click");
+    desktop.whileHandlingEvents = [] { throw RuntimeError(ErrorCode::PathNotFound, "broken"); };
+    key(20);
+    EXPECT_EQ(program().shared.errors.ErrorProcedure, "KEYTEST TurnOffCapsLOCK");
+    desktop.whileHandlingEvents = {};
+    form.mnuClose.Click();
+    form.form.TopMost = false;
+    const auto loading =
+        form.form.TopMost.changed.connect([] { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
+    open();
+    EXPECT_EQ(program().shared.errors.ErrorProcedure, "KEYTEST Form_Load");
 }
 
 TEST_F(KeyTestTest, AnUnpluggedJoystickIsReportedAndShownAgainWhenItComesBack)

@@ -298,7 +298,8 @@ TEST_F(TcaTest, AboutShowsTheVersion)
 {
     form.mnuAbout.Click();
     EXPECT_EQ(lastBox().title, "Version info");
-    EXPECT_THAT(lastBox().text, testing::StartsWith("Tarvy Controller Analyser (TCA) version 1.1"));
+    EXPECT_EQ(lastBox().text, "Tarvy Controller Analyser (TCA) version 1.1\n\n"
+                              "It comes with Tarvex. Questions and ideas go where you got Tarvex from.");
 }
 
 } // namespace
