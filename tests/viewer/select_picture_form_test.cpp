@@ -120,6 +120,66 @@ TEST_F(SelectPictureFormTest, ADriveThatCannotBeReadIsNotTaken)
     });
 }
 
+TEST_F(SelectPictureFormTest, ListsEachKindOfPictureAndNothingElseByNameInAnyCase)
+{
+    const std::vector<std::string> pictures{"a.bmp", "B.DIB", "c.gif",  "D.ico",  "e.jpg", "F.jpeg",
+                                            "g.png", "H.svg", "i.svgz", "J.webp", "k.xpm"};
+    for (const std::string& name : pictures) t.files.addFile("c:\\kinds\\" + name, "PICTURE 1 1");
+    for (const char* name : {"l.tif", "m.bmp.txt", "bmp"}) t.files.addFile("c:\\kinds\\" + std::string(name), "");
+    t.setIni("Miscellaneous", "ImagesDirectory", "c:\\kinds");
+    choose([&] {
+        EXPECT_THAT(form.File1.Items.get(), testing::ElementsAreArray(pictures));
+        form.Command2.Click();
+    });
+}
+
+TEST_F(SelectPictureFormTest, ADriveIsEnteredAtItsRoot)
+{
+    choose([this] {
+        click(form.File1, 0);
+        form.Drive1.Text = "c:";
+        form.Drive1.Click();
+        EXPECT_EQ(form.Folder.get(), "c:\\");
+        EXPECT_EQ(form.File1.ListIndex, -1);
+        EXPECT_EQ(form.Dir1.ListIndex, -1);
+        EXPECT_EQ(form.Drive1.Text.get(), "c:");
+        form.Command2.Click();
+    });
+}
+
+TEST_F(SelectPictureFormTest, EachOpeningStartsWithoutAPreview)
+{
+    choose([this] {
+        click(form.File1, 1);
+        form.Command2.Click();
+    });
+    choose([this] {
+        EXPECT_EQ(form.Label1.Caption.get(), "");
+        EXPECT_EQ(form.ImagePreview.get(), nullptr);
+        form.Command2.Click();
+    });
+}
+
+TEST_F(SelectPictureFormTest, FailuresAreReportedUnderTheirProcedures)
+{
+    const auto broken = [] { throw RuntimeError(ErrorCode::DeviceInputOutput, "broken"); };
+    const auto reported = [this] { return t.program().shared.errors.ErrorProcedure; };
+    choose([&] {
+        auto listening = form.Folder.changed.connect(broken);
+        click(form.Dir1, 1);
+        EXPECT_EQ(reported(), "SELIMG Dir1_Change");
+        form.Drive1.Text = "c:";
+        form.Drive1.Click();
+        EXPECT_EQ(reported(), "SELIMG Drive1_Change");
+        listening.disconnect();
+        form.Command2.Click();
+    });
+    t.setIni("Miscellaneous", "ImagesDirectory", "c:\\pictures\\old");
+    const auto listening = form.Folder.changed.connect(broken);
+    choose([this] { form.Command2.Click(); });
+    EXPECT_EQ(reported(), "SELIMG Form_Load");
+}
+
 TEST_F(SelectPictureFormTest, OkReturnsThePathAndKeepsTheFolder)
 {
     EXPECT_EQ(choose([this] {

@@ -259,6 +259,123 @@ TEST_F(ViewImageTest, APrinterThatFailsIsReported)
     EXPECT_EQ(t.printers.printer.killed, 1);
 }
 
+TEST_F(ViewImageTest, FailuresAreReportedUnderTheirProceduresAndSaidInTheStatus)
+{
+    open("c:\\pictures\\small.png");
+    const auto reported = [this] { return t.program().shared.errors.ErrorProcedure; };
+    t.files.failWrites("c:\\pictures\\copy.bmp", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    t.dialogues.filesToSave = {"c:\\pictures\\copy.bmp"};
+    window.mnuFileSave.Click();
+    EXPECT_EQ(reported(), "IMAGE mnuFileSave_Click");
+    EXPECT_EQ(t.lastBox().text, "Saving the image went wrong: Disk full");
+    EXPECT_EQ(t.status(), "Saving the image failed");
+    t.printers.printer.failsAtPage = 1;
+    window.mnuPrint.Click();
+    EXPECT_EQ(reported(), "IMAGE mnuPrint_Click");
+    EXPECT_EQ(t.lastBox().text, "Printing the image went wrong: Out of paper");
+    EXPECT_EQ(t.status(), "Printing the image failed");
+    t.files.addFile("c:\\pictures\\text.bmp", "Rem");
+    open("c:\\pictures\\text.bmp");
+    EXPECT_EQ(reported(), "IMAGE mnuImageLoad_Click");
+    t.files.addFile("c:\\pictures\\small.png", "");
+    window.mnuImageRefresh.Click();
+    EXPECT_EQ(t.status(), "c:\\pictures\\small.png couldn't be read again (Invalid picture)");
+    window.mnuFileClose.Click();
+    t.menus().mnuAppsImageViewer.Click();
+    EXPECT_EQ(reported(), "IMAGE Form_Load");
+    EXPECT_TRUE(window.form.Visible);
+}
+
+TEST_F(ViewImageTest, WhatIsUnderWayIsSaidInTheStatus)
+{
+    std::vector<std::string> texts;
+    const auto listening =
+        t.program().mum.StatusBar.Panels(1).Text.changed.connect([&] { texts.push_back(t.status()); });
+    open("c:\\pictures\\small.png");
+    window.mnuPrint.Click();
+    t.dialogues.filesToSave = {"c:\\pictures\\copy.bmp"};
+    window.mnuFileSave.Click();
+    EXPECT_THAT(texts, ElementsAre("Opening c:\\pictures\\small.png", "c:\\pictures\\small.png successfully opened",
+                                   "Printing image ... hang on .... this may take a while.", "Printing complete",
+                                   "copy.bmp saved"));
+}
+
+TEST_F(ViewImageTest, WithoutAnImageThereIsNothingToSaveOrPrintAndItsSizeIsNothing)
+{
+    window.mnuFileSave.Click();
+    window.mnuPrint.Click();
+    EXPECT_THAT(t.dialogues.saveRequests, IsEmpty());
+    EXPECT_THAT(t.printers.printer.pages, IsEmpty());
+    window.mnuShowSize.Click();
+    EXPECT_EQ(t.lastBox().text, "Current image size is: 0 by 0.");
+    window.mnuZoomFit.Click();
+    EXPECT_EQ(window.Zoom, 1);
+}
+
+TEST_F(ViewImageTest, PaperSizesAreWrittenInInchesWithoutZerosAtTheEnd)
+{
+    t.files.addFile("c:\\pictures\\poster.bmp", "PICTURE 5000 5000");
+    open("c:\\pictures\\poster.bmp");
+    t.printers.printer.width = 12240;
+    t.printers.printer.height = 15840;
+    t.dialogues.answers = {Answer::No, Answer::No};
+    window.mnuPrint.Click();
+    EXPECT_THAT(t.lastBox().text, HasSubstr("settings (8.5 by 11). "));
+    t.printers.printer.width = 72;
+    t.printers.printer.height = 14400;
+    window.mnuPrint.Click();
+    EXPECT_THAT(t.lastBox().text, HasSubstr("settings (0.05 by 10). "));
+}
+
+TEST_F(ViewImageTest, APictureThatIsTooHighForThePaperIsAskedAboutToo)
+{
+    t.files.addFile("c:\\pictures\\tower.bmp", "PICTURE 10 1123"); // 16,845 twips
+    open("c:\\pictures\\tower.bmp");
+    t.dialogues.answers = {Answer::No};
+    window.mnuPrint.Click();
+    EXPECT_THAT(t.printers.printer.pages, IsEmpty());
+}
+
+TEST_F(ViewImageTest, ScrollBarsOfAFewPixelsMoveByOne)
+{
+    t.files.addFile("c:\\pictures\\edge.bmp", "PICTURE 388 305");
+    open("c:\\pictures\\edge.bmp");
+    EXPECT_EQ(window.VScroll1.Max, 305 - (300 - 17));
+    EXPECT_EQ(window.HScroll1.Max, 388 - (400 - 17));
+    EXPECT_EQ(window.HScroll1.LargeChange, 1);
+    EXPECT_EQ(window.HScroll1.SmallChange, 1);
+}
+
+TEST_F(ViewImageTest, ABarThatTheOtherOneMakesNecessaryTakesItsRoom)
+{
+    t.files.addFile("c:\\pictures\\wide.bmp", "PICTURE 1000 290");
+    open("c:\\pictures\\wide.bmp");
+    EXPECT_EQ(window.Picture2.get(), (Placement{0, 0, 400 - 17, 300 - 17}));
+    t.files.addFile("c:\\pictures\\flat.bmp", "PICTURE 1000 283");
+    open("c:\\pictures\\flat.bmp");
+    EXPECT_EQ(window.Picture2.get(), (Placement{0, 0, 400, 300 - 17}));
+    EXPECT_FALSE(window.VScroll1.Visible);
+}
+
+TEST_F(ViewImageTest, ZoomOfTheMenuKeepsTheMiddleAndAnotherImageHasItsOwnSize)
+{
+    t.files.addFile("c:\\pictures\\large.bmp", "PICTURE 1600 1200");
+    open("c:\\pictures\\large.bmp");
+    window.HScroll1.Value = 300;
+    window.VScroll1.Value = 200;
+    const double middle = (300 + 383 / 2) * zoomStep;
+    const double middleDown = (200 + 283 / 2) * zoomStep;
+    window.mnuZoomIn.Click();
+    EXPECT_NEAR(window.HScroll1.Value + 383 / 2, middle, 1);
+    EXPECT_NEAR(window.VScroll1.Value + 283 / 2, middleDown, 1);
+    window.mnuZoomOut.Click();
+    EXPECT_NEAR(window.HScroll1.Value, 300, 1);
+    window.mnuZoomIn.Click();
+    open("c:\\pictures\\small.png");
+    EXPECT_EQ(window.Zoom, 1);
+    EXPECT_EQ(window.Picture3Place.get(), (Placement{0, 0, 60, 40}));
+}
+
 TEST_F(ViewImageTest, ZoomKeepsThePointUnderThePointer)
 {
     open("c:\\pictures\\keys.bmp");
