@@ -19,7 +19,8 @@ CELL = ["unshare", *(["--user", "--map-root-user"] if os.geteuid() else []), "--
 IN_CELL = (
     "mount --make-rprivate / && mount -t proc proc /proc && mount -t tmpfs scratch /dev/shm && "
     'mount --bind "$2" "$3" && mount -t tmpfs -o size=1g scratch "$1" && mount --bind "$1" "$1" && '
-    'mount -o remount,ro,bind / && export HOME="$1" TMPDIR="$1" && ulimit -v 8000000 && ulimit -f 1000000 && '
+    'mount -o remount,ro,bind / && export HOME="$1" TMPDIR="$1" XDG_RUNTIME_DIR="$1" && '
+    'ulimit -v 8000000 && ulimit -f 1000000 && '
     'shift 2 && exec "$@"'
 )
 SLOW = 3  # seconds; a test above it waits for --slow

@@ -116,7 +116,13 @@ TEST(PaneSelLength, NegativeValueIsRefusedAndTheSelectionStays)
     Pane pane;
     pane.setText("abcd");
     select(pane, 1, 2);
-    EXPECT_THROW(pane.setSelLength(-1), RuntimeError);
+    try {
+        pane.setSelLength(-1);
+        ADD_FAILURE();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.code(), ErrorCode::InvalidPropertyValue);
+        EXPECT_STREQ(error.what(), "Invalid property value");
+    }
     EXPECT_EQ(pane.SelText(), "bc");
 }
 

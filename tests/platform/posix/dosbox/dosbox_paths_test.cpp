@@ -3,6 +3,7 @@
 #include "platform/errors.h"
 #include "platform/posix/processes/process_world.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
@@ -133,6 +134,55 @@ TEST(DosboxPaths, ThereIsAnEndOfLetters)
             for (int i = 0; i < 30; ++i) w.paths.directory("c:\\a folder " + std::to_string(i));
         },
         RuntimeError);
+}
+
+TEST(DosboxPaths, LettersAreGivenFromTheEndOfTheAlphabetAndNoneIsMissing)
+{
+    World w;
+    EXPECT_EQ(w.paths.ownLetter(), 'y') << "DOSBox has the last one";
+    w.disk.makeDirectory("drive_c/a b");
+    w.disk.makeDirectory("drive_c/c d");
+    EXPECT_EQ(w.paths.directory("c:\\a b"), "X:\\");
+    EXPECT_EQ(w.paths.directory("c:\\c d"), "W:\\");
+    EXPECT_EQ(w.placeOf('w'), w.driveC + "/c d");
+    for (char letter = 'V'; letter >= 'D'; --letter) {
+        const std::string name = std::string("one ") + letter;
+        w.disk.makeDirectory("drive_c/" + name);
+        EXPECT_EQ(w.paths.directory("c:\\" + name), std::string(1, letter) + ":\\");
+    }
+    w.disk.makeDirectory("drive_c/too many");
+    try {
+        w.paths.directory("c:\\too many");
+        ADD_FAILURE();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.code(), ErrorCode::DeviceUnavailable);
+        EXPECT_STREQ(error.what(), "Device unavailable");
+    }
+}
+
+TEST(DosboxPaths, ADirectoryOfSixtyCharactersIsThereAndALongerOneGetsALetter)
+{
+    World w;
+    const std::string seven = "\\1234567\\1234567\\1234567\\1234567\\1234567\\1234567\\1234567"; // 56
+    std::string native = "drive_c" + seven;
+    std::replace(native.begin(), native.end(), '\\', '/');
+    w.disk.makeDirectory(native + "/abc");
+    w.disk.makeDirectory(native + "/abcd");
+    EXPECT_EQ(w.paths.directory("c:" + seven + "\\abc"), "C:" + seven + "\\ABC");
+    EXPECT_EQ(w.paths.directory("c:" + seven + "\\abcd").size(), 3U);
+}
+
+TEST(DosboxPaths, ADirectoryKeepsItsSeparatorInATail)
+{
+    World w;
+    w.disk.makeDirectory("drive_c/my dir");
+    w.disk.makeDirectory("drive_c/tm");
+    EXPECT_EQ(w.paths.tail("\"c:\\my dir\\\""), "X:\\");
+    EXPECT_EQ(w.paths.tail("\"c:\\my dir\""), "X:\\");
+    EXPECT_EQ(w.paths.tail("c:\\tm\\ C:\\TM"), "c:\\tm\\ C:\\TM");
+    EXPECT_EQ(w.paths.tail("\"c:\\tm"), "\"c:\\tm") << "a quotation mark that is never closed";
+    EXPECT_EQ(w.paths.tail("c: \"c:\" \""), "c: \"c:\" \"");
+    EXPECT_EQ(w.paths.tail("\tc:\\tm\t"), "\tc:\\tm\t");
 }
 
 TEST(DosboxTail, IsLeftAsItStandsWherePathsArePlain)
