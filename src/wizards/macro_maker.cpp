@@ -7,6 +7,8 @@
 #include "language/commands/text_transfer.h"
 #include "platform/windows1252.h"
 
+#include <algorithm>
+
 namespace tarvex {
 
 namespace {
@@ -103,13 +105,11 @@ constexpr Action actions[] = {
      [](MacroMaker& m) { m.editor.menus.mnuEditUpdateMacros.Click(); }},
 };
 
-/// The first blank by its position becomes an underscore; the change that this is deals with the next one.
-void replaceBlank(TextBox& box)
+/// Blanks become underscores, all in one change: one change for each would nest as deep as there are blanks.
+void replaceBlanks(TextBox& box)
 {
     std::string text = box.Text;
-    const std::size_t blank = text.find(' ');
-    if (blank == std::string::npos) return;
-    text[blank] = '_';
+    std::ranges::replace(text, ' ', '_');
     box.Text = text;
 }
 
@@ -142,7 +142,7 @@ void Command1_Click(MacroMaker& maker, std::size_t Index)
 
 void Text1_Change(MacroMaker& maker, std::size_t Index)
 {
-    if (Index == nameBox) replaceBlank(maker.Text1[nameBox]);
+    if (Index == nameBox) replaceBlanks(maker.Text1[nameBox]);
     const std::string name = maker.Text1[nameBox].Text;
     const std::string keys = maker.Text1[keysBox].Text;
     maker.Command1[insertButton].Enabled = !name.empty() && !keys.empty();

@@ -116,6 +116,13 @@ TEST_F(MacroWizardTest, BlanksInANameBecomeUnderscoresAtOnce)
     EXPECT_EQ(maker.Text1[1].Text, "CTL e");
 }
 
+TEST_F(MacroWizardTest, AsManyBlanksAsABoxHoldsBecomeUnderscores)
+{
+    constexpr std::size_t mostInABox = 32767;
+    maker.Text1[0].Text = std::string(mostInABox, ' ');
+    EXPECT_EQ(maker.Text1[0].Text.get(), std::string(mostInABox, '_'));
+}
+
 TEST_F(MacroWizardTest, ThePreviewIsNameAndKeys)
 {
     write("Eject", "CTL e");
