@@ -6,12 +6,17 @@ namespace tarvex {
 
 namespace {
 
+/// Each line end becomes a blank.
 void joinLines(Pane& pane)
 {
-    std::string text = pane.Text();
-    for (std::size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", at))
-        text.replace(at, 2, " ");
-    if (text != pane.Text()) pane.setText(text);
+    const std::string& text = pane.Text();
+    if (text.find_first_of("\r\n") == std::string::npos) return;
+    std::string line;
+    line.reserve(text.size());
+    for (const char letter : text) {
+        if (letter != '\r') line += letter == '\n' ? ' ' : letter;
+    }
+    pane.setText(line);
 }
 
 } // namespace
