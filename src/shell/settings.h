@@ -161,7 +161,7 @@ struct Settings {
     std::int16_t LOTextFontBold = 0;
 
     // TCA.ini, Options
-    std::int16_t TCACentreSensitivity = 0;
+    float TCACentreSensitivity = 0;
     std::int16_t TCAGridCellSize = 0;
 };
 

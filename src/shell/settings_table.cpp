@@ -383,7 +383,7 @@ const SettingRow table[] = {
      Access::GetLayoutFonts, Access::Nobody, "its size, points"},
     {IniFile::Layouts, "Joystick Layout", "LOTextFontBold", SettingForm::Flag, "0", &S::LOTextFontBold,
      Access::GetLayoutFonts, Access::Nobody, "bold"},
-    {IniFile::Tca, "Options", "TCACentreSensitivity", SettingForm::Integer, "250", &S::TCACentreSensitivity,
+    {IniFile::Tca, "Options", "TCACentreSensitivity", SettingForm::Number, "250", &S::TCACentreSensitivity,
      Access::GetTcaOptions, Access::SaveTcaOptions, "how near the centre counts as centred"},
     {IniFile::Tca, "Options", "TCAGridCellSize", SettingForm::Integer, "10", &S::TCAGridCellSize, Access::GetTcaOptions,
      Access::SaveTcaOptions, "cell size of the grid"},

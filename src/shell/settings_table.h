@@ -78,6 +78,7 @@ enum class SettingForm {
     ShortText,   ///< at most 49
     ColourText,  ///< decimal text of 0x00BBGGRR, at most 49 characters
     Position,    ///< twips, converted to a single-precision number
+    Number,      ///< the same without a unit
     Dropped,     ///< read and thrown away, written empty
 };
 

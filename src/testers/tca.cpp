@@ -26,8 +26,8 @@ void acrossRudder(TCAform& window, float at, Colour colour, bool dotted = false)
 /// Both bounds are outside.
 Colour bandColour(const TCAform& window, std::uint32_t position)
 {
-    const int halfWidth = window.editor.shared.settings.TCACentreSensitivity;
-    const int distance = static_cast<int>(position) - static_cast<int>(axisCentre);
+    const float halfWidth = window.editor.shared.settings.TCACentreSensitivity;
+    const float distance = static_cast<float>(position) - static_cast<float>(axisCentre);
     const bool centred = distance > -halfWidth && distance < halfWidth;
     return centred ? plotColour::centred : plotColour::offCentre;
 }
@@ -74,9 +74,11 @@ void drawStrips(TCAform& window)
     }
 }
 
-template <std::size_t count> void check(MenuArray& items, const std::array<int, count>& values, int value)
+template <std::size_t count, typename Number>
+void check(MenuArray& items, const std::array<int, count>& values, Number value)
 {
-    for (int i = 0; i <= items.UBound(); ++i) items[i].Checked = values[static_cast<std::size_t>(i)] == value;
+    for (int i = 0; i <= items.UBound(); ++i)
+        items[i].Checked = static_cast<Number>(values[static_cast<std::size_t>(i)]) == value;
 }
 
 } // namespace
@@ -183,7 +185,7 @@ void SensitivityArray_Click(TCAform& window, int index)
 {
     const int halfWidth = TCAform::halfWidths.at(static_cast<std::size_t>(index));
     check(window.SensitivityArray, TCAform::halfWidths, halfWidth);
-    window.editor.shared.settings.TCACentreSensitivity = static_cast<std::int16_t>(halfWidth);
+    window.editor.shared.settings.TCACentreSensitivity = static_cast<float>(halfWidth);
     SaveTcaOptions(window);
     if (window.JoyTimer.Enabled) window.reportArrived();
 }

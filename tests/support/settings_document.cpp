@@ -83,6 +83,8 @@ std::string_view nameOf(SettingForm form)
         return "colour";
     case SettingForm::Position:
         return "twips";
+    case SettingForm::Number:
+        return "number";
     case SettingForm::Dropped:
         break;
     }
@@ -108,7 +110,8 @@ constexpr std::string_view introduction =
     "environment, writes the page anew.\n\n"
     "Forms: *flag* 0 or 1; *int* a decimal 16-bit number; *text, n* at most n characters survive a read, while the "
     "file keeps the whole text, and a path of which only the whole one leads anywhere is taken whole; *colour* the "
-    "decimal number 0x00BBGGRR, so 255 is red; *twips* 1/1440 inch. *new* is what a new installation gets.\n";
+    "decimal number 0x00BBGGRR, so 255 is red; *twips* 1/1440 inch; *number* may have a "
+    "fraction. *new* is what a new installation gets.\n";
 
 constexpr std::string_view ofThisMachine =
     "\n## `Platform.ini`\n\n"

@@ -255,6 +255,20 @@ TEST_F(TcaTest, OpensWithTheChoicesOfItsFile)
     EXPECT_TRUE(form.mnuDensityArray[0].Checked);
 }
 
+TEST_F(TcaTest, AHalfWidthWithAFractionIsTakenAsItIsAndKept)
+{
+    files.addFile(tcaPath, "[Options]\r\nTCACentreSensitivity=1.5\r\nTCAGridCellSize=5\r\n");
+    open();
+    for (int i = 0; i < 4; ++i) EXPECT_FALSE(form.SensitivityArray[i].Checked);
+    for (const auto& [x, colour] : {std::pair{32766U, red}, {32767U, green}, {32769U, green}, {32770U, red}}) {
+        joystick.position.dwXpos = x;
+        tick();
+        EXPECT_EQ(verticalCentre(), colour) << x;
+    }
+    form.mnuDensityArray[1].Click();
+    EXPECT_EQ(ProfileFile(files, tcaPath).readString("Options", "TCACentreSensitivity", "", 100), "1.5");
+}
+
 TEST_F(TcaTest, AnotherDensityClearsOnlyWhileTheGridIsOn)
 {
     open();
