@@ -1,8 +1,9 @@
 #include "desktop/platform/instance_calls.h"
 
+#include "desktop/bind.h"
+
 #include <QApplication>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <QWindow>
 
 #include <array>
@@ -17,7 +18,9 @@ namespace {
 
 constexpr int mostCallers = 16;
 constexpr std::size_t mostWaiting = 64;
-constexpr int patience = 1000; // milliseconds
+// Milliseconds.
+constexpr int patience = 1000;
+constexpr int soon = 10;
 
 /// One process that says what it wants; gone when that is said, or when it takes too long.
 class Caller : public QObject {
@@ -65,6 +68,16 @@ private:
 
 } // namespace
 
+/// While the program waits for a loader, or for Esc, its ticks are held: they come again, and the first that arrives
+/// finds the program idle.
+InstanceCalls::InstanceCalls()
+{
+    m_next.setObjectName(QLatin1String(tickName));
+    m_next.setSingleShot(true);
+    m_next.setInterval(soon);
+    connect(&m_next, &QTimer::timeout, this, &InstanceCalls::fulfilNext);
+}
+
 InstanceCalls::~InstanceCalls()
 {
     if (m_listening) ::unlink(m_path.c_str());
@@ -77,7 +90,7 @@ void InstanceCalls::listen(const std::string& socket)
     if (!m_listening) return;
     auto* notifier = new QSocketNotifier(m_listening.get(), QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &InstanceCalls::accept);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &InstanceCalls::fulfilNext, Qt::QueuedConnection);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &InstanceCalls::lookSoon);
 }
 
 void InstanceCalls::accept()
@@ -92,13 +105,18 @@ void InstanceCalls::accept()
 void InstanceCalls::hear(const InstanceRequest& request)
 {
     if (m_waiting.size() < mostWaiting) m_waiting.push_back(request);
-    QTimer::singleShot(0, this, &InstanceCalls::fulfilNext);
+    lookSoon();
 }
 
 void InstanceCalls::fulfil()
 {
     m_ready = true;
-    QTimer::singleShot(0, this, &InstanceCalls::fulfilNext);
+    lookSoon();
+}
+
+void InstanceCalls::lookSoon()
+{
+    if (!m_waiting.empty()) m_next.start();
 }
 
 /// What is asked for while a box is up waits until the box has gone, and with it the keyboard has moved.

@@ -1,5 +1,6 @@
 #include "desktop/platform/qt_file_watch.h"
 
+#include "desktop/bind.h"
 #include "desktop/text.h"
 #include "platform/posix/drive_map.h"
 
@@ -29,6 +30,8 @@ QString nativePath(const DriveMap& drives, const std::string& path)
 QtFileWatch::QtFileWatch(const DriveMap& drives) : m_drives(drives)
 {
     for (QTimer* timer : {&m_quiet, &m_latest, &m_later}) timer->setSingleShot(true);
+    // Nothing is to change behind a loader that runs; a tick that is held comes again when it has ended.
+    for (QTimer* timer : {&m_quiet, &m_latest}) timer->setObjectName(QLatin1String(tickName));
     m_quiet.setInterval(quietTime);
     m_latest.setInterval(latestTime);
     connect(&m_quiet, &QTimer::timeout, this, &QtFileWatch::settle);

@@ -1,5 +1,6 @@
 #include "desktop/platform/instance_calls.h"
 
+#include "desktop/platform/input_hold.h"
 #include "support/temporary_directory.h"
 
 #include <QApplication>
@@ -74,6 +75,27 @@ TEST_F(InstanceCallsTest, WaitUntilABoxHasGone)
     QWidget window;
     box.close();
     window.show(); // gets the keyboard then
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fulfilled.size() == 1; }, patience));
+}
+
+TEST_F(InstanceCallsTest, WaitUntilTheLoaderThatRunsHasEnded)
+{
+    calls.fulfil();
+    InputHold hold;
+    std::atomic<bool> answered = false;
+    std::thread other([&] {
+        EXPECT_TRUE(askRunningInstance(path, {Kind::Open, "/a", {}}, patience));
+        answered = true;
+    });
+    QTimer loader;
+    int rounds = 0; // of a loader that works on after the answer
+    QObject::connect(&loader, &QTimer::timeout, &hold, [&] {
+        if (answered && ++rounds == 10) hold.release();
+    });
+    loader.start(10);
+    hold.hold();
+    EXPECT_TRUE(fulfilled.empty());
+    other.join();
     EXPECT_TRUE(QTest::qWaitFor([&] { return fulfilled.size() == 1; }, patience));
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/platform/qt_file_watch.h"
 
+#include "desktop/platform/input_hold.h"
 #include "platform/posix/drive_map.h"
 #include "support/temporary_directory.h"
 
@@ -87,6 +88,21 @@ TEST_F(QtFileWatchTest, WritesThatFollowEachOtherCloselyAreOneChange)
     for (int i = 0; i < 50; ++i) disk.put("mig.b50", std::to_string(i));
     EXPECT_TRUE(isNoticed());
     EXPECT_LE(changes, 2);
+}
+
+TEST_F(QtFileWatchTest, ReportsWhatHappensBehindALoaderWhenItHasEnded)
+{
+    InputHold hold;
+    QTimer loader;
+    int rounds = 0;
+    QObject::connect(&loader, &QTimer::timeout, &hold, [&] {
+        if (++rounds == 1) disk.put("mig.b50", "theirs");
+        if (rounds == 6) hold.release(); // long after a watch reports otherwise
+    });
+    loader.start(100);
+    hold.hold();
+    EXPECT_EQ(changes, 0);
+    EXPECT_TRUE(isNoticed());
 }
 
 TEST_F(QtFileWatchTest, ADriveThatIsNotThereIsPassedOver)
