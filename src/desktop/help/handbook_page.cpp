@@ -79,8 +79,9 @@ void HandbookPage::setZoom(int percent)
     const int wanted = std::clamp(percent, smallestZoom, largestZoom);
     if (wanted == m_zoom) return;
     m_zoom = wanted;
+    const qreal before = place(); // larger letters move it
     restyle();
-    showAgain();
+    showAgain(before);
 }
 
 bool HandbookPage::findText(const QString& text, bool backwards, bool fromMarked)
@@ -139,12 +140,15 @@ void HandbookPage::restyle()
     document()->setDefaultStyleSheet(styleFor(palette()));
 }
 
-/// The page anew, at the same place.
-void HandbookPage::showAgain()
+qreal HandbookPage::place() const
+{
+    const QScrollBar* bar = verticalScrollBar();
+    return bar->maximum() > 0 ? static_cast<qreal>(bar->value()) / bar->maximum() : 0;
+}
+
+void HandbookPage::showAgain(qreal place)
 {
     if (source().isEmpty()) return;
-    const QScrollBar* bar = verticalScrollBar();
-    const qreal place = bar->maximum() > 0 ? static_cast<qreal>(bar->value()) / bar->maximum() : 0;
     reload();
     verticalScrollBar()->setValue(static_cast<int>(place * verticalScrollBar()->maximum()));
 }
@@ -154,14 +158,15 @@ void HandbookPage::changeEvent(QEvent* event)
     QTextBrowser::changeEvent(event);
     if (m_restyling) return;
     if (event->type() != QEvent::PaletteChange && event->type() != QEvent::ApplicationFontChange) return;
+    const qreal before = place();
     restyle();
-    showAgain();
+    showAgain(before);
 }
 
 void HandbookPage::resizeEvent(QResizeEvent* event)
 {
     QTextBrowser::resizeEvent(event);
-    if (m_roomOfPictures != 0 && m_roomOfPictures != widestPicture()) showAgain();
+    if (m_roomOfPictures != 0 && m_roomOfPictures != widestPicture()) showAgain(place());
 }
 
 void HandbookPage::wheelEvent(QWheelEvent* event)

@@ -39,7 +39,10 @@ protected:
 
 private:
     void restyle();
-    void showAgain();
+    /// How far the page is scrolled, from 0 to 1.
+    qreal place() const;
+    /// The page anew, at that place.
+    void showAgain(qreal place);
     QVariant picture(const QByteArray& bytes);
     int widestPicture() const;
 

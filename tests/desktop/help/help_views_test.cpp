@@ -5,6 +5,7 @@
 #include "desktop/help/help_windows.h"
 #include "desktop/help/info_view.h"
 #include "desktop/help/tip_view.h"
+#include "desktop/text.h"
 #include "support/fake_help_system.h"
 #include "support/test_program.h"
 
@@ -19,6 +20,8 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
@@ -261,6 +264,196 @@ TEST_F(HandbookViewTest, AModalWindowThatAskedForHelpDoesNotBlockIt)
     HelpTopic(help.handbook, 2500);
     EXPECT_EQ(view.windowHandle()->transientParent(), modal.windowHandle());
     EXPECT_TRUE(view.isVisible());
+}
+
+TEST_F(HandbookViewTest, EachButtonAndKeyMakesLettersLargerOrSmallerByTen)
+{
+    child<QToolButton>(view, "ZoomIn").click();
+    EXPECT_EQ(page.zoom(), 110);
+    press(Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(page.zoom(), 120);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(page.zoom(), 130);
+    child<QToolButton>(view, "ZoomOut").click();
+    EXPECT_EQ(page.zoom(), 120);
+    press(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(page.zoom(), 110);
+    press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(page.zoom(), 100);
+}
+
+TEST_F(HandbookViewTest, ALongPageStaysAtItsPlaceWhenItsLettersGrow)
+{
+    std::string body;
+    for (int i = 0; i < 300; ++i) body += "<p>A line.</p>";
+    system.files["btn.html"] = html("The BTN statement", body);
+    followHandbookLink(help.handbook, "btn.html");
+    QScrollBar& bar = *page.verticalScrollBar();
+    bar.setValue(bar.maximum() / 2);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_NEAR(bar.value(), bar.maximum() / 2, bar.maximum() / 50);
+}
+
+TEST_F(HandbookViewTest, AltHomeShowsTheFirstPage)
+{
+    followHandbookLink(help.handbook, "btn.html");
+    press(Qt::Key_Home, Qt::AltModifier);
+    EXPECT_EQ(shown(), "Welcome");
+}
+
+TEST_F(HandbookViewTest, TheContentsMarkThePageThatWasOpenedFromElsewhere)
+{
+    const auto& tree = child<QTreeWidget>(view, "ContentsTree");
+    followHandbookLink(help.handbook, "tour.html");
+    ASSERT_NE(tree.currentItem(), nullptr);
+    EXPECT_EQ(tree.currentItem()->text(0), "A tour");
+    EXPECT_EQ(tree.currentItem()->toolTip(0), "A tour");
+    EXPECT_EQ(help.handbook.visited.size(), 2U) << "the mark isn't a choice of the user";
+}
+
+TEST_F(HandbookViewTest, TheTitleOfAChapterLeadsNowhere)
+{
+    auto& tree = child<QTreeWidget>(view, "ContentsTree");
+    tree.setCurrentItem(tree.topLevelItem(1));
+    EXPECT_EQ(shown(), "Welcome");
+    EXPECT_EQ(help.handbook.visited.size(), 1U);
+}
+
+TEST_F(HandbookViewTest, WordsAndPagesFoundAreOpenedByAClickOrByReturn)
+{
+    const auto click = [](QListWidget& list, int row) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(row)).center());
+    };
+    ways.setCurrentIndex(1);
+    EXPECT_EQ(view.focusWidget(), &child<QLineEdit>(view, "Filter"));
+    auto& words = child<QListWidget>(view, "Words");
+    EXPECT_EQ(words.currentRow(), 0);
+    click(words, 1);
+    EXPECT_EQ(help.handbook.Target.get(), "btn.html#s1");
+    words.setCurrentRow(2);
+    QTest::keyClick(&words, Qt::Key_Return);
+    EXPECT_EQ(help.handbook.Target.get(), "safein.html#raw");
+    ways.setCurrentIndex(2);
+    QTest::keyClicks(&child<QLineEdit>(view, "Search"), QStringLiteral("a"));
+    auto& hits = child<QListWidget>(view, "Hits");
+    ASSERT_GE(hits.count(), 2);
+    click(hits, 1);
+    EXPECT_TRUE(hits.item(1)->text().startsWith(QString::fromStdString(shown())));
+    hits.setCurrentRow(0);
+    QTest::keyClick(&hits, Qt::Key_Return);
+    EXPECT_TRUE(hits.item(0)->text().startsWith(QString::fromStdString(shown())));
+}
+
+TEST_F(HandbookViewTest, ReturnWithoutAWordOrAPageFoundShowsNothingElse)
+{
+    ways.setCurrentIndex(1);
+    auto& filter = child<QLineEdit>(view, "Filter");
+    QTest::keyClicks(&filter, QStringLiteral("zzz"));
+    QTest::keyClick(&filter, Qt::Key_Return);
+    ways.setCurrentIndex(2);
+    auto& search = child<QLineEdit>(view, "Search");
+    QTest::keyClicks(&search, QStringLiteral("zzz"));
+    QTest::keyClick(&search, Qt::Key_Return);
+    EXPECT_EQ(shown(), "Welcome");
+}
+
+TEST_F(HandbookViewTest, F3AsksForATextOnceAndThenFindsTheNextOne)
+{
+    followHandbookLink(help.handbook, "btn.html");
+    auto& text = child<QLineEdit>(view, "FindText");
+    press(Qt::Key_F3);
+    ASSERT_TRUE(text.isVisible());
+    EXPECT_TRUE(text.hasFocus());
+    QTest::keyClicks(&text, QStringLiteral("button"));
+    const int first = page.textCursor().selectionStart();
+    press(Qt::Key_F3);
+    const int second = page.textCursor().selectionStart();
+    EXPECT_GT(second, first);
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(page.textCursor().selectionStart(), first);
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(page.textCursor().selectionStart(), second) << "it goes round backwards, too";
+}
+
+TEST_F(HandbookViewTest, TheFindBarComesUpWithItsTextSelectedAndLeavesTheKeyboardToThePage)
+{
+    auto& text = child<QLineEdit>(view, "FindText");
+    auto& result = child<QLabel>(view, "FindResult");
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(&text, QStringLiteral("zzz"));
+    EXPECT_EQ(result.text(), "Not in this page");
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(text.selectedText(), "zzz");
+    QTest::keyClick(&text, Qt::Key_Delete);
+    EXPECT_EQ(result.text(), "");
+    QTest::keyClick(&text, Qt::Key_Escape);
+    EXPECT_TRUE(page.hasFocus());
+}
+
+TEST_F(HandbookViewTest, AnAddressOfTheWebGoesToTheBrowserWhole)
+{
+    emit page.anchorClicked(QUrl(QStringLiteral("https://example.com/x#y")));
+    EXPECT_EQ(system.opened, std::vector<std::string>{"https://example.com/x#y"});
+    EXPECT_EQ(shown(), "Welcome");
+}
+
+TEST_F(HandbookViewTest, PicturesAreMadeNarrowerButNeverWider)
+{
+    const auto add = [this](const std::string& name, int width) {
+        QImage image(width, 30, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QBuffer bytes;
+        image.save(&bytes, "PNG");
+        system.files[name] = bytes.data().toStdString();
+    };
+    const auto widthOf = [this](const char* name) {
+        const QVariant picture =
+            page.loadResource(QTextDocument::ImageResource, QUrl(QLatin1String("handbook:/") + name));
+        return picture.value<QImage>().width();
+    };
+    add("wide.png", 3000);
+    add("small.png", 90);
+    view.resize(1400, 600);
+    QApplication::processEvents();
+    EXPECT_EQ(widthOf("wide.png"), 700);
+    EXPECT_EQ(widthOf("small.png"), 90);
+    view.resize(800, 600);
+    QApplication::processEvents();
+    EXPECT_EQ(widthOf("wide.png"), page.viewport()->width() - 48);
+    page.setFixedWidth(180);
+    QApplication::processEvents();
+    EXPECT_EQ(widthOf("wide.png"), 200) << "the page then scrolls";
+    system.files["bad.png"] = "no picture";
+    EXPECT_EQ(widthOf("bad.png"), 0);
+    EXPECT_EQ(widthOf("missing.png"), 0);
+}
+
+TEST_F(HandbookViewTest, TheColoursOfAPageAreMixedFromThePalette)
+{
+    QPalette palette = page.palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Link, QColor(0x12, 0x34, 0x56));
+    page.setPalette(palette);
+    const QString style = page.document()->defaultStyleSheet();
+    EXPECT_TRUE(style.contains("background-color: #eaeaea")) << "of code";
+    EXPECT_TRUE(style.contains("color: #3f3f3f")) << "of headings";
+    EXPECT_TRUE(style.contains("color: #123456")) << "of links";
+}
+
+TEST_F(HandbookViewTest, ComesUpInTheSizeInWhichItWasLeft)
+{
+    help.handbook.form.Width = toTwips(700);
+    help.handbook.form.Height = toTwips(500);
+    const HandbookView again(help.handbook, nullptr);
+    EXPECT_EQ(again.size(), QSize(700, 500));
+    help.handbook.form.Width = toTwips(9000);
+    help.handbook.form.Height = toTwips(9000);
+    const HandbookView large(help.handbook, nullptr);
+    EXPECT_EQ(large.size(), large.screen()->availableSize());
+    help.handbook.form.Width = 0;
+    const HandbookView first(help.handbook, nullptr);
+    EXPECT_EQ(first.sizeHint(), QSize(960, 700));
 }
 
 TEST_F(HelpViews, F1InAWindowShowsThePageAboutIt)
