@@ -80,6 +80,20 @@ int contrast(QStyle::PrimitiveElement element, QPalette::ColorRole ground)
     return lightest - palette.color(ground).lightness();
 }
 
+TEST_F(ThemeViewTest, AsTheDesktopHasItTheColoursAreNoneOfThePrograms)
+{
+    appearance.choose(Appearance::Theme::Dark);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), darkPalette().color(QPalette::Window));
+    appearance.choose(Appearance::Theme::Light);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), lightPalette().color(QPalette::Highlight));
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), lightPalette().color(QPalette::Window));
+    appearance.choose(Appearance::Theme::HighContrast);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(Qt::yellow));
+    appearance.choose(Appearance::Theme::System);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight),
+              QApplication::style()->standardPalette().color(QPalette::Highlight));
+}
+
 TEST_F(ThemeViewTest, OnDarkGroundEmptyTickBoxesAndRadioButtonsHaveVisibleFrames)
 {
     appearance.choose(Appearance::Theme::Dark);

@@ -9,6 +9,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
 // The header of the protocol names a member "explicit".
 #define explicit explicit_
@@ -53,18 +54,15 @@ unsigned layoutInUse(xcb_connection_t* connection)
     return state ? state->group : 0;
 }
 
-/// The symbols of a key: plain and shifted of the first layout, then of the second, as long as they fit.
-void takeSymbols(KeyboardSigns& signs, int index, const xcb_keysym_t* symbols, unsigned count, unsigned layout)
-{
-    unsigned first = layout < 2 ? 2 * layout : 0;
-    if (first + 1 >= count || symbols[first] == XKB_KEY_NoSymbol) first = 0;
-    if (count < 2) return;
-    const auto at = static_cast<std::size_t>(index);
-    signs.plain[at] = signOf(symbols[first]);
-    signs.shifted[at] = signOf(symbols[first + 1]);
-}
-
 } // namespace
+
+KeyPrints printsOf(std::span<const std::uint32_t> symbols, unsigned layout)
+{
+    if (symbols.size() < 2) return {};
+    std::size_t first = layout < 2 ? 2 * layout : 0;
+    if (first + 1 >= symbols.size() || symbols[first] == XKB_KEY_NoSymbol) first = 0;
+    return {signOf(symbols[first]), signOf(symbols[first + 1])};
+}
 
 KeyboardSigns readKeyboardSigns()
 {
@@ -82,9 +80,12 @@ KeyboardSigns readKeyboardSigns()
     for (const Key& key : keyTable()) {
         const quint32 code = nativeCodeOf(key.index);
         if (code < setup->min_keycode || code > setup->max_keycode) continue;
-        takeSymbols(signs, key.index,
-                    xcb_get_keyboard_mapping_keysyms(mapping.get()) + (code - setup->min_keycode) * count, count,
-                    layout);
+        const xcb_keysym_t* symbols =
+            xcb_get_keyboard_mapping_keysyms(mapping.get()) + (code - setup->min_keycode) * count;
+        const auto at = static_cast<std::size_t>(key.index);
+        KeyPrints prints = printsOf({symbols, count}, layout);
+        signs.plain[at] = std::move(prints.plain);
+        signs.shifted[at] = std::move(prints.shifted);
     }
     return signs;
 }
@@ -94,6 +95,8 @@ KeyboardSigns readKeyboardSigns()
 #else
 
 namespace tarvex {
+
+KeyPrints printsOf(std::span<const std::uint32_t>, unsigned) { return {}; }
 
 KeyboardSigns readKeyboardSigns() { return {}; }
 

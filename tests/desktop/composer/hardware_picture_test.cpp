@@ -181,6 +181,7 @@ TEST_P(EachHardwarePicture, TabAndTheArrowsReachEveryControlInItsOrder)
     EXPECT_EQ(t.focused(), what().controls.back().id);
     t.key(Qt::Key_Up);
     EXPECT_EQ(t.focused(), what().controls[what().controls.size() - 2].id);
+    EXPECT_THAT(t.clicked, testing::IsEmpty());
 }
 
 TEST_P(EachHardwarePicture, AScreenReaderFindsANamedButtonForEachControl)
@@ -324,6 +325,172 @@ TEST(HardwarePicture, EachStateOfAControlLooksDifferent)
     hat.setEnabled(true);
     t.settle();
     EXPECT_EQ(t.image(), seen["normal"]);
+}
+
+/// How a state of a control changes the picture: inside its shape, in the band of five pixels around it, and elsewhere.
+/// The smooth edge of the shape doesn't count.
+struct Change {
+    int inside = 0;
+    int around = 0;
+    int elsewhere = 0;
+    double lighter = 0; ///< of the pixels inside, on average
+    double redder = 0;  ///< against blue
+};
+
+Change changeOf(const QImage& before, const QImage& after, const Drawn& control)
+{
+    Change change;
+    const auto isNear = [&](int x, int y, int distance) {
+        for (int dy = -distance; dy <= distance; ++dy)
+            for (int dx = -distance; dx <= distance; ++dx)
+                if (control.alone.valid(x + dx, y + dy) && qAlpha(control.alone.pixel(x + dx, y + dy)) > 0) return true;
+        return false;
+    };
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            const QColor was = before.pixelColor(x, y);
+            const QColor is = after.pixelColor(x, y);
+            if (was == is) continue;
+            const int alpha = control.alone.valid(x, y) ? qAlpha(control.alone.pixel(x, y)) : 0;
+            if (alpha == 255) {
+                ++change.inside;
+                change.lighter += is.lightness() - was.lightness();
+                change.redder += (is.red() - is.blue()) - (was.red() - was.blue());
+            } else if (alpha == 0) {
+                ++(isNear(x, y, 5) ? change.around : change.elsewhere);
+            }
+        }
+    }
+    change.lighter /= std::max(1, change.inside);
+    change.redder /= std::max(1, change.inside);
+    return change;
+}
+
+/// Pixels of about the colour; smooth lines have few of exactly theirs.
+int countOf(const QImage& image, const QColor& colour)
+{
+    constexpr int tolerance = 24; // of each channel
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor found = image.pixelColor(x, y);
+            count += std::abs(found.red() - colour.red()) <= tolerance &&
+                     std::abs(found.green() - colour.green()) <= tolerance &&
+                     std::abs(found.blue() - colour.blue()) <= tolerance;
+        }
+    }
+    return count;
+}
+
+struct HardwareStates : testing::Test {
+    Shown t{PictureOf::F22AndF16Stick};
+    HardwareControl& hat = t.control("HAT(0)");
+    Drawn drawn{t.picture->picture(), "HAT(0)", {580, 480}};
+    QPoint inside = drawn.inside().front();
+    QColor accent = t.picture->palette().color(QPalette::Highlight);
+    QImage normal;
+
+    HardwareStates()
+    {
+        if (QWidget* focused = t.window.focusWidget()) focused->clearFocus();
+        t.move(QPoint(3, 3));
+        normal = t.image();
+    }
+    Change change() { return changeOf(normal, t.image(), drawn); }
+};
+
+TEST_F(HardwareStates, UnderTheMouseItIsLighterWithALightEdge)
+{
+    t.move(inside);
+    const Change now = change();
+    EXPECT_GT(now.lighter, 20);
+    EXPECT_GT(now.around, 60);
+    EXPECT_EQ(now.elsewhere, 0);
+    EXPECT_GT(countOf(t.image(), accent.lighter()), countOf(normal, accent.lighter()) + 20);
+    EXPECT_LT(countOf(t.image(), accent), countOf(normal, accent) + 10);
+}
+
+TEST_F(HardwareStates, WithTheKeyboardItHasAnEdgeInTheColourOfSelectionsAndAWhiteOneAroundIt)
+{
+    hat.setFocus();
+    const Change now = change();
+    EXPECT_EQ(now.inside, 0);
+    EXPECT_GT(now.around, 120);
+    EXPECT_EQ(now.elsewhere, 0);
+    EXPECT_GT(countOf(t.image(), accent), countOf(normal, accent) + 60);
+    t.window.setPalette(darkPalette()); // a white edge can't be told from a light ground
+    t.settle();
+    const QImage onDark = t.image();
+    hat.clearFocus();
+    EXPECT_GT(countOf(onDark, Qt::white), countOf(t.image(), Qt::white) + 15);
+}
+
+TEST_F(HardwareStates, WhileItIsPressedItIsDarker)
+{
+    hat.setDown(true);
+    hat.update();
+    const Change now = change();
+    EXPECT_LT(now.lighter, -15);
+    EXPECT_EQ(now.around + now.elsewhere, 0);
+}
+
+TEST_F(HardwareStates, CheckedItIsOrange)
+{
+    hat.setCheckable(true);
+    hat.setChecked(true);
+    const Change now = change();
+    EXPECT_GT(now.redder, 20);
+    EXPECT_EQ(now.around + now.elsewhere, 0);
+}
+
+TEST_F(HardwareStates, AnAssignedOneHasAGreenMarkWithAWhiteEdgeAtItsUpperRight)
+{
+    hat.setAssigned(true);
+    const QColor green(0x16, 0xA3, 0x4A);
+    const QImage now = t.image();
+    EXPECT_GT(countOf(now, green), 25);
+    EXPECT_LT(countOf(now, green), 80);
+    QRect mark;
+    for (int y = 0; y < now.height(); ++y)
+        for (int x = 0; x < now.width(); ++x)
+            if (now.pixelColor(x, y) == green) mark |= QRect(x, y, 1, 1);
+    EXPECT_NEAR(mark.width(), mark.height(), 1);
+    EXPECT_NEAR(mark.width(), 7, 2);
+    const QPoint corner = hat.markPlace();
+    EXPECT_LE((mark.center() - corner).manhattanLength(), 6);
+    const QRect shape = hat.shapeArea();
+    EXPECT_GT(mark.center().x(), shape.center().x());
+    EXPECT_LT(mark.center().y(), shape.center().y());
+    hat.setAssigned(false);
+    EXPECT_EQ(t.image(), normal);
+}
+
+TEST_F(HardwareStates, DisabledItDoesNotShowTheMouse)
+{
+    hat.setEnabled(false);
+    t.settle();
+    normal = t.image();
+    t.move(inside);
+    EXPECT_EQ(t.image(), normal);
+}
+
+TEST_F(HardwareStates, ReturnThatIsHeldClicksOnce)
+{
+    hat.setFocus();
+    for (const bool repeats : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", repeats);
+        QApplication::sendEvent(&hat, &press);
+    }
+    t.key(Qt::Key_Enter);
+    EXPECT_THAT(t.clicked, testing::ElementsAre("HAT(0)", "HAT(0)"));
+}
+
+TEST_F(HardwareStates, TheSamePictureAgainKeepsItsControls)
+{
+    hat.setFocus();
+    t.picture->setPicture(t.picture->picture());
+    EXPECT_EQ(t.picture->control("HAT(0)"), &hat);
+    EXPECT_EQ(t.attended, "HAT(0)");
 }
 
 TEST(HardwarePicture, NamesFollowThePalette)

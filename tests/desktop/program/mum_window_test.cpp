@@ -7,13 +7,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDropEvent>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
 #include <QToolTip>
@@ -421,6 +424,111 @@ TEST(MumWindow, AppearanceCommandTicksAndIsKept)
     EXPECT_TRUE(shown.action("mnuAppearanceDark")->isChecked());
     EXPECT_FALSE(shown.action("mnuAppearanceSystem")->isChecked());
     EXPECT_NE(shown.fileText("c:\\tarvex\\Platform.ini").find("Theme=dark"), std::string::npos);
+}
+
+TEST(MumWindow, ComesUpMaximisedOrMinimisedAsItsFormSays)
+{
+    for (const WindowState state : {WindowState::Maximised, WindowState::Minimised, WindowState::Normal}) {
+        TestProgram test;
+        test.program().mum.form.State = state;
+        const MumWindow window(test.program());
+        EXPECT_EQ(window.isMaximized(), state == WindowState::Maximised);
+        EXPECT_EQ(window.isMinimized(), state == WindowState::Minimised);
+    }
+}
+
+/// Where the window comes up when it was last seen there, in pixels.
+QRect placeAfter(const QRect& lastSeen)
+{
+    TestProgram test;
+    Form& form = test.program().mum.form;
+    form.Visible = false;
+    MumWindow window(test.program());
+    form.Left = toTwips(lastSeen.left());
+    form.Top = toTwips(lastSeen.top());
+    form.Width = toTwips(lastSeen.width());
+    form.Height = toTwips(lastSeen.height());
+    form.Visible = true;
+    return {window.pos(), window.size()};
+}
+
+TEST(MumWindow, ComesUpWhereItWasUnlessThatIsNotOnTheScreen)
+{
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(placeAfter({50, 40, 800, 600}), QRect(50, 40, 800, 600));
+    EXPECT_EQ(placeAfter({-100, -70, 800, 600}), QRect(room.left(), room.top(), 800, 600));
+    EXPECT_EQ(placeAfter({room.right() - 90, room.bottom() - 90, 800, 600}),
+              QRect(room.right() - 799, room.bottom() - 599, 800, 600));
+    EXPECT_EQ(placeAfter({9000, 40, 800, 600}), QRect(room.right() - 799, 40, 800, 600));
+    EXPECT_EQ(placeAfter({50, 40, room.width() + 500, room.height() + 500}), room);
+}
+
+TEST(MumWindow, ASizeThatIsTooSmallBecomesTheFirstOne)
+{
+    EXPECT_EQ(placeAfter({50, 40, 319, 600}).size(), QSize(1000, 700));
+    EXPECT_EQ(placeAfter({50, 40, 600, 239}).size(), QSize(1000, 700));
+    EXPECT_EQ(placeAfter({50, 40, 320, 240}).size(), QSize(320, 240));
+}
+
+TEST(MumWindow, ThePointerIsThatOfTheProgram)
+{
+    Shown shown;
+    Mum& mum = shown.program().mum;
+    mum.MousePointer = MousePointer::Hourglass;
+    EXPECT_EQ(shown.window.cursor().shape(), Qt::WaitCursor);
+    mum.MousePointer = MousePointer::ArrowQuestion;
+    EXPECT_EQ(shown.window.cursor().shape(), Qt::WhatsThisCursor);
+    mum.MousePointer = MousePointer::Default;
+    EXPECT_EQ(shown.window.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST(MumWindow, OnlyFilesCanBeDroppedOnIt)
+{
+    Shown shown;
+    const auto offered = [&](const QMimeData& data) {
+        QDragEnterEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        event.setAccepted(false);
+        QApplication::sendEvent(&shown.window, &event);
+        return event.isAccepted();
+    };
+    QMimeData text;
+    text.setText("some text");
+    EXPECT_FALSE(offered(text));
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    drop.setAccepted(false);
+    QApplication::sendEvent(&shown.window, &drop);
+    EXPECT_FALSE(drop.isAccepted());
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile("/tmp/mig.b50")});
+    EXPECT_TRUE(offered(files));
+}
+
+TEST(MumWindow, TheTitleNamesTheFileInFrontAndSaysWhetherItIsModified)
+{
+    Shown shown;
+    shown.files.addFile("c:\\tm\\a[b].b50", "");
+    shown.files.addFile("c:\\tm\\a[b].m50", "");
+    shown.openBoth("c:\\tm\\a[b].b50");
+    EXPECT_EQ(shown.window.windowTitle(), "Tarvex - a[[b].b50[*]") << "a bracket doubled stands for itself";
+    EXPECT_FALSE(shown.window.isWindowModified());
+    shown.editor().TabStrip1.Select(2);
+    EXPECT_EQ(shown.window.windowTitle(), "Tarvex - a[[b].m50[*]");
+    shown.editor().TabStrip1.Select(1);
+    QTest::keyClicks(&shown.joystick(), "x");
+    EXPECT_TRUE(shown.window.isWindowModified());
+}
+
+TEST(MumWindow, TheLastPairComesUpAtTheLineThatWasOnTop)
+{
+    Shown shown;
+    std::string text;
+    for (int i = 0; i < 300; ++i) text += "Rem line\r\n";
+    shown.typeJoystick(text);
+    Shown::events();
+    shown.program().lastPair.firstLineWanted(shown.editor().joystick, 120);
+    Shown::events();
+    EXPECT_EQ(shown.joystick().verticalScrollBar()->value(), 120);
+    EXPECT_EQ(shown.program().lastPair.firstLine(shown.editor().joystick), 120);
 }
 
 } // namespace

@@ -96,5 +96,53 @@ TEST(SheetPaper, IsLetterOnlyOnPaperOfItsProportions)
     EXPECT_EQ(sheetPaper(printer).width, sheetLetter.width);
 }
 
+// ---- on paper -------------------------------------------------------------------------------------------------------
+
+/// Keeps where drawings are painted. Edges of 240 twips at the sides and 360 above and below.
+struct DrawingPrinter final : Printer {
+    int width = 16838;
+    int height = 11906;
+    std::vector<PaperRectangle> places;
+    int newPages = 0;
+
+    int Orientation() const override { return orientation::landscape; }
+    void setOrientation(int) override {}
+    int Width() const override { return width; }
+    int Height() const override { return height; }
+    int physicalOffsetX() const override { return 100; }
+    int physicalOffsetY() const override { return 150; }
+    float twipsPerPixelX() const override { return 2.4F; }
+    float twipsPerPixelY() const override { return 2.4F; }
+    void setFontBold(bool) override {}
+    void Print(const std::string&) override {}
+    void PrintCentred(const std::string&, int, int, int) override {}
+    void NewPage() override { ++newPages; }
+    void EndDoc() override {}
+    void KillDoc() override {}
+    std::size_t formatRange(const StyledText&, const FormatRange& range) override { return range.end; }
+    void releaseFormat() override {}
+    void PaintPicture(const LoadedPicture&, const PaperRectangle&) override {}
+    void PaintDrawing(const std::string&, const PaperRectangle& place) override { places.push_back(place); }
+};
+
+TEST(PrintSheet, EachPageIsAsLargeAsThePrintableAreaAllowsInItsProportions)
+{
+    const std::vector<LaidOutPage> pages(2, LaidOutPage{.paper = sheetA4, .items = {}});
+    DrawingPrinter printer;
+    printSheet(printer, pages);
+    const PaperRectangle asHighAsThePaper{.right = 15830, .bottom = 11186};
+    EXPECT_THAT(printer.places, testing::ElementsAre(asHighAsThePaper, asHighAsThePaper));
+    EXPECT_EQ(printer.newPages, 1);
+    DrawingPrinter narrow;
+    narrow.width = 10000;
+    printSheet(narrow, {pages.front()});
+    EXPECT_THAT(narrow.places, testing::ElementsAre(PaperRectangle{.right = 9520, .bottom = 6727}));
+    EXPECT_EQ(narrow.newPages, 0);
+    DrawingPrinter tiny;
+    tiny.width = 100;
+    printSheet(tiny, {pages.front()});
+    EXPECT_THAT(tiny.places, testing::ElementsAre(PaperRectangle{}));
+}
+
 } // namespace
 } // namespace tarvex

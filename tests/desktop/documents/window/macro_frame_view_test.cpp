@@ -385,5 +385,140 @@ TEST_F(FrameViewTest, EdgeIsMarkedWhereItCanBeDragged)
     EXPECT_TRUE(marked);
 }
 
+TEST_F(FrameViewTest, TheEdgeHasSevenDotsAndIsShadedWhileThePointerIsOnIt)
+{
+    const QRect grip(view.width() - 6, 0, 6, view.height());
+    const auto differs = [&](const QColor& ground) {
+        const QImage picture = view.grab().toImage();
+        int count = 0;
+        for (int y = grip.top(); y <= grip.bottom(); ++y)
+            for (int x = grip.left(); x <= grip.right(); ++x) count += picture.pixelColor(x, y) != ground;
+        return count;
+    };
+    EXPECT_EQ(differs(view.palette().color(QPalette::Window)), 7 * 4);
+    frame.MousePointer = MousePointer::SizeWestEast;
+    EXPECT_EQ(view.cursor().shape(), Qt::SizeHorCursor);
+    EXPECT_EQ(differs(view.palette().color(QPalette::Window)), grip.width() * grip.height());
+    EXPECT_EQ(differs(view.grab().toImage().pixelColor(grip.topLeft())), 7 * 4) << "the dots are darker";
+}
+
+// ---- the filter -----------------------------------------------------------------------------------------------------
+
+struct FrameFilterTest : FrameViewTest {
+    QLineEdit* filter = view.findChild<QLineEdit*>("Filter");
+
+    void openFilter(const std::string& text)
+    {
+        frame.FilterVisible = true;
+        frame.Filter.Text = text;
+        QApplication::setActiveWindow(&window);
+        QApplication::processEvents();
+    }
+    int current() { return list->currentIndex().row(); }
+};
+
+TEST_F(FrameFilterTest, TheKeyboardComesToTheFirstMacroThatIsNotHidden)
+{
+    click(name(0));
+    openFilter("o"); // Stop and Go
+    filter->setFocus();
+    list->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(current(), 2);
+    list->setCurrentIndex(list->model()->index(3, 0));
+    filter->setFocus();
+    list->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(current(), 3) << "this one is in sight";
+    frame.FilterVisible = false;
+    list->setCurrentIndex(list->model()->index(1, 0));
+    filter->setFocus();
+    list->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(current(), 1);
+}
+
+TEST_F(FrameFilterTest, DownReturnAndEnterLeadIntoTheListAndEscClosesIt)
+{
+    openFilter("g");
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Enter}) {
+        filter->setFocus();
+        QTest::keyClick(filter, key);
+        EXPECT_TRUE(list->hasFocus()) << key;
+    }
+    filter->setFocus();
+    QTest::keyClick(filter, Qt::Key_E);
+    EXPECT_EQ(filter->text(), "ge");
+    QTest::keyClick(filter, Qt::Key_Escape);
+    EXPECT_FALSE(frame.FilterVisible);
+    EXPECT_EQ(editor.JoystickText.Text(), "e Stop Gear \r\n") << "Return inserted nothing";
+}
+
+TEST_F(FrameFilterTest, InTheListLettersAreWrittenIntoItAndBlanksAndCommandsAreNot)
+{
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_G);
+    EXPECT_TRUE(frame.FilterVisible);
+    EXPECT_EQ(frame.Filter.Text.get(), "g");
+    QApplication::setActiveWindow(&window);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Space);
+    QTest::keyClick(list, Qt::Key_E, Qt::ControlModifier);
+    QTest::keyClick(list, Qt::Key_E, Qt::AltModifier);
+    EXPECT_EQ(frame.Filter.Text.get(), "g");
+    QTest::keyClick(list, Qt::Key_Escape);
+    EXPECT_FALSE(frame.FilterVisible);
+}
+
+TEST_F(FrameFilterTest, HiddenRowsFollowTextVisibilityAndItems)
+{
+    const auto hidden = [this] {
+        std::string rows;
+        for (int row = 0; row < list->model()->rowCount(); ++row) rows += list->isRowHidden(row) ? 'h' : '-';
+        return rows;
+    };
+    openFilter("g");
+    EXPECT_EQ(hidden(), "h-h-");
+    frame.Filter.Text = "";
+    EXPECT_EQ(hidden(), "----");
+    frame.Filter.Text = "st";
+    EXPECT_EQ(hidden(), "hh-h");
+    frame.FilterVisible = false;
+    EXPECT_EQ(hidden(), "----");
+    frame.FilterVisible = true;
+    frame.Filter.Text = "a";
+    frame.List1[0].Items = {{"Stop", false}, {"Flaps", true}};
+    EXPECT_EQ(hidden(), "h-");
+}
+
+// ---- the entries ----------------------------------------------------------------------------------------------------
+
+TEST_F(FrameViewTest, OnlyTheTicksOfEntriesThatThereAreCanBeWritten)
+{
+    QAbstractItemModel* model = list->model();
+    const QModelIndex first = model->index(0, 0);
+    EXPECT_FALSE(model->setData(first, "x", Qt::EditRole));
+    EXPECT_FALSE(model->setData(QModelIndex(), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_EQ(model->data(first, Qt::DecorationRole), QVariant());
+    EXPECT_EQ(model->data(QModelIndex(), Qt::DisplayRole), QVariant());
+    EXPECT_EQ(model->rowCount(first), 0) << "entries have none below them";
+    EXPECT_TRUE(model->flags(first).testFlag(Qt::ItemIsUserCheckable));
+    EXPECT_TRUE(model->flags(first).testFlag(Qt::ItemIsDragEnabled));
+}
+
+TEST_F(FrameViewTest, OnDarkGroundTheTickBoxHasAFrameInTheTextsColour)
+{
+    const auto corner = [&] {
+        const QImage picture = list->viewport()->grab().toImage();
+        int light = 0;
+        for (int y = item(0).top(); y <= item(0).bottom(); ++y)
+            for (int x = 0; x < 20; ++x) light += picture.pixelColor(x, y).lightness() > 100;
+        return light;
+    };
+    QPalette dark = list->palette();
+    dark.setColor(QPalette::Base, QColor(0x1F, 0x21, 0x24));
+    dark.setColor(QPalette::Text, QColor(0xE4, 0xE6, 0xE9));
+    dark.setColor(QPalette::Window, QColor(0x1F, 0x21, 0x24));
+    list->setPalette(dark);
+    EXPECT_GE(corner(), 40);
+}
+
 } // namespace
 } // namespace tarvex
