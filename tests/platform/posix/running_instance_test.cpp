@@ -74,6 +74,24 @@ TEST_F(RunningInstance, HearsTheRequestAndAcceptsIt)
     EXPECT_EQ(readRequest(listener.heard()), request);
 }
 
+TEST_F(RunningInstance, OfAnotherVersionUnderstandsTheRequestByteByByte)
+{
+    using namespace std::string_literals;
+    Listener listener(path, "tarvex 1 accepted\n");
+    EXPECT_TRUE(askRunningInstance(path, {Kind::Open, "/a.b50", "t"}, longPatience));
+    EXPECT_EQ(listener.heard(), "tarvex 1\0open\0/a.b50\0t\0"s);
+    Listener other(path, "tarvex 1 accepted\n");
+    EXPECT_TRUE(askRunningInstance(path, {Kind::ComeForward, "", ""}, longPatience));
+    EXPECT_EQ(other.heard(), "tarvex 1\0come forward\0\0\0"s);
+    EXPECT_EQ(requestAccepted(), "tarvex 1 accepted\n");
+}
+
+TEST_F(RunningInstance, OfAnotherVersionIsFoundBySocketsOfOneName)
+{
+    const std::string socket = instanceSocket(disk.path(), "/opt/tarvex");
+    EXPECT_EQ(socket, disk / "tarvex/4582905150526766.socket");
+}
+
 TEST_F(RunningInstance, NobodyThereIsARefusal) { EXPECT_FALSE(askRunningInstance(path, {}, longPatience)); }
 
 TEST_F(RunningInstance, ASocketThatAProcessHasLeftIsARefusalAndGivesWayToANewOne)
