@@ -19,6 +19,16 @@ template <typename Call> auto uninterrupted(Call call)
     return result;
 }
 
+/// How many bytes to ask for behind the first `size`. Where the end is expected, one is enough to meet it: room for
+/// more would be cleared for nothing. Beyond that the room doubles.
+std::size_t nextStep(std::size_t size, std::size_t expected)
+{
+    constexpr std::size_t smallest = 1 << 12;
+    constexpr std::size_t largest = 1 << 20;
+    if (size <= expected) return std::min(expected - size + 1, largest);
+    return std::clamp(size, smallest, largest);
+}
+
 } // namespace
 
 void requireRegular(const struct stat& status)
@@ -41,17 +51,15 @@ struct stat OpenFile::status()
 
 std::string OpenFile::readAll()
 {
-    constexpr std::size_t largest = 1 << 20;
     const auto expected = static_cast<std::size_t>(std::max<off_t>(status().st_size, 0));
     std::string bytes;
-    std::size_t step = std::min(expected + 1, largest); // one more than expected, so that one read meets the end
     for (;;) {
         const std::size_t size = bytes.size();
+        const std::size_t step = nextStep(size, expected);
         bytes.resize(size + step);
         const std::size_t count = readSome(bytes.data() + size, step);
         bytes.resize(size + count);
         if (count == 0) return bytes;
-        step = largest;
     }
 }
 
