@@ -131,8 +131,16 @@ std::vector<std::string> dosComponents(std::string_view path)
     return names;
 }
 
+std::string joined(std::string native, const std::vector<std::string>& names)
+{
+    for (const std::string& name : names) native += "/" + name;
+    return native;
+}
+
+/// Where all names stand as they are, which is the rule, one look at the disk is enough.
 std::string descend(std::string native, const std::vector<std::string>& names)
 {
+    if (const std::string exact = joined(native, names); !exact.empty() && exists(exact)) return exact;
     bool known = true;
     for (const std::string& name : names) {
         const std::string exact = native + "/" + name;
