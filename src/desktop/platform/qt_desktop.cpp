@@ -12,6 +12,9 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QUrl>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace tarvex {
 
@@ -21,6 +24,12 @@ QSize screenSize()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen != nullptr ? screen->availableSize() : QSize(640, 480);
+}
+
+bool aWindowIsSeen()
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.begin(), windows.end(), [](const QWindow* window) { return window->isExposed(); });
 }
 
 } // namespace
@@ -50,10 +59,16 @@ std::string QtDesktop::longDate() const
     return fromQt(QLocale::system().toString(QDate::currentDate(), QLocale::LongFormat));
 }
 
+/// Left out as long as no window is seen: to find its picture in the cursor themes makes the start longer than most of
+/// the work that it stands for.
 void QtDesktop::showHourglass(bool on)
 {
-    if (on) {
+    if (on && (m_unseenHourglasses > 0 || !aWindowIsSeen())) {
+        ++m_unseenHourglasses;
+    } else if (on) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else if (m_unseenHourglasses > 0) {
+        --m_unseenHourglasses;
     } else {
         QGuiApplication::restoreOverrideCursor();
     }

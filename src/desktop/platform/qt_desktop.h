@@ -33,6 +33,7 @@ private:
     InstanceLock m_lock;
     bool m_handlesEvents = false;
     bool m_quits = false;
+    int m_unseenHourglasses = 0;
 };
 
 } // namespace tarvex

@@ -126,6 +126,34 @@ TEST(WaitForEscape, ReturnsAtOnceWhereNoWindowIsShown)
     QApplication::processEvents();
 }
 
+TEST(QtDesktop, HourglassShowsWhileAWindowIsSeen)
+{
+    QtDesktop desktop("/nowhere");
+    QWidget window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    desktop.showHourglass(true);
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    desktop.showHourglass(false);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(QtDesktop, HourglassThatBeganBeforeAnyWindowWasSeenStaysAway)
+{
+    QtDesktop desktop("/nowhere");
+    desktop.showHourglass(true);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    QWidget window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    desktop.showHourglass(false);
+    desktop.showHourglass(true);
+    EXPECT_NE(QGuiApplication::overrideCursor(), nullptr) << "the next one shows";
+    desktop.showHourglass(false);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST(QtDesktop, TheScreenIsAsLargeAsTheRoomForWindowsOnIt)
 {
     const QSize room = QGuiApplication::primaryScreen()->availableSize();
