@@ -37,18 +37,45 @@ xcb_connection_t* connection()
     return x11 != nullptr ? x11->connection() : nullptr;
 }
 
-xcb_atom_t atom(xcb_connection_t* display, std::string_view name)
+xcb_intern_atom_cookie_t askForAtom(xcb_connection_t* display, std::string_view name)
 {
-    const auto cookie = xcb_intern_atom(display, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    return xcb_intern_atom(display, 0, static_cast<std::uint16_t>(name.size()), name.data());
+}
+
+xcb_atom_t atom(xcb_connection_t* display, xcb_intern_atom_cookie_t cookie)
+{
     const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(display, cookie, nullptr));
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
-bool hasExtension(xcb_connection_t* display)
+xcb_xkb_use_extension_cookie_t askForExtension(xcb_connection_t* display)
 {
-    const auto cookie = xcb_xkb_use_extension(display, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
+    return xcb_xkb_use_extension(display, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
+}
+
+bool isSupported(xcb_connection_t* display, xcb_xkb_use_extension_cookie_t cookie)
+{
     const Reply<xcb_xkb_use_extension_reply_t> reply(xcb_xkb_use_extension_reply(display, cookie, nullptr));
     return reply && reply->supported;
+}
+
+/// The names of the keyboard's lights.
+struct Lights {
+    xcb_atom_t capsLock = XCB_ATOM_NONE;
+    xcb_atom_t numLock = XCB_ATOM_NONE;
+};
+
+/// Nothing where the display lacks the extension. All requests are on their way before a reply is waited for: the start
+/// waits for one round trip in place of three.
+std::optional<Lights> findLights(xcb_connection_t* display)
+{
+    const auto extension = askForExtension(display);
+    const auto capsLock = askForAtom(display, "Caps Lock");
+    const auto numLock = askForAtom(display, "Num Lock");
+    const bool supported = isSupported(display, extension);
+    const Lights lights{atom(display, capsLock), atom(display, numLock)}; // no reply stays behind
+    if (!supported) return std::nullopt;
+    return lights;
 }
 
 using Cookie = xcb_xkb_get_named_indicator_cookie_t;
@@ -65,10 +92,10 @@ bool isOn(xcb_connection_t* display, Cookie cookie)
     return reply && reply->found && reply->on;
 }
 
-LockKeyState askForState(xcb_connection_t* display, xcb_atom_t capsLock, xcb_atom_t numLock)
+LockKeyState askForState(xcb_connection_t* display, const Lights& lights)
 {
-    const Cookie caps = askForIndicator(display, capsLock); // both are on their way before either is waited for
-    const Cookie num = askForIndicator(display, numLock);
+    const Cookie caps = askForIndicator(display, lights.capsLock); // both are on their way before either is waited for
+    const Cookie num = askForIndicator(display, lights.numLock);
     const bool capsIsOn = isOn(display, caps);
     return {capsIsOn, isOn(display, num)};
 }
@@ -78,14 +105,16 @@ LockKeyState askForState(xcb_connection_t* display, xcb_atom_t capsLock, xcb_ato
 std::optional<LockKeyState> lockKeyState()
 {
     xcb_connection_t* display = connection();
-    if (display == nullptr || !hasExtension(display)) return {};
-    return askForState(display, atom(display, "Caps Lock"), atom(display, "Num Lock"));
+    if (display == nullptr) return {};
+    const auto lights = findLights(display);
+    if (!lights) return {};
+    return askForState(display, *lights);
 }
 
 bool lockCaps(bool on)
 {
     xcb_connection_t* display = connection();
-    if (display == nullptr || !hasExtension(display)) return false;
+    if (display == nullptr || !isSupported(display, askForExtension(display))) return false;
     constexpr std::uint8_t lock = XCB_MOD_MASK_LOCK;
     xcb_xkb_latch_lock_state(display, coreKeyboard, lock, on ? lock : std::uint8_t{0}, 0, 0, 0, 0, 0);
     xcb_flush(display);
@@ -99,10 +128,11 @@ public:
         : m_display(display), m_changed(std::move(changed))
     {
         const xcb_query_extension_reply_t* extension = xcb_get_extension_data(display, &xcb_xkb_id);
-        if (extension == nullptr || !extension->present || !hasExtension(display)) return;
+        if (extension == nullptr || !extension->present) return;
+        const auto lights = findLights(display);
+        if (!lights) return;
         m_event = extension->first_event;
-        m_capsLock = atom(display, "Caps Lock");
-        m_numLock = atom(display, "Num Lock");
+        m_lights = *lights;
         constexpr std::uint16_t wanted = XCB_XKB_EVENT_TYPE_INDICATOR_STATE_NOTIFY;
         xcb_xkb_select_events(display, coreKeyboard, wanted, 0, wanted, 0, 0, nullptr);
         qApp->installNativeEventFilter(this);
@@ -120,13 +150,12 @@ public:
     }
 
 private:
-    void report() { m_changed(askForState(m_display, m_capsLock, m_numLock)); }
+    void report() { m_changed(askForState(m_display, m_lights)); }
 
     xcb_connection_t* m_display;
     std::function<void(LockKeyState)> m_changed;
     int m_event = -1;
-    xcb_atom_t m_capsLock = XCB_ATOM_NONE;
-    xcb_atom_t m_numLock = XCB_ATOM_NONE;
+    Lights m_lights;
 };
 
 LockKeys::LockKeys(std::function<void(LockKeyState)> changed)
