@@ -35,6 +35,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 #include <utility>
@@ -188,6 +189,8 @@ void MumWindow::bindLastPair()
     });
 }
 
+/// A start opens files in a window that isn't on the screen yet: their names and states pass, and each change of the
+/// title goes to the window manager. The last one is shown when the events get their turn.
 void MumWindow::bindTitle()
 {
     StatusBar::Panel& savedState = m_program.mum.StatusBar.Panels(panel::savedState);
@@ -198,10 +201,18 @@ void MumWindow::bindTitle()
         setWindowModified(!name.isEmpty() && showsUnsavedChanges(m_program.mum));
     };
     show();
+    auto* later = new QTimer(this);
+    later->setSingleShot(true);
+    connect(later, &QTimer::timeout, this, show);
+    const auto follow = [this, show, later] {
+        if (windowHandle() == nullptr || !windowHandle()->isExposed()) return later->start(0);
+        later->stop();
+        show();
+    };
     TabStrip& tabs = m_program.editor.TabStrip1;
-    m_bindings.follow(tabs.SelectedItem, show);
-    for (int tab = 1; tab <= tabs.Count(); ++tab) m_bindings.follow(tabs.Tabs(tab).Caption, show);
-    m_bindings.follow(savedState.Picture, show);
+    m_bindings.follow(tabs.SelectedItem, follow);
+    for (int tab = 1; tab <= tabs.Count(); ++tab) m_bindings.follow(tabs.Tabs(tab).Caption, follow);
+    m_bindings.follow(savedState.Picture, follow);
 }
 
 // ---- place and state ------------------------------------------------------------------------------------------------

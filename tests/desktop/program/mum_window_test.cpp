@@ -166,6 +166,31 @@ TEST(MumWindow, TypedTextMakesTheDocumentModifiedAndTheTitleShowsIt)
     EXPECT_TRUE(shown.window.windowTitle().startsWith("Tarvex - untitled."));
 }
 
+TEST(MumWindow, TitleFollowsAtOnceWhileTheWindowIsSeenAndOnceForAllChangesBefore)
+{
+    struct TitleChanges : QObject {
+        int count = 0;
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            if (event->type() == QEvent::WindowTitleChange) ++count;
+            return false;
+        }
+    } changes;
+    Shown shown;
+    shown.window.installEventFilter(&changes);
+    auto& caption = shown.editor().TabStrip1.Tabs(1).Caption;
+    caption = "one.b50";
+    EXPECT_EQ(changes.count, 1);
+    shown.window.hide();
+    Shown::events();
+    caption = "two.b50";
+    caption = "three.b50";
+    EXPECT_EQ(changes.count, 1);
+    Shown::events();
+    EXPECT_EQ(changes.count, 2);
+    EXPECT_TRUE(shown.window.windowTitle().contains("three.b50")) << shown.window.windowTitle().toStdString();
+}
+
 TEST(MumWindow, ClickOnATabSelectsItsDocument)
 {
     Shown shown;
