@@ -1,9 +1,12 @@
 #include "desktop/documents/text/pane_view.h"
 
+#include "desktop/documents/text/pane_text.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -13,6 +16,19 @@ namespace {
 
 constexpr int tabColumns = 8;
 constexpr int margin = 4; // pixels around the text
+
+/// The first character of the text that an empty document gets, with the caret before it: the rest then leaves the
+/// caret there, where the pane has it when a file is opened. Moved back from behind the text, it would have lines laid
+/// out that nobody sees, and that before they have their formats.
+void beginText(QPlainTextEdit& view, std::string_view text)
+{
+    if (text.empty() || !view.document()->isEmpty()) return;
+    const QSignalBlocker unnoticed(view.document()); // or it would be taken for typed
+    QTextCursor caret(view.document());
+    caret.insertText(documentText(text.substr(0, text.starts_with("\r\n") ? 2 : 1)));
+    caret.setPosition(0);
+    view.setTextCursor(caret);
+}
 
 } // namespace
 
@@ -122,6 +138,7 @@ bool PaneView::bringUpToDate()
     const QScopedValueRollback<bool> showing(m_showing, true);
     int top = verticalScrollBar()->value();
     const int left = horizontalScrollBar()->value();
+    beginText(*this, m_pane.Text());
     if (const auto rewritten = m_mirror.update(); rewritten && rewritten->last < top) top += rewritten->added;
     const bool moved = showSelection();
     m_paneMoved = false;

@@ -160,6 +160,50 @@ TEST(PaneView, EditOfTheProgramAppears)
     EXPECT_EQ(shown.view.textCursor().position(), 8);
 }
 
+TEST(PaneView, TextThatComesIntoAnEmptyPaneIsLaidOutOnlyWhereItIsSeen)
+{
+    Pane pane;
+    PaneView view(pane);
+    view.resize(600, 400);
+    std::string text;
+    for (int line = 0; line < 100; ++line) text += "BTN S1 a\r\n";
+    pane.setText(text);
+    view.settle();
+    EXPECT_EQ(view.textCursor().position(), 0);
+    const auto linesOf = [&](int block) { return view.document()->findBlockByNumber(block).layout()->lineCount(); };
+    EXPECT_EQ(linesOf(20), 0) << "nobody sees the view yet";
+    view.show();
+    ShownPane::events();
+    EXPECT_EQ(linesOf(5), 1);
+}
+
+TEST(PaneView, TextThatComesIntoAnEmptyPaneIsNoEditOfTheUser)
+{
+    for (const char* text : {"BTN S1 a", "\r\nBTN", "\r\n", "\t", "\x01x"}) {
+        ShownPane shown;
+        shown.pane.setText(text);
+        shown.changes = 0;
+        shown.expectEqual();
+        EXPECT_EQ(shown.changes, 0);
+        EXPECT_EQ(shown.pane.Text(), text);
+        shown.pane.setText("");
+        shown.expectEqual();
+        shown.type("a");
+        EXPECT_EQ(shown.pane.Text(), "a");
+    }
+}
+
+TEST(PaneView, TextThatComesIntoAnEmptyPaneGetsTheCaretOfThePane)
+{
+    ShownPane shown;
+    shown.pane.setText("BTN S1 a\r\nBTN S2 b\r\n");
+    shown.pane.setSelStart(10);
+    shown.view.settle();
+    EXPECT_EQ(shown.view.textCursor().position(), 9);
+    shown.type("x");
+    EXPECT_EQ(shown.pane.Text(), "BTN S1 a\r\nxBTN S2 b\r\n");
+}
+
 TEST(PaneView, SelectionGoesBothWays)
 {
     ShownPane shown("one\r\ntwo\r\nthree");
