@@ -30,6 +30,11 @@ TEST_F(PrintControlsTest, SeeAndPrintShowsAPageForEachControllerOnItsLongSide)
     t.printers.other.orientation = orientation::portrait;
     t.menus().mnuFilePrintControls.Click();
     EXPECT_EQ(t.lastBox().title, "Print the controls");
+    EXPECT_EQ(
+        t.lastBox().text,
+        "I can draw a sheet of what is on which button of mig.b50, a page for each controller. Do you want to see "
+        "and print it, or shall I save it as a file (PDF, SVG or a web page)?");
+    EXPECT_THAT(t.lastBox().captions, ElementsAre("See and &print...", "&Save as a file..."));
     EXPECT_THAT(t.printers.previews, ElementsAre("Print preview - the controls of mig.b50"));
     ASSERT_EQ(t.printers.other.pages.size(), 2U);
     EXPECT_THAT(t.printers.other.pages[0].drawings.at(0), HasSubstr(">fire<"));
@@ -48,6 +53,11 @@ TEST_F(PrintControlsTest, SaveWritesTheFormOfTheExtension)
         EXPECT_THAT(t.fileText(path), StartsWith(start));
     }
     EXPECT_EQ(t.dialogues.saveRequests.at(0).suggestedName, "mig controls.pdf");
+    EXPECT_EQ(t.dialogues.saveRequests.at(0).title, "Save the controls");
+    EXPECT_EQ(t.dialogues.saveRequests.at(0).directory, "c:\\tm\\b50progs\\");
+    EXPECT_EQ(t.dialogues.saveRequests.at(0).defaultExtension, "pdf");
+    EXPECT_EQ(t.dialogues.saveRequests.at(0).filter,
+              "PDF file (*.pdf)|*.pdf|SVG drawing (*.svg)|*.svg|Web page (*.html)|*.html");
     EXPECT_EQ(t.status(), "mig.html saved");
 }
 
@@ -67,6 +77,27 @@ TEST_F(PrintControlsTest, ATickKeepsACrowdedControllerOnOnePage)
         EXPECT_EQ(t.printers.other.pages.size(), onePage ? 2U : 3U);
         t.printers.other.pages.clear();
     }
+}
+
+TEST_F(PrintControlsTest, TheSheetNamesBothFilesAndTheDate)
+{
+    t.dialogues.answers = {Answer::Yes, Answer::Yes};
+    t.menus().mnuFilePrintControls.Click();
+    EXPECT_THAT(t.printers.other.pages.at(0).drawings.at(0),
+                HasSubstr(">with the macros of mig.m50, 21 November 2026<"));
+    t.editor().MacroText.setText("");
+    t.menus().mnuFilePrintControls.Click();
+    EXPECT_THAT(t.printers.other.pages.at(0).drawings.at(0), HasSubstr(">21 November 2026<"));
+}
+
+TEST_F(PrintControlsTest, AFailureIsReported)
+{
+    t.printers.other.failsAtPage = 1;
+    t.dialogues.answers = {Answer::No};
+    t.dialogues.filesToSave = {"c:\\tm\\mig.svg"};
+    t.files.failWrites("c:\\tm\\mig.svg", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    t.menus().mnuFilePrintControls.Click();
+    EXPECT_EQ(t.lastBox().text, "Saving mig.svg went wrong: Disk full");
 }
 
 TEST_F(PrintControlsTest, CancelDoesNothing)
