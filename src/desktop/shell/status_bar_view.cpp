@@ -68,14 +68,15 @@ private:
 
 } // namespace
 
-StatusBarView::StatusBarView(Mum& mum, QWidget* parent) : QStatusBar(parent)
+StatusBarView::StatusBarView(Mum& mum, QWidget* parent) : QStatusBar(parent), m_minute(new QTimer(this))
 {
     addPanels(mum);
     setMouseTracking(true);
     for (QWidget* child : findChildren<QWidget*>()) child->setMouseTracking(true);
-    m_minute.setSingleShot(true);
-    m_minute.setTimerType(Qt::PreciseTimer);
-    connect(&m_minute, &QTimer::timeout, this, [this] { showTime(); });
+    m_minute->setObjectName(QStringLiteral("Minute"));
+    m_minute->setSingleShot(true);
+    m_minute->setTimerType(Qt::PreciseTimer);
+    connect(m_minute, &QTimer::timeout, this, [this] { showTime(); });
     showTime();
 }
 
@@ -167,7 +168,7 @@ void StatusBarView::showTime()
     const QTime now = QTime::currentTime();
     const QString format = QLocale().timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
     m_time->setText(QLocale().toString(now, format));
-    m_minute.start(minute - now.msecsSinceStartOfDay() % minute + 1);
+    m_minute->start(minute - now.msecsSinceStartOfDay() % minute + 1);
 }
 
 } // namespace tarvex

@@ -40,7 +40,7 @@ private:
     QLabel* m_insert = nullptr;
     QLabel* m_numLock = nullptr;
     QLabel* m_time = nullptr;
-    QTimer m_minute;
+    QTimer* m_minute;
     Bindings m_bindings;
 };
 

@@ -24,6 +24,14 @@ struct ComposerOverlayViewTest : ComposerViewTest {
         for (int i = 2; i <= manyLines; ++i) text += "   /R Key" + std::to_string(i) + "\r\n";
         write(text);
     }
+    /// A statement on S1 of so many lines, the first of so many characters.
+    static std::string statement(int lines, std::size_t characters)
+    {
+        const std::string start = "BTN S1 /U ";
+        std::string text = start + std::string(characters - start.size(), 'x') + "\r\n";
+        for (int i = 2; i <= lines; ++i) text += "   /R Key" + std::to_string(i) + "\r\n";
+        return text;
+    }
     /// From elsewhere, because a mouse that is there already doesn't come to it.
     void pointAt(QPoint place)
     {
@@ -146,6 +154,38 @@ TEST_F(ComposerOverlayViewTest, ATipKeepsTheColumnsAndCutsLongLines)
     EXPECT_TRUE(tip.contains("BTN S1 /U  &lt;a&gt;\n       /M xxx")) << tip.toStdString();
     EXPECT_TRUE(tip.contains("xxx...")) << tip.toStdString();
     EXPECT_FALSE(tip.contains("end"));
+}
+
+TEST_F(ComposerOverlayViewTest, ATipHasTheStatementOverALineAndThenWhatAClickDoes)
+{
+    use(0, 0, 0);
+    write("BTN S1 /U Fire\r\n");
+    pointAt("BTN(0)");
+    EXPECT_EQ(shownPicture()->control("BTN(0)")->toolTip().toStdString(),
+              "<pre style=\"margin: 0\">BTN S1 /U Fire</pre><hr>Insert or find this button statement");
+    pointAt("BTN(1)");
+    EXPECT_EQ(shownPicture()->control("BTN(1)")->toolTip().toStdString(), "Insert or find this button statement");
+}
+
+TEST_F(ComposerOverlayViewTest, ThirteenLinesOfEightyCharactersAreWholeInATip)
+{
+    use(0, 0, 0);
+    write(statement(13, 80));
+    pointAt("BTN(0)");
+    const QString tip = shownPicture()->control("BTN(0)")->toolTip();
+    EXPECT_TRUE(tip.contains("Key13")) << tip.toStdString();
+    EXPECT_FALSE(tip.contains("...")) << tip.toStdString();
+}
+
+TEST_F(ComposerOverlayViewTest, OfFourteenLinesTwelveAreInATipAndOfAnEightyFirstCharacterDots)
+{
+    use(0, 0, 0);
+    write(statement(14, 81));
+    pointAt("BTN(0)");
+    const QString tip = shownPicture()->control("BTN(0)")->toolTip();
+    EXPECT_TRUE(tip.contains("Key12\n... and 2 more lines, in the box below the picture")) << tip.toStdString();
+    EXPECT_FALSE(tip.contains("Key13"));
+    EXPECT_TRUE(tip.contains("BTN S1 /U " + QString(67, u'x') + "...\n")) << tip.toStdString();
 }
 
 TEST_F(ComposerOverlayViewTest, AControlWithoutAStatementSaysSo)

@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolTip>
 
 #include <gtest/gtest.h>
@@ -554,6 +555,23 @@ TEST(MumWindow, TheLastPairComesUpAtTheLineThatWasOnTop)
     Shown::events();
     EXPECT_EQ(shown.joystick().verticalScrollBar()->value(), 120);
     EXPECT_EQ(shown.program().lastPair.firstLine(shown.editor().joystick), 120);
+}
+
+TEST(MumWindow, TheTimeIsShownAnewWhenAMinuteIsOver)
+{
+    Shown shown;
+    auto* minute = shown.window.statusBar()->findChild<QTimer*>("Minute");
+    ASSERT_NE(minute, nullptr);
+    EXPECT_TRUE(minute->isActive());
+    EXPECT_LE(minute->interval(), 60'001);
+    QLabel* clock = nullptr;
+    for (QLabel* label : shown.window.statusBar()->findChildren<QLabel*>())
+        if (label->toolTip() == "The current time") clock = label;
+    ASSERT_NE(clock, nullptr);
+    clock->setText("earlier");
+    minute->setInterval(0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clock->text() != "earlier"; }, 20'000));
+    EXPECT_TRUE(minute->isActive()) << "for the next minute";
 }
 
 } // namespace
