@@ -1,6 +1,7 @@
 #include "templates/template_editor.h"
 
 #include "documents/text/rtf/rtf.h"
+#include "language/base_format.h"
 #include "support/test_program.h"
 #include "templates/template_edit.h"
 #include "templates/template_files.h"
@@ -280,6 +281,114 @@ TEST_F(TemplateEditorTest, ANameWithoutAnExtensionIsSavedPlainUnlessTheFieldIsLe
     EXPECT_EQ(t.fileText(folder + "hat"), "x");
 }
 
+TEST_F(TemplateEditorTest, ANameMayHoldNoneOfTheSignsThatPathsNeed)
+{
+    saveAs(folder + "a.txt");
+    type("x");
+    for (const char sign : std::string("\\/:*?\"<>|\x1F\x01")) {
+        window.Text1.Text = std::string("a") + sign + "b.txt";
+        window.Command1[1].Click();
+        EXPECT_EQ(box().title, "Ooops!") << sign;
+        t.dialogues.boxes.clear();
+    }
+    window.Text1.Text = "a b'(+)!.txt";
+    window.Command1[1].Click();
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+    EXPECT_EQ(t.fileText(folder + "a b'(+)!.txt"), "x");
+}
+
+TEST_F(TemplateEditorTest, SaveAsSuggestsTheNameAndStartsInTheFolder)
+{
+    window.Text1.Text = "hat.rtf";
+    t.dialogues.filesToSave = {std::nullopt};
+    window.mnuFileSaveAs.Click();
+    const FileRequest& request = t.dialogues.saveRequests.at(0);
+    EXPECT_EQ(request.suggestedName, "hat.rtf");
+    EXPECT_EQ(request.directory, folder);
+    EXPECT_EQ(request.defaultExtension, "rtf");
+    EXPECT_EQ(request.filter, "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files "
+                              "|*.m22;*.m50;*.mdf|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files "
+                              "(*.*)|*.*");
+}
+
+TEST_F(TemplateEditorTest, OpeningTheDefaultAsksAboutUnsavedTextToo)
+{
+    t.files.addFile(folder + "default.rtf", "x");
+    t.settings().TextFilePath = folder + "default.rtf";
+    showDefaultTemplate(window);
+    type("mine");
+    t.dialogues.answers = {Answer::Cancel, Answer::No};
+    window.mnuFileLoadDefault.Click();
+    EXPECT_EQ(box().text,
+              "untitled.rtf has changed and isn't saved. Do you want to save it before opening another file?");
+    EXPECT_EQ(text(), "mine");
+    window.mnuFileLoadDefault.Click();
+    EXPECT_EQ(text(), "x");
+    EXPECT_EQ(t.status(), "default.rtf was opened successfully");
+    t.files.addFile("c:\\tm\\tm.cfg", "DLDELAY=20");
+    type("mine");
+    t.dialogues.answers = {Answer::Cancel};
+    t.menus().mnuEditTmCFG.Click();
+    EXPECT_EQ(text().find("DLDELAY"), std::string::npos);
+}
+
+TEST_F(TemplateEditorTest, TmCfgIsLookedForAboveTheFolderAndBesideTheLoader)
+{
+    t.settings().ProgramFilesPath = "c:\\tm\\b50progs";
+    t.settings().B50LoadPath = "c:\\loader\\b50load.exe";
+    t.files.addFile("c:\\loader\\tm.cfg", "beside");
+    window.mnuEditTmCFG.Click();
+    EXPECT_EQ(text(), "beside");
+    t.files.addFile("c:\\tm\\tm.cfg", "above");
+    window.mnuEditTmCFG.Click();
+    EXPECT_EQ(text(), "above");
+    EXPECT_EQ(t.program().shared.currentDirectory.path(), "c:\\tm");
+}
+
+TEST_F(TemplateEditorTest, SettingAsDefaultWithoutAFileSetsNone)
+{
+    const std::string before = t.settings().TextFilePath.whole();
+    type("x");
+    t.dialogues.filesToSave = {std::nullopt};
+    window.mnuSetAsDefault.Click();
+    EXPECT_EQ(t.settings().TextFilePath, before);
+    EXPECT_FALSE(window.Command2.Enabled);
+}
+
+TEST_F(TemplateEditorTest, FailuresAreReportedUnderTheirProcedures)
+{
+    const auto broken = [] { throw RuntimeError(ErrorCode::DeviceInputOutput, "broken"); };
+    const auto reported = [this] { return t.program().shared.errors.ErrorProcedure; };
+    saveAs(folder + "a.txt");
+    type("x");
+    t.files.failWrites("c:\\tarvex\\templates\\a.txt", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    window.Command1[1].Click();
+    EXPECT_EQ(reported(), "TEMPLATE Command1_Click");
+    EXPECT_EQ(box().text, "a.txt wasn't saved. I was trying to save it with this path: "
+                          "c:\\tarvex\\templates\\a.txt, and the error message was: Disk full.");
+    t.files.failWrites("c:\\tarvex\\templates\\a.txt", std::nullopt);
+    window.Command1[1].Click();
+    Connection listening = window.Text1.Text.changed.connect(broken);
+    t.dialogues.filesToSave = {std::string(folder + "b.txt")};
+    window.mnuFileSaveAs.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuFileSaveAs_Click");
+    t.files.addFile(folder + "c.txt", "c");
+    t.settings().TextFilePath = folder + "c.txt";
+    window.TemplateChanged = 0;
+    Command2_Click(window);
+    EXPECT_EQ(reported(), "TEMPLATE Command2_Click");
+    t.files.addFile("c:\\tm\\tm.cfg", "DLDELAY=20");
+    mnuEditTmCFG_Click(window);
+    EXPECT_EQ(reported(), "TEMPLATE mnuEditTmCFG_Click");
+    Command1_Click(window, 2);
+    EXPECT_EQ(reported(), "TEMPLATE Command1_Click");
+    listening.disconnect();
+    saveAs(folder + "d.txt");
+    listening = window.Command2.ToolTipText.changed.connect(broken);
+    window.mnuSetAsDefault.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuFileSetAsDefault_Click");
+}
+
 TEST_F(TemplateEditorTest, LeavingTheNameCompletesIt)
 {
     for (const auto& [typed, left] : {std::pair("", "untitled.rtf"),
@@ -432,6 +541,134 @@ TEST_F(TemplateEditorTest, UndoGoesBackWordByWordAndRedoForward)
     window.mnuRedo.Click();
     EXPECT_EQ(text(), "one two");
     EXPECT_FALSE(window.mnuRedo.Enabled);
+}
+
+TEST_F(TemplateEditorTest, RepeatedBlanksAreOneUndoLevelAndLaterOnesTheirOwn)
+{
+    t.pressKeys(pane, "a  b c\r\rd");
+    const auto undone = [this] {
+        window.mnuUndo.Click();
+        return text();
+    };
+    EXPECT_EQ(undone(), "a  b c");
+    EXPECT_EQ(undone(), "a  b");
+    EXPECT_EQ(undone(), "a");
+    EXPECT_EQ(undone(), "");
+    EXPECT_EQ(undone(), "") << "there is no more";
+}
+
+TEST_F(TemplateEditorTest, BackspacesRunningAreOneUndoLevel)
+{
+    t.pressKeys(pane, "abcd\b\bx\b");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "abx");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "abcd");
+}
+
+TEST_F(TemplateEditorTest, WhatWasUndoneStaysReachableBelowANewLevel)
+{
+    t.pressKeys(pane, "one two");
+    window.mnuUndo.Click();
+    t.pressKeys(pane, "X");
+    EXPECT_EQ(text().size(), 4U);
+    EXPECT_FALSE(window.mnuRedo.Enabled);
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "one two") << "the newest level before";
+}
+
+TEST_F(TemplateEditorTest, AsManyUndoLevelsAreKeptAsAreSet)
+{
+    t.settings().UndoMax = 2;
+    t.pressKeys(pane, "a b c d e");
+    EXPECT_EQ(window.Undo.Levels.size(), 3U);
+    window.mnuUndo.Click();
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "a b c");
+    EXPECT_FALSE(window.mnuUndo.Enabled);
+}
+
+TEST_F(TemplateEditorTest, AnUndoIsAChangeAndPutsTheCaretBack)
+{
+    t.pressKeys(pane, "one two");
+    window.TemplateChanged = 0;
+    pane.setSelStart(1);
+    window.mnuUndo.Click();
+    EXPECT_EQ(window.TemplateChanged, 1);
+    EXPECT_EQ(pane.SelStart(), 3);
+}
+
+TEST_F(TemplateEditorTest, CutAndPasteAreUndoLevelsOfTheirOwn)
+{
+    t.pressKeys(pane, "one");
+    window.mnuSelectAll.Click();
+    window.mnuCut.Click();
+    EXPECT_EQ(text(), "");
+    EXPECT_EQ(pane.SelIndent(), paragraphIndent) << "also of the empty text";
+    EXPECT_EQ(t.clipboard.content.text, "one");
+    window.mnuPaste.Click();
+    window.mnuPaste.Click();
+    EXPECT_EQ(text(), "oneone");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "one");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "one");
+}
+
+TEST_F(TemplateEditorTest, WithoutASelectionCutAndCopyLeaveTheClipboard)
+{
+    t.clipboard.content.text = "before";
+    t.pressKeys(pane, "one");
+    const std::size_t levels = window.Undo.Levels.size();
+    window.mnuCopy.Click();
+    window.mnuCut.Click();
+    EXPECT_EQ(t.clipboard.content.text, "before");
+    t.pressKeys(pane, "s");
+    EXPECT_EQ(window.Undo.Levels.size(), levels) << "a cut of nothing opens no level";
+}
+
+TEST_F(TemplateEditorTest, TipsAreGivenUnlessTheyAreSwitchedOff)
+{
+    t.settings().OKtoShowToolTips = 1;
+    UpdateTooltips(window);
+    EXPECT_EQ(window.Command1[0].ToolTipText, "Open a template or text file");
+    EXPECT_EQ(window.Command1[1].ToolTipText, "Save this file");
+    EXPECT_EQ(window.Command1[2].ToolTipText, "New file");
+    EXPECT_EQ(window.CmndPrint.ToolTipText, "Print this file");
+    EXPECT_EQ(window.ToggleButton1.ToolTipText, "Wrap long lines at the edge of the window");
+    t.settings().OKtoShowToolTips = 0;
+    UpdateTooltips(window);
+    for (Button& button : window.Command1) EXPECT_EQ(button.ToolTipText, "");
+    EXPECT_EQ(window.CmndPrint.ToolTipText, "");
+    EXPECT_EQ(window.ToggleButton1.ToolTipText, "");
+}
+
+TEST_F(TemplateEditorTest, FailuresOfTheEditCommandsAreReportedUnderTheirProcedures)
+{
+    const auto broken = [](const auto&...) { throw RuntimeError(ErrorCode::DeviceInputOutput, "broken"); };
+    const auto reported = [this] { return t.program().shared.errors.ErrorProcedure; };
+    type("one");
+    window.mnuSelectAll.Click();
+    t.clipboard.content.text = "x";
+    Connection listening = pane.edited.connect([&](const Pane::Edit&) { broken(); });
+    window.mnuCut.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuCut_Click");
+    window.mnuPaste.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuPaste_Click");
+    listening.disconnect();
+    listening = window.Find.Visible.changed.connect([&] { broken(); });
+    window.mnuFind.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuFind_Click");
+    listening.disconnect();
+    window.Find.What.Text = "one";
+    type("one");
+    listening = pane.selectionChanged.connect([&] { broken(); });
+    window.mnuFindNext.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuFindNext_Click");
+    window.mnuFindPrevious.Click();
+    EXPECT_EQ(reported(), "TEMPLATE mnuFindPrevious_Click");
 }
 
 TEST_F(TemplateEditorTest, UndoDoesNotReachIntoTheFileBefore)

@@ -58,6 +58,16 @@ TEST_F(UndoTest, ARunOfBlanksOrReturnsIsOneLevel)
     EXPECT_EQ(history.Levels.size(), 5U);
 }
 
+TEST_F(UndoTest, ABackspaceDoesNotEndARunOfBlanksOrReturns)
+{
+    press("ab \b ");
+    EXPECT_EQ(history.Levels.size(), 4U) << "the last blank belongs to the first";
+    press("\r\b\r");
+    EXPECT_EQ(history.Levels.size(), 6U);
+    press("c ");
+    EXPECT_EQ(history.Levels.size(), 7U) << "another key ends it";
+}
+
 TEST_F(UndoTest, EachBackspaceOpensALevel)
 {
     press("abc");
