@@ -399,6 +399,15 @@ TEST_F(Profile, Utf16FileWithAMarkAloneTakesItsFirstSection)
     EXPECT_EQ(bytes(), utf16FromUtf8(utf8Mark + "\r\n[Games]\r\nKey=1\r\n", Utf16Order::LittleEndian));
 }
 
+TEST_F(Profile, AfterAUtf16FileThatWasDeletedTheNextOneIsPlain)
+{
+    fileHolds(utf16FromUtf8(utf8Mark + "[Games]\r\nKey=1\r\n", Utf16Order::LittleEndian));
+    EXPECT_EQ(read("Key"), "1");
+    files.removeFile(path);
+    write("Key", "2");
+    EXPECT_EQ(bytes(), "[Games]\r\nKey=2\r\n");
+}
+
 TEST_F(Profile, EqualValueLeavesAUtf16FileUntouched)
 {
     fileHolds(utf16FromUtf8(utf8Mark + "[Games]\r\nKey=\u0416\r\n", Utf16Order::LittleEndian));

@@ -41,6 +41,32 @@ TEST(ReadRtf, OtherBytesGiveAnEmptyText)
 
 TEST(ReadRtf, LineEndsOfTheFileAreNoText) { EXPECT_EQ(textOf("a\r\nb\rc\nd"), "abcd"); }
 
+TEST(ReadRtf, EachLetterAndNothingElseIsPartOfAWord)
+{
+    for (char c = 'a'; c <= 'z'; ++c) {
+        for (const char letter : {c, static_cast<char>(c - 'a' + 'A')}) {
+            EXPECT_EQ(textOf(std::string("x\\") + letter + "zz y"), "xy") << letter;
+            EXPECT_EQ(textOf(std::string("x\\zz") + letter + " y"), "xy") << letter;
+        }
+    }
+    for (const char sign : std::string("@[`")) {
+        EXPECT_EQ(textOf(std::string("x\\") + sign + "zz y"), "xzz y") << sign;
+        EXPECT_EQ(textOf(std::string("x\\zz") + sign + " y"), std::string("x") + sign + " y") << sign;
+    }
+}
+
+TEST(ReadRtf, EachHexadecimalDigitAndNothingElseWritesAByte)
+{
+    const std::string digits = "0123456789abcdef0123456789ABCDEF";
+    for (char c = ' '; c <= '~'; ++c) {
+        if (c == '\\' || c == '{' || c == '}') continue;
+        const std::size_t value = digits.find(c);
+        const std::string expected =
+            value == std::string::npos ? std::string("4") + c : std::string(1, static_cast<char>('@' + value % 16));
+        EXPECT_EQ(textOf(std::string("x\\'4") + c + " y"), "x" + expected + " y") << c;
+    }
+}
+
 TEST(ReadRtf, ParagraphsAndLinesEndInCrLf)
 {
     EXPECT_EQ(textOf("a\\par b\\line c\\\r\nd\\\ne"), "a\r\nb\r\nc\r\nd\r\ne");
