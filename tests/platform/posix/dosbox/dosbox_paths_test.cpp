@@ -116,6 +116,19 @@ TEST(DosboxPaths, NeighboursThatLookTheSameToDosAreEachFound)
     EXPECT_EQ(w.bytes(w.paths.file("c:\\my f16.bac")), "short");
 }
 
+TEST(DosboxPaths, OnlyDrivesWhoseFoldersAreThereAreMounted)
+{
+    ProcessWorld w;
+    w.drives.choose('e', w.disk.makeDirectory("here"));
+    w.drives.choose('f', w.disk / "gone");
+    w.drives.choose('g', w.disk.put("a file", ""));
+    const DosboxFolder folder;
+    std::string letters;
+    const DosboxPaths paths(w.drives, folder);
+    for (const DosboxPaths::Mount& mount : paths.mounts()) letters += mount.letter;
+    EXPECT_EQ(letters, "cey") << "y: is of our own, and z: stands for all of the disk";
+}
+
 TEST(DosboxPaths, WhatLiesOutsideTheDrivesGetsLetters)
 {
     World w;

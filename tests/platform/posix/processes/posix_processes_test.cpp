@@ -153,11 +153,13 @@ TEST(StartProgram, ADirectoryATextAndAFileThatMayNotRunAreErrors)
     EXPECT_EQ(w.run("c:\\dir.exe"), 75);
     w.disk.put("drive_c/text.exe", "hello");
     EXPECT_EQ(w.run("c:\\text.exe"), 5);
+    EXPECT_EQ(w.lastError, "Invalid procedure call or argument");
     w.disk.put("drive_c/script.exe", "#!/bin/sh\n");
     EXPECT_EQ(w.run("c:\\script.exe"), 70);
     EXPECT_EQ(w.lastError, "Permission denied");
     w.script("nul.exe", "");
     EXPECT_EQ(w.run(std::string("c:\\nul.exe\0x", 12)), 64);
+    EXPECT_EQ(w.lastError, "Bad file name");
 }
 
 TEST(StartProgram, ADirectoryThatIsGoneIsNotFound)
@@ -406,9 +408,20 @@ TEST(Runner, AMissingOneIsReportedWithTheProgramThatNeedsIt)
     ASSERT_EQ(w.dialogues.boxes.size(), 1U);
     EXPECT_EQ(w.dialogues.boxes[0].title, "Where is DOSBox?");
     const std::string& text = w.dialogues.boxes[0].text;
-    EXPECT_EQ(text.find("c:\\b50load.com is a DOS program, and I need DOSBox to run it"), 0U) << text;
-    EXPECT_NE(text.find("/gone/dosbox"), std::string::npos) << text;
-    EXPECT_NE(text.find("\\Platform.ini"), std::string::npos) << text;
+    EXPECT_TRUE(
+        text.starts_with("c:\\b50load.com is a DOS program, and I need DOSBox to run it, which I couldn't find. "
+                         "You've told me that it is here: /gone/dosbox\n\nInstall it (the package is called "
+                         "dosbox), or choose it on the Extras page of the preferences, which keep it in "))
+        << text;
+    EXPECT_TRUE(text.ends_with("\\Platform.ini.")) << text;
+    w.disk.put("drive_c/b50load.exe", std::string("MZ") + std::string(58, '\0') + "\x40" + std::string(3, '\0') + "PE");
+    w.disk.put("Platform.ini", "[Programs]\r\nWine=/gone/wine\r\n");
+    EXPECT_EQ(w.run("c:\\b50load.exe"), 53);
+    EXPECT_EQ(w.dialogues.boxes.back().title, "Where is Wine?");
+    EXPECT_TRUE(
+        w.dialogues.boxes.back().text.starts_with("c:\\b50load.exe is a Windows program, and I need Wine to run "
+                                                  "it, which I couldn't find."))
+        << w.dialogues.boxes.back().text;
 }
 
 TEST(Runner, WithARelativePathIsNotRun)
