@@ -273,5 +273,40 @@ TEST_F(ComposerTest, ANumberOfBlanksThatIsNoneOrTooLargeInsertsNothing)
     }
 }
 
+std::string captionsOf(const auto& buttons)
+{
+    std::string captions;
+    for (const auto& button : buttons) captions += (captions.empty() ? "" : " | ") + button.Caption.get();
+    return captions;
+}
+
+TEST_F(ComposerTest, TheButtonsOfTheStatementPagesSayWhatTheyInsert)
+{
+    EXPECT_EQ(captionsOf(window.Command1), "USE T&QS | USE W&CS | USE NO&MOUSE | USE &NOTHR | &USE FCLK | "
+                                           "@&digitalthrottle | BTN M&T | US&E RCS | USE N&ORDDR");
+    EXPECT_EQ(captionsOf(window.Command2), "Insert | Insert | Insert");
+    EXPECT_EQ(captionsOf(window.Command8), "Insert | Insert | Insert | Insert");
+    EXPECT_EQ(captionsOf(window.Command12), "Insert | Insert");
+    EXPECT_EQ(captionsOf(window.Command15), "No Throttle | No Rudders");
+    EXPECT_EQ(captionsOf(window.DlyRptButtons), "DLY() | RPT()");
+    EXPECT_EQ(captionsOf(window.Command7), "Carriage return | Spaces");
+    EXPECT_EQ(captionsOf(window.ToggleButton1), "JSX | JSY | RDDR");
+    for (const Button* button : {&window.Command3, &window.Command4, &window.InsertANT})
+        EXPECT_EQ(button->Caption.get(), "Insert");
+    EXPECT_EQ(window.CommandREM.Caption.get(), "Rem");
+    EXPECT_EQ(window.Command10.Caption.get(), "Clear");
+}
+
+TEST_F(ComposerTest, TheButtonsOfTheLogicPageSayWhatTheyInsert)
+{
+    const FlagTab& tab = window.flags;
+    EXPECT_EQ(captionsOf(tab.CMDCompare), "AND | OR | NOT | ( | ) | BTN | DEF | F22RST | *");
+    EXPECT_EQ(captionsOf(tab.CMDFlagSlash), "/U | /M | /D | /I | /O | /T | /P | /R | /H | /N | /A | /Q");
+    EXPECT_EQ(captionsOf(tab.CMDFlagInsert), "Insert | Insert | Insert | PULSE() | DELAY() | Insert | DLY() | RPT() | "
+                                             "An0002a.txt | Help");
+    EXPECT_EQ(captionsOf(tab.Command13), "Insert all | Insert current | Analyse current joystick file");
+    EXPECT_EQ(captionsOf(window.SlashButton), "/U | /M | /D | /I | /O | /T | /P | /R | /H | /N | /A | /Q");
+}
+
 } // namespace
 } // namespace tarvex

@@ -11,8 +11,6 @@
 namespace tarvex {
 namespace {
 
-using testing::HasSubstr;
-
 struct RoundTrip : testing::Test, PreferencesProgram {
     std::string key(IniFile file, std::string_view section, const std::string& name)
     {
@@ -352,8 +350,11 @@ TEST_F(RoundTrip, FilesThatCannotBeWrittenAreReportedOnceAndNothingIsLost)
         preferences().extrasPage.Runners[0].Path.Text = "/opt/wine";
     });
     ASSERT_EQ(dialogues.boxes.size(), 1U);
-    for (const char* file : {"Tarvex.ini", "Lists.ini", "Platform.ini", "Read-only file system"})
-        EXPECT_THAT(lastBox().text, HasSubstr(file));
+    EXPECT_EQ(lastBox().text,
+              "I couldn't write this:\n\n    c:\\tarvex\\Tarvex.ini: Read-only file system"
+              "\n    c:\\tarvex\\Lists.ini: Read-only file system\n    c:\\tarvex\\Platform.ini: Read-only file system"
+              "\n\nWhat you've set counts until you close me, and I'll try again the next time that you close the "
+              "preferences.");
     EXPECT_EQ(settings().UndoMax, 77);
     EXPECT_EQ(settings().B50LoadPath, "c:\\new.exe");
     inPreferences([this] {

@@ -511,9 +511,12 @@ TEST_F(NumbersTest, AnAxisOfAFileThatTheDeviceLacksIsShownAsAutomatic)
 
 TEST_F(NumbersTest, AnotherDeviceStartsWithNothingMeasured)
 {
-    send(0, 10);
+    send(0, 10, 100'000);
+    EXPECT_NE(cell(axisRole::x, 0), "");
     numbers.Device.Click();
     EXPECT_EQ(numbers.statistics.reports(), 0U);
+    EXPECT_EQ(cell(axisRole::x, 0), "");
+    EXPECT_EQ(numbers.Rate.Caption.get().substr(0, 30), "0 reports a second, 0 so far. ");
 }
 
 } // namespace
