@@ -85,7 +85,9 @@ TEST_F(ImportTest, SettingsAreInMemoryOnThePagesAndInTheFiles)
     EXPECT_EQ(fileText("c:\\tarvex\\Templates\\Hat.rtf"), "{\\rtf1 hat}");
     EXPECT_FALSE(files.fileExists("c:\\tarvex\\Templates\\program.exe"));
     EXPECT_EQ(fileText("c:\\tarvex\\Backup\\f22.b50.bak"), "BTN S1 a");
-    EXPECT_THAT(lastBox().text, HasSubstr("I've copied 5 files."));
+    EXPECT_EQ(lastBox().title, "Welcome back!");
+    EXPECT_EQ(lastBox().text, "I've copied 5 files. Your settings as they were before are in "
+                              "c:\\tarvex\\Settings before import.");
 }
 
 TEST_F(ImportTest, TodaysSettingsAreKeptFirst)
@@ -104,7 +106,10 @@ TEST_F(ImportTest, WithoutACopyOfTodaysSettingsNothingIsImported)
     importFrom(old, [] {});
     EXPECT_NE(settings().UndoMax, 77);
     EXPECT_FALSE(files.fileExists("c:\\tarvex\\Templates\\Hat.rtf"));
-    EXPECT_THAT(lastBox().text, HasSubstr("No space left on device"));
+    EXPECT_EQ(lastBox().title, "Ooops!");
+    EXPECT_EQ(lastBox().text, "I couldn't keep a copy of your settings as they are, so I haven't imported anything: No "
+                              "space left on device");
+    EXPECT_EQ(program().shared.errors.ErrorProcedure, "PREFS import");
 }
 
 TEST_F(ImportTest, OnlyWhatIsTickedIsCopied)
@@ -144,7 +149,7 @@ TEST_F(ImportTest, ADamagedIniIsLeftOutAndSaidSo)
     importFrom(old, [this] {
         EXPECT_EQ(caption(ImportPart::Settings), "&Settings (none)");
         EXPECT_FALSE(form().Parts[0].Enabled);
-        EXPECT_THAT(form().LeftOut.Caption.get(), HasSubstr("Tarvex.ini: damaged"));
+        EXPECT_EQ(form().LeftOut.Caption.get(), "Left out:\nTarvex.ini: damaged; there is no setting in it");
     });
     EXPECT_NE(settings().UndoMax, 77);
 }
@@ -171,7 +176,9 @@ TEST_F(ImportTest, AFolderBehindALinkIsNotSearched)
         dialogues.folders.emplace_back("d:\\");
         preferences().extrasPage.Import.Click();
     });
-    EXPECT_THAT(lastBox().text, HasSubstr("no settings, lists, templates or backups"));
+    EXPECT_EQ(lastBox().text, "I've found no settings, lists, templates or backups of mine in d:\\ or the folders "
+                              "below it.");
+    EXPECT_EQ(dialogues.folderRequests.back().title, "Select the folder of the old installation, or one above it");
 }
 
 TEST_F(ImportTest, AFileInPlaceOfAFolderIsSaid)
@@ -190,7 +197,10 @@ TEST_F(ImportTest, AFileInPlaceOfOurOwnFolderIsReported)
 {
     files.addFile("c:\\tarvex\\Templates", "no folder");
     importFrom(old, [this] { tickOnly(ImportPart::Templates); });
-    EXPECT_THAT(lastBox().text, HasSubstr("This went wrong"));
+    EXPECT_EQ(lastBox().title, "Ooops!");
+    EXPECT_THAT(lastBox().text,
+                testing::StartsWith("I've copied 0 files. Your settings as they were before are in "
+                                    "c:\\tarvex\\Settings before import.\n\nThis went wrong:\n\nHat.rtf: "));
     EXPECT_EQ(fileText("c:\\tarvex\\Templates"), "no folder");
 }
 
@@ -237,7 +247,9 @@ TEST_F(ImportTest, AFolderWithNothingOfOursIsSaid)
         dialogues.folders.emplace_back("d:\\empty");
         preferences().extrasPage.Import.Click();
     });
-    EXPECT_THAT(lastBox().text, HasSubstr("d:\\empty"));
+    EXPECT_EQ(lastBox().title, "Hmmm...let me think...");
+    EXPECT_EQ(lastBox().text, "I've found no settings, lists, templates or backups of mine in d:\\empty or the folders "
+                              "below it.");
     EXPECT_THAT(dialogues.modalForms, ElementsAre("Preferences"));
 }
 
@@ -247,14 +259,17 @@ TEST_F(ImportTest, OurOwnFolderIsRefused)
         dialogues.folders.emplace_back("c:\\Tarvex");
         preferences().extrasPage.Import.Click();
     });
-    EXPECT_THAT(lastBox().text, HasSubstr("my own settings"));
+    EXPECT_EQ(lastBox().text, "That's where I keep my own settings. There is nothing to bring along.");
 }
 
 TEST_F(ImportTest, FilesOnAnotherDriveAreHintedAt)
 {
     files.removeDirectory("c:\\tm\\b50progs");
     importFrom(old, [] {});
-    EXPECT_THAT(lastBox().text, HasSubstr("Your files were in c:\\tm\\b50progs"));
+    EXPECT_THAT(lastBox().text,
+                testing::EndsWith(".\n\nYour files were in c:\\tm\\b50progs, which isn't there on this machine. Either "
+                                  "set that drive on the Extras page, or choose another folder on the File locations "
+                                  "page."));
 }
 
 TEST_F(ImportTest, AManyFoldersDeepDiskIsSearchedToABound)

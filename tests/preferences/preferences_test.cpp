@@ -268,6 +268,43 @@ TEST_F(PreferencesTest, TheSamplesArePaintedInTheColoursOfTheSettings)
     });
 }
 
+TEST_F(PreferencesTest, TheSamplesHaveSomethingOfEachColour)
+{
+    const ColoursPage& page = preferences().coloursPage;
+    inPreferences([&] {
+        EXPECT_EQ(page.ExampleJoystickText.Text(), "Rem -----------------------------------------\r\n"
+                                                   "Rem         My joystick file\r\n"
+                                                   "Rem -----------------------------------------\r\n"
+                                                   "USE TQS\r\n"
+                                                   "MDEF Longbow2\r\n"
+                                                   "ANT 1 5 SensorZoom- SensorZoom+ N\r\n"
+                                                   "BTN T4 /P RAW (#5B) /R RAW (#F0 #5B)    rem tail right\r\n"
+                                                   "BTN H1U  /T /N FrontNoCockpit  /T /N Front\r\n"
+                                                   "Rate 20");
+        EXPECT_EQ(page.ExampleMacroText.Text(), "Rem -----------------------------------------\r\n"
+                                                "Rem         My macro file\r\n"
+                                                "Rem -----------------------------------------\r\n"
+                                                "For_Recovery = 4 DLY(60) 4 DLY(60) 3\r\n"
+                                                "Yes = y\r\n"
+                                                "No = n\r\n"
+                                                "Chaff = RAW (#E0 #70 #E0 #F0 #70)\r\n"
+                                                "Acm_Rgt2 = /P KP6 /R F1\r\n"
+                                                "Trim_Lft = ALT ,");
+        EXPECT_EQ(page.List1.Items.get(),
+                  (std::vector<std::string>{"Background: Joystick", "Text: Joystick", "Buttons", "Slash modifiers",
+                                            "Raw statements", "Miscellaneous", "Rem statements", "Background: Macro",
+                                            "Text: Macro"}));
+    });
+}
+
+TEST_F(PreferencesTest, TheTipOnFontsExplainsWhatTheyAreGoodFor)
+{
+    inPreferences([this] { preferences().coloursPage.Command17.Click(); });
+    EXPECT_EQ(lastBox().title, "Lining up slash modifiers");
+    EXPECT_EQ(lastBox().text, "If you want all your slash modifiers to line up as they do in Notepad, choose a fixed "
+                              "pitch font, like Courier New.");
+}
+
 TEST_F(PreferencesTest, AChosenColourIsStoredShownAndWritten)
 {
     static constexpr Colour green = 0x00AA00;
