@@ -154,6 +154,14 @@ TEST_F(Index, SearchPutsTitlesFirstAndThenThePagesThatHaveTheWordMoreOften)
     EXPECT_THAT(found("safein"), ElementsAre("safein.html"));
 }
 
+TEST_F(Index, AWordInTheTitleCountsMoreThanAnyNumberInTheText)
+{
+    const HandbookIndex two("chapter\tc\npage\ta.html\tA\tone one one\npage\tb.html\tOne\tnothing\n");
+    std::vector<std::size_t> pages;
+    for (const auto& hit : two.search("one")) pages.push_back(hit.page);
+    EXPECT_THAT(pages, ElementsAre(1, 0));
+}
+
 TEST_F(Index, AnExcerptShowsThePlaceBetweenWholeWords)
 {
     std::string words;
