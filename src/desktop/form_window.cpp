@@ -1,6 +1,7 @@
 #include "desktop/form_window.h"
 
 #include "desktop/minimise.h"
+#include "desktop/screen_room.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -88,7 +89,7 @@ void FormWindow::place()
     const QScreen* screen = QGuiApplication::screenAt(corner);
     if (screen == nullptr) return;
     const QRect room = screen->availableGeometry();
-    const QSize size = testAttribute(Qt::WA_Resized) ? this->size() : sizeHint();
+    const QSize size = (testAttribute(Qt::WA_Resized) ? this->size() : sizeHint()) + frameSizeOf(*this);
     move(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - size.width())),
          std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() - size.height())));
 }

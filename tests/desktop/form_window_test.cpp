@@ -1,5 +1,6 @@
 #include "desktop/form_window.h"
 
+#include "desktop/screen_room.h"
 #include "desktop/text.h"
 #include "desktop/tool_form_window.h"
 #include "platform/input.h"
@@ -82,7 +83,8 @@ TEST_F(FormWindowTest, APlaceAtTheEdgeOfTheScreenIsMovedUntilTheWholeWindowIsOnI
     FormWindow window(form, "Form1", nullptr);
     window.resize(200, 100);
     form.Visible = true;
-    EXPECT_EQ(window.pos(), QPoint(room().right() - 200, room().bottom() - 100));
+    const QSize whole = QSize(200, 100) + frameSizeOf(window);
+    EXPECT_EQ(window.pos(), QPoint(room().right() - whole.width(), room().bottom() - whole.height()));
 }
 
 TEST_F(FormWindowTest, AWindowLargerThanTheScreenBeginsAtItsCorner)

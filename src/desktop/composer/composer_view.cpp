@@ -5,13 +5,14 @@
 #include "desktop/composer/hardware_page.h"
 #include "desktop/composer/list_pages.h"
 #include "desktop/composer/statement_forms.h"
+#include "desktop/screen_room.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -28,14 +29,32 @@ ComposerView::ComposerView(InsertOptions& window, QWidget* parent)
     parts->addWidget(makeListPages());
     parts->setStretchFactor(0, 1);
     parts->setChildrenCollapsible(false);
-    column->addWidget(parts, 1);
+    QScrollArea* area = scrolling(*parts);
+    column->addWidget(area, 1);
     column->addLayout(makeTicks());
     column->addLayout(makeFoot());
     m_bindings.timer(window.TimerAssigned, *this);
-    const QSize room = screen()->availableSize();
-    const QSize size = QSize(toPixels(window.form.Width), toPixels(window.form.Height)).boundedTo(room);
-    resize(size);
-    parts->setSizes({size.width() - listsWidth, listsWidth});
+    ensurePolished();
+    const QSize least = parts->minimumSizeHint();
+    const QMargins margins = column->contentsMargins();
+    const QSize whole(least.width() + margins.left() + margins.right(),
+                      least.height() + column->minimumSize().height() - area->minimumSizeHint().height());
+    const QSize room = screenRoom(*this);
+    QSize size = QSize(toPixels(window.form.Width), toPixels(window.form.Height)).expandedTo(whole);
+    if (size.height() > room.height()) size.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    resize(size.boundedTo(room));
+    parts->setSizes({width() - listsWidth, listsWidth});
+}
+
+/// On a screen that is too small for the pages they scroll; what is below them stays in sight.
+QScrollArea* ComposerView::scrolling(QWidget& parts)
+{
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(&parts);
+    return area;
 }
 
 QTabWidget* ComposerView::makeStatementPages()

@@ -4,6 +4,7 @@
 #include "desktop/tool_form_window.h"
 
 class QLayout;
+class QScrollArea;
 class QTabWidget;
 
 namespace tarvex {
@@ -18,6 +19,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QScrollArea* scrolling(QWidget& parts);
     QTabWidget* makeStatementPages();
     QTabWidget* makeListPages();
     QLayout* makeTicks();

@@ -13,7 +13,7 @@ namespace {
 QString printable(QString text)
 {
     for (QChar& character : text) {
-        if (!character.isPrint()) character = u' ';
+        if (!character.isPrint() && !character.isSurrogate()) character = u' ';
     }
     return text;
 }

@@ -7,6 +7,7 @@
 #include "desktop/pane_colours.h"
 #include "desktop/platform/native_keys.h"
 #include "desktop/safein/key_pad_view.h"
+#include "desktop/screen_room.h"
 #include "desktop/toggle_view.h"
 #include "safein/key_pad.h"
 
@@ -17,7 +18,6 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QTimer>
 #include <QValidator>
 
@@ -52,8 +52,7 @@ SafeinView::SafeinView(RAWform& window, QWidget* parent)
     column->addLayout(toggleRow());
     column->addLayout(slashRow());
     column->addLayout(fieldGrid());
-    const QSize room = screen()->availableSize();
-    resize(QSize(toPixels(window.form.Width), toPixels(window.form.Height)).boundedTo(room));
+    resize(QSize(toPixels(window.form.Width), toPixels(window.form.Height)).boundedTo(screenRoom(*this)));
 }
 
 QLayout* SafeinView::toggleRow()
