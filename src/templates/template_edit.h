@@ -3,6 +3,7 @@
 #include "templates/template_form.h"
 
 #include <concepts>
+#include <utility>
 
 namespace tarvex {
 
@@ -11,9 +12,13 @@ namespace tarvex {
 /// What `write` does to the text does not count as an edit by the user.
 template <std::invocable Write> void writeWithoutEdit(TemplateForm& window, Write&& write)
 {
-    const std::int16_t before = std::exchange(window.IsLoading, 1);
+    struct Restored { // also when the write fails: edits that don't count would be lost
+        std::int16_t& flag;
+        std::int16_t before;
+        ~Restored() { flag = before; }
+    };
+    const Restored loading{window.IsLoading, std::exchange(window.IsLoading, std::int16_t{1})};
     write();
-    window.IsLoading = before;
 }
 
 void TemplateText_Change(TemplateForm& window);

@@ -138,6 +138,18 @@ TEST_F(TemplateEditorTest, AFailureIsOnRecordUnderTheNameOfItsCommand)
     EXPECT_EQ(tag, "TEMPLATE mnuTextToBlack_Click");
 }
 
+TEST_F(TemplateEditorTest, AfterALoadThatFailsHalfWayEditsStillCount)
+{
+    t.files.addFile(folder + "a.txt", "x");
+    {
+        const auto failing =
+            pane.edited.connect([](const Pane::Edit&) { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
+        open(folder + "a.txt");
+    }
+    type("y");
+    EXPECT_EQ(window.TemplateChanged, 1);
+}
+
 TEST_F(TemplateEditorTest, ACancelledOpenDialogueLeavesEverything)
 {
     t.dialogues.filesToOpen = {std::nullopt};
