@@ -74,9 +74,12 @@ void insertMacro(InsertOptions& window)
 {
     Editor& editor = window.editor;
     Side& side = editor.joystick;
+    const Steps step(editor.shared.errors, "COMPOSER List1_DblClick");
     BeginColInsert(editor);
-    side.pane.setSelText(textToInsert(side.pane, windows1252FromUtf8(editor.macros.SelectedMacro)));
-    putCaret(side, side.pane.SelStart());
+    step([&] {
+        side.pane.setSelText(textToInsert(side.pane, windows1252FromUtf8(editor.macros.SelectedMacro)));
+        putCaret(side, side.pane.SelStart());
+    });
     if (editor.shared.settings.COMPaddCR == 1) InsertCarriageReturn(editor);
     EndColInsert(editor);
     returnFocus(window);

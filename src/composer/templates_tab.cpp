@@ -73,7 +73,7 @@ void TextFromTempRichTextBox(Editor& editor, Pane& target)
     editor.TempRichTextBox.setText("");
 }
 
-void insertTemplate(InsertOptions& window, Side& side)
+void insertTemplate(InsertOptions& window, Side& side, std::string_view tag)
 {
     Editor& editor = window.editor;
     const Pane& preview = window.templates.TemplatesPreview;
@@ -81,13 +81,15 @@ void insertTemplate(InsertOptions& window, Side& side)
     if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab);
     leaveShownUse(window);
     BeginColInsert(editor);
-    if (!side.pane.Locked) {
+    const Steps step(editor.shared.errors, tag);
+    step([&] {
+        if (side.pane.Locked) return;
         if (!isAtLineStart(side.pane)) InsertCarriageReturn(editor);
         TextToTempRichTextBox(editor, preview);
         TempTextRefreshFont(editor);
         TextFromTempRichTextBox(editor, side.pane);
         putCaret(side, side.pane.SelStart());
-    }
+    });
     EndColInsert(editor);
     returnFocus(window);
 }
@@ -138,15 +140,17 @@ void TemplatesPreview_MouseDown(InsertOptions& window, int button)
 
 void TemplatesPreview_DblClick(InsertOptions& window)
 {
-    tagged(window, "COMPOSER TemplatesPreview_DblClick", [&] { insertTemplate(window, window.editor.selected()); });
+    constexpr std::string_view tag = "COMPOSER TemplatesPreview_DblClick";
+    tagged(window, tag, [&] { insertTemplate(window, window.editor.selected(), tag); });
 }
 
 void Command11_Click(InsertOptions& window, int Index)
 {
-    tagged(window, "COMPOSER Command11_Click", [&] {
+    constexpr std::string_view tag = "COMPOSER Command11_Click";
+    tagged(window, tag, [&] {
         constexpr int refresh = 2;
         if (Index == refresh) return FillTemplates(window);
-        insertTemplate(window, Index == 0 ? window.editor.joystick : window.editor.macro);
+        insertTemplate(window, Index == 0 ? window.editor.joystick : window.editor.macro, tag);
     });
 }
 

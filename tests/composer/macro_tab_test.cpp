@@ -87,6 +87,17 @@ TEST_F(MacroTabTest, ADoubleClickWithTheCaretAt0GivesTheNameAndOneBlank)
     EXPECT_EQ(joystick.SelStart(), 5);
 }
 
+TEST_F(MacroTabTest, ADoubleClickThatFailsLeavesTheFileToTheUser)
+{
+    {
+        const auto failing =
+            joystick.edited.connect([](const Pane::Edit&) { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
+        doubleClick(0);
+    }
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "COMPOSER List1_DblClick");
+    EXPECT_EQ(t.program().shared.IsLoading, 0) << "what is typed now would not count as an edit";
+}
+
 TEST_F(MacroTabTest, BehindAWordABlankComesFirst)
 {
     write("BTN S1");

@@ -136,6 +136,19 @@ TEST_F(TemplatesTest, InsertingIntoTheJoystickFileBringsTheColoursAndTheFontOfTh
     EXPECT_EQ(editor.TempRichTextBox.Text(), "");
 }
 
+TEST_F(TemplatesTest, AnInsertionThatFailsLeavesTheFileToTheUser)
+{
+    file("a.rtf", rtf);
+    choose("a.rtf");
+    {
+        const auto failing =
+            joystick.edited.connect([](const Pane::Edit&) { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
+        tab.Command11[0].Click();
+    }
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "COMPOSER Command11_Click");
+    EXPECT_EQ(t.program().shared.IsLoading, 0) << "what is typed now would not count as an edit";
+}
+
 TEST_F(TemplatesTest, InsideALineATemplateBeginsALineOfItsOwn)
 {
     file("a.txt", "new\r\n");
