@@ -360,6 +360,7 @@ TEST(Recovery, ColoursTheTextWhenOpenedFilesAre)
     const Colour statement = pane.formatAt(0).colour;
     EXPECT_NE(statement, 0);
     EXPECT_EQ(pane.formatAt(10).colour, statement) << "old and new text alike";
+    for (const int macro : {7, 17}) EXPECT_EQ(pane.formatAt(macro).colour, 0) << "not that of the text beside it";
     EXPECT_EQ(t.joystick().Changed, changed::modified);
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "BTN S1 fire\r\n");
