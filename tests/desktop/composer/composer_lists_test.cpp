@@ -278,5 +278,15 @@ TEST_F(ComposerFlagsTest, ReturnInAListOrAFieldOfATermInsertsIt)
     EXPECT_TRUE(field(0).text().contains("DLY(7)")) << field(0).text().toStdString();
 }
 
+TEST_F(ComposerFlagsTest, AFieldThatIsNotChosenHasTheWindowsColourAlsoInAnotherAppearance)
+{
+    QPalette dark = form()->palette();
+    dark.setColor(QPalette::Window, QColor(0x20, 0x22, 0x24));
+    form()->setPalette(dark);
+    QEvent change(QEvent::StyleChange);
+    QApplication::sendEvent(&field(3), &change);
+    EXPECT_EQ(ground(3), QColor(0x20, 0x22, 0x24));
+}
+
 } // namespace
 } // namespace tarvex
