@@ -276,15 +276,6 @@ TEST(WordWrap, AModifierIsNotLeftAloneBeforeAWordThatHasToBeParted)
     EXPECT_EQ(lines[0].words[1].text, "Look_");
 }
 
-TEST(WordWrap, AWordAfterAPartedOneStandsBesideItsLastPart)
-{
-    const auto lines = wrapWords({{"abcdefghij"}, {"kl"}}, textWidth("abcdefgh", 10, false), 10);
-    ASSERT_EQ(lines.size(), 2U);
-    ASSERT_EQ(lines[1].words.size(), 2U);
-    EXPECT_EQ(lines[1].words[0].text, "ij");
-    EXPECT_DOUBLE_EQ(lines[1].words[1].x, textWidth("ij ", 10, false));
-}
-
 TEST(WordWrap, AWordThatFillsTheLineExactlyIsNotParted)
 {
     const double width = textWidth("one two", 10, false);
