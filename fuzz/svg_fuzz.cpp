@@ -20,7 +20,8 @@ void require(bool holds)
 
 void requireInside(QStringView reference)
 {
-    require(reference.startsWith(u'#') || reference.startsWith(QStringLiteral("data:")));
+    const bool isData = reference.startsWith(QStringLiteral("data:")) && !reference.contains(u'(');
+    require(reference.startsWith(u'#') || isData);
 }
 
 void requireClean(const QByteArray& svg)
@@ -30,8 +31,11 @@ void requireClean(const QByteArray& svg)
         const QXmlStreamReader::TokenType token = reader.readNext();
         require(token != QXmlStreamReader::DTD && token != QXmlStreamReader::ProcessingInstruction);
         for (const QXmlStreamAttribute& attribute : reader.attributes()) {
-            if (attribute.name() == u"href") requireInside(attribute.value());
-            require(!attribute.value().contains(QStringLiteral("url(http"), Qt::CaseInsensitive));
+            // Behind "#" stands the name of a place, however it reads.
+            if (attribute.name() == u"href")
+                requireInside(attribute.value());
+            else
+                require(!attribute.value().contains(QStringLiteral("url(http"), Qt::CaseInsensitive));
         }
     }
     require(!reader.hasError());

@@ -216,6 +216,18 @@ TEST_F(QtPicturesTest, APictureOfPixelsStaysAndADrawingThatCallsItselfOneDoesNot
     EXPECT_FALSE(cleaned(zippedDrawing()).contains("data:"));
 }
 
+TEST(WithoutOutsideReferences, DataThatIsMoreThanKindAndBase64IsLeftOut)
+{
+    const auto cleaned = [](const QByteArray& data) {
+        return withoutOutsideReferences("<svg><image href='data:" + data + "'/></svg>");
+    };
+    EXPECT_TRUE(cleaned("image/png;base64,iVBORw0K\nGgo=").contains("data:")) << "base64 may have lines";
+    EXPECT_TRUE(cleaned("image/svg+xml;charset=utf-8;base64,iVBORw0KGgo=").contains("data:"));
+    for (const char* data : {"image/png;base64,iVBORw0KGgo= url(http://a.b)", "image/png;base64,iVBORw0KGgo=\xC3\xA4",
+                             "url(http://a.b);base64,iVBORw0KGgo=", "image/png;x=(;base64,iVBORw0KGgo="})
+        EXPECT_FALSE(cleaned(data).contains("data:")) << data;
+}
+
 TEST(WithoutOutsideReferences, ElementsThatStandForOthersMayNotMultiply)
 {
     const auto nested = [](int levels) {

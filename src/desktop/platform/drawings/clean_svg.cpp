@@ -43,12 +43,23 @@ bool isPixels(const QByteArray& bytes)
     return std::ranges::any_of(beginnings, [=](std::string_view beginning) { return view.starts_with(beginning); });
 }
 
+/// What the kind of data and base64 are written in. Qt passes over anything else among the letters of base64, so that
+/// it could hide something there.
+bool isPlainData(QStringView data)
+{
+    return std::ranges::all_of(data, [](QChar c) {
+        return (c.unicode() < 0x80 && c.isLetterOrNumber()) || c.isSpace() || QStringView(u"+/=;,.-").contains(c);
+    });
+}
+
 bool isOutsideTarget(QStringView target)
 {
     if (target.startsWith(u'#')) return false;
+    const QString scheme = QStringLiteral("data:");
     const QString mark = QStringLiteral("base64,");
     const qsizetype at = target.indexOf(mark);
-    if (!target.startsWith(QStringLiteral("data:")) || at < 0 || at != target.lastIndexOf(mark)) return true;
+    if (!target.startsWith(scheme) || at < 0 || at != target.lastIndexOf(mark)) return true;
+    if (!isPlainData(target.mid(scheme.size()))) return true;
     constexpr qsizetype enoughForBeginning = 64;
     return !isPixels(QByteArray::fromBase64(target.mid(at + mark.size(), enoughForBeginning).toLatin1()));
 }
