@@ -263,8 +263,11 @@ void beginJournal(Editor& editor, const JournalledText& text, std::uint64_t repl
 void writeDownChanges(Editor& editor, const JournalledText& text)
 {
     JournalRecord& journal = text.Journal;
-    if (!journal.Unwritten || journal.Failed || journal.Held) return;
-    if (!journal.Out) return beginJournal(editor, text, journal.Number);
+    if (journal.Failed || journal.Held) return;
+    // A change that alters nothing makes a document modified, too: from then on its text is kept whatever becomes of
+    // the file.
+    if (!journal.Out && (journal.Unwritten || journal.File)) return beginJournal(editor, text, journal.Number);
+    if (!journal.Unwritten) return;
     append(editor, journal, journalEdit(takeUnwritten(journal, text.pane.Text()), journal.Chain));
     if (journal.Out && hasOutgrown(text)) beginJournal(editor, text, journal.Number);
 }

@@ -314,6 +314,18 @@ TEST(Recovery, EditsTakenBackInATextThatStandsInNoFileAreNoReasonToDropIt)
     EXPECT_EQ(t.joystick().Changed, changed::modified);
 }
 
+TEST(Recovery, ATextThatAKeyMadeModifiedWithoutAnEditComesBackWhenItsFileHasChanged)
+{
+    OpenPair t;
+    t.editor().JoystickText.userEdit(t.editor().JoystickText.TextLength(), 1, ""); // Delete behind the last character
+    ASSERT_EQ(t.joystick().Changed, changed::modified);
+    t.files.addFile(joystickPath, "BTN S1 theirs\r\n");
+    t.killAndStart({Answer::Yes});
+    ASSERT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.editor().JoystickText.Text(), "BTN S1 fire\r\n");
+    EXPECT_EQ(t.fileText(joystickPath), "BTN S1 theirs\r\n");
+}
+
 TEST(Recovery, IsNotOfferedForANewDocumentThatIsEmptyAgain)
 {
     TestProgram t;
