@@ -418,7 +418,7 @@ TEST_F(HardwareStates, WithTheKeyboardItHasAnEdgeInTheColourOfSelectionsAndAWhit
     EXPECT_GT(now.around, 120);
     EXPECT_EQ(now.elsewhere, 0);
     EXPECT_GT(countOf(t.image(), accent), countOf(normal, accent) + 60);
-    t.window.setPalette(darkPalette()); // a white edge can't be told from a light ground
+    t.window.setPalette(darkPalette()); // on a light ground a white edge is not seen
     t.settle();
     const QImage onDark = t.image();
     hat.clearFocus();

@@ -8,7 +8,7 @@
 
 namespace tarvex {
 
-/// New objects of the toolkit's kinds, to tell what a window has set from what comes by itself.
+/// New objects of the toolkit's kinds: what differs from them was set by the window.
 class PlainWidgets {
 public:
     PlainWidgets();
