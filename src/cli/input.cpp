@@ -1,5 +1,7 @@
 #include "cli/input.h"
 
+#include "platform/utf16.h"
+
 #include <cerrno>
 #include <cstring>
 
@@ -59,7 +61,7 @@ std::string readInput(const std::string& path)
     Input input(path);
     std::string bytes;
     while (input.readInto(bytes)) continue;
-    return bytes;
+    return textOfFile(std::move(bytes));
 }
 
 void print(const std::string& bytes)

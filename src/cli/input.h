@@ -20,7 +20,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The bytes of a file by native path; "-" is standard input. Takes pipes and devices, up to 256 MB. Throws CallError.
+/// The bytes of a file by native path, or its text when it is in UTF-16; "-" is standard input. Takes pipes and
+/// devices, up to 256 MB. Throws CallError.
 std::string readInput(const std::string& path);
 
 /// The name by which messages call it.

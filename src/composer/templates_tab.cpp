@@ -7,6 +7,7 @@
 #include "language/commands/side_caret.h"
 #include "platform/input.h"
 #include "platform/text.h"
+#include "platform/utf16.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>
@@ -124,7 +125,7 @@ void Templates_Click(InsertOptions& window)
     step([&] {
         const FileSystem& files = window.editor.platform.files;
         const std::string path = tab.Folder + names[row];
-        if (files.stamp(path).size <= largestTemplate) show(tab.TemplatesPreview, files.read(path));
+        if (files.stamp(path).size <= largestTemplate) show(tab.TemplatesPreview, textOfFile(files.read(path)));
     });
 }
 

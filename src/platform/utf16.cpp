@@ -1,6 +1,9 @@
 #include "platform/utf16.h"
 
 #include "platform/utf8.h"
+#include "platform/windows1252.h"
+
+#include <algorithm>
 
 namespace tarvex {
 namespace {
@@ -43,6 +46,8 @@ char32_t loneSurrogate(std::string_view text)
     if (text.size() < 3 || text[0] != '\xED' || !isUtf8Continuation(text[1]) || !isUtf8Continuation(text[2])) return 0;
     return 0xD000U | (static_cast<char32_t>(text[1]) & 0x3FU) << 6U | (static_cast<char32_t>(text[2]) & 0x3FU);
 }
+
+constexpr std::size_t markSize = 2;
 
 } // namespace
 
@@ -91,6 +96,21 @@ std::string utf16FromUtf8(std::string_view text, Utf16Order order)
         text.remove_prefix(next.size);
     }
     return bytes;
+}
+
+std::string textOfFile(std::string bytes)
+{
+    const auto order = utf16OrderOf(bytes);
+    if (!order) return bytes;
+    return windows1252FromUtf8(utf8FromUtf16(std::string_view(bytes).substr(markSize), *order));
+}
+
+std::size_t charactersLostFromFile(std::string_view bytes)
+{
+    const auto order = utf16OrderOf(bytes);
+    if (!order) return 0;
+    const std::string text = utf8FromUtf16(bytes.substr(markSize), *order);
+    return static_cast<std::size_t>(std::ranges::count(windows1252FromUtf8(text), '?') - std::ranges::count(text, '?'));
 }
 
 } // namespace tarvex

@@ -19,4 +19,10 @@ std::string utf8FromUtf16(std::string_view bytes, Utf16Order order);
 /// Other bytes than utf8FromUtf16 gives become U+FFFD.
 std::string utf16FromUtf8(std::string_view text, Utf16Order order);
 
+/// The Windows-1252 text of a file: a file in UTF-16 is decoded without its mark, and characters that the code page
+/// lacks become "?"; any other file is its text.
+std::string textOfFile(std::string bytes);
+/// Number of characters that textOfFile can't keep.
+std::size_t charactersLostFromFile(std::string_view bytes);
+
 } // namespace tarvex

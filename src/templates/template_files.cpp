@@ -5,6 +5,7 @@
 #include "documents/text/rtf/rtf.h"
 #include "platform/dos_devices.h"
 #include "platform/dos_path.h"
+#include "platform/utf16.h"
 #include "platform/windows1252.h"
 #include "templates/shipped_templates.h"
 #include "templates/template_edit.h"
@@ -132,7 +133,7 @@ bool loadTemplate(TemplateForm& window, const std::string& path, const std::stri
         if (!plain && looksLikeRtf(*bytes))
             pane.setTextRTF(readRtf(*bytes, pane.formats()));
         else
-            pane.setText(*bytes);
+            pane.setText(textOfFile(*bytes));
     });
     nameFile(window, path, name);
     refreshLayout(window);

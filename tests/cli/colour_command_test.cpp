@@ -83,6 +83,12 @@ TEST_F(ColourCommandTest, ADashReadsStandardInputAsAJoystickFileByDefault)
     EXPECT_EQ(runsOf(tarvexctl({"colour", "-", "--as", "macro"}, "ant 1")), (Runs{{0, 5, 0}}));
 }
 
+TEST_F(ColourCommandTest, AFileInUtf16IsReadAsItsText)
+{
+    const std::string bytes("\xFF\xFEr\0e\0m\0 \0y\0\n\0z\0", 16);
+    EXPECT_EQ(runsOfFile("a.b50", bytes), (Runs{{0, 5, rem}, {5, 3, 0}}));
+}
+
 TEST_F(ColourCommandTest, AnEmptyTextHasNoRuns)
 {
     const CliResult result = tarvexctl({"colour", "-"});

@@ -68,4 +68,32 @@ TEST(Utf8FromUtf16, WholeCharactersGiveValidUtf8AndHalfPairsDoNot)
     EXPECT_FALSE(isValidUtf8(utf8FromUtf16("\x3D\xD8"s, LittleEndian)));
 }
 
+TEST(TextOfFile, Utf16IsDecodedWithoutItsMark)
+{
+    EXPECT_EQ(textOfFile("\xFF\xFE"
+                         "B\0\xE9\0\xAC\x20"s),
+              "B\xE9\x80");
+    EXPECT_EQ(textOfFile("\xFE\xFF\0B\0\xE9"s), "B\xE9");
+    EXPECT_EQ(textOfFile("\xFF\xFE"), "");
+}
+
+TEST(TextOfFile, AnyOtherFileIsItsText)
+{
+    for (const std::string& bytes : {""s, "\xFF"s,
+                                     "\xEF\xBB\xBF"
+                                     "a"s,
+                                     "a\0b"s, "x\xFF\xFE"s}) {
+        EXPECT_EQ(textOfFile(bytes), bytes);
+        EXPECT_EQ(charactersLostFromFile(bytes), 0U);
+    }
+}
+
+TEST(TextOfFile, CharactersThatTheCodePageLacksAreQuestionMarksAndCounted)
+{
+    const std::string bytes = "\xFF\xFE"
+                              "?\0\x16\x04\x17\x04"s;
+    EXPECT_EQ(textOfFile(bytes), "???");
+    EXPECT_EQ(charactersLostFromFile(bytes), 2U);
+}
+
 } // namespace tarvex

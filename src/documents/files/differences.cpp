@@ -2,6 +2,7 @@
 
 #include "documents/files/largest_text.h"
 #include "platform/text.h"
+#include "platform/utf16.h"
 #include "platform/windows1252.h"
 
 #include <algorithm>
@@ -28,7 +29,7 @@ std::string fileText(const Editor& editor, const Side& side)
     const Steps step(editor.shared.errors, "DIFFERENCES Form_Load");
     std::string text;
     if (!isTooLarge(editor, side.FilePath))
-        step([&] { text = withWindowsLineEnds(editor.platform.files.read(side.FilePath)); });
+        step([&] { text = withWindowsLineEnds(textOfFile(editor.platform.files.read(side.FilePath))); });
     return text;
 }
 

@@ -7,6 +7,7 @@
 #include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
+#include "platform/utf16.h"
 
 namespace tarvex {
 
@@ -51,6 +52,17 @@ std::size_t otherLineEnds(std::string_view bytes)
         if (isPair) ++i;
     }
     return count;
+}
+
+/// The next save writes Windows-1252, the only text that a loader reads.
+void remarkUtf16(Editor& editor, const std::string& name, std::string_view bytes)
+{
+    if (!utf16OrderOf(bytes)) return;
+    std::string remark = name + " is in Unicode, which no loader reads: when you save it, it becomes plain text.";
+    if (const std::size_t lost = charactersLostFromFile(bytes); lost > 0)
+        remark += " That has no room for " + std::to_string(lost) + (lost == 1 ? " character" : " characters") +
+                  ", so you see question marks.";
+    editor.OpeningRemarks.push_back(remark);
 }
 
 /// The pane has CR LF throughout, and so has the file after its next save.
@@ -138,10 +150,12 @@ void showText(Editor& editor, Side& side, const std::string& path, const std::st
     const Steps step(editor.shared.errors, "ED_showDocument");
     if (editor.TabStrip1.SelectedItem != side.tab) editor.TabStrip1.Select(side.tab); // reformatting works on its pane
     // The text comes first: as long as the pane may hold the old one, it keeps the old name.
+    const std::string text = textOfFile(bytes);
     bool coloured = false;
-    step([&] { coloured = showShadow(editor, side, path, name, bytes); });
-    if (!coloured) showPlain(editor, side, bytes);
-    remarkOtherLineEnds(editor, name, bytes);
+    step([&] { coloured = showShadow(editor, side, path, name, text); });
+    if (!coloured) showPlain(editor, side, text);
+    remarkUtf16(editor, name, bytes);
+    remarkOtherLineEnds(editor, name, text);
     nameDocument(editor, side, path, name, step);
     if (!coloured) layOutAndColour(editor, side, step);
     startAnew(editor, side, bytes, step);

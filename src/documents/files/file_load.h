@@ -23,8 +23,8 @@ void showFile(Editor& editor, Side& side, const std::string& path, const std::st
 /// undo and journal start anew. The caller keeps a Loading.
 void showText(Editor& editor, Side& side, const std::string& path, const std::string& name, const std::string& bytes);
 
-/// Adds to the status text what the user should know of the files that were opened last: line ends that a save will
-/// change, colouring that couldn't be finished.
+/// Adds to the status text what the user should know of the files that were opened last: a text in UTF-16 and line
+/// ends that a save will change, colouring that couldn't be finished.
 void showOpeningRemarks(Editor& editor);
 
 } // namespace tarvex

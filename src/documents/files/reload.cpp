@@ -8,6 +8,7 @@
 #include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "platform/text.h"
+#include "platform/utf16.h"
 
 #include <algorithm>
 
@@ -111,7 +112,7 @@ void takeFileText(Editor& editor, Side& side, const std::string& bytes, const st
     const Loading loading(editor.shared);
     endBlinking(editor);
     storeStateBeforeWrite(editor, side);
-    step([&] { replaceText(editor, side, withWindowsLineEnds(bytes)); });
+    step([&] { replaceText(editor, side, withWindowsLineEnds(textOfFile(bytes))); });
     if (colour && editor.shared.settings.ApplyColoursOnFileOpen == 1) step([&] { colour(side); });
     writeAsOneLevel(side, [&] { recordUndo(editor, side); });
     side.Changed = changed::saved;

@@ -1,6 +1,7 @@
 #include "language/commands/macro_file.h"
 
 #include "language/macro_file_lines.h"
+#include "platform/utf16.h"
 
 namespace tarvex {
 
@@ -35,7 +36,7 @@ void GetEachLineFromMacroFile(Editor& editor)
     if (!files.fileExists(path)) return;
     editor.status("Opening " + editor.macro.FileName + " file for analysis ");
     lines.clear();
-    step([&] { lines = keptMacroLines(files.read(path)); });
+    step([&] { lines = keptMacroLines(textOfFile(files.read(path))); });
     const std::string text = joined(lines);
     // A write is synced twice, which takes a sixth of the program's start; the file mostly has these lines already.
     if (holds(files, linesFile, text)) return;

@@ -1,5 +1,6 @@
 #include "documents/files/differences.h"
 
+#include "platform/utf16.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -50,6 +51,13 @@ TEST_F(DifferencesTest, ShowBothTextsWithTheirNames)
     EXPECT_EQ(window.LeftLines, (std::vector<std::string>{"one", "two", "three", "four"}));
     EXPECT_EQ(window.RightLines, (std::vector<std::string>{"one", "zwölf"}));
     EXPECT_EQ(window.Rows.size(), 4U);
+}
+
+TEST_F(DifferencesTest, AFileInUtf16IsComparedByItsText)
+{
+    load(utf16FromUtf8("\xEF\xBB\xBFone\r\ntwo\r\nTHREE\r\nfour\r\n", Utf16Order::LittleEndian));
+    EXPECT_EQ(window.Count.Caption.get(), "Difference 1 of 1");
+    EXPECT_EQ(window.RightLines[2], "THREE");
 }
 
 TEST_F(DifferencesTest, EqualTextsHaveNone)

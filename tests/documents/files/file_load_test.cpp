@@ -1,6 +1,7 @@
 #include "documents/files/file_load.h"
 
 #include "documents/files/open_fixture.h"
+#include "platform/utf16.h"
 
 #include <gmock/gmock.h>
 
@@ -153,6 +154,45 @@ TEST_F(OpenTest, LineEndsOfAnotherKindAreRemarkedBehindTheClosingText)
     t.menus().mnuJoyPopUpSingleFile.Checked = true;
     t.openBoth(mig);
     EXPECT_EQ(t.status(), "Done. mig.b50 had 2 line ends of another kind.");
+}
+
+std::string asUtf16(std::string_view text)
+{
+    return utf16FromUtf8("\xEF\xBB\xBF" + std::string(text), Utf16Order::LittleEndian);
+}
+
+TEST_F(OpenTest, AFileInUtf16IsDecodedAndSavedAsPlainText)
+{
+    t.settings().CheckIdentifyOK = 0;
+    t.settings().CreateBackup = 1;
+    t.files.addFile(mig, asUtf16("Rem caf\u00E9\r\nBTN S1 Fire\r\n"));
+    t.files.addFile(migMacros, asUtf16("Fire = f\r\n"));
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem caf\xE9\r\nBTN S1 Fire\r\n");
+    EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
+    EXPECT_THAT(t.editor().macros.MacroFileLines, ElementsAre("Fire = f"));
+    EXPECT_EQ(t.status(),
+              "Done. mig.b50 is in Unicode, which no loader reads: when you save it, it becomes plain text. "
+              "mig.m50 is in Unicode, which no loader reads: when you save it, it becomes plain text.");
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(t.fileText(mig), "Rem caf\xE9\r\nBTN S1 Fire\r\n");
+}
+
+TEST_F(OpenTest, CharactersOfAUtf16FileThatPlainTextLacksAreRemarked)
+{
+    t.settings().CheckIdentifyOK = 0;
+    t.menus().mnuJoyPopUpSingleFile.Checked = true;
+    t.files.addFile(mig, asUtf16("Rem \u0416\u2192\r\n"));
+    t.openBoth(mig);
+    EXPECT_EQ(joystickText(), "Rem ??\r\n");
+    EXPECT_EQ(t.status(),
+              "Done. mig.b50 is in Unicode, which no loader reads: when you save it, it becomes plain text. "
+              "That has no room for 2 characters, so you see question marks.");
+    t.files.addFile(mig, asUtf16("Rem \u0416\r\n"));
+    t.openBoth(mig);
+    EXPECT_EQ(t.status(),
+              "Done. mig.b50 is in Unicode, which no loader reads: when you save it, it becomes plain text. "
+              "That has no room for 1 character, so you see question marks.");
 }
 
 TEST_F(OpenTest, WindowsLineEndsAreNotRemarked)

@@ -3,6 +3,7 @@
 #include "documents/files/outside_notice.h"
 
 #include "documents/files/auto_save.h"
+#include "platform/utf16.h"
 #include "shell/session_extras.h"
 #include "support/test_program.h"
 
@@ -225,6 +226,14 @@ TEST_F(OutsideNoticeTest, ReloadShowsTheFileAndUndoBringsTheOldTextBack)
     t.menus().mnuEditRedo.Click();
     EXPECT_EQ(pane().Text(), theirs);
     EXPECT_EQ(side().Changed, changed::saved) << "the file holds that";
+}
+
+TEST_F(OutsideNoticeTest, ReloadOfAFileThatBecameUtf16ShowsItsText)
+{
+    changeOutside(utf16FromUtf8("\xEF\xBB\xBFRem \u00E9\r\n", Utf16Order::BigEndian));
+    strip().Reload.Click();
+    EXPECT_EQ(pane().Text(), "Rem \xE9\r\n");
+    EXPECT_EQ(side().Changed, changed::saved);
 }
 
 TEST_F(OutsideNoticeTest, ReloadOfAModifiedDocumentKeepsTheEditsInUndo)
