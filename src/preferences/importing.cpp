@@ -1,6 +1,7 @@
 #include "preferences/importing.h"
 
 #include "documents/window/editor_window.h"
+#include "documents/window/hardware_changes.h"
 
 namespace tarvex {
 
@@ -30,6 +31,7 @@ void takeImported(Preferences& preferences)
     step([&] { editor.operations.GetGames(); });
     step([&] { editor.operations.GetCustomApps(); });
     step([&] { tickMenus(editor); });
+    step([&] { F22MenusUpdate(editor); }); // a quiet download is not for the F-22 Pro
     if (shared.settings.JoyName != joystick) shared.HardwareChangedMark = 1;
     shared.FontChanged = 1;
     loadSettingsPages(preferences);

@@ -90,6 +90,27 @@ TEST_F(ImportTest, SettingsAreInMemoryOnThePagesAndInTheFiles)
                               "c:\\tarvex\\Settings before import.");
 }
 
+TEST_F(ImportTest, TicksOfMenusFollowTheImportedSettings)
+{
+    files.addFile(std::string(old) + "\\Tarvex.ini",
+                  "[FileLocations]\r\nJoyName=4\r\n[Colours]\r\nInsertWithColour=0\r\n"
+                  "[Miscellaneous]\r\nUseQonDownload=1\r\nOpenSingleFileOnly=1\r\n");
+    importFrom(old, [] {});
+    EXPECT_FALSE(menus().mnuInsertWithColour.Checked);
+    EXPECT_TRUE(menus().mnuAppsQuiet.Checked);
+    EXPECT_TRUE(menus().mnuJoyPopUpSingleFile.Checked);
+}
+
+TEST_F(ImportTest, AQuietDownloadIsNotImportedForTheF22Pro)
+{
+    files.addFile(std::string(old) + "\\Tarvex.ini",
+                  "[FileLocations]\r\nJoyName=0\r\n[Miscellaneous]\r\nUseQonDownload=1\r\n");
+    importFrom(old, [] {});
+    EXPECT_FALSE(menus().mnuAppsQuiet.Checked);
+    EXPECT_FALSE(menus().mnuAppsQuiet.Enabled);
+    EXPECT_EQ(ini("Miscellaneous", "UseQonDownload"), "0");
+}
+
 TEST_F(ImportTest, TodaysSettingsAreKeptFirst)
 {
     const std::string before = fileText(iniPath);

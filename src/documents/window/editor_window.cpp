@@ -158,7 +158,6 @@ std::string loadDocuments(LastPair& lastPair, const Steps& step)
     menus.mnuRHList.Visible = false;
     shared.store.GetColours();
     step([&] { applyColourScheme(editor); });
-    menus.mnuInsertWithColour.Checked = settings.InsertWithColour == 1;
     menus.mnuGames.Caption = settings.GamesCaption;
     nameEmptyDocuments(editor);
     step([&] { DeleteUndosFromMemory(editor); });
@@ -185,6 +184,8 @@ void tickMenus(Editor& editor)
     menus.mnuUseWakeWarning.Checked = settings.WakeUpWarning == 1;
     menus.mnuMacrosSaveOptions1.Checked = settings.MacroSaveUpdateMacros == 1;
     menus.mnuMacrosSaveOptions2.Checked = settings.MacroSaveIdentifyJF == 1;
+    menus.mnuInsertWithColour.Checked = settings.InsertWithColour == 1;
+    menus.mnuAppsQuiet.Checked = settings.UseQonDownload == 1;
 }
 
 void Form_Load(LastPair& lastPair)
@@ -193,7 +194,6 @@ void Form_Load(LastPair& lastPair)
     const Steps step(editor.shared.errors, "ED_Form_Load");
     Shared& shared = editor.shared;
     Settings& settings = shared.settings;
-    Menus& menus = editor.menus;
 
     editor.mum.Toolbar1.Visible = true;
     readZoom(editor);
@@ -201,7 +201,6 @@ void Form_Load(LastPair& lastPair)
     const std::string whyNotOpened = loadDocuments(lastPair, step);
     UpdateSavedIcon(editor);
     step([&] { editor.operations.UpdateEditorTooltips(); });
-    menus.mnuAppsQuiet.Checked = settings.UseQonDownload == 1;
     showLineNumber(editor, editor.selected(), editor.selected().pane.SelStart());
     UpdateSavedIcon(editor);
     F22MenusUpdate(editor);
