@@ -16,7 +16,7 @@ trap finish EXIT
 
 fail() {
     printf 'FAILED: %s\n' "$*" >&2
-    printf 'Windows: %s\n' "$(titles | paste -sd '|')" >&2
+    printf 'Windows: %s\nActive: %s\n' "$(titles | paste -sd '|')" "$(xdotool getactivewindow getwindowname 2>&1)" >&2
     [ -n "${TARVEX_WALK_PICTURE:-}" ] && import -silent -window root "$TARVEX_WALK_PICTURE" 2>/dev/null
     exit 1
 }
