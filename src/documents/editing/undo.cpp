@@ -19,25 +19,16 @@ void keyPress(Side& side, int key)
 {
     UndoHistory& history = side.Undo;
     side.Caret = side.pane.SelStart();
-    if (key != backspaceKey && key != returnKey && key != blankKey)
-        history.LastKeyWasReturn = history.LastKeyWasSpace = 0;
-    // Typing on an undone state must not overwrite the newest one.
-    if (history.Position != 1) {
-        side.TakeNewLevel = 1;
-        return;
-    }
-    if (key == blankKey && side.pane.TextLength() == 0) {
-        side.TakeNewLevel = 0;
-        return;
-    }
-    if (history.Levels.size() == 1) {
-        side.TakeNewLevel = 1;
+    const bool onUndoneState = history.Position != 1; // typing there must not overwrite the newest one
+    const bool blankInEmptyPane = key == blankKey && side.pane.TextLength() == 0;
+    if (blankInEmptyPane || history.Levels.size() == 1) {
+        side.TakeNewLevel = blankInEmptyPane && !onUndoneState ? 0 : 1;
         return;
     }
     const bool again =
         (key == returnKey && history.LastKeyWasReturn == 1) || (key == blankKey && history.LastKeyWasSpace == 1);
     const bool opens = key == backspaceKey || key == returnKey || key == blankKey;
-    side.TakeNewLevel = opens && !again ? 1 : 0;
+    side.TakeNewLevel = onUndoneState || (opens && !again) ? 1 : 0;
     if (key == backspaceKey) return;
     history.LastKeyWasReturn = key == returnKey ? 1 : 0;
     history.LastKeyWasSpace = key == blankKey ? 1 : 0;

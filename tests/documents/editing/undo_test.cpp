@@ -395,6 +395,30 @@ TEST_F(UndoTest, ACharacterTypedAfterAnUndoEndsTheRunOfBlanks)
     EXPECT_EQ(editor.joystick.Undo.Levels.size(), levels + 1);
 }
 
+TEST_F(UndoTest, ARunOfBlanksTypedAfterAnUndoIsOneLevel)
+{
+    press("ab cd");
+    t.menus().mnuEditUndo.Click();
+    ASSERT_EQ(pane.Text(), "ab");
+    const std::size_t levels = history.Levels.size();
+    press("   ");
+    EXPECT_EQ(history.Levels.size(), levels + 1);
+    EXPECT_EQ(history.Levels[0].Text.text(), "ab   ");
+    EXPECT_EQ(history.Levels[1].Text.text(), "ab cd");
+}
+
+TEST_F(UndoTest, AReturnTypedAfterAnUndoEndsTheRunOfBlanks)
+{
+    press("ab ");
+    t.menus().mnuEditUndo.Click();
+    press("\r");
+    const std::size_t levels = history.Levels.size();
+    press("\r");
+    EXPECT_EQ(history.Levels.size(), levels) << "one run of Returns";
+    press(" ");
+    EXPECT_EQ(history.Levels.size(), levels + 1);
+}
+
 TEST_F(UndoTest, AProtectedMacroFileSaysSoInsteadOfBeingUndone)
 {
     editor.TabStrip1.Select(2);
