@@ -14,13 +14,21 @@ bool loaderIsWinLoad(const Settings& settings)
     return fileNameOf(settings.B50LoadPath.whole()).find("winld") != std::string::npos;
 }
 
+/// A status text with the former name is out of date.
+void renameUntitled(Editor& editor, Side& side)
+{
+    const std::string before = editor.tabCaption(side);
+    if (!before.starts_with("untitled")) return;
+    nameUntitled(editor, side);
+    const std::string& shown = editor.mum.StatusBar.Panels(panel::progress).Text;
+    if (shown.find(before) != std::string::npos) showEditingText(editor);
+}
+
 } // namespace
 
 void HardwareHasChanged(Editor& editor)
 {
-    for (Side* side : {&editor.joystick, &editor.macro}) {
-        if (editor.tabCaption(*side).starts_with("untitled")) nameUntitled(editor, *side);
-    }
+    for (Side* side : {&editor.joystick, &editor.macro}) renameUntitled(editor, *side);
     updateDownload(editor); // a named file may be for another controller now
     F22MenusUpdate(editor);
     editor.shared.HardwareChangedMark = 0;

@@ -426,6 +426,27 @@ TEST_F(PairTest, AnotherJoystickRenamesUntitledDocumentsAndLeavesNamedOnesAlone)
     EXPECT_EQ(t.program().shared.HardwareChangedMark, 0);
 }
 
+TEST_F(PairTest, AnotherJoystickLeavesNoFormerNameInTheStatusText)
+{
+    editor.TabStrip1.Select(1);
+    ASSERT_EQ(t.status(), "Editing untitled.b50");
+    ComboJoystick_Click(t.program().shared, 4);
+    HardwareHasChanged(editor);
+    EXPECT_EQ(t.status(), "Editing untitled.adv");
+
+    editor.TabStrip1.Select(2);
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    editor.TabStrip1.Select(2);
+    ComboJoystick_Click(t.program().shared, 0);
+    HardwareHasChanged(editor);
+    EXPECT_EQ(t.status(), "untitled.m22 is protected and can't be edited.");
+
+    editor.status("Done");
+    ComboJoystick_Click(t.program().shared, 1);
+    HardwareHasChanged(editor);
+    EXPECT_EQ(t.status(), "Done") << "a text without a name stays";
+}
+
 TEST_F(PairTest, AnotherJoystickEndsTheDownloadOfANamedFileThatIsNotForIt)
 {
     t.files.addFile("c:\\a\\x.b50", "");
