@@ -2,6 +2,7 @@
 
 #include "documents/editing/pane_change.h"
 #include "documents/pair/loading.h"
+#include "documents/pair/undo_menus.h"
 #include "documents/window/frame_commands.h"
 
 namespace tarvex {
@@ -55,6 +56,7 @@ void showSettingsInFrame(Editor& editor)
     mum.Toolbar1.Wrappable = settings.CanWrapToolbar == 1;
     step([&] { settings.GradientEffect == 1 ? operations.PaintGradient() : operations.ReleaseGradient(); });
     step([&] { operations.UpdateTooltips(); });
+    if (settings.OKtoShowToolTips == 1) step([&] { UpdateUndoRedoMenus(editor); }); // their tips count the levels
     step([&] { operations.UpdateToolBarOpenSaveTooltips(); });
     step([&] { operations.UpdateEditorTooltips(); });
     step([&] { operations.ShowExtraButtons(); });

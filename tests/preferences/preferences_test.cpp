@@ -209,6 +209,21 @@ TEST_F(PreferencesTest, ToolbarTipsAndCalibrationFollowAtOnce)
     EXPECT_EQ(settings().SaveBothOnToolbar, 1);
 }
 
+TEST_F(PreferencesTest, TheTipsOfUndoAndRedoStillCountTheLevelsAfterwards)
+{
+    typeJoystick("a");
+    inPreferences([] {});
+    ToolBar& bar = program().mum.Toolbar1;
+    EXPECT_EQ(bar.Buttons(11).ToolTipText.get(), "Undo (1)");
+    EXPECT_EQ(bar.Buttons(12).ToolTipText.get(), "Redo");
+    inPreferences([this] {
+        preferences().miscellaneousPage.CheckShowTooltips.Value = false;
+        preferences().miscellaneousPage.CheckShowTooltips.Click();
+    });
+    EXPECT_EQ(bar.Buttons(11).ToolTipText.get(), "");
+    EXPECT_EQ(bar.Buttons(12).ToolTipText.get(), "");
+}
+
 TEST_F(PreferencesTest, TheCalibrationButtonStaysHiddenAmongTheExtraButtonsAndShownWithoutThem)
 {
     const auto close = [this](bool extra, bool hidden) {
