@@ -1,5 +1,6 @@
 #include "preferences/preferences_command.h"
 
+#include "documents/window/hardware_changes.h"
 #include "preferences/files_home_question.h"
 #include "preferences/importing.h"
 #include "preferences/scheme_in_force.h"
@@ -31,6 +32,7 @@ void mnuPreferencesEdit_Click(Preferences& preferences)
     step([&] { editor.platform.dialogues.showModal("Preferences"); });
     PREFS_Form_Unload(preferences);
     if (mayAskForFiles(preferences, firstUse || askedBefore)) step([&] { askForFilesHome(preferences); });
+    step([&] { moveUntitled(editor); });
     editor.shared.PreferencesPage = 0; // the plain command opens at the first page
     if (editor.shared.FontChanged == 1) step([&] { editor.operations.DamnFontWasChanged(); });
 }

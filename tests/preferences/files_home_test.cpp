@@ -51,6 +51,13 @@ TEST_F(FilesHomeTest, OffersANewFolderOnTheDrive)
     EXPECT_EQ(ini("Launcher", "FilesDirectory"), "c:\\tm\\");
 }
 
+TEST_F(FilesHomeTest, TheEmptyDocumentsBelongToTheFolder)
+{
+    startAndAnswer([this] { form().Ok.Click(); });
+    EXPECT_EQ(editor().joystick.FilePath, "c:\\tm\\" + editor().joystick.FileName);
+    EXPECT_EQ(editor().macro.FilePath, "c:\\tm\\" + editor().macro.FileName);
+}
+
 TEST_F(FilesHomeTest, TakesAFolderOfTheUsersInLowerCase)
 {
     startAndAnswer([this] {

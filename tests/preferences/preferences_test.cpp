@@ -137,6 +137,23 @@ TEST_F(PreferencesTest, AnotherJoystickRenamesUntitledFilesOnce)
     EXPECT_EQ(ini("FileLocations", "JoyName"), "4");
 }
 
+TEST_F(PreferencesTest, AnUntitledFileIsSavedAutomaticallyInTheFolderThatWasJustSet)
+{
+    files.addFile("c:\\games\\readme.txt", "");
+    typeJoystick("mine");
+    inPreferences([this] {
+        preferences().fileLocationsPage.Text2.Text = "C:\\Games\\";
+        preferences().savingPage.Text3.Text = "1";
+    });
+    editor().Timer1.Tick();
+    EXPECT_EQ(fileText("c:\\games\\untitled.b50"), "mine");
+    EXPECT_EQ(editor().macro.FilePath, "c:\\games\\untitled.m50");
+
+    inPreferences([this] { preferences().fileLocationsPage.Text2.Text = "c:\\elsewhere\\"; });
+    EXPECT_EQ(editor().joystick.FilePath, "c:\\games\\untitled.b50") << "it is saved there";
+    EXPECT_EQ(editor().macro.FilePath, "c:\\elsewhere\\untitled.m50");
+}
+
 TEST_F(PreferencesTest, ThrottleAndRuddersAreKeptByTheirPlaceInTheList)
 {
     inPreferences([this] {

@@ -34,6 +34,15 @@ void HardwareHasChanged(Editor& editor)
     editor.shared.HardwareChangedMark = 0;
 }
 
+void moveUntitled(Editor& editor)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        const bool wasSaved = side->Journal.File.has_value();
+        if (!wasSaved && side->FileName == "untitled." + side->Extension)
+            side->FilePath = editor.shared.settings.ProgramFilesPath.whole() + side->FileName;
+    }
+}
+
 void F22MenusUpdate(Editor& editor)
 {
     const Steps step(editor.shared.errors, "F22MenusUpdate");
