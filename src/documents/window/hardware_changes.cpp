@@ -18,8 +18,10 @@ bool loaderIsWinLoad(const Settings& settings)
 void renameUntitled(Editor& editor, Side& side)
 {
     const std::string before = editor.tabCaption(side);
+    const std::string path = side.FilePath;
     if (!before.starts_with("untitled")) return;
     nameUntitled(editor, side);
+    if (side.FilePath != path) side.Journal.File.reset(); // a file that it was saved in keeps its name
     const std::string& shown = editor.mum.StatusBar.Panels(panel::progress).Text;
     if (shown.find(before) != std::string::npos) showEditingText(editor);
 }

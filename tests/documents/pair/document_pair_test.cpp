@@ -1,4 +1,5 @@
 #include "documents/editing/pane_keys.h"
+#include "documents/files/outside_notice.h"
 #include "documents/pair/editor_layout.h"
 #include "documents/pair/tabs.h"
 #include "documents/window/hardware_changes.h"
@@ -445,6 +446,24 @@ TEST_F(PairTest, AnotherJoystickLeavesNoFormerNameInTheStatusText)
     ComboJoystick_Click(t.program().shared, 1);
     HardwareHasChanged(editor);
     EXPECT_EQ(t.status(), "Done") << "a text without a name stays";
+}
+
+TEST_F(PairTest, AnotherJoystickMakesNobodyMissTheFileOfAnUntitledDocumentThatWasSaved)
+{
+    t.settings().AutoSaveTime = 1;
+    t.typeJoystick("mine");
+    editor.Timer1.Tick();
+    ASSERT_EQ(editor.joystick.Changed, changed::saved);
+    ComboJoystick_Click(t.program().shared, 4);
+    HardwareHasChanged(editor);
+    OutsideNotices& notices = t.program().outsideNotices;
+    lookForOutsideChanges(notices);
+    EXPECT_FALSE(notices.joystick.Visible) << notices.joystick.Text.Caption.get();
+    EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\untitled.b50"), "mine");
+
+    t.typeJoystick(" too");
+    editor.Timer1.Tick();
+    EXPECT_EQ(t.fileText("c:\\tm\\b50progs\\untitled.adv"), "mine too");
 }
 
 TEST_F(PairTest, AnotherJoystickEndsTheDownloadOfANamedFileThatIsNotForIt)
