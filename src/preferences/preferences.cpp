@@ -7,6 +7,7 @@
 #include "preferences/extras_drives.h"
 #include "preferences/previous_loaders.h"
 #include "preferences/scheme_in_force.h"
+#include "shell/hardware/hardware_profile.h"
 #include "shell/help_topics.h"
 
 #include <string_view>
@@ -56,8 +57,19 @@ void focusFirstBox(Preferences& preferences)
     if (const Focusable* box = firstBoxOf(preferences, preferences.SSTab1.Tab)) box->SetFocus();
 }
 
+/// At the first use the joystick that is shown counts as chosen, too: the default extensions are those of another one.
+void confirmJoystick(Shared& shared)
+{
+    Settings& settings = shared.settings;
+    if (settings.FirstTimeUsed != 1) return;
+    const std::string before = settings.JoystickExtension.whole();
+    ComboJoystick_Click(shared, settings.JoyName);
+    if (settings.JoystickExtension.whole() != before) shared.HardwareChangedMark = 1;
+}
+
 void takePages(Preferences& preferences, const Steps& step)
 {
+    step([&] { confirmJoystick(preferences.editor.shared); });
     step([&] { takeFileLocations(preferences.fileLocationsPage); });
     step([&] { takeApps(preferences.appsPage); });
     step([&] { takeSaving(preferences.savingPage); });

@@ -137,6 +137,30 @@ TEST_F(PreferencesTest, AnotherJoystickRenamesUntitledFilesOnce)
     EXPECT_EQ(ini("FileLocations", "JoyName"), "4");
 }
 
+TEST(PreferencesAtFirstUse, TheJoystickThatIsShownDecidesTheExtensionsWhenItIsLeftAsItIs)
+{
+    PreferencesProgram t(false);
+    t.setIni("FileLocations", "FirstTimeUsed", "1");
+    t.setIni("FileLocations", "JoyName", "0");
+    t.dialogues.whileModal = [&t] {
+        if (t.dialogues.modalForms.back() != "Preferences") return;
+        EXPECT_EQ(t.preferences().fileLocationsPage.ComboJoystick.Text.get(), "F22 Pro");
+        t.preferences().Command3.Click();
+    };
+    t.start();
+    EXPECT_EQ(t.ini("FileLocations", "JoystickExtension"), "f22");
+    EXPECT_EQ(t.ini("FileLocations", "MacroExtension"), "m22");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.f22");
+    EXPECT_EQ(t.editor().macro.FileName, "untitled.m22");
+}
+
+TEST_F(PreferencesTest, ExtensionsSetByHandStayWhileTheJoystickStays)
+{
+    settings().JoystickExtension = "f22";
+    inPreferences([] {});
+    EXPECT_EQ(ini("FileLocations", "JoystickExtension"), "f22");
+}
+
 TEST_F(PreferencesTest, AnUntitledFileIsSavedAutomaticallyInTheFolderThatWasJustSet)
 {
     files.addFile("c:\\games\\readme.txt", "");
