@@ -56,6 +56,7 @@ void showUse(InsertOptions& window, std::size_t list)
     if (!pick(window, list)) return;
     MacroTab& tab = window.macros;
     Editor& editor = window.editor;
+    endBlinking(editor); // a line that flashes isn't what the user had selected
     const MacroTab::Selection now = selectionOf(editor.JoystickText);
     if (!tab.BeforeClick || now != tab.AfterClick) tab.BeforeClick = now;
     FindMacroInJF(editor);

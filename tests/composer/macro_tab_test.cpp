@@ -182,6 +182,22 @@ TEST_F(MacroTabTest, ADoubleClickOnAMacroThatIsUsedInsertsAtTheCaretAllTheSame)
     EXPECT_EQ(joystick.Text(), "BTN S1 Fire \r\nBTN S2 Fire ");
 }
 
+TEST_F(MacroTabTest, ADoubleClickWhileAFoundStatementFlashesInsertsBehindItsName)
+{
+    for (const int ticksBefore : {0, 1, 2}) {
+        for (const int ticksBetween : {0, 1, 2}) {
+            joystick.setText("BTN S1 \r\nBTN S2 Fire \r\n");
+            window.BTN[0].Click();
+            for (int i = 0; i < ticksBefore; ++i) editor.TimerBlinkLine.Tick();
+            press(0);
+            EXPECT_EQ(joystick.SelText(), "Fire");
+            for (int i = 0; i < ticksBetween && editor.TimerBlinkLine.Enabled; ++i) editor.TimerBlinkLine.Tick();
+            List1_DblClick(window, 0);
+            EXPECT_EQ(joystick.Text(), "BTN S1 Fire \r\nBTN S2 Fire \r\n") << ticksBefore << ' ' << ticksBetween;
+        }
+    }
+}
+
 TEST_F(MacroTabTest, WhatIsInsertedAfterAClickDoesntReplaceTheMacroThatWasShown)
 {
     const std::string text = "BTN S1 Fire \r\nBTN S2 ";

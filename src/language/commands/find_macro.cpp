@@ -1,5 +1,6 @@
 #include "language/commands/find_macro.h"
 
+#include "documents/editing/line_highlight.h"
 #include "platform/windows1252.h"
 
 namespace tarvex {
@@ -11,6 +12,7 @@ void FindMacroInJF(Editor& editor)
     Pane& pane = side.pane;
     if (editor.TabStrip1.SelectedItem != side.tab) step([&] { editor.TabStrip1.Select(side.tab); });
     step([&] {
+        endBlinking(editor); // its next step would take the selection back
         const std::string name = windows1252FromUtf8(editor.macros.SelectedMacro);
         const auto end = static_cast<std::int64_t>(pane.TextLength());
         if (pane.Find(name + " ", 0, end, find::wholeWord) >= 0)

@@ -1,5 +1,6 @@
 #include "language/commands/rem_block.h"
 
+#include "documents/editing/line_highlight.h"
 #include "documents/editing/undo.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/protected_pane.h"
@@ -122,6 +123,7 @@ void REMblock(Editor& editor)
 {
     const Steps step;
     if (refuseProtected(editor)) return;
+    endBlinking(editor); // the lines of a statement that flashes aren't selected
     Side& side = editor.selected();
     const std::int64_t caret = side.pane.SelStart();
     const Lines lines = selectedLines(side.pane);
@@ -141,6 +143,7 @@ void REMunblock(Editor& editor)
 {
     const Steps step;
     if (refuseProtected(editor)) return;
+    endBlinking(editor);
     Side& side = editor.selected();
     const std::int64_t caret = side.pane.SelStart();
     const std::vector<Change> changes = uncommenting(side.pane, selectedLines(side.pane));

@@ -272,6 +272,16 @@ TEST_F(FindMacroTest, WithoutAUseNothingMoves)
     EXPECT_EQ(editor.joystick.Caret, 3);
 }
 
+TEST_F(FindMacroTest, TheUseStaysSelectedThoughALineWasFlashing)
+{
+    pane.setText("BTN S1 x\r\nBTN S2 Fire x");
+    t.menus().mnuViewHighlightLine.Click();
+    editor.macros.SelectedMacro = "Fire";
+    FindMacroInJF(editor);
+    while (editor.TimerBlinkLine.Enabled) editor.TimerBlinkLine.Tick();
+    EXPECT_EQ(pane.SelText(), "Fire");
+}
+
 // ---- ExtractButtonDefinition ----------------------------------------------------------------------------------------
 
 struct StatementTest : testing::Test {

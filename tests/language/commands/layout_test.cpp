@@ -1,3 +1,4 @@
+#include "documents/editing/line_highlight.h"
 #include "language/commands/align_slashes.h"
 #include "language/commands/layout_refresh.h"
 #include "language/commands/rem_block.h"
@@ -338,6 +339,19 @@ TEST_F(LayoutTest, TheBlockCommandsWriteManyLinesInOneEdit)
     t.menus().mnuEditREMunblock.Click();
     EXPECT_EQ(joystick.Text(), plain);
     EXPECT_EQ(edits, 2);
+}
+
+TEST_F(LayoutTest, TheBlockCommandsTakeTheCaretsLineWhileAStatementFlashes)
+{
+    joystick.setText("one\r\ntwo\r\nRem three");
+    select(6, 0);
+    flashText(editor, 0, 18);
+    t.menus().mnuEditREMblock.Click();
+    EXPECT_EQ(joystick.Text(), "one\r\nRem two\r\nRem three");
+    EXPECT_EQ(joystick.SelStart(), 10);
+    flashText(editor, 0, 22);
+    t.menus().mnuEditREMunblock.Click();
+    EXPECT_EQ(joystick.Text(), "one\r\ntwo\r\nRem three");
 }
 
 TEST_F(LayoutTest, ALineOfREMunblockThatDoesntBeginWithTheCommentWordStaysAsItIs)

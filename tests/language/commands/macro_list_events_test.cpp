@@ -121,6 +121,16 @@ TEST_F(ListEventsTest, TheDefinitionIsSelectedWhereTheMacroPaneIsSeen)
     EXPECT_EQ(editor.MacroText.SelText(), "Stop = s");
 }
 
+TEST_F(ListEventsTest, TheDefinitionStaysSelectedThoughALineWasFlashing)
+{
+    editor.TabStrip1.Select(2);
+    t.menus().mnuViewHighlightLine.Click();
+    pick(0, 1);
+    List1_KeyDown(editor, 0, shiftKey::none);
+    while (editor.TimerBlinkLine.Enabled) editor.TimerBlinkLine.Tick();
+    EXPECT_EQ(editor.MacroText.SelText(), "Stop = s");
+}
+
 TEST_F(ListEventsTest, ANameFollowedByTwoBlanksIsNotFound)
 {
     pick(0, 2);
