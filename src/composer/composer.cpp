@@ -112,6 +112,16 @@ void presetDelays(InsertOptions& window)
     window.flags.TxtFlag[flagDelay].Text = delay;
 }
 
+/// A window that is loaded anew starts with nothing written and nothing held.
+void resetControls(InsertOptions& window)
+{
+    emptyFields(window);
+    emptyDefinitions(window);
+    for (RotaryButton& rotary : window.ROTARY) rotary.Value = 0;
+    window.SSTabHardware.Tab = hardwarePage::f22AndF16;
+    window.macros.BeforeClick.reset();
+}
+
 /// The number in a field; a text that isn't a 16-bit number leaves the setting as it is.
 void takeNumber(const TextBox& field, std::int16_t& setting)
 {
@@ -147,6 +157,7 @@ void Form_Load(InsertOptions& window)
 {
     const Steps step(window.editor.shared.errors, "COMPOSER Form_Load");
     const Settings& settings = window.editor.shared.settings;
+    step([&] { resetControls(window); });
     step([&] { PositionComposer(window); });
     window.mnuRHList.Visible = false;
     window.SSTab1.Tab = composerPage::hardware;

@@ -125,6 +125,15 @@ void FillLogicLists(InsertOptions& window)
     lists[5].Items = std::vector<std::string>{"U", "D", "L", "R", "M", "UL", "DL", "UR", "DR"};
 }
 
+void emptyDefinitions(InsertOptions& window)
+{
+    FlagTab& tab = window.flags;
+    for (Pane& field : tab.RichTexFlag) field.setText("");
+    for (ListBox& list : tab.FlagList) list.ListIndex = -1;
+    for (TextBox& number : tab.TxtFlag) number.Text = std::string();
+    OptionFlag_Click(window, 0);
+}
+
 void WhichLogicText(InsertOptions& window)
 {
     for (std::size_t i = 0; i < FlagTab::count; ++i) {

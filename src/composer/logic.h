@@ -11,6 +11,8 @@ namespace tarvex {
 void wireLogic(InsertOptions& window);
 /// Fills the lists that terms are chosen from.
 void FillLogicLists(InsertOptions& window);
+/// Empties the definitions and what terms are made of, and chooses the first definition.
+void emptyDefinitions(InsertOptions& window);
 /// Notes in CurrentFlag which definition is chosen.
 void WhichLogicText(InsertOptions& window);
 /// The chosen definition's field is white, the others have the form's colour.

@@ -7,6 +7,7 @@
 #include "platform/text.h"
 #include "platform/windows1252.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -70,7 +71,7 @@ void insertBlanks(InsertOptions& window)
     InsertColouredStringNoSpace(editor, std::string(static_cast<std::size_t>(count), ' '),
                                 editor.shared.DefaultTextColour);
     // The caret that is on record for the other file moves too, as it always did.
-    editor.other(editor.selected()).Caret += count;
+    if (!editor.selected().pane.Locked) editor.other(editor.selected()).Caret += count;
     EndColInsert(editor);
     returnFocus(window);
 }
@@ -171,6 +172,17 @@ void Command10_Click(InsertOptions& window) { window.fields.RemTextBox.Text = st
 void Command7_Click(InsertOptions& window, int Index)
 {
     tagged(window, "COMPOSER Command7_Click", [&] { Index == 0 ? insertLineEnd(window) : insertBlanks(window); });
+}
+
+void emptyFields(InsertOptions& window)
+{
+    const auto empty = [](auto&... forms) {
+        (std::ranges::for_each(forms, [](TextBox& field) { field.Text = std::string(); }), ...);
+    };
+    StatementFields& fields = window.fields;
+    empty(fields.Rng1, fields.Rng2, fields.Ant1, fields.Ant2, fields.Axis1, fields.Axis2, fields.Axis3, fields.Thr1,
+          fields.Thr2, fields.Text1);
+    for (TextBox* field : {&fields.DLYText, &fields.TextRPT, &fields.RemTextBox}) field->Text = std::string();
 }
 
 void holdAxis(InsertOptions& window, std::size_t axis)

@@ -22,6 +22,8 @@ void CommandREM_Click(InsertOptions& window);
 void Command10_Click(InsertOptions& window);
 void Command7_Click(InsertOptions& window, int Index);
 
+/// Empties the fields of all forms.
+void emptyFields(InsertOptions& window);
 /// Holds the toggle of one axis and releases the others.
 void holdAxis(InsertOptions& window, std::size_t axis);
 

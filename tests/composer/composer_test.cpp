@@ -142,6 +142,33 @@ TEST_F(ComposerTest, ClosingUnloadsItAndWritesItsSettings)
     EXPECT_EQ(ini(t, "ComposerLeft"), "200");
 }
 
+TEST_F(ComposerTest, ClosedItForgetsWhatWasWrittenAndHeldAndTheNextLoadStartsAnew)
+{
+    window.SSTab1.Tab = composerPage::flags;
+    for (TextBox* field : {&window.fields.Rng1[0], &window.fields.Thr2[3], &window.fields.RemTextBox,
+                           &window.fields.Text1[valueField::rate], &window.flags.TxtFlag[0]})
+        field->Text = std::string("x");
+    window.flags.RichTexFlag[5].setText("DEF X6 S1");
+    window.flags.OptionFlag[5].Click();
+    window.flags.FlagList[0].ListIndex = 3;
+    window.ToggleButton1[axisToggle::rddr].Click();
+    rotary(7);
+    window.form.Close();
+    show();
+    for (const TextBox* field : {&window.fields.Rng1[0], &window.fields.Thr2[3], &window.fields.RemTextBox,
+                                 &window.fields.Text1[valueField::rate], &window.flags.TxtFlag[0]})
+        EXPECT_EQ(field->Text.get(), "");
+    EXPECT_EQ(window.fields.DLYText.Text.get(), "60");
+    EXPECT_EQ(window.fields.TextRPT.Text.get(), "2");
+    EXPECT_EQ(window.flags.RichTexFlag[5].Text(), "");
+    EXPECT_EQ(window.flags.CurrentFlag, 0);
+    EXPECT_EQ(window.flags.FlagList[0].ListIndex, -1);
+    EXPECT_TRUE(window.ToggleButton1[axisToggle::jsx].isHeld());
+    EXPECT_EQ(window.SSTab1.Tab, composerPage::hardware);
+    button(0);
+    EXPECT_EQ(joystick.Text(), "BTN S1 ") << "no port is waiting for a bare name";
+}
+
 TEST_F(ComposerTest, AMinimisedWindowKeepsThePlaceThatWasWritten)
 {
     window.form.Top = 150;

@@ -263,6 +263,17 @@ TEST_F(ComposerTest, SpacesInsertsAsManyBlanksAsTheFieldSaysAndMovesBothCarets)
     EXPECT_EQ(static_cast<int>(editor.macro.Caret), 3);
 }
 
+TEST_F(ComposerTest, SpacesThatAProtectedMacroFileRefusesMoveNoCaret)
+{
+    write("ab");
+    putCaret(1);
+    editor.TabStrip1.Select(2);
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    window.Command7[1].Click();
+    EXPECT_EQ(macro.Text(), "");
+    EXPECT_EQ(static_cast<int>(editor.joystick.Caret), 1);
+}
+
 TEST_F(ComposerTest, ANumberOfBlanksThatIsNoneOrTooLargeInsertsNothing)
 {
     write("ab");
