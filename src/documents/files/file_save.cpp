@@ -153,6 +153,7 @@ void noteSaved(Editor& editor, Side& side)
     side.Changed = changed::saved;
     noteTextSettled(editor, side, sumOf(side.pane.Text()));
     UpdateSavedIcon(editor);
+    if (editor.TimerColour.Enabled) editor.TimerColour.Tick(); // the copy has the colours of what was just written
     saveColouredText(editor, side);
 }
 

@@ -106,6 +106,16 @@ TEST_F(ColourAsTypedTest, OpensNoUndoLevelAndStaysInTheOneOfTheEdit)
     EXPECT_EQ(colours(), coloured);
 }
 
+TEST_F(ColourAsTypedTest, ASaveBeforeThePauseKeepsTheColoursForTheNextOpening)
+{
+    type(static_cast<std::int64_t>(joystick.TextLength()), " /U c");
+    t.menus().mnuFileSave.Click();
+    EXPECT_FALSE(editor.TimerColour.Enabled);
+    t.openBoth("c:\\tm\\a.b50");
+    const std::string fromCopy = colours();
+    EXPECT_EQ(fromCopy, coloursOfWholeFile());
+}
+
 TEST_F(ColourAsTypedTest, CaretAndSelectionStay)
 {
     type(0, "REM ");
