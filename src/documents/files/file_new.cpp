@@ -25,6 +25,7 @@ bool newDocument(Editor& editor, Side& side, std::string_view tag)
         applyBaseFormat(editor, side.pane);
     });
     UpdateSavedIcon(editor);
+    editor.TabStrip1.Tabs(side.tab).Caption = ""; // under the same name it is another document, too
     nameUntitled(editor, side);
     side.pane.setSelStart(0);
     side.Caret = 0;

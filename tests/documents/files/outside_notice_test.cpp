@@ -179,6 +179,18 @@ TEST_F(OutsideNoticeTest, ANewDocumentHasNoStrip)
     EXPECT_FALSE(strip().Visible);
 }
 
+TEST_F(OutsideNoticeTest, ANewDocumentOfTheSameNameHasNoStripEither)
+{
+    t.menus().mnuFileNewJoystick.Click();
+    t.typeJoystick("mine");
+    AutoSaveFile(t.editor());
+    t.files.addFile("c:\\tm\\b50progs\\untitled.b50", "theirs");
+    watch.changed();
+    ASSERT_TRUE(strip().Visible);
+    t.menus().mnuFileNewJoystick.Click();
+    EXPECT_FALSE(strip().Visible);
+}
+
 TEST_F(OutsideNoticeTest, OpeningAnotherFileFollowsThatOne)
 {
     t.files.addFile("c:\\tm\\b50progs\\su27.b50", "su27");
