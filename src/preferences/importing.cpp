@@ -3,6 +3,8 @@
 #include "documents/window/editor_window.h"
 #include "documents/window/hardware_changes.h"
 
+#include <tuple>
+
 namespace tarvex {
 
 namespace {
@@ -22,7 +24,10 @@ void takeImported(Preferences& preferences)
     Editor& editor = preferences.editor;
     Shared& shared = editor.shared;
     const Steps step(shared.errors, "PREFS takeImported");
-    const std::int16_t joystick = shared.settings.JoyName;
+    const auto kindOfFiles = [&settings = shared.settings] {
+        return std::tuple(settings.JoyName, settings.JoystickExtension.whole(), settings.MacroExtension.whole());
+    };
+    const auto before = kindOfFiles();
     shared.store.GetOptions();
     shared.store.GetColours();
     for (const Access procedure : readAgain) shared.store.read(procedure, "PREFS takeImported");
@@ -32,7 +37,7 @@ void takeImported(Preferences& preferences)
     step([&] { editor.operations.GetCustomApps(); });
     step([&] { tickMenus(editor); });
     step([&] { F22MenusUpdate(editor); }); // a quiet download is not for the F-22 Pro
-    if (shared.settings.JoyName != joystick) shared.HardwareChangedMark = 1;
+    if (kindOfFiles() != before) shared.HardwareChangedMark = 1;
     shared.FontChanged = 1;
     loadSettingsPages(preferences);
     preferences.coloursPage.coloursChanged = true;

@@ -90,6 +90,15 @@ TEST_F(ImportTest, SettingsAreInMemoryOnThePagesAndInTheFiles)
                               "c:\\tarvex\\Settings before import.");
 }
 
+TEST_F(ImportTest, UntitledFilesTakeImportedExtensionsAlsoOfTheSameJoystick)
+{
+    files.addFile(std::string(old) + "\\Tarvex.ini", "[FileLocations]\r\nFirstTimeUsed=0\r\nJoyName=1\r\n"
+                                                     "JoystickExtension=tqs\r\nMacroExtension=m50\r\n");
+    importFrom(old, [] {});
+    EXPECT_EQ(editor().joystick.FileName, "untitled.tqs");
+    EXPECT_EQ(editor().macro.FileName, "untitled.m50");
+}
+
 TEST_F(ImportTest, TicksOfMenusFollowTheImportedSettings)
 {
     files.addFile(std::string(old) + "\\Tarvex.ini",
