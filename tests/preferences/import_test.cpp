@@ -99,17 +99,6 @@ TEST_F(ImportTest, UntitledFilesTakeImportedExtensionsAlsoOfTheSameJoystick)
     EXPECT_EQ(editor().macro.FileName, "untitled.m50");
 }
 
-TEST_F(ImportTest, TicksOfMenusFollowTheImportedSettings)
-{
-    files.addFile(std::string(old) + "\\Tarvex.ini",
-                  "[FileLocations]\r\nJoyName=4\r\n[Colours]\r\nInsertWithColour=0\r\n"
-                  "[Miscellaneous]\r\nUseQonDownload=1\r\nOpenSingleFileOnly=1\r\n");
-    importFrom(old, [] {});
-    EXPECT_FALSE(menus().mnuInsertWithColour.Checked);
-    EXPECT_TRUE(menus().mnuAppsQuiet.Checked);
-    EXPECT_TRUE(menus().mnuJoyPopUpSingleFile.Checked);
-}
-
 TEST_F(ImportTest, AQuietDownloadIsNotImportedForTheF22Pro)
 {
     files.addFile(std::string(old) + "\\Tarvex.ini",
@@ -118,6 +107,54 @@ TEST_F(ImportTest, AQuietDownloadIsNotImportedForTheF22Pro)
     EXPECT_FALSE(menus().mnuAppsQuiet.Checked);
     EXPECT_FALSE(menus().mnuAppsQuiet.Enabled);
     EXPECT_EQ(ini("Miscellaneous", "UseQonDownload"), "0");
+}
+
+TEST_F(ImportTest, TheListsOfTheMenusAreTheImportedOnes)
+{
+    files.addFile(std::string(old) + "\\Tarvex.ini",
+                  "[PreviousJoystickFiles]\r\nJFArrayNum=1\r\nJFPath1=d:\\f22.b50\r\n"
+                  "[PreviousMacroFiles]\r\nMFArrayNum=1\r\nMFPath1=d:\\f22.m50\r\n"
+                  "[Games]\r\nGameArrayNum=1\r\nGameName1=Old game\r\n"
+                  "[Apps]\r\nCustomAppName1=Old tool\r\nCustomAppUse1=1\r\n");
+    importFrom(old, [] {});
+    EXPECT_EQ(menus().mnuJFArray[1].Caption.get(), "d:\\f22.b50");
+    EXPECT_EQ(menus().mnuMFArray[1].Caption.get(), "d:\\f22.m50");
+    EXPECT_EQ(menus().mnuGameArray[1].Caption.get(), "Old game");
+    EXPECT_EQ(menus().mnuCustomApp[0].Caption.get(), "Old tool");
+    EXPECT_TRUE(menus().mnuCustomApp[0].Visible);
+}
+
+TEST_F(ImportTest, TheTicksOfTheMenusAreTheImportedOnes)
+{
+    using Tick = std::pair<const char*, MenuItem Menus::*>;
+    const Tick ticks[] = {{"OpenSingleFileOnly", &Menus::mnuJoyPopUpSingleFile},
+                          {"WakeUpWarning", &Menus::mnuUseWakeWarning},
+                          {"MacroSaveUpdateMacros", &Menus::mnuMacrosSaveOptions1},
+                          {"MacroSaveIdentifyJF", &Menus::mnuMacrosSaveOptions2},
+                          {"UseQonDownload", &Menus::mnuAppsQuiet}};
+    for (const char* value : {"1", "0"}) {
+        std::string ini = "[FileLocations]\r\nJoyName=1\r\n[Miscellaneous]\r\n";
+        for (const auto& [key, item] : ticks) ini += std::string(key) + '=' + value + "\r\n";
+        files.addFile(std::string(old) + "\\Tarvex.ini", ini + "[Colours]\r\nInsertWithColour=" + value + "\r\n");
+        importFrom(old, [] {});
+        for (const auto& [key, item] : ticks) EXPECT_EQ((menus().*item).Checked.get(), *value == '1') << key;
+        EXPECT_EQ(menus().mnuInsertWithColour.Checked.get(), *value == '1');
+    }
+}
+
+TEST_F(ImportTest, AnotherColourSchemeIsInForceOnThePanes)
+{
+    files.addFile(std::string(old) + "\\Tarvex.ini", "[Colours]\r\nBackgroundColour=1193046\r\n");
+    importFrom(old, [] {});
+    EXPECT_EQ(editor().JoystickText.BackColor.get(), 1193046);
+}
+
+TEST_F(ImportTest, OneFileIsCountedAsOne)
+{
+    importFrom(old, [this] { tickOnly(ImportPart::Lists); });
+    EXPECT_EQ(lastBox().text, "I've copied 1 file. Your settings as they were before are in "
+                              "c:\\tarvex\\Settings before import.");
+    EXPECT_FALSE(desktop.hourglass);
 }
 
 TEST_F(ImportTest, TodaysSettingsAreKeptFirst)

@@ -66,6 +66,42 @@ TEST(ChDrive, OfNoLetterAndOfADriveThatIsNotThereAreErrors)
     EXPECT_EQ(w.current.path(), "c:\\tm");
 }
 
+TEST(ChDrive, TakesEachLetterOfTheAlphabetInBothCasesAndNothingElse)
+{
+    World w;
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        const std::string root = std::string(1, letter) + ":\\";
+        w.files.addDirectory(root + "x");
+        w.current.ChDrive(std::string(1, letter));
+        EXPECT_EQ(w.current.path(), letter == 'c' ? "c:\\tm" : root);
+        w.current.ChDrive("c");
+        w.current.ChDrive(std::string(1, static_cast<char>(letter - 'a' + 'A')));
+        EXPECT_EQ(w.current.path(), letter == 'c' ? "c:\\tm" : root);
+    }
+    for (const char* sign : {"@", "[", "`", "{"}) EXPECT_EQ(errorOf([&] { w.current.ChDrive(sign); }), 5) << sign;
+}
+
+TEST(CurrentDirectory, BeginsWhereTheProgramWasStarted)
+{
+    World w;
+    EXPECT_EQ(CurrentDirectory(w.files, "D:\\games\\").path(), "D:\\games");
+    EXPECT_EQ(CurrentDirectory(w.files, "D:\\games\\").fullPath("d:f22"), "D:\\games\\f22");
+    EXPECT_EQ(CurrentDirectory(w.files, "c:\\").path(), "c:\\");
+    EXPECT_EQ(CurrentDirectory(w.files, "").path(), "c:\\") << "no drive: c:";
+    EXPECT_EQ(CurrentDirectory(w.files, "/home").path(), "c:\\");
+}
+
+TEST(FullPath, OfADriveAloneIsItsCurrentDirectoryAndASlashIsItsRoot)
+{
+    World w;
+    EXPECT_EQ(w.current.fullPath(""), "c:\\tm");
+    EXPECT_EQ(w.current.fullPath("c:"), "c:\\tm");
+    EXPECT_EQ(w.current.fullPath("d:"), "d:\\") << "nobody has been there";
+    EXPECT_EQ(w.current.fullPath("d:x"), "d:\\x");
+    EXPECT_EQ(w.current.fullPath("/mig.b50"), "c:\\mig.b50");
+    EXPECT_EQ(w.current.fullPath("d:/mig.b50"), "d:\\mig.b50");
+}
+
 TEST(FullPath, GoesFromTheCurrentDirectory)
 {
     World w;
@@ -74,6 +110,18 @@ TEST(FullPath, GoesFromTheCurrentDirectory)
     EXPECT_EQ(w.current.fullPath("D:\\games\\x"), "d:\\games\\x");
     w.current.ChDir("c:\\");
     EXPECT_EQ(w.current.fullPath("mig.b50"), "c:\\mig.b50");
+}
+
+TEST(ChangeToRootOf, TakesTheDriveAndItsRoot)
+{
+    World w;
+    ErrorRecord errors;
+    w.current.ChDir("d:\\games");
+    changeToRootOf(w.current, "d:\\games\\f22.exe", Steps(errors, "TAG"));
+    EXPECT_EQ(w.current.path(), "d:\\");
+    changeToRootOf(w.current, "q:\\f22.exe", Steps(errors, "TAG"));
+    EXPECT_EQ(w.current.path(), "d:\\");
+    EXPECT_EQ(errors.ErrorProcedure, "TAG");
 }
 
 TEST(ChangeToFolderOf, StopsWhereItMustAndReportsEachStepThatFails)

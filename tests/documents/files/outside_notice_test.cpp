@@ -313,6 +313,29 @@ TEST_F(OutsideNoticeTest, ReloadOfTheFileBehindLeavesTheTabInFront)
     EXPECT_EQ(t.editor().FrameMacros.List1.front().Items.get().size(), 2U) << "the macro list follows";
 }
 
+TEST_F(OutsideNoticeTest, ReloadTicksTheMacrosThatTheNewTextUses)
+{
+    const auto isTicked = [this] { return t.editor().FrameMacros.List1.front().Items.get().front().Selected; };
+    t.settings().CheckIdentifyOK = 1;
+    changeOutside("BTN S1 Fire \r\n");
+    strip().Reload.Click();
+    EXPECT_TRUE(isTicked());
+    changeOutside("BTN S1 fuel \r\n");
+    strip().Reload.Click();
+    EXPECT_FALSE(isTicked());
+}
+
+TEST_F(OutsideNoticeTest, ReloadTakesTheTicksAwayWhenMacrosAreOnlyIdentifiedOnRequest)
+{
+    CheckListBox& list = t.editor().FrameMacros.List1.front();
+    std::vector<CheckListBox::Item> items = list.Items;
+    items.front().Selected = true;
+    list.Items = items;
+    changeOutside("BTN S1 Fire \r\n");
+    strip().Reload.Click();
+    EXPECT_FALSE(list.Items.get().front().Selected) << "they belong to the text of before";
+}
+
 TEST_F(OutsideNoticeTest, ReloadOfAFileWithOtherLineEndsShowsPairs)
 {
     changeOutside("one\ntwo\rthree");

@@ -274,6 +274,38 @@ TEST(DosboxFolder, IsGoneAtTheEndAndSweptWhenNobodyHoldsItAnyMore)
     EXPECT_TRUE(std::filesystem::exists("/etc/passwd")) << "links aren't followed";
 }
 
+/// Where a folder is made when the session's own place is this one.
+std::string parentOfFolderIn(const std::string& place)
+{
+    ::setenv("XDG_RUNTIME_DIR", place.c_str(), 1);
+    const DosboxFolder folder;
+    return std::filesystem::path(folder.path()).parent_path().string();
+}
+
+TEST(DosboxFolder, IsMadeInAPlaceThatDosBoxCannotMisread)
+{
+    const Runtime runtime;
+    for (const char* name : {"azAZ09", "a_b-c", "sub/folder"}) {
+        const std::string place = runtime.disk.makeDirectory(name);
+        EXPECT_EQ(parentOfFolderIn(place), place);
+    }
+    for (const char* name : {"a b", "a.b", "a:b", "a@b", "a[b", "a`b", "a{b", "a;b", "a%b", "a\\b", "\xC3\xA4"})
+        EXPECT_EQ(parentOfFolderIn(runtime.disk.makeDirectory(name)), "/tmp") << name;
+    EXPECT_EQ(parentOfFolderIn(runtime.disk / "missing"), "/tmp");
+    EXPECT_EQ(parentOfFolderIn(""), "/tmp");
+    EXPECT_EQ(parentOfFolderIn("."), "/tmp") << "not a whole path";
+}
+
+TEST(DosboxFolder, IsMadeInAPlaceWhosePathLeavesRoomInACommand)
+{
+    const Runtime runtime;
+    const std::size_t rest = 79 - (runtime.disk.path().size() + 1);
+    ASSERT_LT(rest, 79U);
+    const std::string longest = runtime.disk.makeDirectory(std::string(rest, 'x'));
+    EXPECT_EQ(parentOfFolderIn(longest), longest);
+    EXPECT_EQ(parentOfFolderIn(runtime.disk.makeDirectory(std::string(rest + 1, 'x'))), "/tmp");
+}
+
 TEST(DosboxFolder, SweepsOnlyWhatItMadeItself)
 {
     namespace fs = std::filesystem;
