@@ -90,6 +90,18 @@ TEST_P(PreviousFile, TheListStandsOnTheMenuAtTheStart)
     EXPECT_TRUE(array()[3].Visible);
 }
 
+TEST_P(PreviousFile, AListOfOneFileStandsOnTheMenuAndCanBeCleared)
+{
+    startWith(1);
+    EXPECT_TRUE(parent().Enabled);
+    EXPECT_TRUE(clear().Enabled);
+    EXPECT_FALSE(array()[0].Visible);
+    EXPECT_TRUE(array()[1].Visible);
+    clear().Click();
+    EXPECT_TRUE(array()[0].Visible);
+    EXPECT_EQ(stored(1), "");
+}
+
 TEST_P(PreviousFile, OneListDoesNotTouchTheOther)
 {
     startWith(1);

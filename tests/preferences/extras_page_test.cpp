@@ -156,6 +156,110 @@ TEST_F(ExtrasPageTest, WithAllLettersTakenNoDriveIsAdded)
     });
 }
 
+TEST_F(ExtrasPageTest, TheLastLetterIsTheLastThatIsAdded)
+{
+    machine.found = {{'c', "/home/pilot", DriveFolder::Origin::Tarvex}};
+    for (char letter = 'd'; letter < 'z'; ++letter) machine.found.push_back({letter, "/home/pilot"});
+    inPreferences([this] {
+        dialogues.folders.emplace_back("c:\\");
+        page().DriveAdd.Click();
+        EXPECT_EQ(folderOf('z'), "/home/pilot");
+        EXPECT_EQ(dialogues.folderRequests.back().title, "Select the folder of drive z:");
+    });
+    EXPECT_EQ(machineKey("Drives", "z"), "/home/pilot");
+}
+
+TEST_F(ExtrasPageTest, EachDriveOfTheAlphabetCanBeMoved)
+{
+    machine.found.clear();
+    for (char letter = 'a'; letter <= 'z'; ++letter)
+        machine.found.push_back({letter, "/home/pilot", DriveFolder::Origin::Wine});
+    inPreferences([this] {
+        for (char letter = 'a'; letter <= 'z'; ++letter) writeDriveFolder(page(), rowOf(letter), "/mnt/disk");
+    });
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        EXPECT_EQ(machineKey("Drives", std::string(1, letter)), "/mnt/disk");
+        EXPECT_EQ(machine.chosen.count(letter), letter == 'c' ? 0U : 1U) << letter;
+    }
+    start();
+    inPreferences([this] {
+        for (char letter = 'a'; letter <= 'z'; ++letter) writeDriveFolder(page(), rowOf(letter), "");
+    });
+    for (char letter = 'a'; letter <= 'z'; ++letter) EXPECT_EQ(machineKey("Drives", std::string(1, letter)), "");
+}
+
+TEST_F(ExtrasPageTest, TheButtonsOfADriveAreThoseThatCanDoSomething)
+{
+    setMachineKey("Drives", "d", "/");
+    start();
+    inPreferences([this] {
+        const auto enabled = [this](char letter) {
+            page().DriveRow = letter == '-' ? -1 : rowOf(letter);
+            return std::pair(page().DriveBrowse.Enabled.get(), page().DriveReset.Enabled.get());
+        };
+        EXPECT_EQ(enabled('c'), std::pair(true, false));
+        EXPECT_EQ(enabled('d'), std::pair(true, true)) << "the whole disk, by the user's own choice";
+        EXPECT_EQ(enabled('z'), std::pair(false, false));
+        EXPECT_EQ(enabled('-'), std::pair(false, false));
+        page().DriveBrowse.Click();
+        page().DriveReset.Click();
+        EXPECT_EQ(folderOf('d'), "/");
+    });
+}
+
+TEST_F(ExtrasPageTest, AChosenFolderTakesThePlaceOfTheOldOneAndItsRowStaysChosen)
+{
+    inPreferences([this] {
+        page().DriveRow = rowOf('c');
+        dialogues.folders.emplace_back("z:\\mnt\\disk\\");
+        page().DriveBrowse.Click();
+        EXPECT_EQ(folderOf('c'), "/mnt/disk");
+        EXPECT_EQ(page().DriveRow, rowOf('c'));
+        EXPECT_TRUE(page().DriveReset.Enabled);
+    });
+}
+
+TEST_F(ExtrasPageTest, OfAFolderTheSeparatorsAtItsEndAreLeftOut)
+{
+    setMachineKey("Drives", "d", "/mnt/disk");
+    start();
+    inPreferences([this] {
+        writeDriveFolder(page(), rowOf('d'), "  /home/pilot// ");
+        EXPECT_EQ(folderOf('d'), "/home/pilot");
+        writeDriveFolder(page(), rowOf('d'), "//");
+        EXPECT_EQ(folderOf('d'), "/");
+    });
+}
+
+TEST_F(ExtrasPageTest, AllDrivesOfOpenFilesWait)
+{
+    for (const char letter : {'d', 'e', 'f'}) {
+        machine.found.push_back({letter, "/home/pilot", DriveFolder::Origin::Wine});
+        files.addDirectory(std::string(1, letter) + ":");
+    }
+    files.addFile("d:\\a.b50", "a");
+    files.addFile("e:\\b.m50", "b = c\r\n");
+    menus().mnuJoyPopUpSingleFile.Checked = true;
+    openBoth("d:\\a.b50");
+    openBoth("e:\\b.m50");
+    inPreferences([this] {
+        for (const char letter : {'d', 'e', 'f'}) writeDriveFolder(page(), rowOf(letter), "/mnt/disk");
+    });
+    EXPECT_EQ(lastBox().text, "What I have open is on d:, e:, so that move waits until you start me the next time.");
+    EXPECT_EQ(machine.chosen, (DriveChoices{{'f', "/mnt/disk"}}));
+}
+
+TEST_F(ExtrasPageTest, AFolderThatIsAsItWasIsNoChoice)
+{
+    machine.folders.insert("/home/pilot/tarvex/drive_c");
+    inPreferences([this] {
+        writeDriveFolder(page(), rowOf('c'), "/home/pilot/tarvex/drive_c/");
+        page().DriveRow = rowOf('c');
+        EXPECT_FALSE(page().DriveReset.Enabled);
+    });
+    EXPECT_FALSE(files.fileExists(platformIni));
+}
+
 // ---- Wine and DOSBox
 // -------------------------------------------------------------------------------------------------
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace tarvex {
 namespace {
 
@@ -308,6 +310,18 @@ TEST(Start, TheAutomaticSaveRunsOnlyWhenItIsEnabled)
     EXPECT_EQ(t.editor().Timer1.Interval.get(), 60000);
 }
 
+TEST(Start, SaysWhatItIsDoingUntilItIsReady)
+{
+    TestMachine machine;
+    Program program(machine.platform);
+    std::vector<std::string> texts;
+    Property<std::string>& panel = program.mum.StatusBar.Panels(1).Text;
+    const Connection watching = panel.changed.connect([&] { texts.push_back(panel); });
+    EXPECT_TRUE(program.start());
+    EXPECT_EQ(texts.front(), "Loading up the main Tarvex Editor .... hang on ....");
+    EXPECT_EQ(texts.back(), "Ready! Welcome to Tarvex!");
+}
+
 TEST(Start, AReadOnlyProgramFolderIsNoObstacle)
 {
     TestMachine machine;
@@ -335,6 +349,40 @@ TEST(Start, ADamagedSettingsFileIsNoObstacle)
         EXPECT_TRUE(program.start()) << text.substr(0, 60);
         EXPECT_EQ(program.mum.StatusBar.Panels(1).Text.get(), "Ready! Welcome to Tarvex!");
     }
+}
+
+/// A printer system whose previews fail.
+struct BrokenPrinters final : Printers {
+    FakePrinter printer;
+    int Count() override { return 1; }
+    Printer& current() override { return printer; }
+    void setUp() override {}
+    void preview(const std::string&, const PrintJob&) override
+    {
+        EXPECT_TRUE(orientations.insert(printer.orientation).second);
+        throw RuntimeError(ErrorCode::PrinterError, "Out of paper");
+    }
+    std::string pdf(const std::string&, const PrintJob&) override { return {}; }
+    std::set<int> orientations; ///< of the paper at each preview
+};
+
+TEST(Preview, ThatFailsIsReportedAndLeavesThePaperAsItWas)
+{
+    TestMachine m;
+    BrokenPrinters printers;
+    Platform platform{m.files,     m.dialogues, m.desktop, m.sound,    m.clipboard,
+                      m.processes, m.machine,   printers,  m.pictures, TestMachine::programDirectory,
+                      {}};
+    Program program(platform);
+    EXPECT_TRUE(program.start());
+    program.editor.JoystickText.setText("BTN S1 fire");
+    program.menus.mnuFilePrintPreview.Click();
+    EXPECT_EQ(m.lastBox().text, "The preview of untitled.b50 went wrong: Out of paper");
+    m.dialogues.answers = {Answer::Yes};
+    program.menus.mnuFilePrintControls.Click();
+    EXPECT_EQ(m.lastBox().text, "The preview of the controls went wrong: Out of paper");
+    EXPECT_EQ(printers.orientations, (std::set<int>{orientation::portrait, orientation::landscape}));
+    EXPECT_EQ(printers.printer.orientation, orientation::portrait);
 }
 
 // ---- exit ----

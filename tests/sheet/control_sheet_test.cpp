@@ -7,6 +7,7 @@ namespace tarvex {
 namespace {
 
 using testing::Contains;
+using testing::ElementsAre;
 using testing::Not;
 
 ControlSheet sheet(const std::string& name, std::string_view text)
@@ -55,7 +56,10 @@ TEST(ControlSheet, ControlsThatDoNothingAreListedApart)
 
 TEST(ControlSheet, SwaptgDoesItsWorkByItself)
 {
-    EXPECT_THAT(namesOn(sheet("a.f22", "SWAPTG").pages[0]), Contains("SWAPTG"));
+    const SheetPage page = sheet("a.f22", "SWAPTG").pages[0];
+    ASSERT_THAT(namesOn(page), ElementsAre("SWAPTG"));
+    ASSERT_EQ(page.rows[0].layers.size(), 1U);
+    EXPECT_EQ(page.rows[0].layers[0].words.at(0).text, "first and second stage swapped");
 }
 
 TEST(ControlSheet, AnEmptyFileHasAPageWithNothingOnIt)

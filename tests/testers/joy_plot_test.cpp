@@ -65,6 +65,16 @@ struct JoyPlotTest : testing::Test, TestProgram {
 
 // ---- opening and closing ----
 
+TEST_F(JoyPlotTest, TheJoystickIsAskedForAllThatItHasInARecordOf52Bytes)
+{
+    open();
+    form.Info.dwSize = form.Info.dwFlags = 0;
+    joystick.positionResult = joyError::unplugged; // leaves the record as it was asked with
+    form.JoyTimer.Tick();
+    EXPECT_EQ(form.Info.dwSize, 52U);
+    EXPECT_EQ(form.Info.dwFlags, 255U);
+}
+
 TEST_F(JoyPlotTest, OpensWithBothCentreLinesInBlackOnAnEmptyField)
 {
     open();

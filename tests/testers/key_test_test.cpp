@@ -34,6 +34,16 @@ struct KeyTestTest : testing::Test, TestProgram {
     }
 };
 
+TEST_F(KeyTestTest, TheJoystickIsAskedForAllThatItHasInARecordOf52Bytes)
+{
+    open();
+    form.Info.dwSize = form.Info.dwFlags = 0;
+    joystick.positionResult = joyError::unplugged; // leaves the record as it was asked with
+    form.JoystickTimer.Tick();
+    EXPECT_EQ(form.Info.dwSize, 52U);
+    EXPECT_EQ(form.Info.dwFlags, 255U);
+}
+
 // ---- opening and closing ----
 
 TEST_F(KeyTestTest, OpensBeforeAllWindowsWithTheColoursOfTheScheme)

@@ -149,6 +149,8 @@ TEST_F(OutsideNoticeTest, AHugeFileIsAnnouncedAndNotOffered)
     changeOutside(std::string((std::size_t{64} << 20) + 1, 'x'));
     EXPECT_TRUE(strip().Visible);
     EXPECT_FALSE(strip().Reload.Visible);
+    EXPECT_EQ(strip().Text.Caption.get(),
+              "Another program has made mig.b50 larger than 64 MB, and I don't open files of that size.");
     EXPECT_EQ(pane().Text(), opened);
 }
 
@@ -403,6 +405,7 @@ TEST_F(OutsideNoticeTest, KeepMakesTheDocumentModifiedAndASaveStillAsks)
     EXPECT_FALSE(strip().Visible);
     EXPECT_EQ(pane().Text(), opened);
     EXPECT_EQ(side().Changed, changed::modified);
+    EXPECT_EQ(t.status(), "mig.b50 stays as it is here. It counts as modified until you save it.");
     watch.changed();
     EXPECT_FALSE(strip().Visible) << "the user has decided about this version";
     t.dialogues.answers = {Answer::Yes};
@@ -410,6 +413,25 @@ TEST_F(OutsideNoticeTest, KeepMakesTheDocumentModifiedAndASaveStillAsks)
     EXPECT_EQ(t.lastBox().title, "Whoa ... not so fast!");
     EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\mig-outside.b50"), theirs);
     EXPECT_EQ(t.fileText(mig), opened);
+}
+
+TEST_F(OutsideNoticeTest, KeepOfAFileThatIsAsItWasAgainLeavesTheDocumentSaved)
+{
+    changeOutside();
+    t.files.addFile(mig, opened);
+    strip().Keep.Click();
+    EXPECT_FALSE(strip().Visible);
+    EXPECT_EQ(side().Changed, changed::saved);
+}
+
+TEST_F(OutsideNoticeTest, NothingIsLookedForWhileADocumentIsBeingOpened)
+{
+    t.program().shared.IsLoading = 1;
+    changeOutside();
+    EXPECT_FALSE(strip().Visible);
+    t.program().shared.IsLoading = 0;
+    watch.changed();
+    EXPECT_TRUE(strip().Visible);
 }
 
 TEST_F(OutsideNoticeTest, ANewVersionAfterKeepIsAnnouncedAnew)

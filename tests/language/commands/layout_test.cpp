@@ -150,6 +150,17 @@ TEST_F(LayoutTest, AlignSlashesRewritesThePaneAsOneEditInThePlainFormat)
     EXPECT_EQ(joystick.Text(), "BTN T2   /I Chaff\r\n/O Flare");
 }
 
+TEST_F(LayoutTest, AlignSlashesAsksForPatienceWhileItWorks)
+{
+    t.typeJoystick("BTN   S1");
+    std::vector<std::string> texts;
+    Property<std::string>& panel = t.program().mum.StatusBar.Panels(1).Text;
+    const Connection watching = panel.changed.connect([&] { texts.push_back(panel); });
+    t.menus().mnuViewAlignSlashes.Click();
+    EXPECT_EQ(texts.front(), " Hang on - this could take time ...");
+    EXPECT_EQ(texts.back(), " OK - done!");
+}
+
 TEST_F(LayoutTest, AlignSlashesOpensAnUndoLevelThoughAKeyChangedNothing)
 {
     t.settings().HighlightLineOnUndo = 0;

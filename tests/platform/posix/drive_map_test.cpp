@@ -76,6 +76,14 @@ TEST_F(Drives, WithoutAPrefixAreTheProgramsOwnAndTheRoot)
     EXPECT_TRUE(fs::is_directory(driveC));
 }
 
+TEST_F(Drives, OfTheProgramIsMadeWhenItIsNeededAndIsNoDriveOfWine)
+{
+    const DriveMap::Drive& c = map.drives().front();
+    EXPECT_TRUE(c.makeRoot);
+    EXPECT_FALSE(c.isOwn || c.isChosen);
+    EXPECT_TRUE(map.drives().back().isOwn);
+}
+
 TEST_F(Drives, FileOfTheProgramsDriveGetsTheLongestMatch)
 {
     EXPECT_EQ(map.toDos(driveC + "/tm/mig.b50"), "c:\\tm\\mig.b50");
@@ -216,8 +224,8 @@ TEST_F(Drives, ArgumentMayBeADosOrANativePath)
 
 TEST(IsDosPath, NeedsALetterAColonAndASeparator)
 {
-    for (const char* path : {"c:", "C:\\", "z:/x"}) EXPECT_TRUE(isDosPath(path)) << path;
-    for (const char* path : {"", "c", "cc:\\", "1:\\", ":\\", "c:x", "/c:", "\\x"})
+    for (const char* path : {"c:", "C:\\", "z:/x", "a:", "A:", "Z:"}) EXPECT_TRUE(isDosPath(path)) << path;
+    for (const char* path : {"", "@:", "[:", "`:", "{:", "c", "cc:\\", "1:\\", ":\\", "c:x", "/c:", "\\x"})
         EXPECT_FALSE(isDosPath(path)) << path;
 }
 
@@ -262,6 +270,86 @@ TEST_F(WineDrives, PrefixWithoutADriveCDoesntCount)
     fs::remove(prefix + "/dosdevices/c:");
     link("/", "d:");
     EXPECT_EQ(lettersOf(make()), "cz");
+}
+
+TEST_F(WineDrives, AreOfAllLettersAndTheRootTakesTheLastThatIsFree)
+{
+    disk.makeDirectory("usb");
+    for (char letter = 'a'; letter <= 'z'; ++letter) {
+        if (letter != 'c' && letter != 'd') link(disk / "usb", std::string(1, letter) + ":");
+    }
+    EXPECT_EQ(lettersOf(make()), "abcdefghijklmnopqrstuvwxyz");
+    EXPECT_EQ(make().toNative("d:\\"), "/");
+    link(disk / "usb", "d:");
+    EXPECT_EQ(make().toNative("d:\\"), disk / "usb") << "no letter is left for the root";
+    EXPECT_EQ(make().toNative("a:\\x"), disk / "usb/x");
+    EXPECT_EQ(make().toNative("z:\\x"), disk / "usb/x");
+    EXPECT_EQ(codeOf([&] { (void)make().toDos("/etc"); }), pathNotFound);
+}
+
+TEST_F(WineDrives, AreNotTheProgramsOwnButItsRootIs)
+{
+    const DriveMap map = make();
+    const DriveMap::Drive& c = map.drives().front();
+    EXPECT_FALSE(c.isOwn || c.isChosen || c.makeRoot);
+    const DriveMap::Drive& root = map.drives().back();
+    EXPECT_TRUE(root.isOwn) << "Wine doesn't know it";
+    EXPECT_FALSE(root.isChosen || root.makeRoot);
+}
+
+TEST_F(WineDrives, AFolderThatTheUserChoseTakesThePlaceOfTheirs)
+{
+    DriveMap map = make();
+    map.choose('C', disk / "games/");
+    map.choose('b', disk / "usb/../floppy");
+    EXPECT_EQ(lettersOf(map), "bcz");
+    EXPECT_EQ(map.toNative("c:\\x"), disk / "games/x") << "it needn't be there";
+    EXPECT_EQ(map.toNative("b:\\x"), disk / "floppy/x");
+    EXPECT_EQ(map.toDos(disk / "games/x"), "c:\\x");
+    const DriveMap::Drive& chosen = map.drives().front();
+    EXPECT_TRUE(chosen.isOwn && chosen.isChosen);
+    EXPECT_FALSE(chosen.makeRoot);
+    EXPECT_FALSE(fs::exists(disk / "games")) << "made by its user";
+    map.choose('c', "");
+    EXPECT_EQ(map.toNative("c:\\x"), prefix + "/drive_c/x");
+    map.choose('b', "relative");
+    EXPECT_EQ(lettersOf(map), "cz");
+}
+
+TEST_F(WineDrives, ChoicesAreForgottenTogether)
+{
+    DriveMap map = make();
+    for (const char letter : {'a', 'z'}) map.choose(letter, disk / "games");
+    EXPECT_EQ(lettersOf(map), "acyz");
+    map.forgetChoices();
+    EXPECT_EQ(lettersOf(map), "cz");
+    EXPECT_EQ(map.toNative("z:\\"), "/");
+}
+
+TEST_F(WineDrives, OnlyLettersAreChosen)
+{
+    DriveMap map = make();
+    for (const char sign : {'1', ':', '@', '[', '`', '{'}) map.choose(sign, disk / "games");
+    EXPECT_EQ(lettersOf(map), "cz");
+}
+
+TEST_F(WineDrives, AChosenRootNeedsNoLetterOfItsOwn)
+{
+    DriveMap map = make();
+    map.choose('r', "/");
+    EXPECT_EQ(lettersOf(map), "cr");
+    EXPECT_EQ(map.toNative("r:\\etc"), "/etc");
+    EXPECT_EQ(map.toDos("/etc"), "r:\\etc");
+}
+
+TEST_F(WineDrives, AChosenFolderBehindALinkHasBothItsPaths)
+{
+    disk.makeDirectory("games");
+    fs::create_directory_symlink(disk / "games", disk / "link");
+    DriveMap map = make();
+    map.choose('g', disk / "link");
+    EXPECT_EQ(map.toDos(disk / "link/x"), "g:\\x");
+    EXPECT_EQ(map.toDos(disk / "games/x"), "g:\\x");
 }
 
 TEST_F(WineDrives, LinkThatLeadsOutOfTheDriveKeepsTheDrive)

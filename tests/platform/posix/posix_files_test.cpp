@@ -4,6 +4,7 @@
 #include "support/temporary_directory.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -187,6 +188,135 @@ TEST_F(Files, RenamedFileKeepsItsContentsAndPermissionsAndReplacesNone)
     EXPECT_EQ(files.read("c:\\Recover\\1.damaged"), "old");
     expectError(ErrorCode::FileNotFound, ENOENT,
                 [&] { files.renameFile("c:\\recover\\3.journal", "c:\\recover\\3.damaged"); });
+}
+
+TEST_F(Files, RenamedDirectoryKeepsWhatIsInItAndReplacesNone)
+{
+    disk.put("drive_c/Rtf/mig.rtf", "old");
+    files.renameFile("c:\\rtf", "c:\\Rtf.old");
+    EXPECT_EQ(files.read("c:\\Rtf.old\\mig.rtf"), "old");
+    EXPECT_FALSE(files.directoryExists("c:\\rtf"));
+    disk.makeDirectory("drive_c/Rtf");
+    expectError(ErrorCode::FileExists, EEXIST, [&] { files.renameFile("c:\\Rtf", "c:\\Rtf.old"); });
+    EXPECT_TRUE(files.directoryExists("c:\\rtf"));
+    EXPECT_TRUE(files.fileExists("c:\\Rtf.old\\mig.rtf"));
+}
+
+TEST_F(Files, NothingIsMadeBelowAFile)
+{
+    disk.put("drive_c/tm", "a file");
+    expectError(ErrorCode::PathNotFound, ENOTDIR, [&] { files.createDirectory("c:\\tm\\Backup"); });
+    expectError(ErrorCode::PathNotFound, ENOTDIR, [&] { files.write("c:\\tm\\mig.b50", "x"); });
+    EXPECT_EQ(files.read("c:\\tm"), "a file");
+}
+
+TEST_F(Files, AFileThatGrowsIsMadeInItsDirectoryOnly)
+{
+    files.createAppendFile("c:\\new")->append("one");
+    EXPECT_EQ(files.read("c:\\new"), "one");
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.createAppendFile("c:\\none\\new"); });
+}
+
+TEST_F(Files, StampHasSizeAndTimeOfTheFileAndTellsFilesApart)
+{
+    const std::string one = disk.put("drive_c/one", "four");
+    disk.put("drive_c/two", "four");
+    const timespec times[] = {{5, 7}, {1'000'000'005, 7}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, one.c_str(), times, 0), 0);
+    EXPECT_EQ(files.stamp("c:\\one").size, 4U);
+    EXPECT_EQ(files.stamp("c:\\one").modifiedNanoseconds, 1'000'000'005'000'000'007);
+    EXPECT_NE(files.stamp("c:\\one").identity, files.stamp("c:\\two").identity);
+    std::filesystem::create_symlink(one, root + "/link");
+    EXPECT_EQ(files.stamp("c:\\link"), files.stamp("c:\\one"));
+}
+
+TEST_F(Files, DirectoryIsNotReadOnly)
+{
+    ::chmod(disk.makeDirectory("drive_c/tm").c_str(), 0500);
+    EXPECT_FALSE(files.isReadOnly("c:\\tm"));
+}
+
+struct FilePieces : Files {
+    std::vector<std::size_t> sizes;
+    std::string bytes;
+
+    void read(const std::string& path, std::size_t most = 100)
+    {
+        files.readPieces(path, [&](std::string_view piece) {
+            sizes.push_back(piece.size());
+            bytes += piece;
+            return sizes.size() < most;
+        });
+    }
+};
+
+TEST_F(FilePieces, AreOf64KilobytesAndTheLastOneOfTheRest)
+{
+    std::string whole(2 * 65536 + 5, 'x');
+    whole[65536] = 'y';
+    disk.put("drive_c/large", whole);
+    read("c:\\large");
+    EXPECT_THAT(sizes, testing::ElementsAre(65536, 65536, 5));
+    EXPECT_EQ(bytes, whole);
+}
+
+TEST_F(FilePieces, AreReadUntilNoMoreAreWanted)
+{
+    disk.put("drive_c/large", std::string(3 * 65536, 'x'));
+    read("c:\\large", 2);
+    EXPECT_THAT(sizes, testing::ElementsAre(65536, 65536));
+}
+
+TEST_F(FilePieces, OfAnEmptyFileAreNone)
+{
+    disk.put("drive_c/empty", "");
+    read("c:\\empty");
+    EXPECT_TRUE(sizes.empty());
+}
+
+TEST_F(FilePieces, OfAFileThatShrinksOrGrowsMeanwhileEndWithItsFirstSize)
+{
+    const std::string file = disk.put("drive_c/log", std::string(65536 + 10, 'x'));
+    files.readPieces("c:\\log", [&](std::string_view piece) {
+        sizes.push_back(piece.size());
+        std::filesystem::resize_file(file, 3 * 65536);
+        return true;
+    });
+    EXPECT_THAT(sizes, testing::ElementsAre(65536, 10));
+    sizes.clear();
+    files.readPieces("c:\\log", [&](std::string_view piece) {
+        sizes.push_back(piece.size());
+        std::filesystem::resize_file(file, 0);
+        return true;
+    });
+    EXPECT_THAT(sizes, testing::ElementsAre(65536));
+}
+
+TEST_F(FilePieces, OfWhatIsNoFileAreRefused)
+{
+    disk.makeDirectory("drive_c/tm");
+    ASSERT_EQ(::mkfifo((root + "/pipe").c_str(), 0600), 0);
+    expectError(ErrorCode::PathFileAccess, EISDIR, [&] { read("c:\\tm"); });
+    expectError(ErrorCode::PathFileAccess, EINVAL, [&] { read("c:\\pipe"); });
+    expectError(ErrorCode::FileNotFound, ENOENT, [&] { read("c:\\none"); });
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { read("c:\\none\\mig.b50"); });
+    EXPECT_TRUE(sizes.empty());
+}
+
+TEST_F(Files, APathLiesWithinTheDirectoriesAboveItBehindAllLinks)
+{
+    disk.put("drive_c/tm/b50/mig.b50", "x");
+    disk.put("drive_c/tm2/su27.b50", "x");
+    std::filesystem::create_symlink(root + "/tm2/su27.b50", root + "/tm/link.b50");
+    std::filesystem::create_directory_symlink(root + "/tm/b50", root + "/within");
+    EXPECT_TRUE(files.liesWithin("c:\\tm\\b50\\mig.b50", "c:\\tm"));
+    EXPECT_TRUE(files.liesWithin("c:\\TM\\b50", "c:\\tm\\b50"));
+    EXPECT_TRUE(files.liesWithin("c:\\within\\mig.b50", "c:\\tm"));
+    EXPECT_FALSE(files.liesWithin("c:\\tm2\\su27.b50", "c:\\tm"));
+    EXPECT_FALSE(files.liesWithin("c:\\tm\\link.b50", "c:\\tm"));
+    EXPECT_FALSE(files.liesWithin("c:\\tm", "c:\\tm\\b50"));
+    EXPECT_FALSE(files.liesWithin("c:\\tm\\none", "c:\\tm"));
+    EXPECT_FALSE(files.liesWithin("c:\\tm", "q:\\"));
 }
 
 TEST_F(Files, ListNamesFilesAndDirectories)
