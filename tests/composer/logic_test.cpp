@@ -252,5 +252,18 @@ TEST_F(LogicTest, TheNotesAreOpenedByTheSystemAndTheHelpByItsWord)
     EXPECT_EQ(field(0).Text(), "");
 }
 
+TEST_F(LogicTest, ARowBehindTheLastIsNoTerm)
+{
+    std::vector<std::string> names{"X1", "gone"};
+    names.pop_back(); // its text may still be there
+    tab.FlagList[0].Items = std::move(names);
+    for (const int row : {1, -1}) {
+        choose(0, row);
+        EXPECT_EQ(term(tab.CMDFlagInsert[0]), "") << row;
+    }
+    choose(0, 0);
+    EXPECT_EQ(term(tab.CMDFlagInsert[0]), "X1");
+}
+
 } // namespace
 } // namespace tarvex

@@ -288,5 +288,19 @@ TEST_F(MacroTabTest, FiveThousandMacrosAreListed)
     EXPECT_EQ(joystick.Text(), "Macro4999 ");
 }
 
+TEST_F(MacroTabTest, ARowOrAListBehindTheLastIsNoMacro)
+{
+    std::vector<CheckListBox::Item> items{{.Text = "Fire"}, {.Text = "gone"}};
+    items.pop_back(); // its text may still be there
+    tab.List1[0].Items = std::move(items);
+    for (const int row : {1, -1}) {
+        tab.List1[0].ListIndex = row;
+        EXPECT_EQ(List1_OLEStartDrag(window, 0), "") << row;
+    }
+    tab.List1[0].ListIndex = 0;
+    EXPECT_EQ(List1_OLEStartDrag(window, 0), " Fire ");
+    EXPECT_EQ(List1_OLEStartDrag(window, tab.List1.size()), "");
+}
+
 } // namespace
 } // namespace tarvex

@@ -83,5 +83,26 @@ TEST_F(MiceTest, WithTheTwoButtonListA3IsInsertedWhateverTheOthersHaveChosen)
     EXPECT_EQ(joystick.Text(), "USE MTYPE A3\r\n");
 }
 
+TEST_F(MiceTest, ARowBehindTheLastHasNoTypeAndNoButtons)
+{
+    settings.CompTabsAddCr = 1;
+    ListBox& list = window.mice.MouseList[0];
+    std::vector<std::string> types{"A1", "gone"};
+    types.pop_back(); // its text may still be there
+    list.Items = std::move(types);
+    for (const int row : {1, -1}) {
+        list.ListIndex = row;
+        window.mice.Command9.Click();
+        EXPECT_EQ(joystick.Text(), "USE MTYPE \r\n") << row;
+        joystick.setText("");
+    }
+    choose(0, 0);
+    for (const int row : {5, -1}) {
+        list.ListIndex = row;
+        list.Click();
+        EXPECT_EQ(labels(), (Names{"T1", "n/a", "T6"})) << row;
+    }
+}
+
 } // namespace
 } // namespace tarvex

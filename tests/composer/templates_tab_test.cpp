@@ -231,5 +231,20 @@ TEST_F(TemplatesTest, TheRightButtonOnTheListShowsTheEntry)
     EXPECT_EQ(tab.TemplatesPreview.Text(), "x");
 }
 
+TEST_F(TemplatesTest, ARowBehindTheLastLeavesTheViewAsItIs)
+{
+    file("a.txt", "shown");
+    file("gone.txt", "another");
+    choose("a.txt");
+    std::vector<std::string> files{"a.txt", "gone.txt"};
+    files.pop_back(); // its text may still be there
+    tab.Templates.Items = std::move(files);
+    for (const int row : {1, -1}) {
+        tab.Templates.ListIndex = row;
+        tab.Templates.Click();
+        EXPECT_EQ(tab.TemplatesPreview.Text(), "shown") << row;
+    }
+}
+
 } // namespace
 } // namespace tarvex

@@ -29,10 +29,8 @@ void makeWritable(const fs::path& directory)
 {
     fs::permissions(directory, fs::perms::owner_all, fs::perm_options::add);
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(directory)) {
-        const bool isDirectory = entry.is_directory();
-        if (entry.is_symlink()) continue;
         fs::permissions(entry.path(),
-                        isDirectory ? fs::perms::owner_all : fs::perms::owner_read | fs::perms::owner_write,
+                        entry.is_directory() ? fs::perms::owner_all : fs::perms::owner_read | fs::perms::owner_write,
                         fs::perm_options::add);
     }
 }

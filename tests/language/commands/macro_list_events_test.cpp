@@ -355,5 +355,34 @@ TEST_F(ListEventsTest, DoubleClickSelectsTab1WhenTheJoystickPaneIsHidden)
     EXPECT_EQ(joystick.Text(), "Fire e Stop Fire\r\n");
 }
 
+TEST_F(ListEventsTest, ARowBehindTheLastIsNoMacro)
+{
+    std::vector<CheckListBox::Item> items{{.Text = "Fire"}, {.Text = "gone"}};
+    items.pop_back(); // its text may still be there
+    frame.List1[0].Items = std::move(items);
+    editor.macros.SelectedMacro = "before";
+    for (const int row : {1, -1}) {
+        pick(0, row);
+        List1_KeyDown(editor, 0, shiftKey::none);
+        EXPECT_EQ(editor.macros.SelectedMacro, "before") << row;
+    }
+}
+
+TEST_F(ListEventsTest, TheRightButtonOpensTheMenuOfAListThatIsThereAndHasMacros)
+{
+    editor.macros.ListClicked = 7;
+    List1_MouseDown(editor, frame.List1.size(), mouseButton::right, shiftKey::none);
+    EXPECT_TRUE(t.dialogues.popUps.empty());
+    frame.List1[1].Items = std::vector<CheckListBox::Item>{};
+    List1_MouseDown(editor, 1, mouseButton::right, shiftKey::none);
+    EXPECT_TRUE(t.dialogues.popUps.empty());
+    EXPECT_EQ(editor.macros.ListClicked, 7U);
+    List1_MouseDown(editor, 0, mouseButton::left, shiftKey::none);
+    EXPECT_TRUE(t.dialogues.popUps.empty());
+    List1_MouseDown(editor, 0, mouseButton::right, shiftKey::none);
+    EXPECT_EQ(t.dialogues.popUps, std::vector<std::string>{"mnuRHList"});
+    EXPECT_EQ(editor.macros.ListClicked, 0U);
+}
+
 } // namespace
 } // namespace tarvex

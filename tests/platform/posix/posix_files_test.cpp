@@ -210,11 +210,12 @@ TEST_F(Files, NothingIsMadeBelowAFile)
     EXPECT_EQ(files.read("c:\\tm"), "a file");
 }
 
-TEST_F(Files, AFileThatGrowsIsMadeInItsDirectoryOnly)
+TEST_F(Files, AFileThatGrowsIsMadeWithItsDirectoryButNotWithThoseAbove)
 {
-    files.createAppendFile("c:\\new")->append("one");
-    EXPECT_EQ(files.read("c:\\new"), "one");
-    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.createAppendFile("c:\\none\\new"); });
+    files.createAppendFile("c:\\Recover\\new")->append("one");
+    EXPECT_EQ(files.read("c:\\recover\\new"), "one");
+    EXPECT_EQ(std::filesystem::status(root + "/Recover").permissions(), std::filesystem::perms::owner_all);
+    expectError(ErrorCode::PathNotFound, ENOENT, [&] { files.createAppendFile("c:\\none\\deeper\\new"); });
 }
 
 TEST_F(Files, StampHasSizeAndTimeOfTheFileAndTellsFilesApart)

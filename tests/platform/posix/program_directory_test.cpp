@@ -1,5 +1,6 @@
 #include "platform/posix/program_directory.h"
 
+#include "platform/posix/command_line.h"
 #include "support/temporary_directory.h"
 
 #include <gmock/gmock.h>
@@ -90,6 +91,45 @@ TEST_F(ProgramDirectory, FilledFromFoldersThatNobodyMayWriteIsTheUsersToWrite)
     ::chmod((disk / "share/tarvex/Templates").c_str(), 0755);
 }
 
+TEST_F(ProgramDirectory, LinksAmongTheInstalledFilesAreFilledWithWhatTheyLeadTo)
+{
+    install();
+    disk.put("elsewhere/b.rtf", "linked");
+    std::filesystem::create_symlink(disk / "elsewhere/b.rtf", disk / "share/tarvex/b.rtf");
+    std::filesystem::create_directory_symlink(disk / "elsewhere", disk / "share/tarvex/More");
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    EXPECT_FALSE(std::filesystem::is_symlink(inHome + "/b.rtf"));
+    EXPECT_EQ(bytesOf(inHome + "/b.rtf"), "linked");
+    EXPECT_FALSE(std::filesystem::is_symlink(inHome + "/More"));
+    EXPECT_EQ(bytesOf(inHome + "/More/b.rtf"), "linked");
+}
+
+TEST_F(ProgramDirectory, FilledByAStartThatWasCutShortIsFilledAnew)
+{
+    install();
+    const std::string left = "home/.local/share/.tarvex-fill-" + std::to_string(::getpid());
+    disk.put(left + "/half.txt", "half");
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    EXPECT_EQ(bytesOf(inHome + "/Tips.txt"), "tips");
+    EXPECT_FALSE(std::filesystem::exists(inHome + "/half.txt"));
+    EXPECT_FALSE(std::filesystem::exists(disk / left));
+}
+
+TEST_F(ProgramDirectory, WithoutItsInstalledFilesIsEmpty)
+{
+    places.installedFiles = disk / "share/gone";
+    EXPECT_EQ(findProgramDirectory(places), inHome);
+    EXPECT_TRUE(std::filesystem::is_empty(inHome));
+}
+
+TEST_F(ProgramDirectory, ThatCannotBeFilledLeavesNothingBehind)
+{
+    install();
+    std::filesystem::create_symlink(disk / "nowhere", disk / "share/tarvex/broken");
+    EXPECT_EQ(findProgramDirectory(places), disk / "bin");
+    EXPECT_TRUE(std::filesystem::is_empty(disk / "home/.local/share"));
+}
+
 TEST_F(ProgramDirectory, WithoutAnyWritablePlaceIsTheExecutables)
 {
     moveToUnwritablePlace();
@@ -104,6 +144,8 @@ TEST(ReadProgramPlaces, FindsTheRunningProgram)
     const ProgramPlaces places = readProgramPlaces();
     EXPECT_EQ(std::filesystem::path(places.executable).filename(), "posix_test");
     EXPECT_TRUE(std::filesystem::is_regular_file(places.executable));
+    EXPECT_EQ(places.home, fromEnvironment("HOME"));
+    EXPECT_EQ(places.dataHome, fromEnvironment("XDG_DATA_HOME"));
 }
 
 } // namespace tarvex

@@ -51,6 +51,25 @@ TEST(KindOfProgram, AHeaderThatPointsNowhereMakesADosProgram)
     EXPECT_EQ(kindOf("a.exe", "MZ"), ProgramKind::Dos);
 }
 
+TEST(KindOfProgram, TheHeaderMayStandAnywhereInTheFile)
+{
+    std::string bytes = dosProgram();
+    bytes.replace(0x3C, 4, std::string("\x34\x12\x01\x00", 4));
+    bytes.resize(0x11234, '\0');
+    EXPECT_EQ(kindOf("a.exe", bytes + "PE"), ProgramKind::Windows);
+    EXPECT_EQ(kindOf("a.exe", bytes + "P"), ProgramKind::Dos) << "cut short";
+    EXPECT_EQ(kindOf("a.exe", bytes + "\x01PE"), ProgramKind::Dos);
+}
+
+TEST(KindOfProgram, AHeadWithoutRoomForAPlaceMakesADosProgram)
+{
+    std::string bytes = dosProgram("PE");
+    EXPECT_EQ(kindOf("a.exe", bytes.substr(0, 0x3F)), ProgramKind::Dos);
+    bytes.replace(0x3C, 4, std::string("\0\0\0\0", 4));
+    bytes.replace(0, 2, "MZ");
+    EXPECT_EQ(kindOf("a.exe", bytes.substr(0, 0x40)), ProgramKind::Dos);
+}
+
 TEST(KindOfProgram, AppletsAreForTheControlPanel)
 {
     EXPECT_EQ(kindOf("TM.CPL", dosProgram("PE")), ProgramKind::ControlPanel);

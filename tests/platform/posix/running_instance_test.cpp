@@ -137,6 +137,38 @@ TEST_F(RunningInstance, APathTooLongForASocketIsARefusal)
     EXPECT_FALSE(askRunningInstance(endless, {}, longPatience));
 }
 
+TEST_F(RunningInstance, APathOf107BytesIsTheLongestForASocket)
+{
+    constexpr std::size_t longest = 107; // the field of 108 bytes has an end in it
+    ASSERT_LT(disk.path().size() + 2, longest);
+    const std::string fits = disk / std::string(longest - disk.path().size() - 1, 'x');
+    ASSERT_EQ(fits.size(), longest);
+    Listener listener(fits, std::string(requestAccepted()));
+    EXPECT_TRUE(askRunningInstance(fits, {}, longPatience));
+    EXPECT_FALSE(listenForRequests(fits + "x"));
+}
+
+TEST_F(RunningInstance, ARequestOfAMegabyteArrivesWhole)
+{
+    const InstanceRequest request{Kind::Open, std::string(1 << 20, 'x'), "t"};
+    Listener listener(path, std::string(requestAccepted()));
+    EXPECT_TRUE(askRunningInstance(path, request, longPatience));
+    EXPECT_EQ(readRequest(listener.heard()), request);
+}
+
+TEST_F(RunningInstance, AnAnswerWithMoreBehindItIsARefusal)
+{
+    Listener listener(path, std::string(requestAccepted()) + "x");
+    EXPECT_FALSE(askRunningInstance(path, {}, longPatience));
+}
+
+TEST_F(RunningInstance, ASocketLeavesTheRightsOfLaterFilesAsTheyWere)
+{
+    const mode_t before = ::umask(0027);
+    const FileDescriptor listening = listenForRequests(path);
+    EXPECT_EQ(::umask(before), 0027U);
+}
+
 // ---- the place ------------------------------------------------------------------------------------------------------
 
 TEST_F(RunningInstance, EachProgramDirectoryHasItsOwnSocketInTheRuntimeDirectory)
@@ -160,6 +192,21 @@ TEST_F(RunningInstance, ADirectoryThatOthersMayWriteToIsNotUsed)
     std::filesystem::create_directory(disk / "tarvex");
     std::filesystem::permissions(disk / "tarvex", std::filesystem::perms::all);
     EXPECT_EQ(instanceSocket(disk.path(), "/opt/one"), "/opt/one/Tarvex.socket");
+}
+
+TEST_F(RunningInstance, AFileInPlaceOfTheDirectoryIsNotUsed)
+{
+    std::filesystem::permissions(disk.put("tarvex", ""), std::filesystem::perms::owner_all);
+    EXPECT_EQ(instanceSocket(disk.path(), "/opt/one"), "/opt/one/Tarvex.socket");
+}
+
+TEST_F(RunningInstance, ADirectoryThatOthersMayOnlyLookIntoIsNotUsedEither)
+{
+    std::filesystem::create_directory(disk / "tarvex");
+    for (const auto others : {std::filesystem::perms::group_read, std::filesystem::perms::others_exec}) {
+        std::filesystem::permissions(disk / "tarvex", std::filesystem::perms::owner_all | others);
+        EXPECT_EQ(instanceSocket(disk.path(), "/opt/one"), "/opt/one/Tarvex.socket");
+    }
 }
 
 TEST_F(RunningInstance, ALinkToADirectoryElsewhereIsNotUsed)
