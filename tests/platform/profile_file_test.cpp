@@ -1,5 +1,6 @@
 #include "platform/profile_file.h"
 
+#include "platform/windows1252.h"
 #include "support/memory_files.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +64,18 @@ TEST_F(Profile, NamesWithAccentsMatchInAnyCaseAndEncoding)
 {
     fileHolds("[\xC4]\r\n\xC3\x96=1\r\n");
     EXPECT_EQ(ini.readString("\u00E4", "\u00F6", ""), "1");
+}
+
+TEST_F(Profile, NamesOfOneByteOfTheCodePageMatchTheirCharacter)
+{
+    for (int byte = 0x80; byte <= 0xFF; ++byte) {
+        const std::string name(1, static_cast<char>(byte));
+        fileHolds("[" + name + "]\r\n" + name + "=1\r\n");
+        const std::string character = utf8FromWindows1252(name);
+        EXPECT_EQ(ini.readString(character, character, "none"), "1") << byte;
+    }
+    fileHolds("[\x7F]\r\n\x7F=1\r\n");
+    EXPECT_EQ(ini.readString("\x7F", "\x7F", ""), "1");
 }
 
 TEST_F(Profile, OnePairOfMatchingQuotesIsStripped)
@@ -161,6 +174,9 @@ TEST_F(Profile, NewLineUsesThePrevailingLineEnd)
     fileHolds("[Games]\rA=1\r");
     write("C", "3");
     EXPECT_EQ(bytes(), "[Games]\rA=1\rC=3\r");
+    fileHolds("[Games]\nA=1\r\n");
+    write("C", "3");
+    EXPECT_EQ(bytes(), "[Games]\nA=1\r\nC=3\r\n") << "as often as the other";
 }
 
 TEST_F(Profile, NewKeyGoesBeforeTheBlankLinesThatEndItsSection)

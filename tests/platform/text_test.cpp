@@ -75,6 +75,21 @@ TEST(ToNumber, AnythingElseIsATypeMismatch)
     }
 }
 
+TEST(ToNumber, BeginsWithAnyDigitAndNothingBesideThem)
+{
+    for (int digit = 0; digit <= 9; ++digit) {
+        const std::string text(1, static_cast<char>('0' + digit));
+        EXPECT_EQ(toNumber(text), digit);
+        EXPECT_EQ(toNumber("-" + text), -digit);
+        EXPECT_EQ(Val(text), digit);
+        EXPECT_EQ(Val("-" + text), -digit);
+    }
+    for (const char* text : {"/1", ":1", "*1"}) {
+        EXPECT_EQ(codeOf([&] { toNumber(text); }), typeMismatch) << text;
+        EXPECT_EQ(Val(text), 0) << text;
+    }
+}
+
 TEST(ToNumber, BeyondTheRangeOverflows)
 {
     EXPECT_EQ(codeOf([] { toNumber("1e999"); }), overflow);
@@ -126,6 +141,8 @@ TEST(Val, TakesTheNumberThatTheTextBeginsWith)
     EXPECT_EQ(Val("1 2\t3"), 123) << "blanks don't count";
     EXPECT_EQ(Val("2e3"), 2000);
     EXPECT_EQ(Val("2d3"), 2000);
+    EXPECT_EQ(Val("2D-1"), 0.2);
+    EXPECT_EQ(Val("1\r\n2"), 12) << "nor do line ends";
     EXPECT_EQ(Val("2elf"), 2);
     EXPECT_EQ(Val("1.2.3"), 1.2);
 }
@@ -142,6 +159,11 @@ TEST(Val, BeyondAllNumbersIsInfiniteOrZero)
     EXPECT_GT(Val(std::string(500, '9')), 1e300);
     EXPECT_EQ(Val("1e-999"), 0);
     EXPECT_EQ(Val("0." + std::string(500, '0') + "1"), 0);
+    EXPECT_EQ(Val("." + std::string(500, '0') + "1"), 0);
+    EXPECT_EQ(Val("000." + std::string(500, '0') + "1"), 0);
+    EXPECT_GT(Val("00" + std::string(500, '9') + ".5"), 1e300);
+    EXPECT_GT(Val("1E+999"), 1e300);
+    EXPECT_EQ(Val("9D-999"), 0);
 }
 
 } // namespace tarvex

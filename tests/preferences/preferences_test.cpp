@@ -377,6 +377,81 @@ TEST_F(PreferencesTest, AChosenColourIsStoredShownAndWritten)
     EXPECT_EQ(ini("Colours", "SlashColour"), std::to_string(green));
 }
 
+TEST_F(PreferencesTest, EachColourIsThatOfItsItemInBothSamples)
+{
+    using Key = Colour Settings::*;
+    const std::tuple<int, Key, const char*, const char*> classes[] = {
+        {2, &Settings::BTNColour, "BTN T4", nullptr},
+        {3, &Settings::SlashColour, "/P RAW", "/P KP6"},
+        {4, &Settings::RAWColour, "RAW (#5B)", "RAW (#E0"},
+        {5, &Settings::MiscellaneousColour, "USE TQS", "DLY(60)"},
+        {6, &Settings::RemStatements, "Rem ---", "Rem ---"}};
+    inPreferences([&] {
+        ColoursPage& page = preferences().coloursPage;
+        for (const auto& [index, key, ofJoystick, ofMacro] : classes) {
+            const Colour colour = 0x100 + index;
+            ApplyColour(page, index, colour);
+            EXPECT_EQ(settings().*key, colour);
+            const auto colourAt = [](const Pane& sample, const char* text) {
+                return sample.formatAt(sample.Text().find(text)).colour;
+            };
+            EXPECT_EQ(colourAt(page.ExampleJoystickText, ofJoystick), colour) << index;
+            if (ofMacro != nullptr) {
+                EXPECT_EQ(colourAt(page.ExampleMacroText, ofMacro), colour) << index;
+            }
+        }
+        ApplyColour(page, 0, 0x111111);
+        ApplyColour(page, 7, 0x777777);
+        EXPECT_EQ(page.ExampleJoystickText.BackColor.get(), 0x111111);
+        EXPECT_EQ(page.ExampleMacroText.BackColor.get(), 0x777777);
+        ApplyColour(page, 1, 0x222222);
+        EXPECT_EQ(program().shared.DefaultTextColour, 0x222222);
+        const Pane& sample = page.ExampleJoystickText;
+        EXPECT_EQ(sample.formatAt(sample.Text().find("Longbow2")).colour, 0x222222);
+        EXPECT_EQ(sample.formatAt(sample.Text().find("BTN T4")).colour, 0x102) << "painted again";
+    });
+}
+
+TEST_F(PreferencesTest, TheColourThatAnItemHasAlreadyIsNoChange)
+{
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        ApplyColour(page, 2, settings().BTNColour);
+        ApplyColour(page, 1, program().shared.DefaultTextColour);
+        EXPECT_FALSE(page.coloursChanged);
+        ApplyColour(page, 2, settings().BTNColour + 1);
+        EXPECT_TRUE(page.coloursChanged);
+        loadColours(page);
+        EXPECT_FALSE(page.coloursChanged);
+        EXPECT_EQ(page.List1.ListIndex, -1);
+    });
+}
+
+TEST_F(PreferencesTest, ACancelledFontChangesNothing)
+{
+    inPreferences([this] {
+        dialogues.fonts.emplace_back(std::nullopt);
+        preferences().coloursPage.Command18.Click();
+        const FontChoice& shown = dialogues.fontsShown.back();
+        EXPECT_EQ(shown.name, settings().TextFontName);
+        EXPECT_EQ(shown.size, settings().TextFontSize);
+        EXPECT_EQ(shown.bold, settings().TextFontBold == 1);
+        EXPECT_EQ(program().shared.FontChanged, 0);
+    });
+}
+
+TEST_F(PreferencesTest, TheTickOfTheColoursIsInForceAtOnce)
+{
+    inPreferences([this] {
+        CheckBox& box = preferences().coloursPage.CheckBox1;
+        for (const bool on : {false, true}) {
+            box.Value = on;
+            box.Click();
+            EXPECT_EQ(settings().ApplyColoursOnFileOpen, on ? 1 : 0);
+        }
+    });
+}
+
 TEST_F(PreferencesTest, ACancelledColourChangesNothing)
 {
     const Colour before = settings().RAWColour;

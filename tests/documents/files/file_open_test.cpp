@@ -347,6 +347,48 @@ TEST_F(OpenTest, TheMacroQuestionHasItsOwnWords)
     EXPECT_TRUE(t.dialogues.openRequests.empty());
 }
 
+TEST_F(OpenTest, AFileThatCantBeReadEndsItsCommandWithoutAPartner)
+{
+    addPair();
+    int cleared = 0;
+    t.program().operations.ClearMacroTicks = [&] { ++cleared; };
+    const auto open = [&](MenuItem& command, const char* path) {
+        t.files.failReads(path, RuntimeError(ErrorCode::PermissionDenied, "no"));
+        t.dialogues.boxes.clear();
+        t.dialogues.filesToOpen = {path};
+        const int tab = path == std::string(mig) ? t.editor().macro.tab : t.editor().joystick.tab;
+        t.editor().TabStrip1.Select(tab);
+        command.Click();
+        t.files.failReads(path, std::nullopt);
+        EXPECT_EQ(t.editor().TabStrip1.SelectedItem, tab) << "the other document stays in front";
+        EXPECT_EQ(t.dialogues.boxes.size(), 1U);
+        EXPECT_EQ(t.lastBox().title, "Ooops!");
+        EXPECT_EQ(joystickText() + macroText(), "");
+        EXPECT_EQ(cleared, 0);
+    };
+    open(t.menus().mnuFileJoystickLoad, mig);
+    open(t.menus().MnuFileMacroLoad, migMacros);
+    open(t.menus().mnuFileOpen, mig);
+    open(t.menus().mnuFileOpen, migMacros);
+}
+
+TEST_F(OpenTest, ACancelledQuestionAsksForNoFile)
+{
+    addPair();
+    t.typeJoystick("unsaved");
+    t.typeMacro("A = a");
+    for (MenuItem* command : {&t.menus().mnuFileJoystickLoad, &t.menus().MnuFileMacroLoad, &t.menus().mnuFileOpen}) {
+        t.dialogues.answers = {Answer::Cancel};
+        command->Click();
+        EXPECT_TRUE(t.dialogues.openRequests.empty());
+    }
+    t.dialogues.answers = {Answer::No, Answer::Cancel};
+    t.menus().mnuFileOpen.Click();
+    EXPECT_TRUE(t.dialogues.openRequests.empty());
+    EXPECT_EQ(joystickText(), "unsaved");
+    EXPECT_EQ(macroText(), "A = a");
+}
+
 TEST_F(OpenTest, APartnerThatCantBeReadIsNotOpened)
 {
     addPair();

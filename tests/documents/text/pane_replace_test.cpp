@@ -93,6 +93,21 @@ TEST(ReplaceEach, AWordThatAReplacementEndsBesideIsntWholeAnyMore)
     EXPECT_EQ(pane.Text(), other.Text());
 }
 
+TEST(ReplaceEach, AMatchBehindAReplacementIsWholeOrNotByWhatStandsThereNow)
+{
+    const auto replaced = [](std::string_view text, std::string_view replacement) {
+        Pane pane;
+        pane.setText(text);
+        pane.replaceEach("a-", replacement, 0, find::wholeWord, always);
+        return pane.Text();
+    };
+    EXPECT_EQ(replaced("a-a-", "x"), "xa-") << "the second stands behind a letter now";
+    EXPECT_EQ(replaced("a-a-", "+"), "++");
+    EXPECT_EQ(replaced(" a-a-", ""), " ");
+    EXPECT_EQ(replaced("b a-a-", "x"), "b xa-");
+    EXPECT_EQ(replaced("a- a-", "x"), "x x");
+}
+
 /// A text of few characters, so that matches meet, with runs of colour.
 void fillRandom(Pane& pane, Pane& twin, std::mt19937& chance)
 {
@@ -113,7 +128,7 @@ void fillRandom(Pane& pane, Pane& twin, std::mt19937& chance)
 
 TEST(ReplaceEach, IsTheSameAsFindAndSetSelTextByTurns)
 {
-    constexpr const char* sought[] = {"a", "ab", "aa", "-", "a-a", "b\r\na", "A", " "};
+    constexpr const char* sought[] = {"a", "ab", "aa", "-", "a-", "-a", "a-a", "b\r\na", "A", " "};
     constexpr const char* replacements[] = {"", "a", "xx", "-", "a\r\nb", "aab"};
     std::mt19937 chance(7);
     int replacedInAll = 0;
