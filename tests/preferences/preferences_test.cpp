@@ -384,7 +384,7 @@ TEST_F(PreferencesTest, EachColourIsThatOfItsItemInBothSamples)
         {2, &Settings::BTNColour, "BTN T4", nullptr},
         {3, &Settings::SlashColour, "/P RAW", "/P KP6"},
         {4, &Settings::RAWColour, "RAW (#5B)", "RAW (#E0"},
-        {5, &Settings::MiscellaneousColour, "USE TQS", "DLY(60)"},
+        {5, &Settings::MiscellaneousColour, "USE TQS", nullptr},
         {6, &Settings::RemStatements, "Rem ---", "Rem ---"}};
     inPreferences([&] {
         ColoursPage& page = preferences().coloursPage;

@@ -150,6 +150,31 @@ TEST(ComboJoystick_Click, SetsTheExtensionsAndMarksAChange)
     EXPECT_EQ(t.shared.HardwareChangedMark, 1);
 }
 
+TEST(ComboJoystick_Click, AnIndexOfNoJoystickLeavesTheExtensions)
+{
+    Machine t;
+    t.settings.JoystickExtension = "b50";
+    t.settings.MacroExtension = "m50";
+    for (const int index : {-1, 5, 6}) {
+        ComboJoystick_Click(t.shared, static_cast<std::int16_t>(index));
+        EXPECT_EQ(t.settings.JoyName, index);
+        EXPECT_EQ(t.settings.JoystickExtension, "b50") << index;
+        EXPECT_EQ(t.settings.MacroExtension, "m50") << index;
+    }
+}
+
+TEST(ComboJoystick_Click, EachJoystickHasItsExtensions)
+{
+    Machine t;
+    const std::pair<const char*, const char*> expected[] = {
+        {"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}, {"adv", "mdf"}, {"adv", "mdf"}};
+    for (std::size_t index = 0; index < std::size(expected); ++index) {
+        ComboJoystick_Click(t.shared, static_cast<std::int16_t>(index));
+        EXPECT_EQ(t.settings.JoystickExtension, expected[index].first) << index;
+        EXPECT_EQ(t.settings.MacroExtension, expected[index].second) << index;
+    }
+}
+
 TEST(ComboJoystick_Click, TheSameIndexIsNoChange)
 {
     Machine t;
