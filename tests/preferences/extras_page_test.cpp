@@ -201,6 +201,8 @@ TEST_F(ExtrasPageTest, TheButtonsOfADriveAreThoseThatCanDoSomething)
         EXPECT_EQ(enabled('d'), std::pair(true, true)) << "the whole disk, by the user's own choice";
         EXPECT_EQ(enabled('z'), std::pair(false, false));
         EXPECT_EQ(enabled('-'), std::pair(false, false));
+        page().DriveRow = static_cast<int>(page().Drives.get().size());
+        EXPECT_FALSE(page().DriveBrowse.Enabled || page().DriveReset.Enabled) << "behind the last row";
         page().DriveBrowse.Click();
         page().DriveReset.Click();
         EXPECT_EQ(folderOf('d'), "/");

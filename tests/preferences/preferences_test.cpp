@@ -190,6 +190,26 @@ TEST_F(PreferencesTest, ThrottleAndRuddersAreKeptByTheirPlaceInTheList)
     EXPECT_EQ(ini("FileLocations", "RudderName"), "2");
 }
 
+TEST_F(PreferencesTest, ControllersOfNoKnownNumberAreNotNamed)
+{
+    FileLocationsPage& page = preferences().fileLocationsPage;
+    const auto shown = [&](std::int16_t stick, std::int16_t throttle, std::int16_t rudders) {
+        settings().JoyName = stick;
+        settings().ThrottleName = throttle;
+        settings().RudderName = rudders;
+        std::string names;
+        inPreferences([&] {
+            for (const ComboBox* combo : {&page.ComboJoystick, &page.ComboThrottle, &page.ComboRudders})
+                names += combo->Text.get() + ';';
+        });
+        return names;
+    };
+    EXPECT_EQ(shown(0, 0, 0), "F22 Pro;None;None;");
+    EXPECT_EQ(shown(4, 3, 2), "FCS;WCS;RCS;");
+    EXPECT_EQ(shown(5, 4, 3), ";;;");
+    EXPECT_EQ(shown(-1, -1, -1), ";;;");
+}
+
 TEST_F(PreferencesTest, WithoutGamesAWrittenBoxChangesNothing)
 {
     inPreferences([this] {

@@ -88,6 +88,25 @@ TEST_F(WinLoadPageTest, AMouseTypeBeyondItsListLeavesThePieceAsItWas)
     EXPECT_EQ(ini("WinLoad", "WinLoadMouseType"), "12") << "nothing was chosen in its place";
 }
 
+TEST_F(WinLoadPageTest, TheTypesOfAMouseEndWithItsList)
+{
+    const auto chosenAtStart = [this](const char* mouse, const char* type) {
+        setIni("WinLoad", "WinLoadMouse", mouse);
+        setIni("WinLoad", "WinLoadMouseType", type);
+        start();
+        int chosen = -2;
+        inPreferences([&] { chosen = page().MouseList[static_cast<std::size_t>(*mouse - '0')].ListIndex; });
+        return chosen;
+    };
+    EXPECT_EQ(chosenAtStart("0", "4"), 4);
+    EXPECT_EQ(chosenAtStart("0", "5"), -1);
+    EXPECT_EQ(program().shared.errors.ErrorDescription, "Invalid property value");
+    EXPECT_EQ(chosenAtStart("1", "9"), 9);
+    EXPECT_EQ(chosenAtStart("1", "10"), -1);
+    EXPECT_EQ(chosenAtStart("2", "0"), 0);
+    EXPECT_EQ(chosenAtStart("2", "-1"), -1);
+}
+
 TEST_F(WinLoadPageTest, OptionsComeBackAsTheyWereLeft)
 {
     inPreferences([this] {

@@ -102,6 +102,25 @@ TEST(ShortKeys, RawCodesOfSeveralKeysAreEachRead)
     EXPECT_EQ(keys("RAW (#12 #F0 #12 #14 #F0 #14)"), "Left Shift Left Ctrl");
 }
 
+TEST(ShortKeys, EachKeyThatIsHeldWithOthersStandsBeforeThem)
+{
+    EXPECT_EQ(keys("RAW (#12 #1C)"), "Shift+a");
+    EXPECT_EQ(keys("RAW (#59 #1C)"), "Shift+a") << "the right one";
+    EXPECT_EQ(keys("RAW (#14 #1C)"), "Ctrl+a");
+    EXPECT_EQ(keys("RAW (#E0 #14 #1C)"), "Ctrl+a");
+    EXPECT_EQ(keys("RAW (#11 #1C)"), "Alt+a");
+    EXPECT_EQ(keys("RAW (#E0 #11 #1C)"), "Alt+a");
+    EXPECT_EQ(keys("RAW (#58 #1C)"), "Caps Lock a") << "is pressed before it";
+}
+
+TEST(ShortKeys, OfHeldKeysWithoutAnotherTheLastIsTheKey)
+{
+    EXPECT_EQ(keys("RAW (#12 #14)"), "Left Ctrl");
+    EXPECT_EQ(keys("RAW (#12 #14 #F0 #14 #F0 #12)"), "Left Ctrl");
+    EXPECT_EQ(keys("RAW (#12 #1C #F0 #1C #14)"), "Shift+a Left Ctrl");
+    EXPECT_EQ(keys("RAW (#F0 #12)"), "") << "a release alone is none";
+}
+
 TEST(ShortKeys, ARawStatementEndsAtItsBracket)
 {
     EXPECT_EQ(keys("raw (#1C #F0 #1C) b"), "a b");

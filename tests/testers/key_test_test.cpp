@@ -77,6 +77,49 @@ TEST_F(KeyTestTest, EachOpeningStartsWithEmptyListsAndNoEntryChecked)
     EXPECT_EQ(form.Timer1.Interval, 500);
 }
 
+TEST_F(KeyTestTest, EachOpeningForgetsWhatTheLastOneLeft)
+{
+    open();
+    for (ToggleLabel* label : {&form.LabelSHIFT, &form.LabelCTRL, &form.LabelALT, &form.JoyButtonAnalogue[0]})
+        label->hold(true);
+    form.mnuClear500[2].Click();
+    Form_KeyUp(form, 13, 0);
+    EXPECT_TRUE(form.Timer1.Enabled);
+    form.mnuClose.Click();
+    EXPECT_FALSE(form.Timer1.Enabled);
+    form.ClearOnNextKey = form.KeyPressSuppressed = form.SkipNextKeyDown = form.SkipNextKeyUp = 1;
+    form.ToldOfCapsLock = true;
+    form.ColourIndex = 4;
+    form.MoreButtons.Caption = "5";
+    open();
+    for (const ToggleLabel* label : {&form.LabelSHIFT, &form.LabelCTRL, &form.LabelALT, &form.JoyButtonAnalogue[0]})
+        EXPECT_FALSE(label->isHeld());
+    EXPECT_FALSE(form.Timer1.Enabled);
+    EXPECT_EQ(form.ClearOnNextKey + form.KeyPressSuppressed + form.SkipNextKeyDown + form.SkipNextKeyUp, 0);
+    EXPECT_FALSE(form.ToldOfCapsLock);
+    EXPECT_EQ(form.ColourIndex, 1);
+    EXPECT_EQ(form.CurrentColour, settings().MiscellaneousColour);
+    EXPECT_EQ(form.UpColour, form.CurrentColour);
+    EXPECT_EQ(form.MoreButtons.Caption.get(), "");
+    EXPECT_TRUE(form.JoystickShown);
+}
+
+TEST_F(KeyTestTest, AKeyDownDropsTheClearingThatWasDue)
+{
+    open();
+    form.mnuClear500[0].Click();
+    EXPECT_EQ(form.Timer1.Interval, 200);
+    key(13);
+    form.Timer1.Tick();
+    EXPECT_EQ(form.ClearOnNextKey, 1);
+    Form_KeyDown(form, 13, 0);
+    EXPECT_EQ(form.ClearOnNextKey, 0);
+    EXPECT_FALSE(form.Timer1.Enabled);
+    EXPECT_EQ(form.RTFKeysText.Text(), " Enter\r\n");
+    Form_KeyDown(form, 13, 0);
+    EXPECT_EQ(form.RTFKeysText.Text(), " Enter\r\n Enter\r\n") << "cleared once";
+}
+
 TEST_F(KeyTestTest, TheCommandAgainKeepsWhatTheOpenWindowShows)
 {
     open();

@@ -162,6 +162,80 @@ TEST(SpikeCounter, AFastMovementIsNoSpike)
     EXPECT_EQ(counter.count(), 0U);
 }
 
+/// Spikes of values that come a millisecond after each other.
+std::size_t spikesOf(std::initializer_list<int> values)
+{
+    SpikeCounter counter;
+    std::int64_t time = 0;
+    for (const int value : values) counter.add(time += millisecond, value);
+    return counter.count();
+}
+
+TEST(SpikeCounter, AfterAMovementASpikeIsOneFromTheNewPlace)
+{
+    SpikeCounter counter;
+    std::int64_t time = 0;
+    const auto rest = [&](int value) {
+        for (int i = 0; i < 50; ++i) counter.add(time += millisecond, value);
+    };
+    rest(0);
+    rest(10000);
+    EXPECT_EQ(counter.count(), 0U);
+    counter.add(time += millisecond, 13000);
+    rest(10000);
+    EXPECT_EQ(counter.count(), 1U);
+}
+
+TEST(SpikeCounter, ASpikeEndsWithinHalfItsThresholdOfWhereItBegan)
+{
+    EXPECT_EQ(spikesOf({30000, 40000, 30000 + spikeThreshold / 2}), 1U);
+    EXPECT_EQ(spikesOf({30000, 40000, 30000 + spikeThreshold / 2 + 1}), 0U);
+    EXPECT_EQ(spikesOf({30000, 20000, 30000 - spikeThreshold / 2}), 1U);
+}
+
+TEST(SpikeCounter, ItGoesOnFromWhereASpikeEnded)
+{
+    EXPECT_EQ(spikesOf({0, 5000, 750, 2250, 750}), 1U) << "2250 is no jump from 750";
+    EXPECT_EQ(spikesOf({0, 5000, 750, 2251, 750}), 2U);
+}
+
+TEST(SpikeCounter, ASlowMovementHasNoJumps)
+{
+    EXPECT_EQ(spikesOf({0, 1500, 3000, 4500, 6000, 4500, 3000}), 0U);
+    EXPECT_EQ(spikesOf({0, 1500, 3001, 1500}), 1U);
+}
+
+TEST(StickStatistics, ARestIsAsWideAsASpikeIsHighAndLooksBackFiveSeconds)
+{
+    Signal signal;
+    signal.send(32768 + spikeThreshold);
+    signal.send(32768);
+    EXPECT_EQ(signal.x().rest.peakToPeak, spikeThreshold);
+    signal.send(32768 - 1, 30);
+    EXPECT_EQ(signal.x().rest.peakToPeak, 1) << "a thousandth more is another place";
+    Signal old;
+    old.send(32768 + 5);
+    old.step = 5'000 * millisecond - millisecond;
+    old.send(32768 + 3);
+    old.step = millisecond;
+    old.send(32768);
+    EXPECT_EQ(old.x().rest.peakToPeak, 5) << "five seconds ago";
+    old.send(32768);
+    EXPECT_EQ(old.x().rest.peakToPeak, 3) << "and a bit more";
+}
+
+TEST(StickStatistics, TheLastValueCountsAsLongAsThereIsAPause)
+{
+    Signal signal;
+    signal.step = 10 * millisecond;
+    signal.send(32768);
+    EXPECT_EQ(signal.x().rest.microseconds, millisecond) << "the least";
+    signal.statistics.pause(500 * millisecond);
+    EXPECT_EQ(signal.x().rest.microseconds, 500 * millisecond);
+    signal.send(32768);
+    EXPECT_EQ(signal.x().rest.microseconds, 11 * millisecond) << "a report ends it";
+}
+
 TEST(StickStatistics, DriftIsTheMovementOfTheRest)
 {
     Signal signal;

@@ -294,6 +294,22 @@ TEST_F(TcaTest, ValuesThatNobodyCanChooseCheckNothingAndDrawWithoutHarm)
     }
 }
 
+TEST_F(TcaTest, AFileMayAskForUpTo256Divisions)
+{
+    const auto linesWith = [this](int divisions) {
+        files.addFile(tcaPath, "[Options]\r\nTCAGridCellSize=" + std::to_string(divisions) + "\r\n");
+        open();
+        tick();
+        const std::size_t lines = dottedAt(form.PicJoy, true).size();
+        form.mnuexit.Click();
+        return lines;
+    };
+    EXPECT_EQ(linesWith(1), 0U) << "the edges have none";
+    EXPECT_EQ(linesWith(2), 2U);
+    EXPECT_EQ(linesWith(256), 2 * 255U);
+    EXPECT_EQ(linesWith(257), 0U);
+}
+
 TEST_F(TcaTest, ZoomEmptiesTheStripsAndTheyComeBackWithTheNextTick)
 {
     open();
