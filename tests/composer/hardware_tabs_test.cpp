@@ -224,6 +224,12 @@ TEST_F(HardwareTabs, EveryControlHasItsCaption)
     for (const auto& [id, text] : captions) EXPECT_EQ(controlButton(window, id)->Caption.get(), text) << id;
 }
 
+TEST_F(HardwareTabs, TheTriggerHasNoCaptionOfItsOwn)
+{
+    EXPECT_EQ(controlButton(window, "TRIG"), &window.TRIG);
+    EXPECT_EQ(window.TRIG.Caption.get(), "") << "its menu names both stages";
+}
+
 TEST_F(HardwareTabs, UnknownIdsHaveNoControl)
 {
     for (const char* id : {"", "BTN", "BTN(", "BTN()", "BTN(33)", "BTN(-1)", "BTN(1x)", "HAT(5)", "ROTARY(10)", "X(1)"})

@@ -107,6 +107,29 @@ TEST_F(OverlayTest, TheTextHasTheStatementsAndTheKeysOfTheirMacros)
     EXPECT_EQ(assignedText(window, "nothing"), "");
 }
 
+TEST_F(OverlayTest, LinesOfTheMacroFileWithoutAnEqualsSignOrANameAreNoMacros)
+{
+    t.files.addFile("c:\\tm\\a.b50", "BTN H1U Fire\r\n");
+    t.files.addFile("c:\\tm\\a.m50", "Fire\r\n = x\r\n  Fire  = f\r\n");
+    t.openBoth("c:\\tm\\a.b50");
+    window.form.Activate();
+    EXPECT_EQ(assignedText(window, "HAT(0)"), "BTN H1U Fire\n      Fire  = f");
+}
+
+TEST_F(OverlayTest, TextThatChangesNoStatementRedrawsNoMarks)
+{
+    write("BTN S1 Fire\r\n");
+    settle();
+    int changes = 0;
+    const Connection follow = window.AssignedChanged.connect([&changes] { ++changes; });
+    write("Rem more\r\n");
+    settle();
+    EXPECT_EQ(changes, 0);
+    write("BTN S2 Gear\r\n");
+    settle();
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(OverlayTest, TheLabelsOfTheWcsDecideWhoseStatementItIs)
 {
     write("BTN T3 a\r\nRKR UP b\r\n");

@@ -42,6 +42,30 @@ TEST_F(AboutBox, SystemInfoIsTheToolThatTheRegistryNames)
     window.cmdSysInfo.Click();
     ASSERT_EQ(t.processes.starts.size(), 1U);
     EXPECT_EQ(t.processes.starts[0].commandLine, "c:\\tools\\msinfo32.exe");
+    EXPECT_EQ(t.processes.starts[0].directory, "c:\\tools\\");
+    EXPECT_EQ(t.processes.starts[0].style, windowStyle::normal);
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
+TEST_F(AboutBox, SystemInfoThatDoesNotStartIsSaidToBeUnavailable)
+{
+    system.registry[{toolKey, "PATH"}] = "c:\\tools\\msinfo32.exe";
+    t.files.addFile("c:\\tools\\msinfo32.exe", "MZ");
+    t.processes.failure = RuntimeError(ErrorCode::PermissionDenied, "Permission denied");
+    window.cmdSysInfo.Click();
+    EXPECT_EQ(t.dialogues.boxes.size(), 1U);
+    EXPECT_EQ(t.lastBox().text, "System Information Is Unavailable At This Time");
+}
+
+TEST_F(AboutBox, APictureThatIsGoneIsNotShownAgain)
+{
+    t.files.addFile("c:\\tarvex\\AboutTarvy.bmp", "BM...");
+    window.Form.Visible = true;
+    window.cmdOK.Click();
+    EXPECT_FALSE(window.Form.Visible);
+    t.files.removeFile("c:\\tarvex\\AboutTarvy.bmp");
+    window.Form.Visible = true;
+    EXPECT_EQ(window.Picture, "");
 }
 
 TEST_F(AboutBox, SystemInfoIsLookedForInTheFolderOfTheToolsNext)

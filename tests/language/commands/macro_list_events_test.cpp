@@ -384,5 +384,20 @@ TEST_F(ListEventsTest, TheRightButtonOpensTheMenuOfAListThatIsThereAndHasMacros)
     EXPECT_EQ(editor.macros.ListClicked, 0U);
 }
 
+TEST_F(ListEventsTest, ATextThatIsNoHeadingLeavesTheListsAsTheyAre)
+{
+    choose("brakes");
+    ASSERT_TRUE(frame.List1[1].Visible);
+    t.program().shared.errors.ErrorProcedure.clear();
+    editor.macros.SelectedMacro = "before";
+    for (const char* text : {"", "brake", "brakes "}) {
+        choose(text);
+        EXPECT_TRUE(frame.List1[1].Visible) << text;
+        EXPECT_FALSE(frame.List1[0].Visible) << text;
+        EXPECT_EQ(editor.macros.SelectedMacro, "before") << text;
+        EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "") << text;
+    }
+}
+
 } // namespace
 } // namespace tarvex
