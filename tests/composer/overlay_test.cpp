@@ -113,7 +113,7 @@ TEST_F(OverlayTest, LinesOfTheMacroFileWithoutAnEqualsSignOrANameAreNoMacros)
     t.files.addFile("c:\\tm\\a.m50", "Fire\r\n = x\r\n  Fire  = f\r\n");
     t.openBoth("c:\\tm\\a.b50");
     window.form.Activate();
-    EXPECT_EQ(assignedText(window, "HAT(0)"), "BTN H1U Fire\n      Fire  = f");
+    EXPECT_EQ(assignedText(window, "HAT(0)"), "BTN H1U Fire\n    Fire  = f");
 }
 
 TEST_F(OverlayTest, TextThatChangesNoStatementRedrawsNoMarks)

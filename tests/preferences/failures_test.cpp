@@ -60,6 +60,8 @@ TEST_F(BrowseButtons, AskForTheirFilesByTitleAndFilter)
                   "Locate text file: Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*");
         EXPECT_EQ(requested(preferences().fileLocationsPage.Text15Browse),
                   "Locate Ned Marl's CTFJ: Executables (*.exe)|*.exe");
+        EXPECT_EQ(requested(preferences().fileLocationsPage.Text10Browse),
+                  ": Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*");
         EXPECT_EQ(requested(preferences().extrasPage.Runners[0].Browse), "Locate Wine: All files (*.*)|*.*");
         dialogues.folders.emplace_back(std::nullopt);
         preferences().fileLocationsPage.Command2.Click();
