@@ -377,7 +377,7 @@ TEST(Preview, ThatFailsIsReportedAndLeavesThePaperAsItWas)
     EXPECT_TRUE(program.start());
     program.editor.JoystickText.setText("BTN S1 fire");
     program.menus.mnuFilePrintPreview.Click();
-    EXPECT_EQ(m.lastBox().text, "The preview of untitled.b50 went wrong: Out of paper");
+    EXPECT_EQ(m.lastBox().text, "The preview of untitled.f22 went wrong: Out of paper");
     m.dialogues.answers = {Answer::Yes};
     program.menus.mnuFilePrintControls.Click();
     EXPECT_EQ(m.lastBox().text, "The preview of the controls went wrong: Out of paper");
