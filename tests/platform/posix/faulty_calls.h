@@ -31,9 +31,11 @@ public:
     std::function<void()> beforeEach;        ///< looks at the disk as it is before each call, and so after each
 
     std::vector<std::string> made; ///< names of the calls so far
+    std::vector<int> openedWith;   ///< flags of the files that were asked for so far
 
     int open(const std::string& path, int flags, mode_t mode) override
     {
+        openedWith.push_back(flags);
         if (fails("open")) return -1;
         if ((flags & O_CREAT) != 0 && isLocked(path)) return refuse(EACCES);
         return SystemCalls::open(path, flags, mode);

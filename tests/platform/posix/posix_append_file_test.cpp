@@ -26,6 +26,21 @@ TEST(PosixAppendFile, IsThereAtOnceForItsOwnerAlone)
     EXPECT_EQ(modeOf(disk / "Recover"), std::filesystem::perms(0700));
 }
 
+TEST(PosixAppendFile, IsOpenForItsProgramAloneAndOnlyGrows)
+{
+    const TemporaryDirectory disk;
+    FaultyCalls calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    constexpr int always = O_CLOEXEC | O_NOCTTY;
+    constexpr int fresh = always | O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
+    EXPECT_EQ(calls.openedWith, (std::vector<int>{fresh | O_APPEND, always | O_RDONLY | O_DIRECTORY}));
+    calls.openedWith.clear();
+    file.append("one");
+    EXPECT_EQ(calls.openedWith, std::vector<int>{fresh});
+    file.append("two");
+    EXPECT_EQ(calls.openedWith.size(), 1U) << "written to as it is";
+}
+
 TEST(PosixAppendFile, IsNeverAnotherFile)
 {
     const TemporaryDirectory disk;

@@ -87,6 +87,33 @@ TEST_F(SafeWriting, FileIsSyncedBeforeTheRenameAndTheFolderBehindIt)
                 ElementsAre("lstat", "open", "flock", "write", "fsync", "close", "rename", "open", "fsync", "close"));
 }
 
+TEST_F(SafeWriting, NoProgramInheritsAFileNoLinkIsFollowedAndTheFolderIsAFolder)
+{
+    constexpr int always = O_CLOEXEC | O_NOCTTY;
+    constexpr int fresh = always | O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
+    constexpr int directory = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+    EXPECT_EQ(save(file, "old"), 0);
+    EXPECT_THAT(calls.openedWith, ElementsAre(fresh, directory));
+    calls.openedWith.clear();
+    calls.lockedFolder = folder + "/";
+    EXPECT_EQ(save(file, "new"), 0);
+    constexpr int there = always | O_NOFOLLOW | O_NONBLOCK;
+    EXPECT_THAT(calls.openedWith,
+                ElementsAre(fresh, there | O_WRONLY, there | O_RDONLY, fresh, directory)); // the first was refused
+}
+
+TEST_F(SafeWriting, AFolderThatAPipeHasReplacedIsNotWaitedFor)
+{
+    calls.beforeEach = [this] {
+        if (calls.made.back() != "open" || calls.openedWith.size() != 2) return;
+        fs::rename(folder, folder + ".old");
+        EXPECT_EQ(::mkfifo(folder.c_str(), 0600), 0);
+    };
+    EXPECT_EQ(save(file, "new"), 0);
+    EXPECT_EQ(calls.made.back(), "sync");
+    EXPECT_EQ(bytesOf(folder + ".old/mig.b50"), "new");
+}
+
 TEST_F(SafeWriting, LargeFileInShortWritesIsWhole)
 {
     calls.mostPerWrite = 1000;
