@@ -122,12 +122,10 @@ QVariant HandbookPage::picture(const QByteArray& bytes)
     m_roomOfPictures = widestPicture();
     QImage image = QImage::fromData(bytes);
     if (image.isNull()) return {};
-    const qreal ratio = devicePixelRatioF();
-    const int widest = static_cast<int>(m_roomOfPictures * ratio);
-    if (image.width() > widest) {
-        image = image.scaledToWidth(widest, Qt::SmoothTransformation);
-        image.setDevicePixelRatio(ratio);
-    }
+    if (image.width() <= m_roomOfPictures) return image;
+    const int pixels = std::min(image.width(), static_cast<int>(m_roomOfPictures * devicePixelRatioF()));
+    if (image.width() > pixels) image = image.scaledToWidth(pixels, Qt::SmoothTransformation);
+    image.setDevicePixelRatio(static_cast<qreal>(pixels) / m_roomOfPictures);
     return image;
 }
 
