@@ -1,6 +1,7 @@
 #include "printed_pages.h"
 
 #include "desktop/platform/qt_printers.h"
+#include "platform/errors.h"
 #include "sheet/commands/print_controls.h"
 #include "sheet/sheet_files.h"
 
@@ -82,6 +83,19 @@ TEST_P(PrintedSheet, OnThePrinterHasAPictureAndFillsThePaper)
 INSTANTIATE_TEST_SUITE_P(OfEachHardware, PrintedSheet,
                          testing::Values(Hardware{"mig.f22", "TQS", 2}, Hardware{"mig.b50", "WCS", 2},
                                          Hardware{"mig.adv", "WCS", 2}));
+
+TEST(PrintedDrawing, ThatIsNoneIsAnInvalidPicture)
+{
+    std::string message;
+    QtPrinters("").pdf("drawing", [&](Printer& printer) {
+        try {
+            printer.PaintDrawing("<svg", {0, 0, 1000, 1000});
+        } catch (const RuntimeError& error) {
+            message = error.what();
+        }
+    });
+    EXPECT_EQ(message, "Invalid picture: the drawing can't be read");
+}
 
 } // namespace
 } // namespace tarvex

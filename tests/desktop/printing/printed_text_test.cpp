@@ -43,6 +43,8 @@ struct PrintedTextTest : testing::Test {
     }
 };
 
+constexpr int twipsPerInch = 1440;
+
 std::string numberedLines(int count)
 {
     std::string text;
@@ -131,6 +133,18 @@ TEST_F(PrintedTextTest, LongLinesAreWrappedAndNothingOfThemIsLost)
     EXPECT_EQ(all.join(QString()).count(u'M'), 300);
     EXPECT_EQ(all.last().trimmed(), "end");
     EXPECT_LE(printed.ink(0).right(), printed.pages[0].width() - PrintedPages::dotsPerInch);
+}
+
+TEST_F(PrintedTextTest, AnIndentedParagraphIsWrappedAtTheSameMargin)
+{
+    pane.setText(std::string(300, 'M'));
+    look(0, 300);
+    pane.setSelIndent(twipsPerInch);
+    const PrintedPages printed = print();
+    constexpr int inch = PrintedPages::dotsPerInch;
+    EXPECT_GE(printed.ink(0).right(), printed.pages[0].width() - 3 * inch / 2) << "as far as there is room";
+    EXPECT_LE(printed.ink(0).right(), printed.pages[0].width() - inch);
+    EXPECT_EQ(lines(printed).join(QString()).count(u'M'), 300);
 }
 
 TEST_F(PrintedTextTest, AWrappedLineGoesOnOverThePageBreak)

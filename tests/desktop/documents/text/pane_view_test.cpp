@@ -150,6 +150,15 @@ TEST(PaneView, ControlCharactersShowAsPicturesAndStayWhatTheyAre)
     EXPECT_EQ(shown.pane.Text(), std::string_view("a\x01\t\x7F\x00z!", 7));
 }
 
+TEST(PaneView, OnlyPicturesOfControlCharactersThatShowAsSuchBecomeThem)
+{
+    ShownPane shown;
+    QInputMethodEvent commit;
+    commit.setCommitString(QString::fromUtf8("\u23FF\u241F\u2420\u2421\u2409\u240A\u240D"));
+    QApplication::sendEvent(&shown.view, &commit);
+    EXPECT_EQ(shown.pane.Text(), "?\x1F?\x7F???");
+}
+
 TEST(PaneView, EditOfTheProgramAppears)
 {
     ShownPane shown("one\r\ntwo");
