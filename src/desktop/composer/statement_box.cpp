@@ -22,7 +22,9 @@ void StatementBox::showStatements(const QString& text)
 
 void StatementBox::showHint(const QString& hint)
 {
-    if (hint != placeholderText()) setPlaceholderText(hint);
+    if (hint == placeholderText()) return;
+    setPlaceholderText(hint);
+    viewport()->update(); // which the toolkit forgets when the text was empty before
 }
 
 bool StatementBox::scrollByKey(int key)

@@ -1,17 +1,15 @@
 // Every window that a command opens has its widgets in place: nothing on top of another, nothing outside, no text cut.
 // A window of the future takes part by itself, or the test says that no command led to it.
 
+#include "form_classes.h"
 #include "layout_faults.h"
 #include "window_walk.h"
 
 #include <QApplication>
-#include <QDirIterator>
-#include <QFile>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QScrollArea>
 
 #include <gmock/gmock.h>
@@ -141,27 +139,6 @@ private:
         for (const std::string& fault : layoutFaults(window)) faults.try_emplace(name + ": " + fault, command());
     }
 };
-
-/// Classes that the sources derive from FormWindow, directly or not, but for those that others are derived from.
-std::set<std::string> formClasses()
-{
-    std::set<std::string> classes;
-    const QRegularExpression form("class (\\w+)(?: final)? : public (\\w*FormWindow|AnalyserWindow)");
-    std::set<std::string> bases;
-    QDirIterator files(TARVEX_SOURCE_DIRECTORY "/src/desktop", {"*.h", "*.cpp"}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        QFile file(files.next());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        for (auto found = form.globalMatch(QString::fromUtf8(file.readAll())); found.hasNext();) {
-            const QRegularExpressionMatch match = found.next();
-            classes.insert("tarvex::" + fromQt(match.captured(1)));
-            bases.insert("tarvex::" + fromQt(match.captured(2)));
-        }
-    }
-    for (const std::string& base : bases) classes.erase(base);
-    return classes;
-}
 
 using Theme = Appearance::Theme;
 

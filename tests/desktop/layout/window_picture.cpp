@@ -12,7 +12,7 @@ namespace tarvex {
 
 namespace {
 
-constexpr int side = 8;       // of a square, in pixels
+constexpr int usualSide = 8;  // of a square, in pixels of the window
 constexpr int tolerance = 40; // of a channel; an edge between black and white that is a pixel off changes it by 32
 constexpr int reported = 10;
 
@@ -38,6 +38,8 @@ QImage reducedPicture(QWidget& window)
     for (const QLabel* label : window.findChildren<QLabel*>())
         if (isClock(*label)) painter.fillRect(QRect(label->mapTo(&window, QPoint()), label->size()), Qt::gray);
     painter.end();
+    const int side = qRound(usualSide * picture.devicePixelRatio());
+    picture.setDevicePixelRatio(1);
     const QSize squares = (picture.size() + QSize(side - 1, side - 1)) / side;
     return picture.copy(QRect(QPoint(), squares * side))
         .scaled(squares, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

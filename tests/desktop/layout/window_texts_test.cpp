@@ -1,7 +1,7 @@
 // What the windows are made of, compared with a list for each in tests/data/windows: how their widgets are nested,
 // captions, tips, keys, what screen readers say, and everything else that was set. And how they look, compared with
-// small pictures in tests/data/window_pictures. With TARVEX_UPDATE_TEXTS set both are written instead; read the
-// difference before committing it.
+// small pictures in tests/data/window_pictures, and with QT_SCALE_FACTOR=2 in tests/data/window_pictures_2x. With
+// TARVEX_UPDATE_TEXTS set they are written instead; read the difference before committing it.
 
 #include "window_list.h"
 #include "window_picture.h"
@@ -39,7 +39,7 @@ public:
         QApplication::processEvents(); // widgets learn of another palette by an event
     }
 
-    std::map<QString, QString> lists;   ///< by the name of the window's class
+    std::map<QString, QString> lists;   ///< by the kind of window
     std::map<QString, QImage> pictures; ///< by that name and a number from 0
 
 private:
@@ -48,9 +48,16 @@ private:
         const std::string name = className(window);
         const std::string ours = "tarvex::";
         if (!name.starts_with(ours)) return;
-        const QString kind = toQt(name.substr(ours.size()));
+        const QString kind = kindOf(window, toQt(name.substr(ours.size())));
         if (!lists.contains(kind)) lists[kind] = withoutTimeAndVersion(m_list.of(window));
         if (m_firstCommands.try_emplace(kind, command()).first->second == command()) takePicture(kind, window);
+    }
+
+    /// The class, and the name behind it for further windows of that class.
+    QString kindOf(const QWidget& window, const QString& className)
+    {
+        const QString first = m_firstNames.try_emplace(className, window.objectName()).first->second;
+        return first == window.objectName() ? className : className + u'-' + window.objectName();
     }
 
     /// Most looks are at a page that has been seen before.
@@ -65,11 +72,20 @@ private:
 
     PlainWidgets m_plain;
     WindowList m_list{m_plain};
-    std::map<QString, std::string> m_firstCommands; ///< that showed a window of the class
+    std::map<QString, QString> m_firstNames;        ///< of windows, by class
+    std::map<QString, std::string> m_firstCommands; ///< that showed a window of the kind
 };
 
 const QString listFolder = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/windows/");
-const QString pictureFolder = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/window_pictures/");
+
+/// With QT_SCALE_FACTOR=2 the windows look as on a screen with twice the pixels.
+bool isSharp() { return qApp->devicePixelRatio() > 1; }
+
+QString pictureFolder()
+{
+    return QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/") +
+           (isSharp() ? QStringLiteral("window_pictures_2x/") : QStringLiteral("window_pictures/"));
+}
 
 const QString coloursFile = QStringLiteral(TARVEX_SOURCE_DIRECTORY "/tests/data/appearances.txt");
 
@@ -104,22 +120,30 @@ QString coloursOfAppearances()
     return list;
 }
 
-void write(const ListWalk& walk)
+void makeAnew(const QString& folder)
+{
+    QDir(folder).removeRecursively();
+    ASSERT_TRUE(QDir().mkpath(folder));
+}
+
+void writePictures(const ListWalk& walk)
+{
+    makeAnew(pictureFolder());
+    for (const auto& [name, picture] : walk.pictures)
+        ASSERT_TRUE(picture.save(pictureFolder() + name + QStringLiteral(".png")));
+}
+
+void writeLists(const ListWalk& walk)
 {
     QFile colours(coloursFile);
     ASSERT_TRUE(colours.open(QIODevice::WriteOnly));
     colours.write(coloursOfAppearances().toUtf8());
-    for (const QString& folder : {listFolder, pictureFolder}) {
-        QDir(folder).removeRecursively();
-        ASSERT_TRUE(QDir().mkpath(folder));
-    }
+    makeAnew(listFolder);
     for (const auto& [window, list] : walk.lists) {
         QFile file(listFolder + window + QStringLiteral(".txt"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(list.toUtf8());
     }
-    for (const auto& [name, picture] : walk.pictures)
-        ASSERT_TRUE(picture.save(pictureFolder + name + QStringLiteral(".png")));
 }
 
 /// With a font whose widths are the same on every machine: some sizes are so many characters.
@@ -134,7 +158,9 @@ protected:
         QApplication::setFont(font);
         walk = std::make_unique<ListWalk>();
         walk->run();
-        if (qEnvironmentVariableIsSet("TARVEX_UPDATE_TEXTS")) write(*walk);
+        if (!qEnvironmentVariableIsSet("TARVEX_UPDATE_TEXTS")) return;
+        writePictures(*walk);
+        if (!isSharp()) writeLists(*walk);
     }
     void SetUp() override { ASSERT_NE(walk, nullptr); }
     static void TearDownTestSuite()
@@ -162,11 +188,11 @@ TEST_F(WindowTexts, AreThoseOfTheLists)
 TEST_F(WindowTexts, LookAsTheirPicturesDo)
 {
     for (const auto& [name, picture] : walk->pictures) {
-        const QImage wanted(pictureFolder + name + QStringLiteral(".png"));
+        const QImage wanted(pictureFolder() + name + QStringLiteral(".png"));
         const QStringList different = differentSquares(picture, wanted.convertToFormat(QImage::Format_RGB32));
         EXPECT_EQ(fromQt(different.join(u'\n')), "") << "of squares with 8 pixels a side in " << fromQt(name);
     }
-    for (const QString& name : QDir(pictureFolder).entryList(QDir::Files)) {
+    for (const QString& name : QDir(pictureFolder()).entryList(QDir::Files)) {
         EXPECT_TRUE(walk->pictures.contains(name.chopped(4))) << "nothing is like " << fromQt(name);
     }
 }

@@ -14,7 +14,8 @@
 
 #include <cstdlib>
 #include <cxxabi.h>
-#include <typeinfo>
+#include <map>
+#include <typeindex>
 
 namespace tarvex {
 
@@ -31,8 +32,11 @@ constexpr const char* withoutCommand[] = {"Differences", "FilesHome", "Import", 
 
 std::string className(const QWidget& window)
 {
+    static std::map<std::type_index, std::string> known;
+    std::string& result = known[typeid(window)];
+    if (!result.empty()) return result;
     char* name = abi::__cxa_demangle(typeid(window).name(), nullptr, nullptr, nullptr);
-    const std::string result = name != nullptr ? name : typeid(window).name();
+    result = name != nullptr ? name : typeid(window).name();
     std::free(name); // NOLINT(cppcoreguidelines-no-malloc): that is how it is allocated
     return result;
 }
@@ -44,16 +48,13 @@ WindowWalk::WindowWalk()
 
 void WindowWalk::run()
 {
-    m_user.start(0);
+    start();
     look(*m_desktop.window);
     for (const QString& name : commands()) trigger(name);
     m_desktop.program->shared.settings.UseTCA = 1;
     trigger(QStringLiteral("mnuAppsJoyAnalyser"));
     changeOutside();
-    for (const char* form : withoutCommand) {
-        m_command = form;
-        m_desktop.dialogues.showModal(form);
-    }
+    for (const char* form : withoutCommand) showForm(form);
     m_desktop.program->outsideNotices.joystick.Reload.Click();
     clickButtons();
 }
@@ -96,18 +97,28 @@ QStringList WindowWalk::commands() const
 
 void WindowWalk::trigger(const QString& name)
 {
-    m_desktop.openPair();
     m_command = fromQt(name);
-    if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
-    QApplication::processEvents();
-    lookAtOpenWindows();
+    do {
+        m_desktop.openPair();
+        if (auto* action = m_desktop.window->findChild<QAction*>(name)) action->trigger();
+        if (auto* button = m_desktop.window->findChild<QAbstractButton*>(name)) button->click();
+        QApplication::processEvents();
+        lookAtOpenWindows();
+    } while (wantsAgain());
+}
+
+void WindowWalk::showForm(const char* form)
+{
+    m_command = form;
+    do m_desktop.dialogues.showModal(form);
+    while (wantsAgain());
 }
 
 void WindowWalk::lookAtAllPages(QWidget& window)
 {
     look(window);
     for (QTabWidget* tabs : window.findChildren<QTabWidget*>()) {
-        for (int page = 0; page < tabs->count(); ++page) {
+        for (int page = 0; page < tabs->count() && window.isVisible(); ++page) {
             tabs->setCurrentIndex(page);
             QCoreApplication::sendPostedEvents();
             look(window);
@@ -116,7 +127,7 @@ void WindowWalk::lookAtAllPages(QWidget& window)
     for (QStackedWidget* pages : window.findChildren<QStackedWidget*>()) {
         if (qobject_cast<QTabWidget*>(pages->parentWidget())) continue; // those of the tabs
         const int before = pages->currentIndex();
-        for (int page = 0; page < pages->count(); ++page) {
+        for (int page = 0; page < pages->count() && window.isVisible(); ++page) {
             pages->setCurrentIndex(page);
             QCoreApplication::sendPostedEvents();
             look(window);
@@ -134,7 +145,7 @@ void WindowWalk::lookAtModal()
         popUp->close();
     } else if (auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
         lookAtAllPages(*modal);
-        modal->reject();
+        if (modal->isVisible()) modal->reject();
     }
 }
 
@@ -145,7 +156,7 @@ void WindowWalk::lookAtOpenWindows()
         if (!window->isVisible() || window == m_desktop.window.get() || !window->isWindow()) continue;
         if (window->windowType() != Qt::Dialog && window->windowType() != Qt::Window) continue;
         lookAtAllPages(*window);
-        window->close();
+        if (window->isVisible()) window->close();
     }
 }
 

@@ -25,13 +25,22 @@ protected:
     /// A window, or a page of it, is to be seen. The frame is looked at after each command.
     virtual void look(QWidget& window) = 0;
 
+    /// A command is run once more while this is so after its windows are closed.
+    virtual bool wantsAgain() { return false; }
+
+    /// From here on windows that are modal get their looks, too.
+    void start() { m_user.start(0); }
+    /// Runs a command of the menus, or clicks a button of the frame.
+    void trigger(const QString& name);
+    void showForm(const char* form);
+
     const std::string& command() const { return m_command; } ///< what was run last
 
     DesktopProgram m_desktop;
+    bool m_looking = false; ///< a look at a modal window may let events in
 
 private:
     QStringList commands() const;
-    void trigger(const QString& name);
     void changeOutside();
     void clickButtons();
     void lookAtAllPages(QWidget& window);
@@ -40,7 +49,6 @@ private:
 
     std::string m_command = "the start";
     QTimer m_user;
-    bool m_looking = false; ///< a look at a modal window may let events in
 };
 
 } // namespace tarvex
