@@ -1,6 +1,7 @@
 #include "composer/find_button.h"
 
 #include "composer/composer_fixture.h"
+#include "documents/editing/pane_events.h"
 
 namespace tarvex {
 namespace {
@@ -137,6 +138,25 @@ TEST_F(FindButtonTest, WhatIsTypedDuringTheFlashGoesBehindTheName)
     FindButton(window, "BTN S1 ");
     t.pressKeys(joystick, "x");
     EXPECT_EQ(joystick.Text(), "BTN S1 x\r\nBTN S2 y");
+}
+
+TEST_F(FindButtonTest, AKeyThatIsReleasedInTheFileDuringTheFlashLeavesTheCaretBehindTheName)
+{
+    write("BTN S1 \r\nBTN S2 y");
+    FindButton(window, "BTN S1 "); // as by Return on the picture
+    Text_KeyUp(editor, editor.joystick);
+    waitForFlash();
+    EXPECT_EQ(joystick.SelStart(), 7);
+    EXPECT_EQ(caret(), 7);
+}
+
+TEST_F(FindButtonTest, WhatIsPastedDuringTheFlashGoesBehindTheName)
+{
+    write("BTN S1 \r\nBTN S2 y");
+    t.clipboard.content = {"Fire", ""};
+    FindButton(window, "BTN S1 ");
+    EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, "Ctrl+V"));
+    EXPECT_EQ(joystick.Text(), "BTN S1 Fire\r\nBTN S2 y");
 }
 
 TEST_F(FindButtonTest, AMegabyteWithoutLineEndsIsSearched)

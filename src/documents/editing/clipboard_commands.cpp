@@ -82,6 +82,7 @@ void reportLostCharacters(Editor& editor, std::size_t count)
 void mnuEditCopy_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditCopy_Click");
+    endBlinking(editor);
     const Pane& pane = editor.selected().pane;
     if (pane.SelLength() > 0) step([&] { editor.platform.clipboard.put(selectionContent(pane)); });
     UpdateCCPButtons(editor);
@@ -130,6 +131,7 @@ void mnuEditDelete_Click(Editor& editor)
 void mnuEditSelectAll_Click(Editor& editor)
 {
     const Steps step(editor.shared.errors, "ED_mnuEditSelectAll_Click");
+    endBlinking(editor); // its next step would take the selection back
     Pane& pane = editor.selected().pane;
     RemoveHugeBlankStringJF(editor);
     RemoveHugeBlankStringMF(editor);

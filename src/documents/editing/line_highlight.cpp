@@ -117,6 +117,16 @@ void endBlinking(Editor& editor)
     caretBack(editor);
 }
 
+bool flashesForCaret(const Editor& editor, const Side& side)
+{
+    return editor.Flash && editor.TimerBlinkLine.Enabled && editor.BlinkTab == side.tab;
+}
+
+void recordCaret(const Editor& editor, Side& side)
+{
+    if (!flashesForCaret(editor, side)) side.Caret = side.pane.SelStart();
+}
+
 void stopBlinking(Editor& editor, const Side& side)
 {
     if (side.tab == editor.BlinkTab) editor.TimerBlinkLine.Enabled = false;

@@ -18,6 +18,11 @@ void TimerBlinkLine_Timer(Editor& editor);
 /// The user is about to write: a line that flashes at the moment must not be what he writes over. Ends the flashing
 /// with a caret at the line's beginning.
 void endBlinking(Editor& editor);
+/// Whether a piece of the side's text flashes for a caret that stands elsewhere: the user didn't select it, and the
+/// caret on record is to stay.
+bool flashesForCaret(const Editor& editor, const Side& side);
+/// The pane's caret goes on record, unless it only stands where a piece of the text flashes.
+void recordCaret(const Editor& editor, Side& side);
 /// An edit of the pane ends the flashing in it, so that no step of it moves the caret away under the user's hands.
 void stopBlinking(Editor& editor, const Side& side);
 

@@ -1,5 +1,6 @@
 #include "documents/editing/pane_events.h"
 
+#include "documents/editing/line_highlight.h"
 #include "documents/editing/pane_keys.h"
 #include "documents/editing/pane_menu.h"
 #include "documents/pair/document_status.h"
@@ -22,7 +23,7 @@ void askForHelp(Editor& editor, const Side& side)
 
 bool runCtrlKey(Editor& editor, Side& side, std::string_view keys)
 {
-    side.Caret = side.pane.SelStart();
+    recordCaret(editor, side);
     if (keys != "Ctrl+Tab") return pressPaneKey(editor, keys);
     selectOtherTab(editor);
     return true;
@@ -46,6 +47,7 @@ void Text_KeyUp(Editor& editor, Side& side)
 {
     const Steps step(editor.shared.errors, byKind(side, "ED_JoystickText_KeyUp", "ED_MacroText_KeyUp"));
     step([&] {
+        if (flashesForCaret(editor, side)) return; // the key was pressed in another window, and found what flashes
         editor.HighlightLength = side.pane.SelLength();
         noteCaret(editor, side);
     });

@@ -1,5 +1,7 @@
 #include "documents/editing/pane_keys.h"
 
+#include "documents/editing/line_highlight.h"
+
 #include <algorithm>
 
 namespace tarvex {
@@ -38,7 +40,7 @@ bool pressPaneKey(Editor& editor, std::string_view pressed)
     const auto* const row = std::ranges::find(keys, pressed, &PaneKey::keys);
     if (row == std::end(keys)) return false;
     Side& side = editor.selected();
-    side.Caret = side.pane.SelStart();
+    recordCaret(editor, side);
     MenuItem& item = editor.menus.*(side.tab == editor.joystick.tab ? row->joystick : row->macro);
     if (!item.Enabled || !item.handler) return false;
     item.Click();

@@ -93,6 +93,24 @@ TEST_F(LineHighlight, AnEditMeanwhileEndsIt)
     expectSelected(joystick, 6, 0);
 }
 
+TEST_F(LineHighlight, WhatIsSelectedAsAWholeMeanwhileStaysSelected)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    t.menus().mnuEditSelectAll.Click();
+    while (editor.TimerBlinkLine.Enabled) editor.TimerBlinkLine.Tick();
+    expectSelected(joystick, 0, static_cast<std::int64_t>(joystick.TextLength()));
+}
+
+TEST_F(LineHighlight, ALineThatFlashesIsNotCopied)
+{
+    t.clipboard.content = {"mine", ""};
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    t.menus().mnuEditCopy.Click();
+    EXPECT_EQ(t.clipboard.content.text, "mine");
+}
+
 TEST_F(LineHighlight, AnEditOfTheOtherPaneLeavesItFlashing)
 {
     joystick.setSelStart(9);
