@@ -80,6 +80,8 @@ TEST_F(PreferencesFailures, OfListsWithoutEntriesBelongToTheirButtons)
         favourites.LoadAppCheckBox.Value = true;
         EXPECT_EQ(reported([&] { favourites.LoadAppCheckBox.Click(); }), "PREFS LoadAppCheckBox_Click");
         EXPECT_EQ(reported([&] { games.Command12.Click(); }), "PREFS Command12_Click");
+        EXPECT_EQ(reported([&] { favourites.List2.Click(); }), "PREFS List2_Click");
+        EXPECT_EQ(reported([&] { games.List3.Click(); }), "PREFS List3_Click");
     });
 }
 
@@ -106,6 +108,16 @@ TEST_F(PreferencesFailures, OfTheDrivesBelongToTheirButtons)
         dialogues.folders.emplace_back("z:\\home\\pilot");
         EXPECT_EQ(reported([&] { page.DriveBrowse.Click(); }), "PREFS DriveBrowse_Click");
         listening.disconnect();
+    });
+}
+
+TEST_F(PreferencesFailures, OfTheMinutesBetweenSavesBelongToTheirBox)
+{
+    inPreferences([this] {
+        SavingPage& page = preferences().savingPage;
+        page.Text3.Text = "";
+        const auto listening = page.Text3.Text.changed.connect(fail);
+        EXPECT_EQ(reported([&] { page.Text3.LostFocus(); }), "PREFS Text3_LostFocus");
     });
 }
 

@@ -178,6 +178,12 @@ TEST_F(ProcedureTags, OfTheStripAboveAPaneBelongToItsButtons)
     t.files.addFile(mig, "BTN S2 other\r\n");
     EXPECT_THAT(tagsOf(strip.Visible, [&] { lookForOutsideChanges(t.program().outsideNotices); }),
                 Contains("OUTSIDE lookForOutsideChanges"));
+    t.files.failReads(mig, RuntimeError(ErrorCode::DeviceInputOutput, "broken"));
+    EXPECT_THAT(tagsOf([&] { loadDifferences(t.program().differences); }), Contains("DIFFERENCES Form_Load"));
+    t.files.failReads(mig, std::nullopt);
+    t.dialogues.whileModal = fail;
+    EXPECT_THAT(tagsOf([&] { strip.Differences.Click(); }), Contains("OUTSIDE Differences_Click"));
+    t.dialogues.whileModal = nullptr;
     EXPECT_THAT(tagsWithBroken(pane(), [&] { strip.Reload.Click(); }), Contains("ED_takeFileText"));
     t.files.addFile(mig, "BTN S3 other\r\n");
     lookForOutsideChanges(t.program().outsideNotices);
@@ -219,6 +225,10 @@ TEST_F(ProcedureTags, OfTheFindWindowsTabsBelongToTheirCommands)
     EXPECT_THAT(shown(t.menus().mnuEditReplace), Contains("ED_mnuEditReplace_Click"));
     window.form.unload();
     EXPECT_THAT(shown(t.menus().mnuEditGoto), Contains("ED_mnuEditGoto_Click"));
+    window.SSTab1.SelectedItem = findTab::replace;
+    window.ComboTextFind.Text = "fire";
+    EXPECT_THAT(tagsOf(window.ComboTextReplaceFind.Text, [&] { window.SSTab1.Click(); }),
+                Contains("FIND SSTab1_Click"));
 }
 
 TEST_F(ProcedureTags, OfTheFindBarBelongToItsControls)
@@ -236,6 +246,8 @@ TEST_F(ProcedureTags, OfTheFindBarBelongToItsControls)
     EXPECT_THAT(broken([&] { bar.Text.Text = "fire"; }), Contains("FINDBAR Text_Change"));
     EXPECT_THAT(broken([&] { bar.Next.Click(); }), Contains("FINDBAR Next_Click"));
     EXPECT_THAT(broken([&] { bar.Previous.Click(); }), Contains("FINDBAR Previous_Click"));
+    EXPECT_THAT(broken([&] { bar.MatchCase.Click(); }), Contains("FINDBAR MatchCase_Click"));
+    EXPECT_THAT(broken([&] { bar.WholeWord.Click(); }), Contains("FINDBAR WholeWord_Click"));
     EXPECT_THAT(tagsOf(bar.Visible, [&] { bar.Close.Click(); }), Contains("FINDBAR Close_Click"));
 }
 
@@ -377,6 +389,8 @@ TEST_F(ProcedureTags, OfTheTipsBelongToTheirProcedures)
     EXPECT_THAT(tagsOf(tips.Form.TopMost, [&] { TIPS_Form_Load(tips); }), Contains("TIPS Form_Load"));
     tips.lblTipText.Caption = "none";
     EXPECT_THAT(tagsOf(tips.lblTipText.Caption, [&] { DisplayCurrentTip(tips); }), Contains("TIPS DisplayCurrentTip"));
+    tips.Form.Visible = true;
+    EXPECT_THAT(tagsOf(tips.Form.Visible, [&] { tips.cmdOK.Click(); }), Contains("TIPS cmdOK_Click"));
 }
 
 TEST_F(ProcedureTags, OfTheTemplateEditorBelongToItsProcedures)
@@ -385,6 +399,19 @@ TEST_F(ProcedureTags, OfTheTemplateEditorBelongToItsProcedures)
     TemplateForm& window = t.program().templateEditor;
     window.Text1.Text = "none";
     EXPECT_THAT(tagsOf(window.Text1.Text, [&] { window.form.open(); }), Contains("TEMPLATE Form_Load"));
+}
+
+TEST_F(ProcedureTags, OfTheComposersMacrosBelongToTheirControls)
+{
+    start();
+    open();
+    InsertOptions& window = t.program().composer;
+    window.form.open();
+    MacroTab& tab = window.macros;
+    ASSERT_GE(tab.Combo1.Items.get().size(), 1U);
+    tab.Combo1.Text = tab.Combo1.Items.get()[0];
+    tab.List1[0].Visible = false;
+    EXPECT_THAT(tagsOf(tab.List1[0].Visible, [&] { tab.Combo1.Click(); }), Contains("COMPOSER Combo1_Click"));
 }
 
 TEST_F(ProcedureTags, OfThePreferencesBelongToTheirControls)
