@@ -252,7 +252,6 @@ void HandbookView::fillContents()
 
 void HandbookView::fillWords()
 {
-    if (m_words == nullptr) return;
     m_words->clear();
     for (const std::size_t word : m_handbook.ShownWords.get()) {
         const HandbookIndex::Keyword& keyword = m_handbook.index.keywords()[word];

@@ -114,6 +114,9 @@ std::vector<UserAct> actsOnList(QAbstractItemView& view)
     }
     acts.push_back(key(view, "Space", Qt::Key_Space));
     acts.push_back(key(view, "Delete", Qt::Key_Delete));
+    acts.push_back(key(view, "End", Qt::Key_End)); // where another row may not be changed
+    acts.push_back(key(view, "Return at the end", Qt::Key_Return));
+    acts.push_back(key(view, "Home", Qt::Key_Home));
     acts.push_back(key(view, "Return", Qt::Key_Return));
     return acts;
 }

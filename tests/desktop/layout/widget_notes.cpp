@@ -120,6 +120,20 @@ QStringList attributesOf(const QWidget& widget)
     return names;
 }
 
+/// Of the program's own kinds of widgets, which say it themselves.
+QString sizesOf(const QWidget& widget)
+{
+    const bool isOurs = className(widget).starts_with("tarvex::") && !widget.isWindow() && widget.layout() == nullptr;
+    if (!isOurs) return {};
+    const QSize least = widget.minimumSizeHint();
+    const QSize wanted = widget.sizeHint();
+    return QStringLiteral("least %1 x %2, wants %3 x %4")
+        .arg(least.width())
+        .arg(least.height())
+        .arg(wanted.width())
+        .arg(wanted.height());
+}
+
 // ---- layouts --------------------------------------------------------------------------------------------------------
 
 QString numbers(int count, auto valueAt)
@@ -228,6 +242,7 @@ QStringList notesOn(const QWidget& widget)
     const bool isPage = parent != nullptr && parent->inherits("QStackedWidget");
     if (widget.isHidden() && !widget.isWindow() && !isPage) notes.append(QStringLiteral("hidden"));
     notes += attributesOf(widget);
+    notes.append(sizesOf(widget));
     notes.append(coloursOf(widget));
     notes.append(fontOf(widget));
     notes.removeAll(QString());
