@@ -20,7 +20,7 @@ void autoSave(Editor& editor, Side& side)
     }
     const bool written = step([&] {
         if (change == OutsideChange::Unknown) keepOutsideVersion(editor, side); // an untitled text of another day
-        writePlain(editor, side, side.FilePath);
+        writePlain(editor, side);
     });
     if (!written) return editor.status(side.FileName + " couldn't be saved automatically: " + step.whyNot());
     const bool backedUp = step([&] { writeBackup(editor, side); });

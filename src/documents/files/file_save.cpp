@@ -55,7 +55,7 @@ bool saveText(Editor& editor, Side& side, bool agreed = false)
     auto overwriting = Overwriting::Agreed;
     const bool written = step([&] {
         if (!agreed) overwriting = agreeOnOverwriting(editor, side);
-        if (overwriting == Overwriting::Agreed) writePlain(editor, side, side.FilePath);
+        if (overwriting == Overwriting::Agreed) writePlain(editor, side);
     });
     if (overwriting == Overwriting::UnderAnotherName) return saveAs(editor, side);
     if (overwriting == Overwriting::Cancelled) return false;

@@ -1,14 +1,33 @@
 #include "documents/files/text_files.h"
 
+#include "documents/files/largest_text.h"
+#include "documents/files/outside_change.h"
 #include "documents/files/working_box.h"
+#include "platform/utf16.h"
 
 namespace tarvex {
 
-void writePlain(Editor& editor, const Side& side, const std::string& path)
+namespace {
+
+/// A file in UTF-16 may hold what the text can't: it is put aside before it is replaced.
+void keepWhatTextLacks(Editor& editor, const Side& side)
 {
+    const FileSystem& files = editor.platform.files;
+    if (!files.fileExists(side.FilePath) || isTooLarge(editor, side.FilePath)) return;
+    std::string bytes;
+    const Steps step; // a file that can't be read may still be replaced
+    step([&] { bytes = files.read(side.FilePath); });
+    if (charactersLostFromFile(bytes) > 0) keepOutsideVersion(editor, side);
+}
+
+} // namespace
+
+void writePlain(Editor& editor, const Side& side)
+{
+    keepWhatTextLacks(editor, side);
     const WorkingBox temp(editor.TempRichTextBox);
     editor.TempRichTextBox.setText(side.pane.Text());
-    editor.platform.files.write(path, editor.TempRichTextBox.Text());
+    editor.platform.files.write(side.FilePath, editor.TempRichTextBox.Text());
 }
 
 void writePlainCopy(Editor& editor, const Side& side, const std::string& path)

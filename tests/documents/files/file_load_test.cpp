@@ -176,6 +176,20 @@ TEST_F(OpenTest, AFileInUtf16IsDecodedAndSavedAsPlainText)
               "mig.m50 is in Unicode, which no loader reads: when you save it, it becomes plain text.");
     t.menus().mnuFileSave.Click();
     EXPECT_EQ(t.fileText(mig), "Rem caf\xE9\r\nBTN S1 Fire\r\n");
+    EXPECT_FALSE(t.files.fileExists("c:\\tarvex\\Backup\\mig-outside.b50")) << "nothing is lost";
+}
+
+TEST_F(OpenTest, AUtf16FileWithCharactersThatPlainTextLacksIsPutAsideByTheFirstSave)
+{
+    const std::string bytes = asUtf16("Rem \u0416\r\n");
+    t.menus().mnuJoyPopUpSingleFile.Checked = true;
+    t.files.addFile(mig, bytes);
+    t.openBoth(mig);
+    t.menus().mnuFileSave.Click();
+    EXPECT_EQ(t.fileText(mig), "Rem ?\r\n");
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\mig-outside.b50"), bytes);
+    t.menus().mnuFileSave.Click();
+    EXPECT_FALSE(t.files.fileExists("c:\\tarvex\\Backup\\mig-outside-2.b50"));
 }
 
 TEST_F(OpenTest, CharactersOfAUtf16FileThatPlainTextLacksAreRemarked)
