@@ -93,6 +93,16 @@ TEST_F(LineHighlight, AnEditMeanwhileEndsIt)
     expectSelected(joystick, 6, 0);
 }
 
+TEST_F(LineHighlight, AnEditThatComesMeanwhileFindsNoLineSelected)
+{
+    joystick.setSelStart(9);
+    t.menus().mnuViewHighlightLine.Click();
+    ASSERT_EQ(joystick.SelLength(), 7);
+    joystick.EditComing();
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    EXPECT_EQ(joystick.SelLength(), 0);
+}
+
 TEST_F(LineHighlight, WhatIsSelectedAsAWholeMeanwhileStaysSelected)
 {
     joystick.setSelStart(9);
