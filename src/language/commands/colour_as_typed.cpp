@@ -13,19 +13,16 @@ namespace {
 constexpr int pause = 300;    // milliseconds without a key
 constexpr int afterLine = 30; // so that no key waits for it
 
-/// The lengths of the common beginning and the common end of two texts.
-struct Common {
-    std::size_t head;
-    std::size_t tail;
-};
-
-Common commonOf(const std::string& a, const std::string& b)
+/// What two texts have in common at both ends, within `most`: a command may have written before the edits that wait.
+ColourAsTyped::Ends sameEnds(const std::string& a, const std::string& b, ColourAsTyped::Ends most)
 {
-    const std::size_t most = std::min(a.size(), b.size());
+    const std::size_t shorter = std::min(a.size(), b.size());
+    const std::size_t mostHead = std::min(shorter, most.head);
     const auto head = static_cast<std::size_t>(
-        std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(most), b.begin()).first - a.begin());
+        std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(mostHead), b.begin()).first - a.begin());
+    const std::size_t mostTail = std::min(shorter - head, most.tail);
     std::size_t tail = 0;
-    while (tail < most - head && a[a.size() - 1 - tail] == b[b.size() - 1 - tail]) ++tail;
+    while (tail < mostTail && a[a.size() - 1 - tail] == b[b.size() - 1 - tail]) ++tail;
     return {head, tail};
 }
 
@@ -48,7 +45,7 @@ RichText levelShown(const Side& side) { return side.Undo.Levels[side.Undo.Positi
 ColourAsTyped::ColourAsTyped(Editor& editor) : m_editor(editor), m_sides{OfSide{editor.joystick}, OfSide{editor.macro}}
 {
     for (OfSide& of : m_sides)
-        of.edited = of.side.pane.edited.connect([this, &of](const Pane::Edit&) { followEdit(of); });
+        of.edited = of.side.pane.edited.connect([this, &of](const Pane::Edit& edit) { followEdit(of, edit); });
     m_ticked = editor.shared.extras.changed.connect([this](std::string_view) { m_on.reset(); });
     editor.TimerColour.Tick = [this] { colourNow(); };
 }
@@ -60,16 +57,20 @@ bool ColourAsTyped::isOn()
 }
 
 /// Text that the program writes has its colours already, or gets them from the command that wrote it.
-void ColourAsTyped::followEdit(OfSide& of)
+void ColourAsTyped::followEdit(OfSide& of, const Pane::Edit& edit)
 {
     if (m_editor.shared.IsLoading == 1) {
         of.before.reset();
         return;
     }
+    const auto head = static_cast<std::size_t>(edit.position);
+    const std::size_t tail = of.side.pane.TextLength() - head - static_cast<std::size_t>(edit.inserted);
     if (!of.before) {
         if (!isOn()) return;
         of.before = levelShown(of.side); // the edit isn't in it yet
+        of.untouched = {head, tail};
     }
+    of.untouched = {std::min(of.untouched.head, head), std::min(of.untouched.tail, tail)};
     startTimer(pause);
 }
 
@@ -129,7 +130,7 @@ void ColourAsTyped::colour(OfSide& of)
     const Coloured old = std::exchange(of.known, colouredAnew(of.side, pane.Text()));
     const Coloured& now = of.known;
 
-    const auto [head, tail] = commonOf(old.text, now.text);
+    const auto [head, tail] = sameEnds(old.text, now.text, of.untouched);
     const std::size_t lastWritten = std::max(head, now.text.size() - tail);
     const auto first = static_cast<std::size_t>(pane.lineStart(pane.GetLineFromChar(static_cast<std::int64_t>(head))));
     const std::int64_t nextLine = pane.GetLineFromChar(static_cast<std::int64_t>(lastWritten)) + 1;

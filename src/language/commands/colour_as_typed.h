@@ -16,6 +16,11 @@ namespace tarvex {
 /// notice.
 class ColourAsTyped {
 public:
+    /// Lengths of the beginning and the end of a text.
+    struct Ends {
+        std::size_t head;
+        std::size_t tail;
+    };
     /// The editor outlives this.
     explicit ColourAsTyped(Editor& editor);
     ColourAsTyped(const ColourAsTyped&) = delete;
@@ -38,11 +43,13 @@ private:
     struct OfSide {
         Side& side;
         std::optional<RichText> before = {}; ///< the text before the edits that wait; none: nothing waits
-        Coloured known = {};                 ///< of the run before, mostly of that same text
+        /// By the edits that wait. The texts alone don't show it: what was cut and typed again has another format.
+        Ends untouched = {};
+        Coloured known = {}; ///< of the run before, mostly of that same text
         Connection edited = {};
     };
     bool isOn();
-    void followEdit(OfSide& of);
+    void followEdit(OfSide& of, const Pane::Edit& edit);
     void startTimer(int delay);
     void colour(OfSide& of);
     Coloured colouredAnew(const Side& side, std::string text) const;

@@ -151,6 +151,29 @@ TEST_F(ColourAsTypedTest, AnEditThatColoursOtherLinesColoursThem)
     EXPECT_EQ(typed, coloursOfWholeFile());
 }
 
+TEST_F(ColourAsTypedTest, WhatIsCutAndTypedAgainWithinThePauseGetsItsColours)
+{
+    coloursOfWholeFile();
+    const std::string whole = colours();
+    joystick.userEdit(7, 2, "");
+    joystick.userEdit(0, 0, "x");
+    joystick.userEdit(0, 1, "");
+    joystick.userEdit(7, 0, "/P"); // the text of before, but "/P" has the format in front of it
+    EXPECT_NE(colours(), whole);
+    pause();
+    EXPECT_EQ(colours(), whole);
+}
+
+TEST_F(ColourAsTypedTest, ALineTypedInFrontOfItsEqualGetsItsColours)
+{
+    open("BTN S1 /P a\r\nx /P\r\nx /P\r\n");
+    coloursOfWholeFile();
+    joystick.userEdit(13, 0, "x /P\r\n");
+    pause();
+    const std::string typed = colours();
+    EXPECT_EQ(typed, coloursOfWholeFile());
+}
+
 TEST_F(ColourAsTypedTest, ABracketThatNothingClosesHoldsNothing)
 {
     type(0, "RAW (");
@@ -189,7 +212,7 @@ TEST_F(ColourAsTypedTest, AfterRandomEditsTheColoursAreThoseOfTheWholeFile)
                                              "USE ", " ",    "MT ",  "PortB", "S3",    "="};
     std::mt19937 random(randomSeed());
     const auto below = [&](std::size_t bound) { return random() % bound; };
-    for (int round = 0; round < 15; ++round) {
+    for (int round = 0; round < 60; ++round) {
         std::string text;
         for (std::size_t i = below(60); i > 0; --i) text += pieces[below(pieces.size())];
         open(text);
