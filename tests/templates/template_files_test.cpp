@@ -6,6 +6,10 @@
 namespace tarvex {
 namespace {
 
+const std::string fileTypes = "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files "
+                              "|*.m22;*.m50;*.mdf|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files "
+                              "(*.*)|*.*";
+
 TEST_F(TemplateEditorTest, OpensAPlainFileUnderItsLowerCasedName)
 {
     t.files.addFile(folder + "Hat.TXT", "BTN H1U a\r\n");
@@ -18,9 +22,7 @@ TEST_F(TemplateEditorTest, OpensAPlainFileUnderItsLowerCasedName)
     const FileRequest& request = t.dialogues.openRequests.back();
     EXPECT_EQ(request.directory, folder);
     EXPECT_EQ(request.defaultExtension, "rtf");
-    EXPECT_EQ(request.filter, "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files "
-                              "|*.m22;*.m50;*.mdf|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files "
-                              "(*.*)|*.*");
+    EXPECT_EQ(request.filter, fileTypes);
 }
 
 TEST_F(TemplateEditorTest, OpensRtfWithItsColoursInTheFontOfTheSettings)
@@ -275,9 +277,7 @@ TEST_F(TemplateEditorTest, SaveAsSuggestsTheNameAndStartsInTheFolder)
     EXPECT_EQ(request.suggestedName, "hat.rtf");
     EXPECT_EQ(request.directory, folder);
     EXPECT_EQ(request.defaultExtension, "rtf");
-    EXPECT_EQ(request.filter, "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files "
-                              "|*.m22;*.m50;*.mdf|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files "
-                              "(*.*)|*.*");
+    EXPECT_EQ(request.filter, fileTypes);
 }
 
 TEST_F(TemplateEditorTest, FailuresAreReportedUnderTheirProcedures)
