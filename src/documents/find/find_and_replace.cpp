@@ -203,16 +203,8 @@ void SSTab1_Click(FindAndReplace& window)
 {
     const Steps step(window.editor.shared.errors, "FIND SSTab1_Click");
     step([&] {
-        switch (window.SSTab1.SelectedItem) {
-        case findTab::find:
-            selectFindTab(window);
-            break;
-        case findTab::replace:
-            selectReplaceTab(window);
-            break;
-        default:
-            break;
-        }
+        if (window.SSTab1.SelectedItem == findTab::find) selectFindTab(window);
+        if (window.SSTab1.SelectedItem == findTab::replace) selectReplaceTab(window);
         focusTab(window);
         markFormMatches(window);
     });

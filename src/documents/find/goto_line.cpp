@@ -4,7 +4,7 @@
 #include "documents/pair/document_status.h"
 #include "platform/text.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace tarvex {
 
@@ -32,9 +32,9 @@ void Command7_Click(FindAndReplace& window)
     step([&] {
         endBlinking(editor);
         Pane& pane = editor.JoystickText;
-        const double number = std::floor(Val(window.LineToFind.Text.get()));
-        const bool possible = number >= 1 && number <= static_cast<double>(pane.lineCount());
-        const auto line = possible ? static_cast<std::int64_t>(number) : 0;
+        const double behindLast = static_cast<double>(pane.lineCount()) + 1;
+        const double number = std::clamp(Val(window.LineToFind.Text.get()), 0.0, behindLast); // both no line
+        const auto line = static_cast<std::int64_t>(number);
         const auto start = startOfLine(pane, line);
         if (!start) {
             editor.platform.dialogues.show({.title = "Check the value you entered!",

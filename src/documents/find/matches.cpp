@@ -31,7 +31,7 @@ std::string selectedWord(Editor& editor)
 {
     constexpr std::int64_t longest = 100;
     const Pane& pane = editor.selected().pane;
-    if (pane.SelLength() == 0 || pane.SelLength() > longest) return {};
+    if (pane.SelLength() > longest) return {};
     const std::string selected = pane.SelText();
     if (selected.find_first_of(" \t\r\n") != std::string::npos) return {};
     return utf8FromWindows1252(selected);

@@ -87,8 +87,7 @@ void ReplaceText(FindAndReplace& window)
 
 void Command5_Click(FindAndReplace& window)
 {
-    const Steps step(window.editor.shared.errors, "FIND Command5_Click");
-    step([&] { ReplaceText(window); });
+    ReplaceText(window);
     offerNoReplacement(window);
 }
 

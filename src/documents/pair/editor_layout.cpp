@@ -111,7 +111,6 @@ void FrameMacros_MouseMove(Editor& editor, bool leftButton, float x, bool overRi
     const float widest = 32767.0F; // the setting is a 16-bit number
     const float pixels = std::clamp(x / static_cast<float>(twipsPerPixel), 0.0F, widest - 1);
     const auto width = static_cast<std::int16_t>(std::max(static_cast<int>(pixels) + 1, smallestMacroFrame));
-    if (width == editor.shared.settings.MacroFrameWidth) return;
     if (!frame.WidthBeforeDrag) frame.WidthBeforeDrag = editor.shared.settings.MacroFrameWidth;
     editor.shared.settings.MacroFrameWidth = width;
     Form_Resize(editor);

@@ -46,8 +46,8 @@ template <typename Map> Pane::Range Pane::repaint(Range range, Map map)
 {
     FormatId* formats = m_format.data();
     Range written{range.end, range.end};
-    FormatId from = 0;
-    FormatId to = 0;
+    FormatId from{};
+    FormatId to{};
     for (std::size_t at = range.begin; at < range.end;) {
         const std::size_t next = stretchEnd(formats, at, range.end);
         if (at == range.begin || formats[at] != from) {

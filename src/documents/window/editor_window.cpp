@@ -202,7 +202,6 @@ void Form_Load(LastPair& lastPair)
     UpdateSavedIcon(editor);
     step([&] { editor.operations.UpdateEditorTooltips(); });
     showLineNumber(editor, editor.selected(), editor.selected().pane.SelStart());
-    UpdateSavedIcon(editor);
     F22MenusUpdate(editor);
     editor.status(whyNotOpened.empty() ? "Ready! Welcome to Tarvex!" : whyNotOpened);
     showOpeningRemarks(editor);

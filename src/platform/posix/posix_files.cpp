@@ -159,20 +159,19 @@ void PosixFiles::removeFile(const std::string& path)
     });
 }
 
-/// A link and not a rename, which would replace a file of the new name.
+/// By a link where there are any, because a rename would replace a file that gets the new name meanwhile.
 void PosixFiles::renameFile(const std::string& path, const std::string& newPath)
 {
     const std::string native = m_drives.toNative(path);
     const std::string newNative = m_drives.toNative(newPath);
     withErrorsOf(native, [&] {
-        if (::link(native.c_str(), newNative.c_str()) < 0) {
-            const bool hasNoLinks = errno == EPERM || errno == ENOTSUP || errno == EMLINK;
-            if (!hasNoLinks) throwSystemError();
-            if (statusOf(newNative)) throw systemError(EEXIST);
-            if (::rename(native.c_str(), newNative.c_str()) < 0) throwSystemError();
-        } else if (::unlink(native.c_str()) < 0) {
-            throwSystemError();
+        if (::link(native.c_str(), newNative.c_str()) == 0) {
+            if (::unlink(native.c_str()) < 0) throwSystemError();
+            return;
         }
+        // A directory has no links, and neither has any file of some file systems.
+        if (errno == EEXIST || statusOf(newNative)) throw systemError(EEXIST);
+        if (::rename(native.c_str(), newNative.c_str()) < 0) throwSystemError();
     });
 }
 

@@ -37,6 +37,99 @@ TEST_F(FindBarTest, FindsAndCountsWhileTheTextIsWritten)
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
 
+TEST_F(FindBarTest, WhileItIsClosedItsTextAndOptionsSeekNothing)
+{
+    joystick.setSelStart(3);
+    write("fire");
+    tick(bar.MatchCase);
+    tick(bar.WholeWord);
+    EXPECT_TRUE(editor.joystick.Matches.positions().empty());
+    expectSelected(joystick, 3, 0);
+    joystick.setSelStart(4);
+    EXPECT_EQ(count(), "");
+}
+
+TEST_F(FindBarTest, TakesTheKeyboardAndGivesItBackToThePane)
+{
+    std::string order;
+    const auto text = bar.Text.focusWanted.connect([&] { order += "text "; });
+    const auto all = bar.Text.selectAllWanted.connect([&] { order += "all "; });
+    const auto pane = joystick.focusWanted.connect([&] { order += "pane"; });
+    open();
+    bar.Close.Click();
+    EXPECT_EQ(order, "text all pane");
+}
+
+TEST_F(FindBarTest, OpenedAgainItSeeksWhatItSoughtBefore)
+{
+    open();
+    write("fire");
+    bar.Close.Click();
+    joystick.setSelStart(0);
+    open();
+    EXPECT_EQ(count(), "3 matches");
+    EXPECT_EQ(editor.joystick.Matches.positions(), (Positions{7, 20, 36}));
+    bar.Close.Click();
+    write("");
+    open();
+    EXPECT_EQ(count(), "");
+}
+
+TEST_F(FindBarTest, TheMatchIsRecordedAndItsPlaceIsShown)
+{
+    std::vector<int> jumps;
+    const auto listening = editor.Jumped.connect([&](const Side& side) { jumps.push_back(side.tab); });
+    t.menus().mnuViewHighlightLine.Click();
+    open();
+    write("misfire");
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    expectSelected(joystick, 33, 7);
+    EXPECT_EQ(editor.joystick.Caret, 40);
+    EXPECT_EQ(editor.joystick.SelectionLength, 7);
+    EXPECT_EQ(t.status(3), "Line no: 3");
+    EXPECT_EQ(jumps, std::vector<int>{1});
+}
+
+TEST_F(FindBarTest, AShorterTextIsSoughtWhereTheUserWas)
+{
+    open();
+    write("fire");
+    bar.Next.Click();
+    write("fir");
+    expectSelected(joystick, 20, 3);
+    bar.Next.Click();
+    bar.Previous.Click();
+    write("fi");
+    expectSelected(joystick, 20, 2);
+    joystick.setSelStart(30);
+    bar.Text.GotFocus();
+    write("f");
+    expectSelected(joystick, 36, 1);
+    macro.setText("fire fire");
+    macro.setSelStart(2);
+    editor.TabStrip1.Select(2);
+    write("fi");
+    expectSelected(macro, 5, 2);
+}
+
+TEST_F(FindBarTest, TheNextMatchMayBeginAtTheCaret)
+{
+    open();
+    write("fire");
+    joystick.setSelStart(20);
+    bar.Next.Click();
+    expectSelected(joystick, 20, 4);
+}
+
+TEST_F(FindBarTest, WhileItIsOpenTheFindWindowLeavesItsMarks)
+{
+    t.menus().mnuEditFind.Click();
+    open();
+    write("fire");
+    window.ComboTextFind.Text = "BTN";
+    EXPECT_EQ(editor.joystick.Matches.positions(), (Positions{7, 20, 36}));
+}
+
 TEST_F(FindBarTest, BeginsAtTheCaretAndGoesRoundAtTheEnd)
 {
     joystick.setSelStart(20);

@@ -59,6 +59,16 @@ TEST_F(GotoLine, Line0OrANumberBeyondTheEndIsInvalid)
     expectSelected(joystick, 0, 5);
 }
 
+TEST_F(GotoLine, ALineThatFlashesComesToRestAndThePlaceIsShown)
+{
+    int jumps = 0;
+    const auto listening = editor.Jumped.connect([&](const Side&) { ++jumps; });
+    t.menus().mnuViewHighlightLine.Click();
+    go("2");
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    EXPECT_EQ(jumps, 1);
+}
+
 TEST_F(GotoLine, ATextThatIsntANumberIsInvalid)
 {
     expectInvalid("two");

@@ -60,6 +60,62 @@ TEST_F(Replace, AnEmptyReplacementDeletesAndLeavesCaretAndHistory)
     EXPECT_TRUE(window.ComboTextReplaceWith.Items.get().empty());
 }
 
+TEST_F(Replace, GivesTheKeyboardToTheSearchForTheNext)
+{
+    joystick.setText("fire fire");
+    findToReplace("fire");
+    int focused = 0;
+    const auto listening = window.Command3.focusWanted.connect([&] { ++focused; });
+    window.Command5.Click();
+    EXPECT_EQ(focused, 1);
+}
+
+TEST_F(Replace, OverAFlashingLineLeavesTheLine)
+{
+    joystick.setText("BTN S1 fire");
+    findToReplace("fire");
+    window.ComboTextReplaceWith.Text = "REM ";
+    t.menus().mnuViewHighlightLine.Click();
+    window.Command5.Click();
+    EXPECT_EQ(joystick.Text(), "REM BTN S1 fire");
+}
+
+TEST_F(Replace, IsOfferedByNoSearchThatFoundNothingToSeek)
+{
+    joystick.setText("fire");
+    findToReplace("");
+    EXPECT_FALSE(window.Command5.Enabled);
+    joystick.setText("");
+    findToReplace("fire");
+    EXPECT_FALSE(window.Command5.Enabled);
+    EXPECT_FALSE(window.Command6.Enabled);
+}
+
+TEST_F(Replace, AllEndsTheSearchAndShowsItsProgress)
+{
+    joystick.setText("fire and fire");
+    findToReplace("fire");
+    ASSERT_EQ(window.Command3.Caption.get(), findNext);
+    ProgressBar& bar = t.program().mum.ProgressBar1;
+    bar.Min = 7;
+    bar.Value = 50;
+    std::vector<int> shown;
+    const auto listening = bar.Value.changed.connect([&] {
+        EXPECT_TRUE(bar.Visible);
+        EXPECT_EQ(bar.Min, 0);
+        EXPECT_EQ(bar.Max, static_cast<int>(joystick.TextLength()));
+        shown.push_back(bar.Value);
+    });
+    replaceAll("fire", "ab");
+    EXPECT_EQ(joystick.Text(), "ab and ab");
+    EXPECT_EQ(shown, (std::vector<int>{0, 2, 9}));
+    EXPECT_FALSE(bar.Visible);
+    EXPECT_EQ(window.FoundPosition, -1);
+    EXPECT_EQ(window.Command3.Caption.get(), findFirst);
+    EXPECT_FALSE(window.Command5.Enabled);
+    EXPECT_FALSE(window.Command6.Enabled);
+}
+
 TEST_F(Replace, IsAnUndoLevel)
 {
     t.typeJoystick("Z");

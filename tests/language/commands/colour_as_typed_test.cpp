@@ -1,6 +1,7 @@
 #include "language/commands/colour_as_typed.h"
 
 #include "documents/pair/noted_caret.h"
+#include "language/base_format.h"
 #include "language/colour_letters.h"
 #include "support/random_seed.h"
 #include "support/test_program.h"
@@ -72,6 +73,20 @@ TEST_F(ColourAsTypedTest, TheLineWrittenGetsItsColoursAfterAPause)
     EXPECT_NE(colours(), uncoloured);
     const std::string typed = colours();
     EXPECT_EQ(typed, coloursOfWholeFile());
+}
+
+TEST_F(ColourAsTypedTest, TheLineWrittenGetsTheFontOfTheTexts)
+{
+    t.settings().TextFontName = "Terminal";
+    t.settings().TextFontSize = 14;
+    t.settings().TextFontBold = 1;
+    type(0, "x");
+    pause();
+    const CharacterFormat& format = joystick.formatAt(0);
+    EXPECT_EQ(format.fontName, "Terminal");
+    EXPECT_EQ(format.fontSize, 14.0F);
+    EXPECT_TRUE(format.bold);
+    EXPECT_EQ(format.indent, paragraphIndent);
 }
 
 TEST_F(ColourAsTypedTest, IsOffUntilItIsTicked)

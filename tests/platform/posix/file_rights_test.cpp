@@ -7,6 +7,7 @@
 #include "support/temporary_directory.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <functional>
 #include <grp.h>
 #include <gtest/gtest.h>
@@ -114,6 +115,33 @@ TEST_F(FileRights, ModeOfAFileWithoutAListGivesNothingToThoseNamedInTheFoldersLi
     SKIP_WITHOUT_ATTRIBUTES(setAttribute(folder, defaultListName, inherited));
     writer.save(file, "new");
     EXPECT_EQ(attributeOf(file, accessListName), "(none)");
+    EXPECT_EQ(modeOf(file), 0640U);
+}
+
+/// Each new file of the folder has an access list, which can be taken off.
+struct ListsOfTheFolder final : SystemCalls {
+    int listsTakenOff = 0;
+
+    int fremovexattr(int, const char*) override
+    {
+        ++listsTakenOff;
+        errno = EIO; // of an earlier call: one that works leaves it
+        return 0;
+    }
+    ssize_t lgetxattr(const std::string&, const char*, void*, std::size_t) override
+    {
+        errno = ENODATA;
+        return -1;
+    }
+};
+
+TEST_F(FileRights, AFileThatLosesTheListOfItsFolderKeepsItsMode)
+{
+    ListsOfTheFolder lists;
+    SafeWriter writerOfLists(disk / "other-recovery", lists);
+    ::chmod(file.c_str(), 0640);
+    writerOfLists.save(file, "new");
+    EXPECT_EQ(lists.listsTakenOff, 1);
     EXPECT_EQ(modeOf(file), 0640U);
 }
 

@@ -5,7 +5,11 @@
 #include "support/eventually.h"
 #include "support/temporary_directory.h"
 
+#include <aio.h>
+#include <algorithm>
+#include <cerrno>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvex {
@@ -156,6 +160,46 @@ TEST(PosixAppendFile, AFolderThatCannotBeSyncedDoesNoHarm)
     EXPECT_EQ(calls.made[folders], "fsync");
     EXPECT_EQ(calls.made[folders + 1], "fsync") << "the file itself";
     EXPECT_TRUE(file.isSynced());
+}
+
+/// A file system that refuses to sync a folder, in the background.
+struct NoFolderSyncs final : SystemCalls {
+    int ends[2] = {};
+    std::vector<aiocb*> requests;
+
+    NoFolderSyncs() { EXPECT_EQ(::pipe(ends), 0); }
+    ~NoFolderSyncs() override
+    {
+        ::close(ends[0]);
+        ::close(ends[1]);
+    }
+    int startSync(aiocb& request) override
+    {
+        struct stat status = {};
+        ::fstat(request.aio_fildes, &status);
+        if (S_ISDIR(status.st_mode)) request.aio_fildes = ends[1]; // no disk takes the bytes of a pipe
+        requests.push_back(&request);
+        return SystemCalls::startSync(request);
+    }
+    bool haveEnded() const
+    {
+        return std::all_of(requests.begin(), requests.end(),
+                           [](const aiocb* request) { return ::aio_error(request) != EINPROGRESS; });
+    }
+};
+
+TEST(PosixAppendFile, IsSyncedAlthoughTheDiskRefusesToSyncItsFolder)
+{
+    const TemporaryDirectory disk;
+    NoFolderSyncs calls;
+    PosixAppendFile file(calls, disk / "Recover/1.journal");
+    file.append("x");
+    EXPECT_TRUE(file.sync());
+    ASSERT_EQ(calls.requests.size(), 2U);
+    ASSERT_TRUE(eventually([&] { return calls.haveEnded(); }));
+    EXPECT_TRUE(file.isSynced()) << "at once";
+    EXPECT_TRUE(file.sync());
+    EXPECT_EQ(calls.requests.size(), 3U) << "the folder isn't tried again";
 }
 
 TEST(PosixAppendFile, AFailedSyncIsReported)

@@ -190,6 +190,15 @@ TEST_F(Files, RenamedFileKeepsItsContentsAndPermissionsAndReplacesNone)
                 [&] { files.renameFile("c:\\recover\\3.journal", "c:\\recover\\3.damaged"); });
 }
 
+TEST_F(Files, ALinkThatLeadsNowhereIsNotReplacedByARenamedFile)
+{
+    disk.put("drive_c/mig.b50", "mine");
+    std::filesystem::create_symlink("gone", root + "/link.b50");
+    expectError(ErrorCode::FileExists, EEXIST, [&] { files.renameFile("c:\\mig.b50", "c:\\link.b50"); });
+    EXPECT_EQ(files.read("c:\\mig.b50"), "mine");
+    EXPECT_TRUE(std::filesystem::is_symlink(root + "/link.b50"));
+}
+
 TEST_F(Files, RenamedDirectoryKeepsWhatIsInItAndReplacesNone)
 {
     disk.put("drive_c/Rtf/mig.rtf", "old");

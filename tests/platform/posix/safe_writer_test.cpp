@@ -384,6 +384,17 @@ TEST_F(SafeWriting, SweepSparesYoungFilesAndForeignNames)
     EXPECT_EQ(namesIn(folder).size(), kept.size() + 2) << "old enough now";
 }
 
+TEST_F(SafeWriting, SweepsTheCurrentFolderWhenAFileThereIsSaved)
+{
+    const fs::path before = fs::current_path();
+    fs::current_path(folder);
+    setOld(disk.put("work/.tarvex-save-0123456789abcdef", "left"));
+    const int error = save("mig.b50", "new");
+    fs::current_path(before);
+    EXPECT_EQ(error, 0);
+    EXPECT_THAT(namesIn(folder), ElementsAre("mig.b50"));
+}
+
 TEST_F(SafeWriting, SweepSparesAFileThatIsBeingWritten)
 {
     disk.put("work/mig.b50", "old");

@@ -88,14 +88,15 @@ DosboxFolder::DosboxFolder()
     sweepAll(parent);
     std::string unlocked = parent + "/tarvex-new-XXXXXX"; // a name that nobody sweeps
     if (::mkdtemp(unlocked.data()) == nullptr) throwSystemError();
-    m_lock = openLock(openDirectory(unlocked), O_CREAT | O_EXCL);
+    const FileDescriptor folder = openDirectory(unlocked);
+    if (folder) m_lock = openLock(folder, O_CREAT | O_EXCL);
     constexpr std::size_t randomPart = 6;
     m_path = parent + "/" + std::string(prefix) + unlocked.substr(unlocked.size() - randomPart);
     if (m_lock && ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0 && ::rename(unlocked.c_str(), m_path.c_str()) == 0)
         return;
     const int error = errno;
     std::error_code ignored;
-    fs::remove_all(unlocked, ignored);
+    for (const std::string& made : {unlocked + "/" + lockName, unlocked}) fs::remove(made, ignored); // opens no file
     throw systemError(error);
 }
 

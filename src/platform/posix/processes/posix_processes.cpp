@@ -72,15 +72,10 @@ ProcessId PosixProcesses::start(const ProgramCommand& command, int /*style*/, co
     if (!fs::is_directory(place, error)) throw RuntimeError(ErrorCode::PathNotFound, "Path not found");
 
     const ProgramKind kind = kindOfProgram(native);
-    switch (kind) {
-    case ProgramKind::Native:
-        return adopt(startNative(native, line.tail, command, place), nullptr);
-    case ProgramKind::Windows:
-    case ProgramKind::ControlPanel:
-        return adopt(startWindows(native, tail, place, kind == ProgramKind::ControlPanel), nullptr);
-    default:
-        break;
-    }
+    if (kind == ProgramKind::Native) return adopt(startNative(native, line.tail, command, place), nullptr);
+    const bool controlPanel = kind == ProgramKind::ControlPanel;
+    if (controlPanel || kind == ProgramKind::Windows)
+        return adopt(startWindows(native, tail, place, controlPanel), nullptr);
     const std::string dosbox = findRunner(m_files, m_dialogues, m_programDirectory, Runner::DosBox, line.program);
     auto run = std::make_unique<DosboxRun>(m_drives, kind, m_drives.toDos(native), tail, directory);
     const pid_t process = spawn(run->arguments(dosbox), run->folder().path(), run->folder().lock());

@@ -150,6 +150,7 @@ TEST(ReadRtf, BytesAreOfTheCodePageOfTheFile)
     EXPECT_EQ(textOf("\\pca \\'81\\'9b"), "\xFC\xF8");
     EXPECT_EQ(textOf("\\ansi \\'81\\'9b"), "\x81\x9B");
     EXPECT_EQ(textOf("\\mac\\ansicpg1252 \\'8e"), "\x8E");
+    EXPECT_EQ(textOf("{\\*\\unknown\\mac}\\'8e"), "\x8E") << "no word of a group that is skipped";
     EXPECT_EQ(textOf("\\ansicpg0 \\'8e"), "\x8E");
 }
 

@@ -4,9 +4,14 @@
 
 #include "platform/errors.h"
 #include "platform/posix/dosbox/dos_starter.h"
+#include "platform/posix/dosbox/dosbox_folder.h"
 #include "platform/posix/processes/process_world.h"
 
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 namespace tarvex {
 namespace {
@@ -80,6 +85,46 @@ TEST_F(DosboxRunTest, AProgramIsStartedByASmallOneOnADriveOfItsOwn)
     EXPECT_EQ(run.arguments("/usr/bin/dosbox"),
               (std::vector<std::string>{"/usr/bin/dosbox", "-userconf", "-conf", folder + "/dosbox.conf", "-noautoexec",
                                         "-c", "mount y " + folder + "/run", "-c", "y:\\start.bat", "-c", "exit"}));
+}
+
+/// Leaves the program as many files to open as it says.
+struct FewFiles {
+    rlimit before{};
+
+    explicit FewFiles(int number)
+    {
+        ::getrlimit(RLIMIT_NOFILE, &before);
+        const FileDescriptor next(::open("/", O_RDONLY | O_CLOEXEC));
+        const rlimit few{static_cast<rlim_t>(next.get() + number), before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+    }
+    ~FewFiles() { ::setrlimit(RLIMIT_NOFILE, &before); }
+    FewFiles(const FewFiles&) = delete;
+    FewFiles& operator=(const FewFiles&) = delete;
+};
+
+TEST_F(DosboxRunTest, AFolderThatCannotBeLockedIsReportedAndLeavesNothing)
+{
+    const TemporaryDirectory runtime;
+    const char* const set = std::getenv("XDG_RUNTIME_DIR");
+    const std::string before = set != nullptr ? set : "";
+    ::setenv("XDG_RUNTIME_DIR", runtime.path().c_str(), 1);
+    for (const int number : {0, 1}) {
+        try {
+            const FewFiles few(number);
+            const DosboxFolder folder;
+            ADD_FAILURE() << number;
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.lastDllError(), EMFILE) << number;
+        }
+    }
+    const std::string made = DosboxFolder().path();
+    EXPECT_EQ(made.substr(0, made.size() - 6), runtime.path() + "/tarvex-dos-") << "and six characters by chance";
+    EXPECT_TRUE(namesIn(runtime.path()).empty());
+    if (set != nullptr)
+        ::setenv("XDG_RUNTIME_DIR", before.c_str(), 1);
+    else
+        ::unsetenv("XDG_RUNTIME_DIR");
 }
 
 TEST_F(DosboxRunTest, ABatchFileIsCalledInItsDirectory)

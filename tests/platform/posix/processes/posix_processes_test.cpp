@@ -9,10 +9,12 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <functional>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tarvex {
 namespace {
@@ -268,6 +270,40 @@ TEST(WaitForProgram, WithoutProcessFilesKeepsToTheTimeout)
     EXPECT_EQ(::kill(process, SIGKILL), 0);
     EXPECT_EQ(w.plain.wait(process, -1), waitResult::ended);
     EXPECT_EQ(::waitpid(process, nullptr, WNOHANG), -1);
+}
+
+/// Notes whether a program is watched or waited for.
+struct Noting : PosixProcesses {
+    using PosixProcesses::PosixProcesses;
+
+    std::string notes;
+    std::function<void()> whileWaiting;
+
+protected:
+    void watch(const Running&) override { notes += "watch "; }
+    void unwatch(const Running&) override { notes += "unwatch "; }
+    bool waitForEnd(const Running& program, int timeout) override
+    {
+        notes += "wait ";
+        if (const auto work = std::exchange(whileWaiting, nullptr)) work();
+        return PosixProcesses::waitForEnd(program, timeout);
+    }
+};
+
+TEST(WaitForProgram, ItIsWatchedExceptWhileSomebodyWaitsForIt)
+{
+    ProcessWorld w;
+    Noting processes(w.drives, w.files, w.dialogues, w.drives.toDos(w.disk.path()));
+    w.script("load.exe", "exec sleep 1000\n");
+    const ProcessId process = processes.start("c:\\load.exe", 1, "c:\\");
+    processes.whileWaiting = [&] { processes.wait(process, 0); };
+    EXPECT_EQ(processes.wait(process, 0), waitResult::timeout);
+    EXPECT_EQ(processes.notes, "watch unwatch wait wait watch ");
+    EXPECT_EQ(::kill(process, SIGKILL), 0);
+    processes.notes.clear();
+    EXPECT_EQ(processes.wait(process, -1), waitResult::ended);
+    EXPECT_TRUE(processes.notes.starts_with("unwatch wait ")) << processes.notes;
+    EXPECT_EQ(processes.notes.find(" watch"), std::string::npos) << processes.notes;
 }
 
 // ---- what runs it ----
