@@ -248,6 +248,25 @@ TEST(WaitForProgram, LeavesNoDeadProcessBehind)
     EXPECT_EQ(::waitpid(second, nullptr, WNOHANG), -1);
 }
 
+void waitForItsEnd(pid_t process)
+{
+    siginfo_t end{};
+    ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(process), &end, WEXITED | WNOWAIT), 0);
+}
+
+TEST(WaitForProgram, WhatHasEndedIsReapedWithItsStarter)
+{
+    ProcessId process = 0;
+    {
+        ProcessWorld w;
+        w.script("load.exe", "");
+        process = w.processes.start("c:\\load.exe", 1, "c:\\");
+        waitForItsEnd(process);
+    }
+    EXPECT_EQ(::waitpid(process, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
 /// On a system that has no files that report the end of a program.
 struct WithoutProcessFiles : PosixProcesses {
     using PosixProcesses::PosixProcesses;
@@ -270,6 +289,15 @@ TEST(WaitForProgram, WithoutProcessFilesKeepsToTheTimeout)
     EXPECT_EQ(::kill(process, SIGKILL), 0);
     EXPECT_EQ(w.plain.wait(process, -1), waitResult::ended);
     EXPECT_EQ(::waitpid(process, nullptr, WNOHANG), -1);
+}
+
+TEST(WaitForProgram, WithoutProcessFilesAnEndLongBeforeTheTimeoutIsSeen)
+{
+    Plain w;
+    w.script("load.exe", "exec sleep 0.2\n");
+    const ProcessId process = w.plain.start("c:\\load.exe", 1, "c:\\");
+    constexpr int day = 24 * 60 * 60 * 1000; // longer than any run of the tests may take
+    EXPECT_EQ(w.plain.wait(process, day), waitResult::ended);
 }
 
 /// Notes whether a program is watched or waited for.
