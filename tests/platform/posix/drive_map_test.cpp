@@ -245,6 +245,16 @@ TEST_F(WineDrives, AreThoseOfThePrefix)
     EXPECT_EQ(map.toDos(prefix + "/x"), map.toDos(prefix) + "\\x");
 }
 
+TEST_F(WineDrives, AFileOfADriveBehindTwoLinksKeepsTheNameThatItHasThere)
+{
+    fs::create_directory_symlink(disk.makeDirectory("real"), disk / "usb");
+    fs::create_symlink(disk.put("elsewhere/mig.b50", ""), disk / "real/link.b50");
+    link(disk / "usb", "f:");
+    const DriveMap map = make();
+    for (const std::string& folder : {disk / "usb", disk / "real", prefix + "/dosdevices/f:"})
+        EXPECT_EQ(map.toDos(folder + "/link.b50"), "f:\\link.b50") << folder;
+}
+
 TEST_F(WineDrives, PrefixOfTheEnvironmentWinsOverTheHome)
 {
     disk.makeDirectory("other/dosdevices");
