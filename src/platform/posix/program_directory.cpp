@@ -58,13 +58,19 @@ void makeFilled(const fs::path& directory, const std::string& installedFiles)
 
 } // namespace
 
+std::string installedFilesOf(const std::string& executable)
+{
+    std::error_code error;
+    const fs::path installed = fs::path(executable).parent_path().parent_path() / "share/tarvex";
+    return fs::is_directory(installed, error) ? installed.string() : std::string();
+}
+
 ProgramPlaces readProgramPlaces()
 {
     std::error_code error;
     ProgramPlaces places;
     places.executable = fs::read_symlink("/proc/self/exe", error).string();
-    const fs::path installed = fs::path(places.executable).parent_path().parent_path() / "share/tarvex";
-    if (fs::is_directory(installed, error)) places.installedFiles = installed.string();
+    places.installedFiles = installedFilesOf(places.executable);
     places.dataHome = fromEnvironment("XDG_DATA_HOME");
     places.home = fromEnvironment("HOME");
     return places;

@@ -12,7 +12,10 @@ struct ProgramPlaces {
     std::string home;           ///< $HOME
 };
 
-/// The real ones of this process. The installed files are ../share/tarvex, seen from the executable's directory.
+/// The directory ../share/tarvex, seen from an executable's; empty where there is none.
+std::string installedFilesOf(const std::string& executable);
+
+/// The real ones of this process.
 ProgramPlaces readProgramPlaces();
 
 /// The directory with the settings, native, no "/" at its end: the executable's. Where that isn't writable or the

@@ -57,6 +57,17 @@ TEST_F(ProgramDirectory, DataHomeIsBelowTheHomeUnlessGivenAsAnAbsolutePath)
     EXPECT_EQ(findProgramDirectory(places), inHome);
 }
 
+TEST_F(ProgramDirectory, APackagesFilesAreInTheFolderShareBesideThatOfItsPrograms)
+{
+    EXPECT_EQ(installedFilesOf(places.executable), "");
+    disk.put("share/tarvex", "a file");
+    EXPECT_EQ(installedFilesOf(places.executable), "");
+    std::filesystem::remove(disk / "share/tarvex");
+    disk.makeDirectory("share/tarvex");
+    EXPECT_EQ(installedFilesOf(places.executable), disk / "share/tarvex");
+    EXPECT_EQ(readProgramPlaces().executable, std::filesystem::canonical("/proc/self/exe"));
+}
+
 TEST_F(ProgramDirectory, OfAnInstalledPackageIsFilledOnceWithItsFiles)
 {
     install();

@@ -310,6 +310,15 @@ TEST(DosboxFolder, IsMadeInAPlaceWhosePathLeavesRoomInACommand)
     EXPECT_FALSE(isMadeIn(runtime.disk.makeDirectory(std::string(rest + 1, 'x'))));
 }
 
+TEST(DosboxFolder, WhatCannotBePutIntoItIsReported)
+{
+    const DosboxFolder folder;
+    folder.put("file", "");
+    EXPECT_THROW(folder.put("file/inside", ""), RuntimeError);
+    EXPECT_THROW(folder.link("file", "/"), RuntimeError);
+    EXPECT_THROW(folder.makeDirectory("file/inside"), RuntimeError);
+}
+
 TEST(DosboxFolder, SweepsOnlyWhatItMadeItself)
 {
     namespace fs = std::filesystem;
