@@ -279,6 +279,20 @@ void collectFindWindow(Collector& all, Program& program)
     all.put("FindBar.Count", program.findBar.Count.Caption);
 }
 
+void collectStrips(Collector& all, Program& program)
+{
+    for (const OutsideNotice* notice : {&program.outsideNotices.joystick, &program.outsideNotices.macro}) {
+        const std::string name = "strip of the " + std::string(notice->side.kind) + " file";
+        all.put(name + ".Visible", notice->Visible);
+        all.put(name + ".Text", notice->Text.Caption);
+        all.put(name + ".Reload.Enabled", notice->Reload.Enabled);
+        all.put(name + ".Reload.Visible", notice->Reload.Visible);
+    }
+    const Differences& differences = program.differences;
+    all.form("Differences", differences.Form);
+    all.put("Differences.Count", differences.Count.Caption);
+}
+
 void collectShared(Collector& all, const Shared& shared)
 {
     all.settings(shared.settings);
@@ -341,6 +355,7 @@ ProgramState stateOf(TestProgram& t)
     collectEditor(all, program.editor);
     collectFrame(all, program.mum);
     collectFindWindow(all, program);
+    collectStrips(all, program);
     collectShared(all, program.shared);
     all.menu(menuBar(program.menus));
     all.menu(popUpMenu(program.menus, program.menus.mnuRHMouse));
