@@ -38,16 +38,39 @@ TEST_F(WrongCallTest, AResultThatCantBeWrittenIsReported)
     EXPECT_EQ(result.err, "tarvexctl: can't write the result: No space left on device\n");
 }
 
-TEST_F(WrongCallTest, HelpAndVersionAreNoWrongCalls)
+TEST_F(WrongCallTest, AWrongCallIsReferredToTheHelp)
 {
-    const CliResult help = tarvexctl({"--help"});
-    EXPECT_EQ(help.status, 0);
-    EXPECT_NE(help.out.find("Examples:"), std::string::npos);
-    EXPECT_EQ(help.err, "");
-    const CliResult ofCommand = tarvexctl({"colour", "--help"});
-    EXPECT_EQ(ofCommand.status, 0);
-    EXPECT_NE(ofCommand.out.find("tarvexctl colour"), std::string::npos);
-    EXPECT_EQ(tarvexctl({"--version"}).out.find("tarvexctl "), 0U);
+    EXPECT_EQ(tarvexctl({}).err, "tarvexctl: no command says what to do (see tarvexctl --help)\n");
+    EXPECT_EQ(tarvexctl({"color", "x"}).err, "tarvexctl: there is no command color (see tarvexctl --help)\n");
+    EXPECT_EQ(tarvexctl({"sheet", "-", "-o", directory / "sheet.txt"}).err,
+              "tarvexctl: the sheet's name must end in .pdf, .svg or .html: " + directory / "sheet.txt" + "\n");
+    EXPECT_EQ(tarvexctl({"align", "-", "--indent", "-1"}).status, 2);
+    EXPECT_EQ(tarvexctl({"align", "-", "--indent", "32767"}).status, 0);
+    EXPECT_EQ(tarvexctl({"align", "-", "--indent", "32768"}).status, 2);
+}
+
+/// Each is compared with a file of its name. With TARVEX_UPDATE_HELP in the environment the files are written instead;
+/// read the difference before committing it.
+TEST_F(WrongCallTest, HelpIsThatOfItsFileForEachCommandAndNoWrongCall)
+{
+    for (const std::string command :
+         {"", "colour", "macros", "used", "align", "statement", "controls", "sheet", "key", "raw", "previous"}) {
+        const CliResult help =
+            command.empty() ? tarvexctl({"--help"}) : tarvexctl(std::vector<std::string>{command, "--help"});
+        EXPECT_EQ(help.status, 0) << command;
+        EXPECT_EQ(help.err, "") << command;
+        const std::string path =
+            TARVEX_SOURCE_DIRECTORY "/tests/data/cli_help/" + (command.empty() ? "tarvexctl" : command) + ".txt";
+        if (std::getenv("TARVEX_UPDATE_HELP") != nullptr) std::ofstream(path) << help.out;
+        EXPECT_EQ(help.out, bytesOf(path)) << path;
+    }
+}
+
+TEST_F(WrongCallTest, TheVersionIsNoWrongCall)
+{
+    const CliResult version = tarvexctl({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.out.find("tarvexctl "), 0U);
 }
 
 } // namespace
