@@ -125,6 +125,20 @@ TEST_F(ColoursPageTest, TheColourThatAnItemHasAlreadyIsNoChange)
     });
 }
 
+TEST_F(ColoursPageTest, TheTextOfMacroFilesStaysBlack)
+{
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        ApplyColour(page, 1, 0x222222);
+        dialogues.colours.emplace_back(0x333333);
+        page.List1.ListIndex = 8;
+        page.List1.Click();
+        EXPECT_EQ(program().shared.DefaultTextColour, 0x222222) << "that of joystick files is another one";
+        const Pane& sample = page.ExampleMacroText;
+        EXPECT_EQ(sample.formatAt(sample.Text().find("For_Recovery")).colour, 0);
+    });
+}
+
 TEST_F(ColoursPageTest, ACancelledFontChangesNothing)
 {
     inPreferences([this] {

@@ -147,6 +147,68 @@ TEST_F(PreferencesFailures, OfTheWinLoadOptionsBelongToTheirControls)
     });
 }
 
+TEST_F(PreferencesFailures, OfTheFontBelongToItsButton)
+{
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        dialogues.fonts.emplace_back(FontChoice{"Courier New", 10, false});
+        const auto listening = page.ExampleJoystickText.selectionChanged.connect(fail);
+        EXPECT_EQ(reported([&] { page.Command18.Click(); }), "PREFS Command18_Click");
+    });
+}
+
+TEST_F(PreferencesFailures, OfTheUndoLevelsBelongToTheirButton)
+{
+    typeJoystick("a");
+    inPreferences([this] {
+        const auto listening = menus().mnuEditUndo.Caption.changed.connect(fail);
+        EXPECT_EQ(reported([&] { preferences().savingPage.Command11.Click(); }), "PREFS Command11_Click");
+    });
+}
+
+TEST_F(PreferencesFailures, OfTheHelpBelongToItsButton)
+{
+    program().operations.HelpTopic = [](int) { fail(); };
+    inPreferences([this] { EXPECT_EQ(reported([&] { preferences().Command6.Click(); }), "PREFS Command6_Click"); });
+}
+
+TEST_F(PreferencesFailures, OfTheImportBelongToItsButtonAndItsSettings)
+{
+    files.addFile("d:\\old\\Tarvex.ini", "[Miscellaneous]\r\nNumberOfBlanks=99999\r\n");
+    Preferences& dialogue = preferences();
+    inPreferences([&] {
+        const auto listening = dialogue.importForm.FolderLabel.Caption.changed.connect(fail);
+        dialogues.folders.emplace_back("d:\\old");
+        EXPECT_EQ(reported([&] { dialogue.extrasPage.Import.Click(); }), "PREFS Import_Click");
+    });
+    std::string tag;
+    dialogues.whileModal = [&] {
+        if (dialogues.modalForms.back() == "Import") return dialogue.importForm.ImportButton.Click();
+        dialogues.folders.emplace_back("d:\\old");
+        tag = reported([&] { dialogue.extrasPage.Import.Click(); });
+        dialogue.Command3.Click();
+    };
+    menus().mnuPreferencesEdit.Click();
+    dialogues.whileModal = nullptr;
+    EXPECT_EQ(tag, "PREFS takeImported");
+}
+
+TEST_F(PreferencesFailures, OfSettingsPutIntoForceBelongToTheClosing)
+{
+    const auto listening = menus().mnuGames.Caption.changed.connect(fail);
+    EXPECT_EQ(reported([&] {
+                  inPreferences([this] { preferences().miscellaneousPage.ComboGamesCaption.Text = "&Flights"; });
+              }),
+              "PREFS Form_Unload");
+}
+
+TEST_F(PreferencesFailures, OfAnotherFontOnThePanesBelongToTheChange)
+{
+    typeJoystick("a");
+    const auto listening = editor().JoystickText.selectionChanged.connect(fail);
+    EXPECT_EQ(reported([&] { program().operations.DamnFontWasChanged(); }), "ED_DamnFontWasChanged");
+}
+
 TEST_F(PreferencesFailures, OfTheDialogueBelongToItsOpeningAndItsTabs)
 {
     inPreferences([this] {

@@ -131,6 +131,7 @@ TEST_F(FilesHomeTest, AFolderThatCannotBeMadeIsSaidAndAskedAgain)
     startAndAnswer([this] { choose(asked() > 1 ? FilesHome::later : FilesHome::newFolder); });
     EXPECT_EQ(asked(), 2);
     EXPECT_THAT(lastBox().text, testing::StartsWith("I couldn't make c:\\tm: ")) << "and the reason";
+    EXPECT_EQ(program().shared.errors.ErrorProcedure, "PREFS askForFilesHome");
 }
 
 TEST_F(FilesHomeTest, WithoutAnyWindowTheStartGoesOn)

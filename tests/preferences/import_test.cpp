@@ -1,6 +1,7 @@
 #include "preferences/import_form.h"
 
 #include "preferences_fixture.h"
+#include "shell/toolbar_buttons.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -147,6 +148,32 @@ TEST_F(ImportTest, AnotherColourSchemeIsInForceOnThePanes)
     files.addFile(std::string(old) + "\\Tarvex.ini", "[Colours]\r\nBackgroundColour=1193046\r\n");
     importFrom(old, [] {});
     EXPECT_EQ(editor().JoystickText.BackColor.get(), 1193046);
+}
+
+TEST_F(ImportTest, TheFrameShowsTheImportedSettings)
+{
+    typeMacro("Fire = a\r\n");
+    editor().macro.Changed = changed::saved; // no question
+    menus().mnuEditUpdateMacros.Click();
+    ASSERT_FALSE(editor().FrameMacros.List1.empty());
+    for (const char* value : {"1", "0", "1"}) {
+        const bool on = *value == '1';
+        std::string ini = "[FileLocations]\r\nGamesCaption=&Flights" + std::string(value) + "\r\n[Miscellaneous]\r\n";
+        for (const char* key : {"OKtoShowToolTips", "FlatToolbar", "CanWrapToolbar", "GradientEffect",
+                                "UseExtraButtons", "DisableCalibrateMenu"})
+            ini += std::string(key) + '=' + value + "\r\n";
+        files.addFile(std::string(old) + "\\Tarvex.ini", ini);
+        importFrom(old, [] {});
+        const ToolBar& bar = program().mum.Toolbar1;
+        EXPECT_EQ(menus().mnuGames.Caption.get(), "&Flights" + std::string(value));
+        EXPECT_EQ(bar.Flat.get(), on);
+        EXPECT_EQ(bar.Wrappable.get(), on);
+        EXPECT_EQ(program().mum.Gradient.get(), on);
+        EXPECT_EQ(program().mum.Toolbar1.Buttons(toolbarButton::firstExtra).Visible.get(), on);
+        EXPECT_EQ(menus().mnuAppsProPanel.Visible.get(), !on);
+        EXPECT_EQ(program().mum.Toolbar1.Buttons(1).ToolTipText.get().empty(), !on);
+        EXPECT_EQ(editor().FrameMacros.List1[0].ToolTipText.get().empty(), !on) << "the lists of macros, too";
+    }
 }
 
 TEST_F(ImportTest, OneFileIsCountedAsOne)

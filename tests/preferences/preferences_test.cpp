@@ -346,6 +346,35 @@ struct PreferencesLists : PreferencesTest {
     GamesPage& games() { return preferences().gamesPage; }
 };
 
+TEST_F(PreferencesLists, AListPageShowsItsEntriesAnewWhenItIsEntered)
+{
+    const auto enter = [this](int page) {
+        preferences().SSTab1.Tab = page;
+        preferences().SSTab1.Click();
+    };
+    inPreferences([&] {
+        favourites().Text7.Text = "not applied";
+        settings().GameName[0] = "renamed";
+        enter(Preferences::saving);
+        EXPECT_EQ(favourites().Text7.Text.get(), "not applied") << "another page";
+        EXPECT_EQ(games().Text12.Text.get(), "game1");
+        enter(Preferences::favourites);
+        EXPECT_EQ(favourites().Text7.Text.get(), "fav1");
+        EXPECT_EQ(games().Text12.Text.get(), "game1");
+        enter(Preferences::games);
+        EXPECT_EQ(games().Text12.Text.get(), "renamed");
+        favourites().List2.Items = std::vector<std::string>();
+        games().List3.Items = std::vector<std::string>();
+        enter(Preferences::favourites);
+        EXPECT_FALSE(favourites().Text7.Enabled);
+        EXPECT_EQ(favourites().Text7.Text.get(), "");
+        EXPECT_TRUE(games().Text12.Enabled);
+        enter(Preferences::games);
+        EXPECT_FALSE(games().Text12.Enabled);
+        EXPECT_EQ(games().Text12.Text.get(), "");
+    });
+}
+
 TEST_F(PreferencesLists, ApplyTakesTheBoxesIntoTheChosenFavourite)
 {
     inPreferences([this] {
