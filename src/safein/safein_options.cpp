@@ -32,20 +32,15 @@ void mnuOption1_Click(RAWform& window, int Index)
     Settings& settings = window.editor.shared.settings;
     MenuItem& item = window.mnuOption1[Index];
     item.Checked = !item.Checked;
-    switch (Index) {
-    case safeinOption::useShfKey:
+    if (Index == safeinOption::useShfKey) {
         if (window.keys.LastKeyIndex == -1) return;
         computeAnew(window); // still by the former value, until the next key
-        break;
-    case safeinOption::viewModifiers:
+    }
+    if (Index == safeinOption::viewModifiers) {
         showSlashRow(window, item.Checked);
         return SaveSafeinOptions(window); // the setting keeps the value that it was loaded with
-    case safeinOption::keepOnTop:
-        window.form.TopMost = item.Checked.get();
-        break;
-    default:
-        break;
     }
+    if (Index == safeinOption::keepOnTop) window.form.TopMost = item.Checked.get();
     settings.*options[Index] = flagOf(item);
     SaveSafeinOptions(window);
 }

@@ -48,6 +48,18 @@ TEST_F(SafeinOptions, ShfKeySyntaxShowsTheFormerSyntaxUntilTheNextKey)
     EXPECT_EQ(syntax(), "A");
 }
 
+TEST_F(SafeinOptions, ShfKeySyntaxComputesTheLastKeyAnewWithWhatIsHeldNow)
+{
+    click(keyA);
+    EXPECT_EQ(syntax(), "a");
+    window.ToggleButton1.Click();
+    int selected = 0;
+    const Connection make = window.RMakeText.selectAllWanted.connect([&selected] { ++selected; });
+    window.mnuOption1[2].Click();
+    EXPECT_EQ(syntax(), "SHF a");
+    EXPECT_GT(selected, 0);
+}
+
 TEST_F(SafeinOptions, ViewSlashModifiersShowsTheRowAndLeavesTheSetting)
 {
     window.mnuOption1[3].Click();

@@ -74,6 +74,56 @@ TEST_F(SafeinWindow, CloseSafeinUnloadsItAndTheNextLoadStartsAnew)
     EXPECT_TRUE(window.Command3[0].Visible);
 }
 
+TEST_F(SafeinWindow, ClosingForgetsTheLitKeyAndTheCodesThatWereRead)
+{
+    window.Capture.Click();
+    captureKey(window, keyA, shiftKey::none);
+    EXPECT_EQ(window.LitKey, keyA);
+    window.RawToRead.Text = "#1C";
+    window.mnuFileClose.Click();
+    t.menus().mnuInsertRAW.Click();
+    EXPECT_EQ(window.LitKey, -1);
+    EXPECT_EQ(window.RawToRead.Text.get(), "");
+}
+
+TEST_F(SafeinWindow, ClosingKeepsItsPlace)
+{
+    window.form.Top = 1500;
+    window.form.Left = 2250;
+    window.mnuFileClose.Click();
+    EXPECT_EQ(ini("SafeinTop"), "1500");
+    EXPECT_EQ(ini("SafeinLeft"), "2250");
+}
+
+TEST_F(SafeinWindow, TheBackgroundOfTheStatementIsThatOfTheSettings)
+{
+    window.form.unload();
+    settings.BackgroundColour = 0x123456;
+    t.menus().mnuInsertRAW.Click();
+    EXPECT_EQ(window.TotalCombinedBackColor, 0x123456);
+}
+
+TEST_F(SafeinWindow, TheSameKeyAgainSelectsItsCodesAnew)
+{
+    click(keyA);
+    int selected = 0;
+    const Connection make = window.RMakeText.selectAllWanted.connect([&selected] { ++selected; });
+    click(keyA);
+    EXPECT_GT(selected, 0);
+}
+
+TEST_F(SafeinWindow, ItsHelpMenuOpensTheHandbook)
+{
+    int opened = 0;
+    t.menus().mnuHelpContents.handler = [&opened] { ++opened; };
+    window.mnuHelpContents.Click();
+    EXPECT_EQ(opened, 1);
+    window.form.unload();
+    t.menus().mnuHelpContents.handler = nullptr;
+    t.menus().mnuInsertRAW.Click();
+    EXPECT_FALSE(window.mnuHelpContents.Enabled);
+}
+
 TEST_F(SafeinWindow, UnloadingSavesTheOptions)
 {
     window.mnuUseExtendedRAW.Click();
