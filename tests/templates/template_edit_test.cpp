@@ -212,6 +212,92 @@ TEST_F(TemplateEditorTest, TheClipboardCarriesColours)
     EXPECT_EQ(pane.formatAt(0).colour, 255);
 }
 
+TEST_F(TemplateEditorTest, AParagraphKeepsItsIndentWhileItIsEditedAndATextBegunAnewHasTheUsualOne)
+{
+    type("far");
+    pane.setSelIndent(600);
+    type("x");
+    EXPECT_EQ(pane.formatAt(0).indent, 600);
+    pane.userEdit(0, static_cast<std::int64_t>(pane.TextLength()), "");
+    type("new");
+    EXPECT_EQ(pane.formatAt(0).indent, paragraphIndent);
+}
+
+TEST_F(TemplateEditorTest, LayoutAndIndentAreRefreshedInTheWholeTextAndTheCaretStays)
+{
+    type("one\r\ntwo");
+    pane.setSelIndent(600);
+    pane.setSelStart(6);
+    t.settings().TextFontName = "Courier New";
+    t.settings().TextFontBold = 1;
+    window.mnuViewrefreshLayout.Click();
+    for (const std::size_t at : {std::size_t{0}, std::size_t{6}}) {
+        EXPECT_EQ(pane.formatAt(at).fontName, "Courier New") << at;
+        EXPECT_TRUE(pane.formatAt(at).bold) << at;
+        EXPECT_EQ(pane.formatAt(at).indent, paragraphIndent) << at;
+    }
+    EXPECT_EQ(pane.SelStart(), 6);
+    t.settings().TextFontName = "Arial";
+    pane.setSelIndent(600);
+    t.editor().status("");
+    window.mnuRefreshIndent.Click();
+    EXPECT_EQ(pane.formatAt(6).indent, paragraphIndent);
+    EXPECT_EQ(pane.formatAt(0).fontName, "Courier New") << "the indent alone";
+    EXPECT_EQ(pane.SelStart(), 6);
+    EXPECT_EQ(t.status(), "Layout refreshed ... (I wish I was!)");
+}
+
+TEST_F(TemplateEditorTest, ChangesThatNoKeyAnnouncesShareTheirLevelUntilAnUndoOrAnotherFile)
+{
+    type("a");
+    type("b");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "");
+    window.mnuRedo.Click();
+    type("c");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "ab") << "what was redone is a level";
+    t.files.addFile(folder + "other.txt", "file");
+    t.dialogues.answers = {Answer::No};
+    open(folder + "other.txt");
+    EXPECT_FALSE(window.mnuUndo.Enabled || window.mnuRedo.Enabled);
+    type("x");
+    EXPECT_TRUE(window.mnuUndo.Enabled);
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "file");
+}
+
+TEST_F(TemplateEditorTest, ColoursByHandAreLevelsOfTheirOwn)
+{
+    type("one");
+    window.mnuSelectAll.Click();
+    pane.setSelColor(255);
+    t.pressKeys(pane, "two");
+    window.mnuSelectAll.Click();
+    int focused = 0;
+    const Connection focus = pane.focusWanted.connect([&focused] { ++focused; });
+    GetCustomColour(window, 0x123456);
+    EXPECT_EQ(focused, 1);
+    pane.setSelLength(0);
+    pane.userEdit(0, 0, "x");
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), "two");
+    UpdateLabelColours(window);
+    EXPECT_EQ(window.ColourLabel1, pane.SelColor());
+}
+
+TEST_F(TemplateEditorTest, ColouringSaysWhatItDidAndAnEmptyTextIsNoChange)
+{
+    window.mnuColourApply.Click();
+    EXPECT_EQ(window.TemplateChanged, 0);
+    EXPECT_FALSE(window.mnuUndo.Enabled);
+    type("BTN S1 a\r\n");
+    const std::string editing = t.status();
+    window.mnuColourApply.Click();
+    EXPECT_NE(t.status(), editing);
+    EXPECT_EQ(t.status(), t.program().mum.StatusBar.Panels(panel::progress).Text.get());
+}
+
 TEST_F(TemplateEditorTest, ThePopUpOffersWhatSelectionAndClipboardAllow)
 {
     type("abc");

@@ -60,6 +60,19 @@ TEST_F(TemplateEditorTest, ClosingAsksAndACancelKeepsItOpen)
     EXPECT_FALSE(window.form.Visible);
 }
 
+TEST_F(TemplateEditorTest, StaysOpenWhenTheQuestionBeforeClosingFails)
+{
+    type("mine");
+    t.dialogues.otherAnswers = [](const MessageBox&) -> Answer {
+        throw RuntimeError(ErrorCode::DeviceInputOutput, "broken");
+    };
+    window.form.unload();
+    t.dialogues.otherAnswers = nullptr;
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(text(), "mine");
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "TEMPLATE Form_QueryUnload");
+}
+
 TEST_F(TemplateEditorTest, TheProgramsExitAsksToo)
 {
     type("mine");

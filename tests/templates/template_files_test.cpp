@@ -135,6 +135,37 @@ TEST_F(TemplateEditorTest, UnsavedTextIsAskedAboutBeforeAnotherFileIsOpened)
     EXPECT_EQ(text(), "mine");
 }
 
+TEST_F(TemplateEditorTest, TheFileMenuOpensAndSavesAsTheButtonsDo)
+{
+    t.files.addFile(folder + "hat.txt", "hat");
+    t.dialogues.filesToOpen = {folder + "hat.txt"};
+    window.mnuFileOpen.Click();
+    EXPECT_EQ(text(), "hat");
+    type("my ");
+    window.mnuFileSave.Click();
+    EXPECT_EQ(t.fileText("c:\\tarvex\\templates\\hat.txt"), "my hat");
+    window.mnuFileNew.Click();
+    EXPECT_EQ(text(), "");
+}
+
+TEST_F(TemplateEditorTest, AFontThatIsChangedInThePreferencesIsTheTemplatesAtOnce)
+{
+    type("one");
+    const auto preferences = [this](MenuItem& command, const std::string& font) {
+        t.editor().status("");
+        t.dialogues.whileModal = [&] { t.settings().TextFontName = font; };
+        command.Click();
+        t.dialogues.whileModal = nullptr;
+        return t.status();
+    };
+    const std::string refreshed = "Layout refreshed ... (I wish I was!)";
+    EXPECT_EQ(preferences(window.mnuViewEditColours, "Courier New"), refreshed);
+    EXPECT_EQ(pane.formatAt(0).fontName, "Courier New");
+    EXPECT_NE(preferences(window.mnuViewEditColours, "Courier New"), refreshed) << "the same font";
+    EXPECT_EQ(preferences(window.mnuEdTmpPrefs, "Arial"), refreshed);
+    EXPECT_EQ(pane.formatAt(0).fontName, "Arial");
+}
+
 TEST_F(TemplateEditorTest, ACancelKeepsTextAndNameBeforeANewFile)
 {
     type("mine");
