@@ -1,6 +1,7 @@
 // What a failure in the Composer is reported under.
 
 #include "composer/composer_fixture.h"
+#include "composer/find_button.h"
 #include "composer/hardware_clicks.h"
 #include "composer/logic.h"
 #include "composer/macro_tab.h"
@@ -90,6 +91,38 @@ TEST_F(ComposerFailures, OfTheMacrosBelongToTheirList)
     const Connection caption = window.macros.Combo1.Items.changed.connect(fail);
     editor.macros.MacroHeadings = {"All", "Guns"};
     EXPECT_EQ(reported([&] { CopyMacroList(window); }), "COMPOSER CopyMacroList");
+}
+
+TEST_F(ComposerFailures, OfTheSearchForAButtonBelongToIt)
+{
+    write("BTN S1 fire\r\n");
+    Connection selected = joystick.selectionChanged.connect(fail);
+    EXPECT_EQ(reported([&] { FindButton(window, "BTN S1"); }), "COMPOSER FindButton");
+    editor.macros.SelectedMacro = "fire";
+    EXPECT_EQ(reported([&] { FindMacriInJfile(window); }), "COMPOSER FindMacriInJfile");
+}
+
+TEST_F(ComposerFailures, OfClicksIntoTheListOfMacrosBelongToTheirEvents)
+{
+    write("BTN S1 fire\r\n");
+    window.macros.List1[0].Items = std::vector<CheckListBox::Item>{{.Text = "fire"}};
+    window.macros.List1[0].ListIndex = 0;
+    t.dialogues.whilePoppedUp = fail;
+    EXPECT_EQ(reported([&] { List1_MouseDown(window, 0, mouseButton::right); }), "COMPOSER List1_MouseDown");
+    t.menus().mnuViewHighlightLine.Click();
+    const Connection selected = joystick.selectionChanged.connect(fail);
+    EXPECT_EQ(reported([&] { List1_MouseMove(window, 0, mouseButton::left); }), "COMPOSER List1_MouseMove");
+}
+
+TEST_F(ComposerFailures, OfTheWindowsEventsBelongToThem)
+{
+    t.menus().mnuInsertRAW.handler = fail;
+    EXPECT_EQ(clicked(window.Command5[0]), "COMPOSER Command5_Click");
+    t.menus().mnuEditSelectAll.handler = fail;
+    EXPECT_EQ(reported([&] { window.form.KeyDown('A', shiftKey::ctrl); }), "COMPOSER Form_KeyDown");
+    window.mnuHatDivider.Visible = !window.mnuHatDivider.Visible;
+    const Connection divider = window.mnuHatDivider.Visible.changed.connect(fail);
+    EXPECT_EQ(reported([&] { window.form.Activate(); }), "COMPOSER Form_Activate");
 }
 
 TEST_F(ComposerFailures, OfItsOpeningBelongToTheWindow)

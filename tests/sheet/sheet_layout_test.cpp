@@ -313,6 +313,15 @@ TEST(WordWrap, WhatFollowsAPartedWordStandsBehindItsRest)
     EXPECT_DOUBLE_EQ(lines[1].words[1].x, textWidth("gh ", 10, false));
 }
 
+TEST(WordWrap, AWordThatIsTooWideIsPartedOnAnyLine)
+{
+    const auto lines = wrapWords({{"one"}, {"abcdefghijkl"}}, textWidth("abcdef", 10, false), 10);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0].words.size(), 1U);
+    EXPECT_EQ(lines[1].words.at(0).text, "abcdef");
+    EXPECT_EQ(lines[2].words.at(0).text, "ghijkl");
+}
+
 TEST(WordWrap, KeysThatNoLineHoldsAreNotKeptTogether)
 {
     using Kind = SheetWord::Kind;

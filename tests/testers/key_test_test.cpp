@@ -275,6 +275,8 @@ TEST_F(KeyTestTest, WhereCapsLockCannotBeSwitchedOffTheStatusSaysSoOnce)
     form.JoystickTimer.Tick();
     key(20);
     EXPECT_EQ(form.status.Caption.get(), "Status: Sorry, I can't switch Caps Lock off here");
+    form.JoystickTimer.Tick();
+    EXPECT_EQ(form.status.Caption.get(), "Status: Sorry, I can't switch Caps Lock off here") << "until it is read";
     joystick.positionResult = joyError::unplugged;
     form.JoystickTimer.Tick();
     key(20);

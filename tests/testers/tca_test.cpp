@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvex {
 namespace {
@@ -322,6 +323,28 @@ TEST_F(TcaTest, ZoomEmptiesTheStripsAndTheyComeBackWithTheNextTick)
     form.JoyTimer.Tick();
     const auto& strokes = form.PicThrottle.strokes();
     EXPECT_TRUE(std::ranges::count(strokes, (Stroke{0, 100, 65535, 100, yellow})) == 1);
+}
+
+TEST_F(TcaTest, WhatEmptiesOrRepaintsTheFieldsAsksForATickWhileTheJoystickIsRead)
+{
+    int asked = 0;
+    const Connection connection = form.reportArrived.connect([&asked] { ++asked; });
+    const auto asksNow = [&] { return std::exchange(asked, 0) > 0; };
+    open();
+    EXPECT_TRUE(asksNow());
+    form.SensitivityArray[1].Click();
+    EXPECT_TRUE(asksNow());
+    form.mnuClear.Click();
+    EXPECT_TRUE(asksNow());
+    form.mnuZoom.Click();
+    EXPECT_TRUE(asksNow());
+    joystick.unplug();
+    form.JoyTimer.Tick();
+    asked = 0;
+    form.SensitivityArray[0].Click();
+    form.mnuClear.Click();
+    form.mnuZoom.Click();
+    EXPECT_FALSE(asksNow()) << "a failed joystick is read no more";
 }
 
 TEST_F(TcaTest, AboutShowsTheVersion)

@@ -213,6 +213,7 @@ TEST_F(ViewImageTest, PrintWithoutAPrinterSaysSo)
     EXPECT_EQ(t.lastBox().title, "No printer detected");
     EXPECT_THAT(t.lastBox().text, StartsWith("Sorry - I couldn't detect a printer connected to your system, so I can't "
                                              "print out this image."));
+    EXPECT_EQ(t.dialogues.boxes.size(), 1U) << "nothing is tried without a printer";
 }
 
 TEST_F(ViewImageTest, PrintPaintsThePictureAtThePagesOrigin)
