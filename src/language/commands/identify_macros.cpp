@@ -24,7 +24,7 @@ public:
     /// A name stands in several lists, and is searched once.
     bool uses(const std::string& name)
     {
-        const auto [known, isNew] = m_known.try_emplace(name, false);
+        const auto [known, isNew] = m_known.try_emplace(name);
         if (isNew) known->second = isMacroUsed(m_pane, windows1252FromUtf8(name));
         return known->second;
     }

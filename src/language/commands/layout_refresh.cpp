@@ -47,10 +47,8 @@ void mnuViewReformat_Click(Editor& editor)
 void mnuViewrefreshIndent_Click(Editor& editor)
 {
     refreshLayout(editor, "ED_mnuViewrefreshIndent_Click", [](Pane& text) {
-        text.setSelStart(0);
-        text.setSelLength(static_cast<std::int64_t>(text.TextLength()));
+        text.setSelLength(static_cast<std::int64_t>(text.TextLength())); // from its beginning
         text.setSelIndent(paragraphIndent);
-        text.setSelStart(0);
     });
 }
 

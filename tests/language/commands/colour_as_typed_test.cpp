@@ -96,6 +96,75 @@ TEST_F(ColourAsTypedTest, IsOffUntilItIsTicked)
     EXPECT_FALSE(editor.TimerColour.Enabled);
 }
 
+TEST_F(ColourAsTypedTest, ATickTakesEffectAtTheNextKey)
+{
+    type(0, "x");
+    pause();
+    t.program().shared.extras.set(extraKey::colourAsTyped, false);
+    type(0, "y");
+    EXPECT_FALSE(editor.TimerColour.Enabled);
+    t.program().shared.extras.set(extraKey::colourAsTyped, true);
+    type(0, "z");
+    EXPECT_TRUE(editor.TimerColour.Enabled);
+}
+
+TEST_F(ColourAsTypedTest, EachKeyBeginsTheWaitAnew)
+{
+    type(0, "x");
+    std::vector<bool> states;
+    const auto listening =
+        editor.TimerColour.Enabled.changed.connect([&] { states.push_back(editor.TimerColour.Enabled); });
+    joystick.userEdit(1, 0, "y");
+    EXPECT_EQ(states, (std::vector<bool>{false, true}));
+}
+
+TEST_F(ColourAsTypedTest, ATimerThatWasOnItsWayColoursNothingMore)
+{
+    type(0, "x");
+    pause();
+    joystick.setSelStart(0);
+    joystick.setSelLength(1);
+    joystick.setSelColor(0x123456);
+    editor.TimerColour.Tick();
+    EXPECT_EQ(joystick.formatAt(0).colour, 0x123456);
+}
+
+TEST_F(ColourAsTypedTest, AFailureIsReportedByItsName)
+{
+    type(0, "x");
+    const auto failing = joystick.reformatted.connect(
+        [](std::int64_t, std::int64_t) { throw RuntimeError(ErrorCode::DeviceInputOutput, "broken"); });
+    pause();
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "ED_TimerColour_Timer");
+}
+
+TEST_F(ColourAsTypedTest, TheNextLineKeepsTheColoursOfTheHand)
+{
+    joystick.setSelStart(joystick.lineStart(1));
+    joystick.setSelLength(1);
+    joystick.setSelColor(0x123456);
+    type(0, "x");
+    pause();
+    EXPECT_EQ(joystick.formatAt(static_cast<std::size_t>(joystick.lineStart(1))).colour, 0x123456);
+}
+
+TEST_F(ColourAsTypedTest, AllOfOneDocumentIsColouredAtOnceAndTheOtherOneWaits)
+{
+    editor.MacroText.userEdit(0, 0, "REM x");
+    type(0, "REM ");
+    t.program().colourAsTyped.colourAll(editor.joystick);
+    const std::string whole = colours();
+    EXPECT_EQ(whole.substr(0, 4), "CCCC");
+    joystick.setSelStart(0);
+    joystick.setSelLength(1);
+    joystick.setSelColor(0x123456);
+    pause();
+    EXPECT_EQ(joystick.formatAt(0).colour, 0x123456) << "nothing waits there any more";
+    EXPECT_EQ(coloursOf(editor.MacroText, t.settings()), "CCCCC");
+    t.program().colourAsTyped.colourAll(editor.joystick);
+    EXPECT_EQ(colours(), whole);
+}
+
 TEST_F(ColourAsTypedTest, LeavingTheLineMakesTheWaitShort)
 {
     type(0, "REM ");
@@ -177,6 +246,25 @@ TEST_F(ColourAsTypedTest, WhatIsCutAndTypedAgainWithinThePauseGetsItsColours)
     EXPECT_NE(colours(), whole);
     pause();
     EXPECT_EQ(colours(), whole);
+}
+
+TEST_F(ColourAsTypedTest, WhatIsCutAndTypedAgainOnTwoLinesGetsItsColours)
+{
+    for (const bool upwards : {false, true}) {
+        open("BTN S1 /P a\r\nx\r\nBTN S2 /I b");
+        coloursOfWholeFile();
+        const std::string whole = colours();
+        const std::int64_t first = 7;
+        const std::int64_t last = joystick.lineStart(2) + 7;
+        for (const std::int64_t place : upwards ? std::vector{last, first} : std::vector{first, last}) {
+            const std::string text = joystick.Text().substr(static_cast<std::size_t>(place), 2);
+            joystick.userEdit(place, 2, "");
+            joystick.userEdit(place, 0, text);
+        }
+        ASSERT_NE(colours(), whole);
+        pause();
+        EXPECT_EQ(colours(), whole) << upwards;
+    }
 }
 
 TEST_F(ColourAsTypedTest, ALineTypedInFrontOfItsEqualGetsItsColours)

@@ -2,7 +2,9 @@
 
 #include "support/test_program.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace tarvex {
 namespace {
@@ -248,6 +250,72 @@ TEST_F(InsertionTest, CheckAtLineBeginningInAnEmptyLastLineDoesNothing)
     typeAt("abc\r\n", 5);
     CheckAtLineBeginning(editor);
     EXPECT_EQ(joystick.Text(), "abc\r\n");
+}
+
+// ---- a protected pane, the record of the caret ----------------------------------------------------------------------
+
+TEST_F(InsertionTest, NothingIsInsertedIntoAProtectedFile)
+{
+    t.typeMacro("A = a\r\nB = b");
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    editor.TabStrip1.Select(2);
+    const std::string refused = t.status();
+    for (const auto& insert : std::vector<std::function<void()>>{
+             [&] { InsertBlackBlanks(editor); }, [&] { InsertCarriageReturn(editor); },
+             [&] { CheckAtLineBeginning(editor); }, [&] { InsertColouredString(editor, "x", red); },
+             [&] {
+                 BeginColInsert(editor);
+                 EndColInsert(editor);
+             }}) {
+        macro.setSelStart(2);
+        editor.status("");
+        insert();
+        EXPECT_EQ(macro.Text(), "A = a\r\nB = b");
+        EXPECT_EQ(macro.SelStart(), 2);
+        EXPECT_EQ(t.status(), refused);
+    }
+}
+
+TEST_F(InsertionTest, ALineOfItsOwnIsRecordedAndTakesTheKeyboard)
+{
+    typeAt("BTN S1", 3);
+    editor.joystick.SelectionLength = 5;
+    int focused = 0;
+    const auto listening = joystick.focusWanted.connect([&] { ++focused; });
+    CheckAtLineBeginning(editor);
+    EXPECT_EQ(joystick.Text(), "BTN S1\r\n");
+    EXPECT_EQ(editor.joystick.Caret, 8);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
+    EXPECT_EQ(focused, 1);
+    EXPECT_EQ(t.status(3), "Line no: 2");
+}
+
+TEST_F(InsertionTest, ATextOfOneCharacterOrASelectionOfOneIsCheckedLikeAnyOther)
+{
+    typeAt("x", 0);
+    joystick.setSelLength(1);
+    CheckAtLineBeginning(editor);
+    EXPECT_EQ(joystick.Text(), "x") << "a selection is left alone";
+    joystick.setText("ab\r\nc");
+    joystick.setSelStart(0);
+    joystick.setSelLength(1);
+    CheckAtLineBeginning(editor);
+    EXPECT_EQ(joystick.Text(), "ab\r\nc");
+    InsertColouredString(editor, "y", red);
+    EXPECT_EQ(joystick.Text(), "yb\r\nc");
+    EXPECT_EQ(joystick.formatAt(0).colour, red);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
+}
+
+TEST_F(InsertionTest, BlackBlanksAreBlackAmongColouredText)
+{
+    typeAt("ab", 0);
+    joystick.setSelLength(2);
+    joystick.setSelColor(red);
+    joystick.setSelStart(1);
+    InsertBlackBlanks(editor);
+    EXPECT_EQ(joystick.Text(), "a     b");
+    EXPECT_EQ(joystick.formatAt(3).colour, 0);
 }
 
 } // namespace

@@ -429,5 +429,64 @@ TEST_F(LayoutTest, TheBlockCommandsEndAtTheLastLineWithASelectionToTheTextsEnd)
     EXPECT_EQ(joystick.Text(), "Rem a\r\nRem ");
 }
 
+TEST_F(LayoutTest, REMblockWithoutColourWritesInTheFormatThatTypingThereWould)
+{
+    t.menus().mnuInsertWithColour.Checked = false;
+    t.typeJoystick("ab\r\n\r\ncd\r\n");
+    joystick.setSelStart(2);
+    joystick.setSelLength(2);
+    joystick.setSelColor(0x00FF00); // of the first line's end
+    joystick.setSelStart(6);
+    joystick.setSelLength(1);
+    joystick.setSelColor(red);
+    joystick.setSelStart(8);
+    joystick.setSelLength(2);
+    joystick.setSelColor(0xFF0000); // of the last line's end
+    select(0, 10);
+    REMblock(editor);
+    ASSERT_EQ(joystick.Text(), "Rem ab\r\nRem \r\nRem cd\r\nRem ");
+    EXPECT_EQ(joystick.formatAt(0).colour, 0);
+    EXPECT_EQ(joystick.formatAt(8).colour, 0x00FF00) << "an empty line";
+    EXPECT_EQ(joystick.formatAt(14).colour, red);
+    EXPECT_EQ(joystick.formatAt(22).colour, 0xFF0000) << "the empty line at the end";
+}
+
+TEST_F(LayoutTest, AProtectedFileIsNeitherCommentedOutNorIn)
+{
+    t.typeMacro("Rem a\r\nRem b");
+    t.menus().mnuPreferencesProtectMacroFile.Click();
+    editor.TabStrip1.Select(2);
+    for (const auto& act : {REMblock, REMunblock}) {
+        select(0, 9);
+        act(editor);
+        EXPECT_EQ(macro.Text(), "Rem a\r\nRem b");
+        EXPECT_EQ(macro.SelLength(), 9);
+        EXPECT_EQ(editor.shared.IsLoading, 0);
+    }
+}
+
+TEST_F(LayoutTest, AfterACommentNothingIsRecordedAsSelected)
+{
+    t.typeJoystick("ab\r\ncd");
+    editor.joystick.SelectionLength = 7;
+    select(0, 5);
+    REMblock(editor);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
+    editor.joystick.SelectionLength = 7;
+    select(0, 0);
+    REMblock(editor);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
+}
+
+TEST_F(LayoutTest, AlignedTextHasNoSelectionRecordedAndItsTopInSight)
+{
+    t.typeJoystick("BTN S1 /U a\r\n/D b");
+    editor.joystick.SelectionLength = 7;
+    editor.joystick.Caret = 3;
+    AlignSlashes(editor);
+    EXPECT_EQ(editor.joystick.SelectionLength, 0);
+    EXPECT_EQ(editor.joystick.Caret, 0);
+}
+
 } // namespace
 } // namespace tarvex

@@ -1,6 +1,7 @@
 #include "language/commands/macro_list_events.h"
 
 #include "documents/pair/editor_layout.h"
+#include "platform/input.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -397,6 +398,77 @@ TEST_F(ListEventsTest, ATextThatIsNoHeadingLeavesTheListsAsTheyAre)
         EXPECT_EQ(editor.macros.SelectedMacro, "before") << text;
         EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "") << text;
     }
+}
+
+// ---- lists that aren't there, what is dragged -----------------------------------------------------------------------
+
+TEST_F(ListEventsTest, AListThatIsNotThereIsLeftAlone)
+{
+    const std::size_t none = frame.List1.size();
+    editor.macros.SelectedMacro = "kept";
+    const std::string before = joystick.Text();
+    List1_MouseDown(editor, none, mouseButton::right, shiftKey::none);
+    List1_DblClick(editor, none);
+    List1_KeyDown(editor, none, shiftKey::none);
+    EXPECT_EQ(List1_OLEStartDrag(editor, none), "");
+    EXPECT_EQ(editor.macros.SelectedMacro, "kept");
+    EXPECT_TRUE(t.dialogues.popUps.empty());
+    EXPECT_EQ(joystick.Text(), before);
+}
+
+TEST_F(ListEventsTest, ADragFindsTheMacroOnlyWithTheLeftButtonAndShift)
+{
+    editor.TabStrip1.Select(1);
+    pick(0, 0);
+    const auto foundBy = [&](int buttons, int shift) {
+        joystick.setSelStart(0);
+        List1_MouseMove(editor, 0, buttons, shift, 10);
+        return joystick.SelLength() != 0;
+    };
+    EXPECT_FALSE(foundBy(mouseButton::left, shiftKey::none));
+    EXPECT_FALSE(foundBy(mouseButton::right, shiftKey::shift));
+    EXPECT_TRUE(foundBy(mouseButton::left, shiftKey::shift));
+}
+
+TEST_F(ListEventsTest, ADragThatBeganAtTheFramesEdgeGoesOnOverTheList)
+{
+    editor.ScaleWidth = 1000;
+    FrameMacros_MouseMove(editor, false, 184 * 15.0F, true);
+    ASSERT_EQ(frame.MousePointer.get(), MousePointer::SizeWestEast);
+    List1_MouseMove(editor, 0, mouseButton::left, shiftKey::none, 299 * 15.0F);
+    EXPECT_EQ(t.settings().MacroFrameWidth, 300);
+    EXPECT_EQ(frame.MousePointer.get(), MousePointer::SizeWestEast);
+}
+
+TEST_F(ListEventsTest, AHeadingWithoutMacrosPicksNone)
+{
+    frame.List1[1].Items = std::vector<CheckListBox::Item>();
+    frame.List1[1].ListIndex = -1;
+    choose("BRAKES");
+    EXPECT_TRUE(frame.List1[1].Visible);
+    EXPECT_EQ(frame.List1[1].ListIndex, -1);
+}
+
+TEST_F(ListEventsTest, DoubleClickReplacesTheSelectionAndRecordsTheCaret)
+{
+    joystick.setText("one two three");
+    joystick.setSelStart(4);
+    joystick.setSelLength(3);
+    editor.joystick.Caret = 11;
+    doubleClickFire();
+    EXPECT_EQ(joystick.Text(), "one Fire  three");
+    EXPECT_EQ(joystick.SelStart(), 9);
+    EXPECT_EQ(editor.joystick.Caret, 9);
+}
+
+TEST_F(ListEventsTest, AMacroDefinedAtTheBeginningOfTheFileIsShownThere)
+{
+    editor.TabStrip1.Select(2);
+    editor.MacroText.setText("Stop = s\r\nFire = f");
+    editor.macros.MacroFileLines = {"Stop = s", "Fire = f"};
+    choose("BRAKES");
+    EXPECT_EQ(editor.MacroText.SelStart(), 0);
+    EXPECT_EQ(editor.MacroText.SelLength(), 8);
 }
 
 } // namespace

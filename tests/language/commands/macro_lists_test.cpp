@@ -1,6 +1,7 @@
 #include "language/commands/macro_lists.h"
 
 #include "language/commands/macro_file.h"
+#include "language/commands/macro_filter.h"
 #include "language/macro_heading.h"
 #include "support/test_program.h"
 
@@ -177,6 +178,38 @@ TEST_F(MacroListTest, AHundredThousandHeadingsFillTheFrame)
     EXPECT_EQ(names(0).size(), 100'000U);
     EXPECT_EQ(editor.macros.HeadingShown, 32'767) << "no higher number fits";
     EXPECT_TRUE(frame.List1[32'767].Visible);
+}
+
+TEST_F(MacroListTest, ClearingForgetsTheListAndShowsTheFirst)
+{
+    analyse("Rem ----\r\nRem A\r\nRem ----\r\nFire = f\r\n");
+    editor.macros.ListClicked = 1;
+    editor.macros.MacroListDirty = 0;
+    bringToFront(frame, 1);
+    ClearAllForNewMacroFile(editor);
+    EXPECT_EQ(editor.macros.ListClicked, 0U);
+    EXPECT_EQ(editor.macros.MacroListDirty, 1);
+    ASSERT_EQ(frame.List1.size(), 1U);
+    EXPECT_TRUE(frame.List1[0].Visible);
+}
+
+TEST_F(MacroListTest, WithoutTheHeadingOfAllNothingIsShownAnew)
+{
+    frame.Combo1.Items = std::vector<std::string>{"Guns"};
+    frame.Combo1.Text = "Guns";
+    showAllMacros(editor);
+    EXPECT_EQ(frame.Combo1.Text.get(), "Guns");
+}
+
+TEST_F(MacroListTest, TheFilterLetsAPartOfANameThroughInEitherCaseWhileItIsShown)
+{
+    frame.Filter.Text = "EA";
+    EXPECT_TRUE(passesFilter(frame, "fire")) << "it isn't shown";
+    frame.FilterVisible = true;
+    EXPECT_TRUE(passesFilter(frame, "gear"));
+    EXPECT_FALSE(passesFilter(frame, "fire"));
+    frame.Filter.Text = "";
+    EXPECT_TRUE(passesFilter(frame, "fire"));
 }
 
 } // namespace

@@ -149,5 +149,20 @@ TEST_F(TransferTest, ThePanesCaretsAndTheProgressBarAreLeftAlone)
     EXPECT_FALSE(t.program().mum.ProgressBar1.Visible);
 }
 
+TEST_F(TransferTest, OneCharacterIsTransferredToo)
+{
+    transferMacro("x");
+    EXPECT_EQ(joystick.Text(), "x");
+}
+
+TEST_F(TransferTest, OfTwoUnclosedStatementsTheFirstAloneWaitsForTheUser)
+{
+    int waits = 0;
+    t.desktop.whileWaitingForEscape = [&] { ++waits; };
+    t.menus().mnuInsertWithColour.Checked = true;
+    SafeinTransferText(editor, "RAW (a DLY(b");
+    EXPECT_EQ(waits, 1);
+}
+
 } // namespace
 } // namespace tarvex

@@ -111,5 +111,16 @@ TEST_F(UpdateMacrosTest, SavingTheMacroFileUpdatesTheListAndTheTicks)
               (std::vector<CheckListBox::Item>{{"Fire", true}, {"A", false}}));
 }
 
+TEST_F(UpdateMacrosTest, ASavedFileIsListedUnaskedAndCopiesOfTheListAreOutOfDate)
+{
+    open("A = a\r\n");
+    forgetList();
+    editor.macros.MacroListDirty = 0;
+    t.menus().mnuEditUpdateMacros.Click();
+    EXPECT_EQ(listed(), 1U);
+    EXPECT_EQ(editor.macros.MacroListDirty, 1);
+    EXPECT_TRUE(t.dialogues.boxes.empty());
+}
+
 } // namespace
 } // namespace tarvex
