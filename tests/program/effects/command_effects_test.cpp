@@ -4,8 +4,10 @@
 
 #include "documents/pair/editor_layout.h"
 #include "language/commands/identify_macros.h"
+#include "platform/profile_file.h"
 #include "program/effects/acts.h"
 #include "program/effects/program_state.h"
+#include "shell/settings_table.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -106,8 +108,27 @@ const std::vector<Situation>& situations()
     return all;
 }
 
+/// Colours that all differ, and a font that no pane has by itself.
+void chooseScheme(TestProgram& t)
+{
+    const std::pair<const char*, const char*> colours[] = {
+        {"BTNColour", "177"},
+        {"SlashColour", "178"},
+        {"RAWColour", "179"},
+        {"MiscellaneousColour", "180"},
+        {"RemStatements", "181"},
+        {"BackgroundColour", "15658721"},
+        {"MacroBackgroundColour", "15658722"},
+        {"TextFontName", "Courier New"},
+        {"TextFontSize", "12"},
+        {"TextFontBold", "1"},
+    };
+    for (const auto& [key, value] : colours) t.setIni("Colours", key, value);
+}
+
 void prepareMachine(TestProgram& t, Answer answer)
 {
+    chooseScheme(t);
     t.files.addFile(mig, "USE MDEF mig\r\nBTN S1 /U fire /D gear\r\n\r\nRem BTN S3 gear\r\nBTN S2 gear");
     t.files.addFile("c:\\tm\\b50progs\\mig.m50", "Rem ****** Guns ******\r\nfire = f\r\ngear = g RAW (#1C)\r\n");
     t.files.addFile(su, "BTN T1 a\r\n");
@@ -268,6 +289,33 @@ TEST_P(EffectsOfActs, OnFilesAreThoseOfTheList) { compare("files", fileActs()); 
 TEST_P(EffectsOfActs, InWindowsAreThoseOfTheList) { compare("windows", windowActs()); }
 
 const auto everySituation = testing::Range(std::size_t{0}, situations().size());
+/// Every setting that is on or off the other way round.
+void turnSettingsRound(TestProgram& t)
+{
+    for (const SettingRow& row : settingsTable()) {
+        const auto* member = std::get_if<std::int16_t Settings::*>(&row.member);
+        if (row.form != SettingForm::Flag || member == nullptr || row.count.index() != 0) continue;
+        ProfileFile ini(t.files, std::string("c:\\tarvex\\").append(fileNameOf(row.file)));
+        ini.writeString(row.section, row.key, t.settings().*(*member) == 1 ? "0" : "1");
+    }
+}
+
+TEST(EffectsOfSettings, AtTheStartAreThoseOfTheList)
+{
+    TestProgram t(false);
+    prepareMachine(t, Answer::Yes);
+    t.files.addFile("c:\\tarvex\\tarvexbig.wav", "");
+    const ProgramState before = stateOf(t);
+    turnSettingsRound(t);
+    t.start();
+    openPair(t);
+    t.menus().mnuFileSaveBoth.Click();
+    std::string text;
+    for (const std::string& line : dialoguesOf(t.dialogues)) text += "    " + line + "\n";
+    for (const std::string& line : differencesOf(before, stateOf(t))) text += "  " + line + "\n";
+    compareWithList("settingsTheOtherWayRound", text);
+}
+
 std::string nameOf(const testing::TestParamInfo<SituationAndMenu>& test)
 {
     return std::string(situations()[std::get<0>(test.param)].name) + "_" + std::get<1>(test.param);
