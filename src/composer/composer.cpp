@@ -172,7 +172,6 @@ void Form_Load(InsertOptions& window)
     showMultiAddCR(window);
     window.Check1.Value = settings.CompOnTop == 1;
     step([&] { GetSpaces(window); });
-    window.HighlightStatement.Value = settings.HighlightDefinitions == 1;
     window.form.TopMost = settings.CompOnTop == 1;
     step([&] { UpdateTooltips(window); });
     step([&] { CopyMacroList(window); });

@@ -65,7 +65,6 @@ void showAll(InsertOptions& window)
     showPorts(window, true);
     showCorners(window, true);
     showF22Extras(window, true);
-    for (Button& button : window.SlashButton) button.Visible = true;
 }
 
 std::string_view nameOf(PictureOf what, const std::string& id)

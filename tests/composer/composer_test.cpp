@@ -1,10 +1,14 @@
 #include "composer/composer.h"
 
 #include "composer/composer_fixture.h"
+#include "composer/macro_tab.h"
 #include "platform/input.h"
 #include "platform/key_codes.h"
 
 #include <gmock/gmock.h>
+
+#include <iterator>
+#include <utility>
 
 namespace tarvex {
 namespace {
@@ -285,6 +289,126 @@ TEST_F(ComposerTest, OthersBringUpAPageAndTheFieldOfRATE)
     EXPECT_EQ(asked, 1);
     showComposerPage(window, composerPage::hardware);
     EXPECT_EQ(window.SSTab1.Tab.get(), composerPage::hardware);
+}
+
+TEST_F(ComposerTest, EscHidesItAndTheCommandsAndOtherUnitsBringItUp)
+{
+    window.form.Escape();
+    EXPECT_FALSE(window.form.Visible);
+    EXPECT_EQ(window.ComposerOpen, 1);
+    t.menus().mnuShowInsertWindow.Click();
+    EXPECT_TRUE(window.form.Visible);
+    window.form.Close();
+    t.menus().mnuComposerPlugin.Click();
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(window.SSTab7.Tab.get(), listPage::templates);
+    t.program().operations.UnloadForm("InsertOptions");
+    EXPECT_EQ(window.ComposerOpen, 0);
+}
+
+TEST_F(ComposerTest, ALoadShowsEverythingBeforeTheWindowComesToTheFront)
+{
+    window.form.Close();
+    t.files.addFile("c:\\tm\\a.b50", "BTN S1 Fire\r\n");
+    t.files.addFile("c:\\tm\\a.m50", "Fire = f\r\n");
+    t.openBoth("c:\\tm\\a.b50");
+    t.files.addFile("c:\\tarvex\\Templates\\hat.rtf", "hat");
+    t.setIni("Miscellaneous", "DefaultDLYvalue", "77");
+    settings.DefaultDLYvalue = 77;
+    settings.CompTabsAddCr = 1;
+    settings.HighlightDefinitions = 1;
+    settings.BackgroundColour = 0x123456;
+    settings.JoyName = 2;
+    window.SSTabHardware.Tab = hardwarePage::tqs;
+    window.SSTab7.Tab = listPage::templates;
+    window.SSTabFlags.Tab = 1;
+    window.mnuRHList.Visible = true;
+    for (CheckBox& box : window.CheckMultiAddCR) box.Value = false;
+    window.BTN[0].ToolTipText = std::string();
+    window.form.open();
+    EXPECT_EQ(window.SSTabHardware.Tab.get(), hardwarePage::otherSticks);
+    EXPECT_FALSE(window.SSTabHardware.Pages(hardwarePage::f22AndF16).Visible);
+    EXPECT_EQ(window.SSTab7.Tab.get(), listPage::macros);
+    EXPECT_EQ(window.SSTabFlags.Tab.get(), 0);
+    EXPECT_FALSE(window.mnuRHList.Visible);
+    for (const CheckBox& box : window.CheckMultiAddCR) EXPECT_TRUE(box.Value);
+    EXPECT_TRUE(window.HighlightStatement.Value);
+    EXPECT_NE(window.BTN[0].ToolTipText.get(), "");
+    EXPECT_EQ(window.fields.DLYText.Text.get(), "77");
+    EXPECT_EQ(window.templates.Templates.Items.get(), std::vector<std::string>{"hat.rtf"});
+    EXPECT_EQ(window.templates.TemplatesPreview.BackColor.get(), 0x123456);
+    ASSERT_EQ(window.macros.List1[0].Items.get().size(), 1U);
+    EXPECT_EQ(window.macros.List1[0].Items.get()[0].Text, "Fire");
+}
+
+TEST_F(ComposerTest, TheTickOnCarriageReturnsIsOnAllPages)
+{
+    const bool before = window.CheckMultiAddCR[0].Value;
+    window.CheckMultiAddCR[0].Value = !before;
+    window.CheckMultiAddCR[0].Click();
+    for (const CheckBox& box : window.CheckMultiAddCR) EXPECT_EQ(box.Value.get(), !before);
+}
+
+TEST_F(ComposerTest, TipsSayWhatEachControlInserts)
+{
+    const char* ofSlashes[] = {"Up",   "Middle",    "Down",           "In",
+                               "Out",  "Toggle",    "Press",          "Release",
+                               "Hold", "No repeat", "Force analogue", "Ignore initial repeat delay"};
+    ASSERT_EQ(window.SlashButton.size(), std::size(ofSlashes));
+    for (std::size_t i = 0; i < std::size(ofSlashes); ++i)
+        EXPECT_NE(window.SlashButton[i].ToolTipText.get().find(ofSlashes[i]), std::string::npos) << i;
+    for (const CheckBox& box : window.CheckMultiAddCR)
+        EXPECT_EQ(box.ToolTipText.get(), "Add carriage return when inserting");
+    EXPECT_EQ(window.fields.Text1[valueField::blanks].ToolTipText.get(),
+              "Number of spaces to insert when the Spaces button is pressed");
+    EXPECT_EQ(window.Command6.ToolTipText.get(), "Hides the Composer and keeps it in memory for faster recall");
+    EXPECT_EQ(window.Command5[2].ToolTipText.get(), "Locate insertion point in the currently selected file");
+    EXPECT_NE(window.TRIG.ToolTipText.get(), "");
+}
+
+/// Whatever inserts: a click on a macro, which has selected where it is used, doesn't make it write there.
+TEST_F(ComposerTest, EachInsertionGoesToTheCaretInOneUndoStepAndReturnsTheFocus)
+{
+    settings.COMPreturnFocus = 1;
+    window.fields.Text1[valueField::blanks].Text = std::string("3");
+    window.fields.RemTextBox.Text = std::string("note");
+    window.flags.RichTexFlag[0].setText("X1");
+    window.templates.TemplatesPreview.setText("Rem template\r\n");
+    const std::pair<const char*, Button*> insertions[] = {
+        {"a button", &window.BTN[0]},
+        {"a slash modifier", &window.SlashButton[0]},
+        {"a swapped trigger", &window.ROTARY[4]},
+        {"a plain statement", &window.Command1[0]},
+        {"a value", &window.Command2[0]},
+        {"a range", &window.Command3},
+        {"a line end", &window.Command7[0]},
+        {"blanks", &window.Command7[1]},
+        {"a delay", &window.DlyRptButtons[0]},
+        {"a comment", &window.CommandREM},
+        {"all definitions", &window.flags.Command13[0]},
+        {"the chosen definition", &window.flags.Command13[1]},
+        {"a mouse", &window.mice.Command9},
+        {"a template", &window.templates.Command11[0]},
+    };
+    const std::string text = "BTN S9 fire\r\nold";
+    for (const auto& [name, insertion] : insertions) {
+        joystick.setText("");
+        write(text);
+        window.macros.List1[0].Items = std::vector<CheckListBox::Item>{{.Text = "fire"}};
+        window.macros.List1[0].ListIndex = 0;
+        joystick.setSelStart(static_cast<std::int64_t>(text.size()) - 3);
+        joystick.setSelLength(3);
+        List1_MouseDown(window, 0, mouseButton::left);
+        ASSERT_TRUE(joystick.SelText().starts_with("fire")) << name;
+        int front = 0;
+        const Connection wanted = t.program().mum.form.frontWanted.connect([&front] { ++front; });
+        insertion->Click();
+        EXPECT_TRUE(joystick.Text().starts_with("BTN S9 fire\r\n")) << name << ": " << joystick.Text();
+        EXPECT_NE(joystick.Text(), text) << name;
+        EXPECT_EQ(front, 1) << name;
+        t.menus().mnuEditUndo.Click();
+        EXPECT_EQ(joystick.Text(), text) << name;
+    }
 }
 
 } // namespace

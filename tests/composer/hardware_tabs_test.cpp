@@ -244,5 +244,20 @@ TEST_F(HardwareTabs, SettingsThatThereAreNotShowTheOlderStickWithoutThrottle)
     }
 }
 
+TEST_F(HardwareTabs, AllPicturesShowWhatOtherControllersLack)
+{
+    use(1, 3);
+    EXPECT_FALSE(window.mnuPort[0].Visible);
+    EXPECT_FALSE(window.SlashButton[11].Visible || window.ROTARY[7].Visible);
+    use(2);
+    EXPECT_FALSE(window.MnuHatCornerPostion[0].Visible);
+    settings.ComposerImages = composerImages::all;
+    window.form.Activate();
+    EXPECT_TRUE(window.mnuPort[0].Visible);
+    EXPECT_TRUE(window.SlashButton[11].Visible && window.ROTARY[7].Visible);
+    EXPECT_TRUE(window.MnuHatCornerPostion[0].Visible && window.mnuHatDivider.Visible);
+    EXPECT_TRUE(window.ROTARY[2].Visible && window.ROTARY[8].Visible) << "rudders";
+}
+
 } // namespace
 } // namespace tarvex

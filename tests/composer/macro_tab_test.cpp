@@ -302,5 +302,38 @@ TEST_F(MacroTabTest, ARowOrAListBehindTheLastIsNoMacro)
     EXPECT_EQ(List1_OLEStartDrag(window, tab.List1.size()), "");
 }
 
+TEST_F(MacroTabTest, ForANewMacroFileOneEmptyListStays)
+{
+    tab.Combo1.Text = "Weapons";
+    tab.Combo1.Click();
+    press(0);
+    tab.ListClicked = 1;
+    int changed = 0;
+    const Connection loaded = tab.List1Changed.connect([&changed] { ++changed; });
+    ClearAllForNewMacroFile(window);
+    ASSERT_EQ(tab.List1.size(), 1U);
+    EXPECT_TRUE(tab.List1[0].Items.get().empty());
+    EXPECT_EQ(tab.List1[0].ListIndex, -1);
+    EXPECT_TRUE(tab.List1[0].Visible);
+    EXPECT_TRUE(tab.Combo1.Items.get().empty());
+    EXPECT_EQ(tab.Combo1.Text.get(), "");
+    EXPECT_EQ(tab.ListClicked, 0U);
+    EXPECT_EQ(changed, 1);
+    CopyMacroList(window);
+    EXPECT_EQ(changed, 3) << "emptied and filled";
+}
+
+TEST_F(MacroTabTest, TheMenusCommandsDoNothingWithoutAMacro)
+{
+    tab.ListClicked = 99;
+    const std::string before = joystick.Text();
+    const int shown = editor.TabStrip1.SelectedItem;
+    window.mnuFindInJoyFile.Click();
+    window.mnuRHListEdit.Click();
+    window.mnuRHListInsert.Click();
+    EXPECT_EQ(joystick.Text(), before);
+    EXPECT_EQ(editor.TabStrip1.SelectedItem.get(), shown);
+}
+
 } // namespace
 } // namespace tarvex

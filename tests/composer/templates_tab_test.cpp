@@ -246,5 +246,41 @@ TEST_F(TemplatesTest, ARowBehindTheLastLeavesTheViewAsItIs)
     }
 }
 
+TEST_F(TemplatesTest, FilesAreListedByNameInAnyCaseAndNoneIsChosen)
+{
+    for (const char* name : {"b.rtf", "A.rtf", "C.rtf"}) file(name, "Rem x");
+    choose("b.rtf");
+    EXPECT_NE(tab.TemplatesPreview.Text(), "");
+    EXPECT_THAT(names(), testing::ElementsAre("A.rtf", "b.rtf", "C.rtf"));
+    EXPECT_EQ(tab.Templates.ListIndex, -1);
+    EXPECT_EQ(tab.TemplatesPreview.Text(), "");
+    EXPECT_TRUE(tab.TemplatesPreview.Locked);
+    EXPECT_FALSE(window.mnuQuickie.Enabled) << "it is a remark in the menu";
+}
+
+TEST_F(TemplatesTest, TheMenuOfThePreviewInsertsIntoEitherFileInTheLookOfThePanes)
+{
+    settings.TextFontBold = 1;
+    settings.TextFontSize = 14;
+    file("a.rtf", rtf);
+    choose("a.rtf");
+    window.mnuJoystick.Click();
+    EXPECT_EQ(joystick.Text(), "Rem title\r\nBTN S1");
+    EXPECT_TRUE(joystick.formatAt(0).bold);
+    EXPECT_EQ(joystick.formatAt(0).fontSize, 14);
+    EXPECT_EQ(joystick.formatAt(0).indent, 20);
+    window.mnuMacrofile.Click();
+    EXPECT_EQ(macro.Text(), "Rem title\r\nBTN S1");
+}
+
+TEST_F(TemplatesTest, ThePreviewHasTheLookOfTheSettings)
+{
+    settings.BackgroundColour = 0x654321;
+    settings.TextFontName = "Courier New";
+    names();
+    EXPECT_EQ(tab.TemplatesPreview.BackColor.get(), 0x654321);
+    EXPECT_EQ(tab.TemplatesPreview.Font().name, "Courier New");
+}
+
 } // namespace
 } // namespace tarvex
