@@ -39,7 +39,6 @@ void moveCross(Analyser& analyser, const JOYINFOEX& info)
 
 void setUp(Analyser& analyser)
 {
-    analyser.JoyTimer.Enabled = false;
     if (!analyser.JoystickStarted) {
         analyser.joystick.choose(analyser.numbers.choice());
         analyser.joystick.start();

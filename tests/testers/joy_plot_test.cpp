@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tarvex {
 namespace {
 
@@ -302,6 +304,9 @@ TEST_F(JoyPlotTest, MaintainingTheRatioMakesTheFieldASquareOfTheSmallerSide)
     EXPECT_THAT(wanted, ElementsAre(std::pair(480, 480)));
     form.mnuMaintain.Click();
     EXPECT_EQ(form.PicJoyPlace.get(), (Placement{0, 0, 640, 480}));
+    form.InnerWidth = 300;
+    form.mnuMaintain.Click();
+    EXPECT_EQ(form.PicJoyPlace.get(), (Placement{0, 0, 300, 300})) << "whichever is smaller";
 }
 
 TEST_F(JoyPlotTest, ArrangeHandsTheModeOn)
@@ -443,6 +448,74 @@ TEST_F(JoyPlotTest, ReportsThatComeWhileNothingIsReadAreNotKept)
     form.mnuexit.Click();
     joystick.send(2, 2);
     EXPECT_TRUE(form.waiting.empty());
+}
+
+TEST_F(JoyPlotTest, EachOpeningForgetsWhatTheCommandsSet)
+{
+    openPainted();
+    tickAt(100, 200);
+    for (MenuItem* command : {&form.mnuPlot, &form.mnuGrid, &form.mnuMaintain}) command->Click();
+    form.PicJoy.painted();
+    form.mnuexit.Click();
+    open();
+    EXPECT_EQ(form.LastY, 0U);
+    EXPECT_EQ(form.PlotOn, 1);
+    EXPECT_EQ(form.GridOn, 1);
+    EXPECT_EQ(form.MaintainRatio, 0);
+    EXPECT_TRUE(form.PicJoy.isCleared());
+}
+
+TEST_F(JoyPlotTest, WhatChangesTheFieldAsksForAPaintingAndATickWhileTheJoystickIsRead)
+{
+    int painted = 0;
+    int asked = 0;
+    const Connection painting = form.PicJoy.refreshWanted.connect([&painted] { ++painted; });
+    const Connection asking = form.reportArrived.connect([&asked] { ++asked; });
+    const auto paints = [&painted] { return std::exchange(painted, 0) > 0; };
+    const auto asks = [&asked] { return std::exchange(asked, 0) > 0; };
+    open();
+    EXPECT_TRUE(paints() && asks());
+    form.mnuClear.Click();
+    EXPECT_TRUE(paints() && asks());
+    form.mnuMaintain.Click();
+    EXPECT_TRUE(paints() && asks());
+    joystick.send(1, 2);
+    EXPECT_TRUE(asks());
+    joystick.caps.wCaps = 0;
+    joystick.devicesChanged();
+    EXPECT_TRUE(asks());
+    EXPECT_EQ(form.Caps.wCaps, 0U);
+    form.mnuexit.Click();
+    asked = 0;
+    joystick.caps.wCaps = joyCaps::hasZ;
+    joystick.devicesChanged();
+    form.mnuMaintain.Click();
+    EXPECT_FALSE(asks()) << "nothing is read";
+    EXPECT_EQ(form.Caps.wCaps, 0U);
+}
+
+TEST_F(JoyPlotTest, ATickStandsWhereTheLastReportWas)
+{
+    openPainted();
+    joystick.send(5, 6);
+    joystick.position.dwXpos = 900; // and has not reported it yet
+    form.JoyTimer.Tick();
+    EXPECT_EQ(form.LastX, 5U);
+    EXPECT_EQ(form.LastY, 6U);
+}
+
+TEST_F(JoyPlotTest, ItsHelpMenuOpensTheHandbookWhereThereIsOne)
+{
+    int opened = 0;
+    menus().mnuHelpContents.handler = [&opened] { ++opened; };
+    open();
+    EXPECT_TRUE(form.mnuHelpContents.Enabled);
+    form.mnuHelpContents.Click();
+    EXPECT_EQ(opened, 1);
+    form.mnuexit.Click();
+    menus().mnuHelpContents.handler = nullptr;
+    open();
+    EXPECT_FALSE(form.mnuHelpContents.Enabled);
 }
 
 } // namespace

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <utility>
+
 namespace tarvex {
 namespace {
 
@@ -558,6 +561,67 @@ TEST_F(KeyTestTest, FailuresInTheKeyHandlersAreReportedUnderTheirNames)
         [](const ColouredList::Line&) { throw RuntimeError(ErrorCode::PathNotFound, "broken"); });
     Form_KeyUp(form, 13, 0);
     EXPECT_EQ(program().shared.errors.ErrorProcedure, "KEYTEST Form_KeyUp");
+}
+
+TEST_F(KeyTestTest, EachModifierIsLitWhileItIsHeldAndNoOther)
+{
+    open();
+    const std::pair<int, ToggleLabel*> modifiers[] = {{1, &form.LabelSHIFT}, {2, &form.LabelCTRL}, {4, &form.LabelALT}};
+    const int codes[] = {16, 17, 18};
+    for (std::size_t held = 0; held < std::size(modifiers); ++held) {
+        Form_KeyDown(form, codes[held], modifiers[held].first);
+        for (std::size_t i = 0; i < std::size(modifiers); ++i) EXPECT_EQ(modifiers[i].second->isHeld(), i == held) << i;
+        Form_KeyUp(form, 13, modifiers[held].first);
+        EXPECT_TRUE(modifiers[held].second->isHeld()) << "another key went up";
+        Form_KeyUp(form, codes[held], 0);
+        EXPECT_FALSE(modifiers[held].second->isHeld());
+    }
+}
+
+TEST_F(KeyTestTest, ANamedKeySuppressesItsCharacterAndTheNextKeyDoesNot)
+{
+    open();
+    Form_KeyDown(form, 'A', 2);
+    Form_KeyPress(form, 'a');
+    EXPECT_EQ(form.RTFKeysText.lines().size(), 1U) << "the name alone";
+    Form_KeyPress(form, 'b');
+    EXPECT_EQ(form.RTFKeysText.lines().size(), 2U) << "once";
+}
+
+TEST_F(KeyTestTest, EachKeyUpStartsTheTimeOfTheClearingAnewAndItsEndStopsIt)
+{
+    open();
+    form.mnuClear500[0].Click();
+    key('A', 0, 'a');
+    int changes = 0;
+    const Connection changed = form.Timer1.Enabled.changed.connect([&changes] { ++changes; });
+    key('B', 0, 'b');
+    EXPECT_EQ(changes, 2) << "off and on";
+    form.Timer1.Tick();
+    EXPECT_FALSE(form.Timer1.Enabled);
+}
+
+TEST_F(KeyTestTest, EachOpeningShowsTheStateOfTheJoystickAnewAndNoButtonsOfTheLastOne)
+{
+    settings().BackgroundColour = 9;
+    open();
+    EXPECT_EQ(form.RTFKeysText.BackColor, 9);
+    joystick.position.dwButtons = 0xFF;
+    joystick.send();
+    form.JoystickTimer.Tick();
+    EXPECT_NE(form.MoreButtons.Caption.get(), "");
+    form.mnuClose.Click();
+    form.status.Caption = "";
+    open();
+    form.JoystickTimer.Tick();
+    EXPECT_EQ(form.status.Caption.get(), "Status: Joystick connected");
+    EXPECT_EQ(form.MoreButtons.Caption.get(), "");
+    EXPECT_EQ(joystick.users, 1);
+    EXPECT_TRUE(form.form.KeyDown('A', 2)) << "no key is passed on";
+    form.mnuClose.Click();
+    joystick.unplug();
+    open();
+    EXPECT_FALSE(form.JoystickShown);
 }
 
 } // namespace

@@ -519,5 +519,76 @@ TEST_F(NumbersTest, AnotherDeviceStartsWithNothingMeasured)
     EXPECT_EQ(numbers.Rate.Caption.get().substr(0, 30), "0 reports a second, 0 so far. ");
 }
 
+TEST_F(NumbersTest, APauseLengthensTheRest)
+{
+    send(32768, 10);
+    numbers.refresh();
+    EXPECT_EQ(cell(axisRole::x, 4), "-");
+    reportsPaused(form, 3000);
+    EXPECT_EQ(cell(axisRole::x, 4), "32768");
+}
+
+TEST_F(NumbersTest, WhatIsMeasuredAnewIsShownFromItsFirstReport)
+{
+    send(1, 1, 1'000'000);
+    numbers.StartAgain.Click();
+    send(7, 1);
+    EXPECT_EQ(cell(axisRole::x, 0), "7");
+    numbers.Device.Click();
+    send(8, 1);
+    EXPECT_EQ(cell(axisRole::x, 0), "8");
+    form.mnuexit.Click();
+    menus().mnuAppsJoyAnalyser.Click();
+    send(9, 1);
+    EXPECT_EQ(cell(axisRole::x, 0), "9");
+}
+
+TEST_F(NumbersTest, AxesThatAreChosenOneAfterTheOtherAreAllKept)
+{
+    joystick.devicesChanged();
+    numbers.Axis[axisRole::throttle].Text = "Rudder";
+    numbers.Axis[axisRole::throttle].Click();
+    numbers.Axis[axisRole::rudder].Text = "Throttle";
+    numbers.Axis[axisRole::rudder].Click();
+    EXPECT_EQ(joystick.wanted.axes, (std::array<int, 4>{axisByGuess, axisByGuess, 3, 2}));
+}
+
+TEST_F(NumbersTest, TheSecondOfTwoDevicesOfOneNameIsChosenAtTheNextOpening)
+{
+    joystick.plugged.push_back(joystick.plugged[0]);
+    joystick.devicesChanged();
+    numbers.Device.Text = "TM F-22 Pro (4 axes, 4 buttons) no. 2";
+    numbers.Device.Click();
+    const JoystickChoice chosen = joystick.wanted;
+    form.mnuexit.Click();
+    joystick.wanted = {};
+    menus().mnuAppsJoyAnalyser.Click();
+    EXPECT_EQ(joystick.wanted.guid, "0300f22");
+    EXPECT_EQ(joystick.wanted.number, chosen.number);
+    EXPECT_EQ(joystick.chosen(), 1U);
+}
+
+TEST_F(NumbersTest, TheVerdictLeavesOutAxesThatTheDeviceLacks)
+{
+    const auto verdict = [this](std::uint32_t caps) {
+        joystick.caps.wCaps = caps;
+        numbers.StartAgain.Click();
+        for (int i = 0; i < 2000; ++i) {
+            joystick.position.dwZpos = joystick.position.dwRpos = i % 2 == 0 ? 30000 : 30900;
+            joystick.send(32768, 32768, 1000);
+        }
+        form.JoyTimer.Tick();
+        numbers.refresh();
+        return numbers.Verdict.Caption.get();
+    };
+    const std::string neither = verdict(0);
+    const std::string throttle = verdict(joyCaps::hasZ);
+    const std::string rudders = verdict(joyCaps::hasR);
+    EXPECT_EQ(neither, "Centred within 0.0 %.");
+    EXPECT_NE(throttle, neither);
+    EXPECT_NE(rudders, neither);
+    EXPECT_NE(throttle, rudders);
+}
+
 } // namespace
 } // namespace tarvex

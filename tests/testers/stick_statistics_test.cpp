@@ -245,6 +245,15 @@ TEST(StickStatistics, DriftIsTheMovementOfTheRest)
     EXPECT_NEAR(signal.x().drift, 500, 1);
 }
 
+TEST(StickStatistics, WithoutARestThereIsNoDrift)
+{
+    Signal signal;
+    signal.send(32768, 2000);
+    signal.x();
+    signal.send(60000, 10);
+    EXPECT_EQ(signal.x().drift, 0);
+}
+
 TEST(StickStatistics, TenMinutesOfEightThousandReportsASecondStayWithinTheirMemory)
 {
     Signal signal;

@@ -355,5 +355,52 @@ TEST_F(TcaTest, AboutShowsTheVersion)
                               "It comes with Tarvex. Questions and ideas go where you got Tarvex from.");
 }
 
+TEST_F(TcaTest, EachOpeningForgetsTheButtonsOfTheLastOne)
+{
+    open();
+    joystick.position.dwButtons = 0xFF;
+    tick();
+    EXPECT_TRUE(form.JoyButtonAnalogue[0].isHeld());
+    EXPECT_NE(form.MoreButtons.Caption.get(), "");
+    form.mnuexit.Click();
+    open();
+    for (const ToggleLabel& button : form.JoyButtonAnalogue) EXPECT_FALSE(button.isHeld());
+    EXPECT_EQ(form.MoreButtons.Caption.get(), "");
+    joystick.position.dwButtons = 0;
+    form.JoyTimer.Tick();
+    EXPECT_EQ(form.MoreButtons.Caption.get(), "") << "no report has come yet";
+}
+
+TEST_F(TcaTest, ARudderIsDrawnAnewOnAFieldThatWasEmptied)
+{
+    open();
+    joystick.position.dwRpos = 300;
+    tick();
+    painted();
+    form.mnuClear.Click();
+    form.JoyTimer.Tick();
+    EXPECT_EQ(std::ranges::count(form.PicRudder.strokes(), (Stroke{300, 0, 300, 65535, yellow})), 1);
+}
+
+TEST_F(TcaTest, AnotherScaleHasItsCentreLinesInRedAtOnce)
+{
+    open();
+    painted();
+    int refreshed = 0;
+    const Connection painting = form.PicJoy.refreshWanted.connect([&refreshed] { ++refreshed; });
+    form.mnuZoom.Click();
+    EXPECT_EQ(std::ranges::count(form.PicJoy.strokes(), (Stroke{32768, 22768, 32768, 42768, red})), 1);
+    EXPECT_EQ(refreshed, 1);
+}
+
+TEST_F(TcaTest, TheBandThatIsChosenIsInTheFileAtOnce)
+{
+    open();
+    form.SensitivityArray[0].Click();
+    const std::string first = ProfileFile(files, tcaPath).readString("Options", "TCACentreSensitivity", "", 100);
+    form.SensitivityArray[1].Click();
+    EXPECT_NE(ProfileFile(files, tcaPath).readString("Options", "TCACentreSensitivity", "", 100), first);
+}
+
 } // namespace
 } // namespace tarvex
