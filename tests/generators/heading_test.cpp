@@ -141,5 +141,12 @@ TEST_F(HeadingTest, OfFiveThousandCharactersIsWrittenWhole)
     EXPECT_TRUE(macro().starts_with("Rem " + std::string(5020, '-') + "\r\n"));
 }
 
+TEST_F(HeadingTest, EachOpeningStartsWithoutAText)
+{
+    window.Combo1.Text = "from before";
+    window.Form.Visible = true;
+    EXPECT_EQ(window.Combo1.Text, "");
+}
+
 } // namespace
 } // namespace tarvex

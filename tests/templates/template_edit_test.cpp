@@ -261,6 +261,7 @@ TEST_F(TemplateEditorTest, ChangesThatNoKeyAnnouncesShareTheirLevelUntilAnUndoOr
     t.dialogues.answers = {Answer::No};
     open(folder + "other.txt");
     EXPECT_FALSE(window.mnuUndo.Enabled || window.mnuRedo.Enabled);
+    EXPECT_EQ(window.TemplateChanged, 0);
     type("x");
     EXPECT_TRUE(window.mnuUndo.Enabled);
     window.mnuUndo.Click();

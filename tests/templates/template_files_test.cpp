@@ -146,6 +146,12 @@ TEST_F(TemplateEditorTest, TheFileMenuOpensAndSavesAsTheButtonsDo)
     EXPECT_EQ(t.fileText("c:\\tarvex\\templates\\hat.txt"), "my hat");
     window.mnuFileNew.Click();
     EXPECT_EQ(text(), "");
+    EXPECT_EQ(window.TemplateFullName, "");
+    EXPECT_FALSE(window.mnuUndo.Enabled);
+    t.program().shared.currentDirectory.ChDir("c:\\");
+    t.dialogues.filesToOpen = {std::nullopt};
+    window.mnuFileOpen.Click();
+    EXPECT_EQ(t.program().shared.currentDirectory.path(), "c:\\tarvex\\templates");
 }
 
 TEST_F(TemplateEditorTest, AFontThatIsChangedInThePreferencesIsTheTemplatesAtOnce)

@@ -118,5 +118,24 @@ TEST_F(TemplateFindTest, EscClosesTheRowFirstAndThenTheWindow)
     EXPECT_FALSE(window.form.Visible);
 }
 
+TEST_F(TemplateFindTest, TheRowsButtonsDoWhatTheMenuDoes)
+{
+    int selected = 0;
+    int focused = 0;
+    const Connection words = window.Find.What.selectAllWanted.connect([&selected] { ++selected; });
+    const Connection text = pane.focusWanted.connect([&focused] { ++focused; });
+    window.mnuFind.Click();
+    EXPECT_EQ(selected, 1) << "to be typed over";
+    window.Find.What.Text = "hat";
+    window.Find.Next.Click();
+    window.Find.Next.Click();
+    EXPECT_EQ(pane.SelStart(), 4);
+    window.Find.Previous.Click();
+    EXPECT_EQ(pane.SelStart(), 0);
+    window.Find.Close.Click();
+    EXPECT_FALSE(window.Find.Visible);
+    EXPECT_EQ(focused, 1);
+}
+
 } // namespace
 } // namespace tarvex

@@ -109,6 +109,33 @@ TEST_F(TemplateRecovery, AFileThatHasChangedStaysAndTheTextIsUntitled)
     EXPECT_EQ(window().TemplateFullName, "");
 }
 
+TEST_F(TemplateRecovery, TheSavedTextOfAFileThatHasChangedIsOneUndoAwayInTheUsualLook)
+{
+    open("hat.txt");
+    type("mine ");
+    t.files.addFile(folder + "hat.txt", "BTN H1U theirs\r\n");
+    killAndStart({Answer::Yes});
+    window().mnuUndo.Click();
+    EXPECT_EQ(text(), "BTN H1U up\r\n");
+    EXPECT_FALSE(window().mnuUndo.Enabled);
+    EXPECT_EQ(window().TemplateText.formatAt(0).fontName, t.settings().TextFontName);
+    EXPECT_EQ(window().TemplateText.formatAt(0).indent, 20);
+}
+
+TEST_F(TemplateRecovery, AChangeInTheMiddleComesBackInItsPlaceWithTheCaretBehindIt)
+{
+    open("hat.txt");
+    window().TemplateText.EditComing();
+    window().TemplateText.userEdit(8, 2, "down");
+    killAndStart({Answer::Yes});
+    EXPECT_EQ(text(), "BTN H1U down\r\n");
+    EXPECT_EQ(window().TemplateText.SelStart(), 12);
+    EXPECT_EQ(window().TemplateText.SelLength(), 0);
+    EXPECT_EQ(window().TemplateChanged, 1);
+    window().mnuUndo.Click();
+    EXPECT_EQ(text(), "BTN H1U up\r\n");
+}
+
 TEST_F(TemplateRecovery, IsOfferedInAQuestionOfItsOwnBehindThatOfThePair)
 {
     t.typeJoystick("BTN S1 joystick");

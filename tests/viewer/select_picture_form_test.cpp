@@ -202,5 +202,33 @@ TEST_F(SelectPictureFormTest, CancelReturnsNoPathAndKeepsTheOldFolder)
     EXPECT_EQ(t.ini("Miscellaneous", "ImagesDirectory"), "c:\\pictures");
 }
 
+TEST_F(SelectPictureFormTest, BothButtonsAndTheFrameCloseItAndAClosedOneChoosesNothing)
+{
+    const auto closes = [this](const std::function<void()>& act) {
+        form.Form.Visible = true;
+        act();
+        return !form.Form.Visible;
+    };
+    const std::string chosen = choose([&] {
+        click(form.File1, 0);
+        EXPECT_TRUE(closes([this] { form.Command1.Click(); }));
+    });
+    EXPECT_EQ(chosen, "c:\\pictures\\chart.svg");
+    EXPECT_EQ(choose([&] { EXPECT_TRUE(closes([this] { form.Command2.Click(); })); }), "");
+    EXPECT_EQ(choose([&] { EXPECT_TRUE(closes([this] { form.Form.Close(); })); }), "");
+    EXPECT_EQ(choose([] {}), "");
+}
+
+TEST_F(SelectPictureFormTest, AFolderThatIsEnteredHasNothingChosen)
+{
+    choose([this] {
+        click(form.File1, 1);
+        click(form.Dir1, 1);
+        EXPECT_EQ(form.Dir1.ListIndex, -1);
+        EXPECT_EQ(form.File1.ListIndex, -1);
+        form.Command2.Click();
+    });
+}
+
 } // namespace
 } // namespace tarvex

@@ -420,5 +420,18 @@ TEST_F(ViewImageTest, CloseAndExitTakeTheWindowDown)
     }
 }
 
+TEST_F(ViewImageTest, TheImageLastUsedIsPlacedAndScrolledToItsBeginning)
+{
+    t.settings().ImageFilePath = "c:\\pictures\\keys.bmp";
+    t.menus().mnuAppsImageViewer.Click();
+    EXPECT_TRUE(window.form.isLoaded());
+    EXPECT_EQ(window.Picture3Place.get(), (Placement{0, 0, 640, 480}));
+    window.HScroll1.Value = 100;
+    RepositionControls(window);
+    EXPECT_EQ(window.HScroll1.Value, 0);
+    window.form.unload();
+    EXPECT_FALSE(window.form.isLoaded());
+}
+
 } // namespace
 } // namespace tarvex
