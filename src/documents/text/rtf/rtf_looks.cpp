@@ -1,7 +1,6 @@
 #include "documents/text/rtf/rtf_looks.h"
 
 #include <algorithm>
-#include <bit>
 #include <utility>
 
 namespace tarvex {
@@ -68,20 +67,8 @@ void RtfColours::end(std::size_t count)
 
 Colour RtfColours::at(int index) const
 {
-    const auto entry = static_cast<std::size_t>(index);
-    return index >= 0 && entry < m_colours.size() ? m_colours[entry] : 0;
-}
-
-std::size_t RtfLooks::Hash::operator()(const RtfLook& look) const
-{
-    const auto bits = [](auto value) { return std::bit_cast<std::uint32_t>(value); };
-    const unsigned flags = (look.bold ? 1U : 0U) + (look.italic ? 2U : 0U) + (look.underline ? 4U : 0U);
-    std::uint64_t hash = bits(look.font);
-    for (const std::uint32_t part : {bits(look.colour), bits(look.indent), bits(look.size + 0.0F), flags}) {
-        hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
-        hash ^= hash >> 32U;
-    }
-    return static_cast<std::size_t>(hash);
+    const auto entry = static_cast<std::size_t>(index); // of a negative one beyond any table
+    return entry < m_colours.size() ? m_colours[entry] : 0;
 }
 
 FormatId RtfLooks::numberOf(const RtfLook& look)

@@ -3,6 +3,8 @@
 #include "documents/text/character_format.h"
 #include "documents/text/rtf/rtf_code_pages.h"
 
+#include <compare>
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -68,7 +70,7 @@ struct RtfLook {
     bool bold = false;
     bool italic = false;
     bool underline = false;
-    bool operator==(const RtfLook&) const = default;
+    auto operator<=>(const RtfLook&) const = default;
 };
 
 /// Numbers of the looks in a table of formats.
@@ -82,11 +84,8 @@ public:
     FormatId numberOf(const RtfLook& look);
 
 private:
-    struct Hash {
-        std::size_t operator()(const RtfLook& look) const;
-    };
     std::shared_ptr<FormatTable> m_formats;
-    std::unordered_map<RtfLook, FormatId, Hash> m_known;
+    std::map<RtfLook, FormatId> m_known;
 };
 
 } // namespace tarvex

@@ -22,6 +22,21 @@ std::string repeated(std::string_view part, int times)
     return all;
 }
 
+TEST(ReadRtf, AFontsNameEndsWithItsGroupToo)
+{
+    const RichText text = read("{\\rtf1{\\fonttbl{\\f0 One}{\\f1 Two}}\\f0 a\\f1 b}");
+    EXPECT_EQ(formatAt(text, 0).fontName, "One");
+    EXPECT_EQ(formatAt(text, 1).fontName, "Two");
+}
+
+TEST(ReadRtf, TheLastComponentOfAColourCounts)
+{
+    const RichText text = body("{\\colortbl;\\red255\\green255\\blue255;\\red255\\red1;}\\cf1 a\\cf2 b\\cf3 c");
+    EXPECT_EQ(formatAt(text, 0).colour, 0xFFFFFF);
+    EXPECT_EQ(formatAt(text, 1).colour, 1);
+    EXPECT_EQ(formatAt(text, 2).colour, 0) << "not in the table";
+}
+
 } // namespace
 
 TEST(LooksLikeRtf, OnlyTheSignatureAtTheStartCounts)
