@@ -67,6 +67,17 @@ TEST(AxesOf, ADeviceWith32AxesHasThemAll)
     EXPECT_EQ(axesOf(device, choice), (AxisMap{31, 0, 30, 3}));
 }
 
+TEST(IndexOfJoystick, NameAndKindMustBothMatch)
+{
+    const std::vector<JoystickDevice> devices{
+        {"Stick", "1", {}, 0, 0}, {"Stick", "2", {}, 0, 0}, {"Pedals", "2", {}, 0, 0}, {"Pedals", "2", {}, 0, 0}};
+    EXPECT_EQ(indexOf({.name = "Stick", .guid = "2", .number = 0}, devices), 1U);
+    EXPECT_EQ(indexOf({.name = "Pedals", .guid = "2", .number = 0}, devices), 2U);
+    EXPECT_EQ(indexOf({.name = "Pedals", .guid = "2", .number = 1}, devices), 3U);
+    EXPECT_EQ(indexOf({.name = "Pedals", .guid = "1", .number = 0}, devices), 0U) << "none of them: the first";
+    EXPECT_FALSE(indexOf({.name = "Stick", .guid = "1", .number = 0}, {}));
+}
+
 TEST(AxisPosition, EndsOfTheRangeAreTheEndsOfTheScale)
 {
     EXPECT_EQ(axisPosition(-32768, -32768, 32767), 0);

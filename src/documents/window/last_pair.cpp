@@ -68,8 +68,8 @@ void bringViewsBack(Editor& editor)
 {
     const ProfileFile& ini = editor.shared.platformIni;
     const auto bring = [&](MenuItem& item, std::string_view key) {
-        const int wanted = ini.readInt(section, key, -1);
-        if (wanted >= 0 && item.Checked != (wanted == 1)) item.Click();
+        const bool wanted = ini.readInt(section, key, item.Checked ? 1 : 0) == 1;
+        if (item.Checked != wanted) item.Click();
     };
     bring(editor.menus.mnuViewMacros, "MacroFrame");
     bring(editor.menus.mnuViewTileVertically, "Tiled");

@@ -1,10 +1,13 @@
 // Unsaved typing is written to a journal.
 
 #include "documents/files/auto_save.h"
+#include "documents/pair/loading.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/recovery/open_pair.h"
+#include "support/random_seed.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace tarvex {
 namespace {
@@ -251,6 +254,30 @@ TEST(Journal, IsClosedOnceTheDiskIsDoneWithItSoThatNoKeyWaitsForThat)
     t.fifteenSecondsLater();
     EXPECT_EQ(t.files.growing(), 0);
     EXPECT_FALSE(t.editor().TimerJournal.Enabled);
+}
+
+TEST(Journal, HoldsTheTextAfterAnyEditsThatWereWrittenDownTogether)
+{
+    std::mt19937 random(randomSeed());
+    OpenPair t;
+    t.typeJoystick("begun");
+    Pane& pane = t.editor().JoystickText;
+    const auto below = [&](std::size_t bound) { return static_cast<std::int64_t>(random() % bound); };
+    for (int round = 0; round < 300; ++round) {
+        {
+            const Loading loading(t.program().shared); // the program writes, and the user's next key notes all of it
+            for (std::int64_t edits = below(4); edits > 0; --edits) {
+                pane.setSelStart(below(pane.TextLength() + 1));
+                pane.setSelLength(below(6));
+                pane.setSelText(std::string(static_cast<std::size_t>(below(6)), static_cast<char>('a' + below(26))));
+            }
+        }
+        pane.setSelStart(below(pane.TextLength() + 1));
+        t.typeJoystick("k");
+        Journal journal;
+        ASSERT_EQ(readJournal(t.fileText(t.onlyJournal()), journal), JournalState::Readable);
+        ASSERT_EQ(journal.text, pane.Text()) << round;
+    }
 }
 
 TEST(Journal, IsWrittenAnewWhenItHasOutgrownTheText)
