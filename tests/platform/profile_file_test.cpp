@@ -78,6 +78,12 @@ TEST_F(Profile, NamesOfOneByteOfTheCodePageMatchTheirCharacter)
     EXPECT_EQ(ini.readString("\x7F", "\x7F", ""), "1");
 }
 
+TEST_F(Profile, NameOfTheFirstByteBeyondAsciiMatchesItsCharacter)
+{
+    fileHolds("[Games]\r\n\x80=1\r\n");
+    EXPECT_EQ(read("\xE2\x82\xAC"), "1");
+}
+
 TEST_F(Profile, OnePairOfMatchingQuotesIsStripped)
 {
     fileHolds("[Games]\r\na=\"x\"\r\nb='x'\r\nc=\"\"x\"\"\r\nd=\"x'\r\ne=\"\r\nf=\" x \"\r\ng=x\"\r\nh=\"\"\r\n");
@@ -304,6 +310,14 @@ TEST_F(Profile, ChangedFileIsReadAgain)
     EXPECT_EQ(bytes(), "[Games]\r\nKey=6\r\nOther=5\r\n");
     files.removeFile(path);
     EXPECT_EQ(read("Key"), "default");
+}
+
+TEST_F(Profile, FileOfTheSameTimeAndSizeIsNotReadAgain)
+{
+    fileHolds("[Games]\r\nKey=1\r\n");
+    EXPECT_EQ(read("Key"), "1");
+    files.changeSecretly(path, "[Games]\r\nKey=2\r\n");
+    EXPECT_EQ(read("Key"), "1");
 }
 
 TEST_F(Profile, BatchWritesOnceAtItsOutermostEnd)

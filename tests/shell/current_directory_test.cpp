@@ -28,6 +28,17 @@ template <typename Work> int errorOf(Work work)
     return 0;
 }
 
+TEST(ChDrive, TakesTheFirstAndTheLastLetter)
+{
+    World w;
+    for (const char* drive : {"a", "A:", "z", "Z:"}) {
+        EXPECT_EQ(errorOf([&] { w.current.ChDrive(drive); }), static_cast<int>(ErrorCode::DeviceUnavailable)) << drive;
+    }
+    for (const char* none : {"`", "{", "@", "["}) {
+        EXPECT_EQ(errorOf([&] { w.current.ChDrive(none); }), static_cast<int>(ErrorCode::InvalidCall)) << none;
+    }
+}
+
 TEST(ChDir, ChangesToADirectoryWithOrWithoutItsClosingBackslash)
 {
     World w;

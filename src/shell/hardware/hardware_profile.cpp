@@ -23,13 +23,15 @@ constexpr std::array<std::string_view, 3> rudderNames{", no rudders.", ", Elite 
 
 std::string_view nameAt(std::span<const std::string_view> names, std::int16_t index)
 {
-    return index >= 0 && static_cast<std::size_t>(index) < names.size() ? names[static_cast<std::size_t>(index)] : "";
+    const auto entry = static_cast<std::size_t>(index); // of a negative one beyond all names
+    return entry < names.size() ? names[entry] : "";
 }
 
 void setExtensions(Settings& settings)
 {
-    if (settings.JoyName < 0 || static_cast<std::size_t>(settings.JoyName) >= extensions.size()) return;
-    const Extensions& chosen = extensions[static_cast<std::size_t>(settings.JoyName)];
+    const auto joystick = static_cast<std::size_t>(settings.JoyName); // of a negative one beyond all
+    if (joystick >= extensions.size()) return;
+    const Extensions& chosen = extensions[joystick];
     settings.JoystickExtension = chosen.joystickFile;
     settings.MacroExtension = chosen.macroFile;
 }

@@ -295,6 +295,7 @@ TEST(Journal, IsWrittenAnewWhenItHasOutgrownTheText)
     }
     EXPECT_LT(largest, (std::size_t{1} << 20) + 30000);
     EXPECT_NE(names.find("2.journal"), std::string::npos) << names;
+    EXPECT_EQ(names.find("4.journal"), std::string::npos) << "not anew at each key: " << names;
     const std::string text = t.editor().JoystickText.Text();
     t.killAndStart({Answer::Yes});
     EXPECT_EQ(t.editor().JoystickText.Text(), text);
@@ -344,6 +345,7 @@ TEST(Journal, ThatCouldNotBeWrittenIsTriedAgainLater)
     OpenPair t;
     t.files.failAppends(RuntimeError(ErrorCode::DiskFull, "No space left on device"));
     t.typeJoystick("a");
+    EXPECT_TRUE(t.editor().TimerJournal.Enabled);
     t.files.failAppends(std::nullopt);
     t.typeJoystick("b");
     EXPECT_EQ(t.journals(), 0U);
