@@ -115,6 +115,65 @@ const std::vector<Act>& keyActs()
         {"statement that isn't there", [](TestProgram&, Editor& e) { ExtractButtonDefinition(e, "BTN H4L"); }},
         {"Rem in front of the line", [](TestProgram&, Editor& e) { RemBlockCommon(e); }},
         {"another file", [](TestProgram& t, Editor&) { t.openBoth(su); }},
+        {"undo twice and redo",
+         [](TestProgram& t, Editor& e) {
+             t.pressKeys(e.selected().pane, "a b");
+             t.menus().mnuEditUndo.Click();
+             t.menus().mnuEditUndo.Click();
+             t.menus().mnuEditRedo.Click();
+         }},
+        {"key after an undo",
+         [](TestProgram& t, Editor& e) {
+             t.pressKeys(e.selected().pane, "a b");
+             t.menus().mnuEditUndo.Click();
+             t.pressKeys(e.selected().pane, "c");
+         }},
+        {"undo to the saved text",
+         [](TestProgram& t, Editor& e) {
+             t.menus().mnuFileSave.Click();
+             t.pressKeys(e.selected().pane, "a");
+             t.menus().mnuEditUndo.Click();
+         }},
+        {"caret on another line",
+         [](TestProgram&, Editor& e) {
+             Text_KeyUp(e, e.selected());
+             e.selected().pane.setSelStart(e.selected().pane.lineStart(e.selected().pane.lineCount() - 1));
+             Text_KeyUp(e, e.selected());
+         }},
+        {"characters selected by the mouse",
+         [](TestProgram&, Editor& e) {
+             e.selected().pane.setSelStart(1);
+             e.selected().pane.setSelLength(5);
+             Text_Click(e, e.selected());
+         }},
+        {"key F1", [](TestProgram&, Editor& e) { Text_KeyDown(e, e.selected(), "F1"); }},
+        {"key Esc", [](TestProgram&, Editor& e) { Text_KeyDown(e, e.selected(), "Esc"); }},
+        {"key Ctrl+Tab", [](TestProgram&, Editor& e) { Text_KeyDown(e, e.selected(), "Ctrl+Tab"); }},
+        {"key Ctrl+Z", [](TestProgram&, Editor& e) { Text_KeyDown(e, e.selected(), "Ctrl+Z"); }},
+        {"a line coloured while it is written",
+         [](TestProgram& t, Editor& e) {
+             t.program().shared.extras.set(extraKey::colourAsTyped, true);
+             t.pressKeys(e.selected().pane, "\rBTN S4 /P x");
+             e.TimerColour.Tick();
+         }},
+        {"all text deleted",
+         [](TestProgram&, Editor& e) {
+             e.selected().pane.EditComing();
+             e.selected().pane.userEdit(0, static_cast<std::int64_t>(e.selected().pane.TextLength()), "");
+         }},
+        {"edge of the macro frame dragged",
+         [](TestProgram&, Editor& e) {
+             FrameMacros_MouseMove(e, false, 184 * 15.0F, true);
+             FrameMacros_MouseMove(e, true, 299 * 15.0F, false);
+             FrameMacros_MouseMove(e, false, 299 * 15.0F, true);
+         }},
+        {"font of the panes changed",
+         [](TestProgram& t, Editor& e) {
+             t.settings().TextFontName = "Terminal";
+             t.settings().TextFontSize = 15;
+             t.program().shared.FontChanged = 1;
+             Form_Activate(e);
+         }},
     };
     return all;
 }
