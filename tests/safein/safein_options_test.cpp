@@ -119,5 +119,14 @@ TEST_F(SafeinOptions, TextsInPlaceOfNumbersCountAsZero)
     EXPECT_GE(window.form.Top.get(), 0.0F);
 }
 
+TEST_F(SafeinOptions, ExtendedCodesThatAreSetAreTickedAndShowNumLockAtTheOpening)
+{
+    window.form.unload();
+    t.setIni("Miscellaneous", "ApplyRAWTMnotes", "1");
+    t.menus().mnuInsertRAW.Click();
+    EXPECT_TRUE(window.mnuUseExtendedRAW.Checked);
+    EXPECT_TRUE(window.ToggleButton4.Visible);
+}
+
 } // namespace
 } // namespace tarvex

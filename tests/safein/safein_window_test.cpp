@@ -324,5 +324,21 @@ TEST_F(SafeinWindow, PlainLettersAreNobodysCommand)
     EXPECT_EQ(joystick(), before);
 }
 
+TEST_F(SafeinWindow, ASelectedSignIsReadAndNoSelectionIsNot)
+{
+    t.typeJoystick("#1C");
+    window.RawToRead.Text = "before";
+    select(0, 0);
+    EXPECT_EQ(window.RawToRead.Text.get(), "before");
+    select(0, 1);
+    EXPECT_EQ(window.RawToRead.Text.get(), "#");
+}
+
+TEST_F(SafeinWindow, AKeyWhoseCommandFailsIsNotSwallowed)
+{
+    t.menus().mnuEditSelectAll.handler = [] { throw RuntimeError(ErrorCode::DeviceInputOutput, "broken"); };
+    EXPECT_FALSE(window.form.KeyDown('A', shiftKey::ctrl));
+}
+
 } // namespace
 } // namespace tarvex

@@ -280,6 +280,7 @@ TEST_F(ViewImageTest, FailuresAreReportedUnderTheirProceduresAndSaidInTheStatus)
     EXPECT_EQ(reported(), "IMAGE mnuImageLoad_Click");
     t.files.addFile("c:\\pictures\\small.png", "");
     window.mnuImageRefresh.Click();
+    EXPECT_EQ(reported(), "IMAGE mnuImageRefresh_Click");
     EXPECT_EQ(t.status(), "c:\\pictures\\small.png couldn't be read again (Invalid picture)");
     window.mnuFileClose.Click();
     t.menus().mnuAppsImageViewer.Click();
@@ -431,6 +432,37 @@ TEST_F(ViewImageTest, TheImageLastUsedIsPlacedAndScrolledToItsBeginning)
     EXPECT_EQ(window.HScroll1.Value, 0);
     window.form.unload();
     EXPECT_FALSE(window.form.isLoaded());
+}
+
+TEST_F(ViewImageTest, ZoomOfTheMenuKeepsTheMiddleOfWhatIsScrolled)
+{
+    open("c:\\pictures\\keys.bmp");
+    window.HScroll1.Value = 100;
+    window.HScroll1.Change();
+    window.VScroll1.Value = 50;
+    window.VScroll1.Change();
+    window.mnuZoomIn.Click();
+    EXPECT_GT(window.Zoom, 1);
+    EXPECT_NEAR(window.HScroll1.Value.get(), (100 + 191) * window.Zoom - 191, 1);
+    EXPECT_NEAR(window.VScroll1.Value.get(), (50 + 141) * window.Zoom - 141, 1);
+}
+
+TEST_F(ViewImageTest, APictureOfOnePixelIsShownAsOne)
+{
+    t.files.addFile("c:\\pictures\\dot.bmp", "PICTURE 1 1");
+    open("c:\\pictures\\dot.bmp");
+    EXPECT_EQ(window.Picture3Place.get(), (Placement{0, 0, 1, 1}));
+    window.mnuZoomOut.Click();
+    EXPECT_EQ(window.Picture3Place.get(), (Placement{0, 0, 1, 1}));
+}
+
+TEST_F(ViewImageTest, APictureAsHighAsThePaperIsPrintedWithoutAQuestion)
+{
+    t.printers.printer.height = 1123 * twipsPerPixel;
+    t.files.addFile("c:\\pictures\\tower.bmp", "PICTURE 10 1123");
+    open("c:\\pictures\\tower.bmp");
+    window.mnuPrint.Click();
+    EXPECT_EQ(t.printers.printer.pages.size(), 1U);
 }
 
 } // namespace
