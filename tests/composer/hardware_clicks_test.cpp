@@ -339,5 +339,26 @@ TEST_F(ComposerTest, AProtectedMacroFileTakesNoStatement)
     EXPECT_THAT(t.status(), testing::HasSubstr("is protected"));
 }
 
+TEST_F(ComposerTest, AButtonThatIsFoundReturnsTheFocusAndAPortTakesOneBareName)
+{
+    settings.COMPreturnFocus = 1;
+    write("BTN S1 fire\r\n");
+    int front = 0;
+    const Connection wanted = t.program().mum.form.frontWanted.connect([&front] { ++front; });
+    button(0);
+    EXPECT_EQ(joystick.Text(), "BTN S1 fire\r\n");
+    EXPECT_EQ(front, 1);
+    use(2, 3); // an older stick, whose rockers are no buttons
+    joystick.setText("");
+    putCaret(0);
+    rotary(7);
+    EXPECT_EQ(window.ROTARY[7].Value, 1);
+    const std::string rocker = window.BTN[4].Caption;
+    ASSERT_FALSE(rocker.empty() || rocker.starts_with('T')) << rocker;
+    button(4);
+    EXPECT_EQ(joystick.Text(), rocker + " ");
+    EXPECT_EQ(window.ROTARY[7].Value, 0);
+}
+
 } // namespace
 } // namespace tarvex

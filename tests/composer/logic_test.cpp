@@ -265,5 +265,14 @@ TEST_F(LogicTest, ARowBehindTheLastIsNoTerm)
     EXPECT_EQ(term(tab.CMDFlagInsert[0]), "X1");
 }
 
+TEST_F(LogicTest, DefinitionsBeginALineOfTheirOwn)
+{
+    write("BTN S1 a\r\n");
+    putCaret(5);
+    window.flags.RichTexFlag[0].setText("DEF X1 S1");
+    window.flags.Command13[0].Click();
+    EXPECT_TRUE(joystick.Text().starts_with("BTN S1 a\r\nDEF X1 S1\r\n")) << joystick.Text();
+}
+
 } // namespace
 } // namespace tarvex
