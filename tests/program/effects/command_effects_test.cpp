@@ -300,6 +300,17 @@ void turnSettingsRound(TestProgram& t)
     }
 }
 
+TEST(EffectsOfTheStart, AreThoseOfTheList)
+{
+    TestProgram t(false);
+    t.files.addFile("c:\\tarvex\\tarvexsmall.wav", "");
+    t.setIni("Miscellaneous", "PlayWavOnStartup", "1");
+    prepareMachine(t, Answer::Yes);
+    std::string text;
+    for (const std::string& line : differencesOf({}, stateOf(t))) text += line + "\n";
+    compareWithList("start", text);
+}
+
 TEST(EffectsOfSettings, AtTheStartAreThoseOfTheList)
 {
     TestProgram t(false);
