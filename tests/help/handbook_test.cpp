@@ -383,5 +383,32 @@ TEST_F(HandbookTest, TheExitKeepsThePlaceToo)
     EXPECT_EQ(t.program().shared.platformIni.readString("Handbook", "Page", ""), "safein.html");
 }
 
+TEST_F(HandbookTest, AnotherWayFromAPageForgetsTheOneThatWasTakenBefore)
+{
+    topic(2500);
+    keyword("tour");
+    book.Back.Click();
+    followHandbookLink(book, "btn.html");
+    book.Back.Click();
+    EXPECT_EQ(target(), "safein.html");
+}
+
+TEST_F(HandbookTest, HomeShowsTheFirstPageAndTheWindowComesUpInItsPlace)
+{
+    EXPECT_EQ(book.form.Left.get(), 80 * twipsPerPixel);
+    EXPECT_EQ(book.form.Top.get(), 50 * twipsPerPixel);
+    topic(2500);
+    book.Home.Click();
+    EXPECT_EQ(target(), "first.html");
+}
+
+TEST_F(HandbookTest, TwoHundredLettersAreSearchedForAndMoreAreNot)
+{
+    keyword(std::string(200, 'q'));
+    EXPECT_EQ(book.Search.Text.get(), std::string(200, 'q'));
+    keyword(std::string(201, 'q'));
+    EXPECT_EQ(book.Search.Text.get(), "");
+}
+
 } // namespace
 } // namespace tarvex

@@ -139,6 +139,47 @@ TEST_F(ColoursPageTest, TheTextOfMacroFilesStaysBlack)
     });
 }
 
+TEST_F(ColoursPageTest, TheDialogueOfColoursStartsWithThatOfTheItem)
+{
+    inPreferences([this] {
+        ColoursPage& page = preferences().coloursPage;
+        ApplyColour(page, 1, 0x222222);
+        ApplyColour(page, 0, 0x111111);
+        EXPECT_EQ(program().shared.DefaultTextColour, 0x222222) << "a background is no text";
+        const auto shown = [&](int row) {
+            dialogues.colours.emplace_back(std::nullopt);
+            page.List1.ListIndex = row;
+            page.List1.Click();
+            return dialogues.coloursShown.back();
+        };
+        EXPECT_EQ(shown(0), 0x111111);
+        EXPECT_EQ(shown(1), 0x222222);
+        EXPECT_EQ(shown(2), settings().BTNColour);
+        EXPECT_EQ(shown(8), 0);
+        EXPECT_EQ(page.SSTab2.Tab.get(), 1);
+        loadColours(page);
+        EXPECT_EQ(page.List1.ListIndex, -1);
+    });
+}
+
+TEST_F(ColoursPageTest, TheSamplesHaveTheFontOfTheSettingsAndCannotBeWrittenIn)
+{
+    settings().TextFontName = "Courier New";
+    for (const std::int16_t applied : {1, 0}) {
+        settings().ApplyColoursOnFileOpen = applied;
+        inPreferences([&] {
+            const ColoursPage& page = preferences().coloursPage;
+            EXPECT_EQ(page.CheckBox1.Value.get(), applied == 1);
+            for (const Pane* sample : {&page.ExampleJoystickText, &page.ExampleMacroText}) {
+                EXPECT_EQ(sample->Font().name, "Courier New");
+                EXPECT_TRUE(sample->Locked);
+            }
+            const Pane& macros = page.ExampleMacroText;
+            EXPECT_EQ(macros.formatAt(macros.Text().find("/P KP6")).colour, settings().SlashColour);
+        });
+    }
+}
+
 TEST_F(ColoursPageTest, ACancelledFontChangesNothing)
 {
     inPreferences([this] {

@@ -69,6 +69,21 @@ TEST_F(BrowseButtons, AskForTheirFilesByTitleAndFilter)
     });
 }
 
+TEST_F(BrowseButtons, BeginInTheFolderOfThePathThatIsThere)
+{
+    files.addDirectory("c:\\pictures");
+    inPreferences([this] {
+        AppsPage& apps = preferences().appsPage;
+        apps.Text5.Text = "c:\\pictures\\stick.bmp";
+        dialogues.filesToOpen = {std::nullopt, "c:\\pictures\\other.bmp"};
+        apps.Text5Browse.Click();
+        EXPECT_EQ(program().shared.currentDirectory.path(), "c:\\pictures");
+        EXPECT_EQ(apps.Text5.Text.get(), "c:\\pictures\\stick.bmp") << "cancelled";
+        apps.Text5Browse.Click();
+        EXPECT_EQ(apps.Text5.Text.get(), "c:\\pictures\\other.bmp");
+    });
+}
+
 TEST_F(PreferencesFailures, OfListsWithoutEntriesBelongToTheirButtons)
 {
     inPreferences([this] {

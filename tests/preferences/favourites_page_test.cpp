@@ -103,5 +103,22 @@ TEST_F(FavouritesPageTest, WithTheLastOneAllOfThePageIsGreyAndEmpty)
     });
 }
 
+TEST_F(FavouritesPageTest, BothPathsAreShownAndAppliedAndTheMenuFollowsAtOnce)
+{
+    inPreferences([this] {
+        choose(1);
+        EXPECT_EQ(page().Text8.Text.get(), settings().FavJFPath[1].whole());
+        EXPECT_EQ(page().Text9.Text.get(), settings().FavMFPath[1].whole());
+        page().Text7.Text = "Sabre";
+        page().Text8.Text = "C:\\Sabre.B50";
+        page().Text9.Text = "C:\\Sabre.M50";
+        page().Command14.Click();
+        EXPECT_EQ(settings().FavJFPath[1], "c:\\sabre.b50");
+        EXPECT_EQ(settings().FavMFPath[1], "c:\\sabre.m50");
+        EXPECT_EQ(page().Text9.Text.get(), "c:\\sabre.m50") << "as it is kept";
+        EXPECT_EQ(menus().mnuFavArray[2].Caption.get(), "Sabre");
+    });
+}
+
 } // namespace
 } // namespace tarvex

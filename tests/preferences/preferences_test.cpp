@@ -410,6 +410,16 @@ TEST_F(PreferencesLists, ARemovedFavouriteIsGoneFromMenuAndFile)
     EXPECT_EQ(menus().mnuFavArray.UBound(), 0);
 }
 
+TEST_F(PreferencesLists, ARemovedEntryIsGoneFromTheMenuAtOnce)
+{
+    inPreferences([this] {
+        favourites().Command13.Click();
+        games().Command12.Click();
+        EXPECT_EQ(menus().mnuFavArray.UBound(), 1);
+        EXPECT_EQ(menus().mnuGameArray.UBound(), 1);
+    });
+}
+
 TEST_F(PreferencesLists, TheTickMarksTheFavouriteThatIsOpenedAtStart)
 {
     inPreferences([this] {

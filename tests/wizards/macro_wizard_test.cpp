@@ -298,5 +298,36 @@ TEST_F(MacroWizardTest, AClosedWindowTakesNothingFromSafein)
     EXPECT_EQ(maker.Text1[1].Text, "");
 }
 
+TEST_F(MacroWizardTest, TheFootTurnsPagesWithinTheirBoundsAndHelpsOnlyOnHelp)
+{
+    int helped = 0;
+    t.program().operations.HelpTopic = [&helped](int) { ++helped; };
+    const int last = window.pages.lastPage;
+    turnTo(last);
+    window.pages.foot[footButton::next].Click();
+    EXPECT_EQ(window.pages.PageNumber, last);
+    window.pages.foot[footButton::back].Click();
+    EXPECT_EQ(window.pages.PageNumber, last - 1);
+    EXPECT_EQ(helped, 0);
+}
+
+TEST_F(MacroWizardTest, EachOpeningHasNoHeadingPicked)
+{
+    maker.List1.ListIndex = 3;
+    window.form.unload();
+    menus.mnuhelpWizCreateMacroFile.Click();
+    EXPECT_EQ(maker.List1.ListIndex, -1);
+}
+
+TEST_F(MacroWizardTest, TheWizardsStandAtTheRightEdgeOfTheScreen)
+{
+    Wizards& wizards = t.program().wizards;
+    for (const ToolForm* form :
+         {&wizards.macro.form, &wizards.speedy.form, &wizards.joystick.form, &wizards.slash.form}) {
+        EXPECT_EQ(form->Left.get(), t.desktop.screenWidth() - twipsPerPixel);
+        EXPECT_EQ(form->Top.get(), t.desktop.screenHeight() / 4);
+    }
+}
+
 } // namespace
 } // namespace tarvex

@@ -56,5 +56,16 @@ TEST_F(SpeedyTest, IsUnloadedAtTheExit)
     EXPECT_EQ(window.WindowOpen, 0);
 }
 
+TEST_F(SpeedyTest, EachOpeningStartsAtTheFirstTabWithoutTexts)
+{
+    window.SSTab1.Tab = 1;
+    window.maker.Text1[0].Text = "Eject";
+    window.form.unload();
+    t.menus().mnuWizSpeedy.Click();
+    EXPECT_EQ(window.SSTab1.Tab, 0);
+    EXPECT_EQ(window.maker.Text1[0].Text, "");
+    EXPECT_EQ(window.maker.Label1.Caption.get(), "Macro will appear here");
+}
+
 } // namespace
 } // namespace tarvex
