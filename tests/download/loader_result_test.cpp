@@ -144,5 +144,16 @@ TEST(LeadingNumber, IsCutToAWholeNumber)
     EXPECT_THROW(leadingNumber("1e999"), RuntimeError);
 }
 
+TEST(LoaderResult, ALineEndAtTheEndBeginsNoFurtherLine)
+{
+    ErrorRecord errors;
+    resultOf("WinLoad\r\nERROR\r\n27\r\n", &errors);
+    EXPECT_EQ(errors.ErrorProcedure, "TAG");
+    EXPECT_EQ(errors.ErrorDescription, "Input past end of file");
+    errors = {};
+    resultOf("WinLoad\r\nERROR\r\n27\r\nx", &errors);
+    EXPECT_EQ(errors.ErrorProcedure, "");
+}
+
 } // namespace
 } // namespace tarvex

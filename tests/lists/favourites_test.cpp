@@ -471,5 +471,46 @@ TEST(OpenFavourite, WithPathsThatWereCutOpensTheWholeOnes)
     EXPECT_EQ(t.editor().macro.FilePath, LongFav::path("2", "m50"));
 }
 
+TEST(FavouriteForm, WithoutANameItCannotBeAdded)
+{
+    Fav t;
+    FAV_Form_Load(t.form(), "Mig");
+    EXPECT_TRUE(t.form().Command1.Enabled);
+    FAV_Form_Load(t.form(), "");
+    EXPECT_FALSE(t.form().Command1.Enabled);
+    t.form().Text1.Text = "x";
+    EXPECT_TRUE(t.form().Command1.Enabled);
+    int selected = 0;
+    const Connection whole = t.form().Text1.selectAllWanted.connect([&selected] { ++selected; });
+    t.form().Text1.GotFocus();
+    EXPECT_EQ(selected, 1);
+}
+
+TEST(FavouriteMenus, AreThereAsSoonAsThereIsAnEntry)
+{
+    Fav t;
+    t.menus().mnuFavourites.Enabled = false;
+    t.menus().mnuGames.Enabled = false;
+    t.favourites().current = {"mig", Fav::joystick, Fav::macro};
+    UpdateFavouritesMenu(t.favourites());
+    EXPECT_TRUE(t.menus().mnuFavourites.Enabled);
+    t.program().lists.games.current.name = "f22";
+    UpdateGamesMenu(t.program().lists.games);
+    EXPECT_TRUE(t.menus().mnuGames.Enabled);
+}
+
+TEST(FavouriteMenus, HaveAnEntryForEachOneThatIsCounted)
+{
+    Fav t;
+    t.settings().FavArrayNum = 3;
+    AddmnuFavouritesArray(t.favourites());
+    EXPECT_EQ(t.settings().FavMFPath.size(), 3U);
+    EXPECT_EQ(t.menus().mnuFavArray.UBound(), 3);
+    t.settings().GameArrayNum = 2;
+    AddmnuGamesArray(t.program().lists.games);
+    EXPECT_EQ(t.settings().GamePath.size(), 2U);
+    EXPECT_EQ(t.menus().mnuGameArray.UBound(), 2);
+}
+
 } // namespace
 } // namespace tarvex

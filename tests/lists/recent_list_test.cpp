@@ -151,5 +151,15 @@ TEST(IsOnMenu, ComparesExactlyAndLeavesThePatternOut)
     EXPECT_EQ(isOnMenu(Names().list, "n1"), 0);
 }
 
+TEST(RecentListOnTop, OfEntriesOfOneNameTheFirstIsTakenBeforeTheLast)
+{
+    Names names(3);
+    names.names[2] = "n1";
+    putOnTop(names.list, {"n1", "new"});
+    EXPECT_EQ(names.paths[0], "new");
+    EXPECT_EQ(names.paths[1], "p2");
+    EXPECT_EQ(names.paths[2], "p3") << "the other one stays";
+}
+
 } // namespace
 } // namespace tarvex
