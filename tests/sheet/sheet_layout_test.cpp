@@ -214,6 +214,19 @@ TEST(SheetLayout, S3WithinAColumnIsNamedByItsModifier)
     EXPECT_THAT(textsOf(laidOut("BTN S1 /U /I a /O b /M c").at(0)), testing::IsSupersetOf({"/I", "a", "/O", "b"}));
 }
 
+TEST(SheetLayout, ASharedCellNamesItsColumnsOnceAndEachLayerItsOwnModifier)
+{
+    const auto texts = textsOf(laidOut("BTN S1 /U a /M /I b /O c /D /I b /O c").at(0));
+    EXPECT_THAT(texts, testing::IsSupersetOf({"/M /D /I", "b", "/O", "c"}));
+    EXPECT_EQ(std::ranges::count(texts, "/M /D /O"), 0);
+}
+
+TEST(SheetLayout, LayersOfOneColumnAloneAreNamedByBothModifiers)
+{
+    const auto texts = textsOf(laidOut("BTN S1 /U /I a /O b\r\nBTN S2 /U x /M y").at(0));
+    EXPECT_THAT(texts, testing::IsSupersetOf({"/U /I", "a", "/U /O", "b", "x", "y"}));
+}
+
 TEST(SheetLayout, ALongFileNameIsCut)
 {
     const auto pages = layOut(
