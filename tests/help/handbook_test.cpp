@@ -410,5 +410,33 @@ TEST_F(HandbookTest, TwoHundredLettersAreSearchedForAndMoreAreNot)
     EXPECT_EQ(book.Search.Text.get(), "");
 }
 
+TEST_F(HandbookTest, TheHelpOfAWindowIsItsPageAndAWindowWithoutOneHasNone)
+{
+    EXPECT_FALSE(showWindowHelp(help, "KeyTestForm"));
+    EXPECT_FALSE(book.form.Visible);
+    EXPECT_TRUE(showWindowHelp(help, "RAWform"));
+    EXPECT_TRUE(book.form.Visible);
+    EXPECT_EQ(target(), "safein.html");
+}
+
+TEST_F(HandbookTest, TheInformationWindowComesBackWhereItWasClosed)
+{
+    ToolForm& form = help.info.form;
+    form.open();
+    form.Top = 1500;
+    form.Left = 2250;
+    form.Width = 6000;
+    form.Height = 4500;
+    form.unload();
+    EXPECT_EQ(t.ini("Online Help", "InfoWindowTop"), "1500");
+    EXPECT_EQ(t.ini("Online Help", "InfoWindowLeft"), "2250");
+    for (Property<float>* value : {&form.Top, &form.Left, &form.Width, &form.Height}) *value = 3000;
+    form.open();
+    EXPECT_EQ(form.Top.get(), 1500);
+    EXPECT_EQ(form.Left.get(), 2250);
+    EXPECT_EQ(form.Width.get(), 6000);
+    EXPECT_EQ(form.Height.get(), 4500);
+}
+
 } // namespace
 } // namespace tarvex

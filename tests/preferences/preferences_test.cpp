@@ -464,5 +464,13 @@ TEST_F(PreferencesLists, TheLastGameRemovedGreysThePage)
     EXPECT_EQ(menus().mnuGameArray.UBound(), 0);
 }
 
+TEST_F(PreferencesTest, TheControlCentreCountsAsSoonAsItIsWritten)
+{
+    inPreferences([this] {
+        preferences().fileLocationsPage.Text10.Text = "c:\\tm\\tm.bat";
+        EXPECT_EQ(settings().CandCCPath, "c:\\tm\\tm.bat");
+    });
+}
+
 } // namespace
 } // namespace tarvex
