@@ -624,5 +624,17 @@ TEST_F(KeyTestTest, EachOpeningShowsTheStateOfTheJoystickAnewAndNoButtonsOfTheLa
     EXPECT_FALSE(form.JoystickShown);
 }
 
+TEST_F(KeyTestTest, CodesHaveAPlaceForTheirSign)
+{
+    const std::pair<int, const char*> lines[] = {
+        {0, "Keycode:  0"}, {1, "Keycode:  1"}, {-1, "Keycode: -1"}, {255, "Keycode:  255"}};
+    for (const auto& [code, line] : lines) {
+        open();
+        Form_KeyDown(form, code, 0);
+        EXPECT_EQ(form.RTFKeysDownText.Text().substr(0, std::string(line).size()), line);
+        form.mnuClose.Click();
+    }
+}
+
 } // namespace
 } // namespace tarvex
