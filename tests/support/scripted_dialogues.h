@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/dialogues.h"
+#include "platform/errors.h"
 
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <exception>
 #include <functional>
 #include <string>
 #include <vector>
@@ -58,14 +60,14 @@ public:
     std::optional<std::string> openFile(const FileRequest& request) override
     {
         openRequests.push_back(request);
-        if (whileOpening) whileOpening();
+        act(whileOpening);
         if (filesToOpen.empty() && otherFilesToOpen) return otherFilesToOpen(request);
         return next(filesToOpen, std::optional<std::string>(), "open " + request.title);
     }
     std::optional<std::string> saveFile(const FileRequest& request) override
     {
         saveRequests.push_back(request);
-        if (whileSaving) whileSaving();
+        act(whileSaving);
         if (filesToSave.empty() && otherFilesToSave) return otherFilesToSave(request);
         return next(filesToSave, std::optional<std::string>(), "save " + request.suggestedName);
     }
@@ -88,18 +90,18 @@ public:
     bool showModal(const std::string& formName) override
     {
         modalForms.push_back(formName);
-        if (whileModal) whileModal();
+        act(whileModal);
         return modalFormsExist;
     }
     void popUp(const MenuItem& root) override
     {
         popUps.push_back(root.Name);
-        if (whilePoppedUp) whilePoppedUp();
+        act(whilePoppedUp);
     }
     void popUpAtCaret(const MenuItem& root) override
     {
         popUpsAtCaret.push_back(root.Name);
-        if (whilePoppedUp) whilePoppedUp();
+        act(whilePoppedUp);
     }
 
     /// Everything scripted so far was asked for.
@@ -112,6 +114,18 @@ public:
     }
 
 private:
+    /// Whatever else than an error of the program's own ends the act of a test, the program would swallow.
+    static void act(const std::function<void()>& work)
+    {
+        if (!work) return;
+        try {
+            work();
+        } catch (const RuntimeError&) {
+            throw; // on purpose
+        } catch (const std::exception& error) {
+            ADD_FAILURE() << "the act ended early: " << error.what();
+        }
+    }
     template <typename T> static T next(std::deque<T>& scripted, T otherwise, const std::string& what)
     {
         if (scripted.empty()) {
