@@ -214,6 +214,7 @@ TEST_F(ViewImageTest, PrintWithoutAPrinterSaysSo)
     EXPECT_THAT(t.lastBox().text, StartsWith("Sorry - I couldn't detect a printer connected to your system, so I can't "
                                              "print out this image."));
     EXPECT_EQ(t.dialogues.boxes.size(), 1U) << "nothing is tried without a printer";
+    EXPECT_TRUE(t.printers.printer.pages.empty());
 }
 
 TEST_F(ViewImageTest, PrintPaintsThePictureAtThePagesOrigin)

@@ -230,7 +230,8 @@ std::string effectsOfCommands(const Situation& situation, const std::string& men
 {
     TestProgram named;
     std::string text;
-    for (const auto& [name, item] : commandsOf(named.program(), menu)) {
+    for (const auto& command : commandsOf(named.program(), menu)) {
+        const std::string& name = command.first;
         text += effectsOf(situation, name, [&](TestProgram& t) {
             const auto commands = commandsOf(t.program(), menu);
             if (commands.contains(name)) commands.at(name)->Click();
