@@ -277,7 +277,12 @@ void MumWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) cameToTheFront();
     if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
-    if (isMinimized() && minimisedTooLate()) return showForm(true);
+    if (isMinimized() && minimisedTooLate()) {
+        // The manager says so before it takes the window away: shown right now, it would be taken away all the same.
+        constexpr int untilItIsAway = 100; // milliseconds
+        QTimer::singleShot(untilItIsAway, this, [this] { showForm(true); });
+        return;
+    }
     Form& form = m_program.mum.form;
     const WindowState shown = isMaximized() ? WindowState::Maximised : WindowState::Normal;
     form.State = isMinimized() ? WindowState::Minimised : shown;
