@@ -58,6 +58,7 @@ void BeginColInsert(Editor& editor)
     const Steps step(editor.shared.errors, "ED_BeginColInsert");
     if (refuseProtected(editor)) return;
     endBlinking(editor);
+    if (editor.TimerColour.Enabled) editor.TimerColour.Tick(); // what was just written waits for its colours no longer
     step([&] {
         editor.insertion.Writing.emplace(editor.shared);
         storeStateBeforeWrite(editor, editor.selected());

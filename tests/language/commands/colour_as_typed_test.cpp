@@ -3,6 +3,7 @@
 #include "documents/pair/noted_caret.h"
 #include "language/base_format.h"
 #include "language/colour_letters.h"
+#include "language/commands/coloured_insertion.h"
 #include "support/random_seed.h"
 #include "support/test_program.h"
 
@@ -198,6 +199,20 @@ TEST_F(ColourAsTypedTest, ASaveBeforeThePauseKeepsTheColoursForTheNextOpening)
     t.openBoth("c:\\tm\\a.b50");
     const std::string fromCopy = colours();
     EXPECT_EQ(fromCopy, coloursOfWholeFile());
+}
+
+TEST_F(ColourAsTypedTest, AnInsertionBeforeThePauseLeavesTheLineWrittenItsColours)
+{
+    type(0, "REM ");
+    joystick.setSelStart(static_cast<std::int64_t>(joystick.TextLength()));
+    BeginColInsert(editor);
+    EXPECT_FALSE(editor.TimerColour.Enabled);
+    InsertColouredString(editor, " c", 0x123456);
+    EndColInsert(editor);
+    EXPECT_EQ(colours().substr(0, 8), "CCCCCCCC");
+    EXPECT_EQ(joystick.formatAt(joystick.TextLength() - 1).colour, 0x123456) << "the insertion keeps its own";
+    t.menus().mnuEditUndo.Click();
+    EXPECT_EQ(colours().substr(0, 8), "CCCCCCCC");
 }
 
 TEST_F(ColourAsTypedTest, CaretAndSelectionStay)
