@@ -1,6 +1,7 @@
 #include "templates/template_files.h"
 
 #include "documents/files/file_load.h"
+#include "documents/files/text_files.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/text/rtf/rtf.h"
 #include "platform/dos_devices.h"
@@ -34,6 +35,12 @@ bool canBeFileName(const std::string& name)
 
 void status(TemplateForm& window, const std::string& text) { window.editor.status(text); }
 
+void sayOpened(TemplateForm& window, const std::string& name)
+{
+    const std::string& remark = window.OpeningRemark;
+    status(window, name + " was opened successfully" + (remark.empty() ? "" : ". " + remark));
+}
+
 void nameFile(TemplateForm& window, const std::string& fullName, const std::string& name)
 {
     window.TemplateFullName = fullName;
@@ -53,7 +60,11 @@ void save(TemplateForm& window, const std::string& path, const std::string& name
     Editor& editor = window.editor;
     const Steps step(editor.shared.errors, "TEMPLATE Command1_Click");
     const std::string bytes = bytesFor(window, path);
-    if (!step([&] { editor.platform.files.write(path, bytes); })) {
+    const bool written = step([&] {
+        keepWhatTextLacks(editor, path);
+        editor.platform.files.write(path, bytes);
+    });
+    if (!written) {
         editor.platform.dialogues.show({.title = "Ooops!",
                                         .text = name + " wasn't saved. I was trying to save it with this path: " +
                                                 path + ", and the error message was: " + step.whyNot() + ".",
@@ -89,8 +100,7 @@ void openByDialogue(TemplateForm& window)
         {.title = "", .filter = filter, .directory = window.TemplatePath, .defaultExtension = "rtf"});
     if (!chosen) return;
     const std::string name = fileNameOf(*chosen);
-    if (loadTemplate(window, lowerUtf8(*chosen), name, "TEMPLATE Command1_Click"))
-        status(window, name + " was opened successfully");
+    if (loadTemplate(window, lowerUtf8(*chosen), name, "TEMPLATE Command1_Click")) sayOpened(window, name);
 }
 
 /// Where the loaders' configuration may be: in the folder that is set, above it or beside the loader.
@@ -135,6 +145,7 @@ bool loadTemplate(TemplateForm& window, const std::string& path, const std::stri
         else
             pane.setText(textOfFile(*bytes));
     });
+    window.OpeningRemark = utf16Remark(name, *bytes);
     nameFile(window, path, name);
     refreshLayout(window);
     beginHistory(window);
@@ -180,7 +191,7 @@ void Command2_Click(TemplateForm& window)
             return;
         const std::string path = window.editor.shared.settings.TextFilePath.whole();
         const std::string name = fileNameOf(path);
-        if (loadTemplate(window, path, name, tag)) status(window, name + " was opened successfully");
+        if (loadTemplate(window, path, name, tag)) sayOpened(window, name);
     });
 }
 

@@ -86,6 +86,7 @@ struct TemplateForm {
     std::string TemplateFullName; ///< folder and name
     std::string TemplateName;     ///< as Text1 shows it
     std::int16_t TemplateChanged = 0;
+    std::string OpeningRemark; ///< a sentence on the file opened last, for the end of the status text; often empty
 
     UndoHistory Undo;
     std::int16_t TakeNewLevel = 1; ///< the next change opens an undo level

@@ -1,6 +1,7 @@
 #include "templates/template_editor_fixture.h"
 
 #include "documents/text/rtf/rtf.h"
+#include "support/utf16_text.h"
 #include "templates/template_files.h"
 
 namespace tarvex {
@@ -45,6 +46,35 @@ TEST_F(TemplateEditorTest, AFileWithThatExtensionThatIsNoRtfIsPlainText)
     t.files.addFile(folder + "a.rtf", "{just words");
     open(folder + "a.rtf");
     EXPECT_EQ(text(), "{just words");
+}
+
+TEST_F(TemplateEditorTest, AFileInUnicodeIsRemarkedAndPutAsideBeforeItIsReplaced)
+{
+    const std::string bytes = asUtf16("caf\u00E9 \u0416\r\n");
+    t.files.addFile(folder + "hat.txt", bytes);
+    open(folder + "hat.txt");
+    EXPECT_EQ(text(), "caf\xE9 ?\r\n");
+    EXPECT_EQ(t.status(),
+              "hat.txt was opened successfully. hat.txt is in Unicode, which no loader reads: when you save "
+              "it, it becomes plain text. That has no room for 1 character, so you see question marks.");
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "hat.txt"), "caf\xE9 ?\r\n");
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\hat-outside.txt"), bytes);
+    open(folder + "hat.txt");
+    EXPECT_EQ(t.status(), "hat.txt was opened successfully") << "it is plain text now";
+}
+
+TEST_F(TemplateEditorTest, AFileInUnicodeThatCannotBePutAsideIsNotReplaced)
+{
+    const std::string bytes = asUtf16("\u0416");
+    t.files.addFile(folder + "hat.txt", bytes);
+    open(folder + "hat.txt");
+    type("x");
+    t.files.failWrites("c:\\tarvex\\Backup\\hat-outside.txt", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "hat.txt"), bytes);
+    EXPECT_EQ(window.TemplateChanged, 1);
+    EXPECT_EQ(box().title, "Ooops!");
 }
 
 TEST_F(TemplateEditorTest, OfDamagedRtfTheReadablePartIsShown)

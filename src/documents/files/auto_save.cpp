@@ -19,7 +19,8 @@ void autoSave(Editor& editor, Side& side)
         return;
     }
     const bool written = step([&] {
-        if (change == OutsideChange::Unknown) keepOutsideVersion(editor, side); // an untitled text of another day
+        if (change == OutsideChange::Unknown)
+            keepOutsideVersion(editor, side.FilePath); // an untitled text of another day
         writePlain(editor, side);
     });
     if (!written) return editor.status(side.FileName + " couldn't be saved automatically: " + step.whyNot());

@@ -54,17 +54,6 @@ std::size_t otherLineEnds(std::string_view bytes)
     return count;
 }
 
-/// The next save writes Windows-1252, the only text that a loader reads.
-void remarkUtf16(Editor& editor, const std::string& name, std::string_view bytes)
-{
-    if (!utf16OrderOf(bytes)) return;
-    std::string remark = name + " is in Unicode, which no loader reads: when you save it, it becomes plain text.";
-    if (const std::size_t lost = charactersLostFromFile(bytes); lost > 0)
-        remark += " That has no room for " + std::to_string(lost) + (lost == 1 ? " character" : " characters") +
-                  ", so you see question marks.";
-    editor.OpeningRemarks.push_back(remark);
-}
-
 /// The pane has CR LF throughout, and so has the file after its next save.
 void remarkOtherLineEnds(Editor& editor, const std::string& name, std::string_view bytes)
 {
@@ -154,11 +143,21 @@ void showText(Editor& editor, Side& side, const std::string& path, const std::st
     bool coloured = false;
     step([&] { coloured = showShadow(editor, side, path, name, text); });
     if (!coloured) showPlain(editor, side, text);
-    remarkUtf16(editor, name, bytes);
+    if (const std::string remark = utf16Remark(name, bytes); !remark.empty()) editor.OpeningRemarks.push_back(remark);
     remarkOtherLineEnds(editor, name, text);
     nameDocument(editor, side, path, name, step);
     if (!coloured) layOutAndColour(editor, side, step);
     startAnew(editor, side, bytes, step);
+}
+
+std::string utf16Remark(const std::string& name, std::string_view bytes)
+{
+    if (!utf16OrderOf(bytes)) return {};
+    std::string remark = name + " is in Unicode, which no loader reads: when you save it, it becomes plain text.";
+    if (const std::size_t lost = charactersLostFromFile(bytes); lost > 0)
+        remark += " That has no room for " + std::to_string(lost) + (lost == 1 ? " character" : " characters") +
+                  ", so you see question marks.";
+    return remark;
 }
 
 void showOpeningRemarks(Editor& editor)

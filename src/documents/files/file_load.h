@@ -23,6 +23,9 @@ void showFile(Editor& editor, Side& side, const std::string& path, const std::st
 /// undo and journal start anew. The caller keeps a Loading.
 void showText(Editor& editor, Side& side, const std::string& path, const std::string& name, const std::string& bytes);
 
+/// What the user should know of a file in UTF-16: the next save writes Windows-1252, the only text that a loader reads.
+/// Empty for any other file.
+std::string utf16Remark(const std::string& name, std::string_view bytes);
 /// Adds to the status text what the user should know of the files that were opened last: a text in UTF-16 and line
 /// ends that a save will change, colouring that couldn't be finished.
 void showOpeningRemarks(Editor& editor);

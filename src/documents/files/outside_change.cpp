@@ -37,9 +37,9 @@ std::string outsideName(const std::string& name)
     return name.substr(0, dot) + std::string(mark) + name.substr(dot);
 }
 
-std::string outsidePath(const Editor& editor, const Side& side)
+std::string outsidePath(const Editor& editor, const std::string& path)
 {
-    return freePath(editor.platform.files, editor.shared.BackupDirectory, outsideName(fileNameOf(side.FilePath)));
+    return freePath(editor.platform.files, editor.shared.BackupDirectory, outsideName(fileNameOf(path)));
 }
 
 Answer askOnce(Editor& editor, const Side& side)
@@ -49,7 +49,7 @@ Answer askOnce(Editor& editor, const Side& side)
          .text = side.FileName +
                  " was changed by another program since I opened it, and I'd hate to wipe out somebody's work. If you "
                  "save it anyway, I'll put the other version aside first, as\n\n    " +
-                 outsidePath(editor, side) +
+                 outsidePath(editor, side.FilePath) +
                  "\n\nOr give yours another name, and you'll have both. Or cancel, and have a look at what's there.",
          .icon = BoxIcon::Exclamation,
          .buttons = BoxButtons::YesNoCancel,
@@ -114,19 +114,19 @@ Overwriting agreeOnOverwriting(Editor& editor, const Side& side)
         const Answer answer = askWhatToDo(editor, side);
         if (answer == Answer::No) return Overwriting::UnderAnotherName;
         if (answer != Answer::Yes) return Overwriting::Cancelled;
-        harmless.push_back(sumOf(files.read(keepOutsideVersion(editor, side))));
+        harmless.push_back(sumOf(files.read(keepOutsideVersion(editor, side.FilePath))));
     }
     return Overwriting::Agreed;
 }
 
-std::string keepOutsideVersion(Editor& editor, const Side& side)
+std::string keepOutsideVersion(Editor& editor, const std::string& path)
 {
     FileSystem& files = editor.platform.files;
     const std::string& directory = editor.shared.BackupDirectory;
     if (!files.directoryExists(directory)) files.createDirectory(directory);
-    const std::string path = outsidePath(editor, side);
-    files.copyPrivate(side.FilePath, path);
-    return path;
+    std::string copy = outsidePath(editor, path);
+    files.copyPrivate(path, copy);
+    return copy;
 }
 
 bool isOutsideVersion(std::string_view name)

@@ -39,8 +39,9 @@ enum class Overwriting { Agreed, UnderAnotherName, Cancelled };
 /// is in the backup directory. Throws RuntimeError when it can't be copied there.
 Overwriting agreeOnOverwriting(Editor& editor, const Side& side);
 
-/// Copies the document's file into the backup directory, under a name that no other file gets. Throws RuntimeError.
-std::string keepOutsideVersion(Editor& editor, const Side& side);
+/// Copies a file into the backup directory, under a name that no other file gets, and returns the copy's path. Throws
+/// RuntimeError.
+std::string keepOutsideVersion(Editor& editor, const std::string& path);
 /// Whether a name is of the kind that keepOutsideVersion gives.
 bool isOutsideVersion(std::string_view name);
 

@@ -3,6 +3,7 @@
 #include "documents/editing/line_highlight.h"
 #include "documents/editing/pane_change.h"
 #include "documents/editing/undo.h"
+#include "documents/files/file_load.h"
 #include "documents/files/line_differences.h"
 #include "documents/pair/document_status.h"
 #include "documents/pair/loading.h"
@@ -121,7 +122,9 @@ void takeFileText(Editor& editor, Side& side, const std::string& bytes, const st
     if (side.tab == editor.macro.tab) listMacrosAnew(editor, step);
     identifyAnew(editor, step);
     if (side.tab == editor.selected().tab) showLineNumber(editor, side, side.pane.SelStart());
-    editor.status(side.FileName + " is reloaded. If you'd rather have what was here before, press Undo.");
+    const std::string remark = utf16Remark(side.FileName, bytes);
+    editor.status(side.FileName + " is reloaded. If you'd rather have what was here before, press Undo." +
+                  (remark.empty() ? "" : ' ' + remark));
 }
 
 } // namespace tarvex

@@ -7,24 +7,19 @@
 
 namespace tarvex {
 
-namespace {
-
-/// A file in UTF-16 may hold what the text can't: it is put aside before it is replaced.
-void keepWhatTextLacks(Editor& editor, const Side& side)
+void keepWhatTextLacks(Editor& editor, const std::string& path)
 {
     const FileSystem& files = editor.platform.files;
-    if (!files.fileExists(side.FilePath) || isTooLarge(editor, side.FilePath)) return;
+    if (!files.fileExists(path) || isTooLarge(editor, path)) return;
     std::string bytes;
     const Steps step; // a file that can't be read may still be replaced
-    step([&] { bytes = files.read(side.FilePath); });
-    if (charactersLostFromFile(bytes) > 0) keepOutsideVersion(editor, side);
+    step([&] { bytes = files.read(path); });
+    if (charactersLostFromFile(bytes) > 0) keepOutsideVersion(editor, path);
 }
-
-} // namespace
 
 void writePlain(Editor& editor, const Side& side)
 {
-    keepWhatTextLacks(editor, side);
+    keepWhatTextLacks(editor, side.FilePath);
     const WorkingBox temp(editor.TempRichTextBox);
     editor.TempRichTextBox.setText(side.pane.Text());
     editor.platform.files.write(side.FilePath, editor.TempRichTextBox.Text());

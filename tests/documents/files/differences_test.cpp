@@ -1,7 +1,7 @@
 #include "documents/files/differences.h"
 
-#include "platform/utf16.h"
 #include "support/test_program.h"
+#include "support/utf16_text.h"
 
 #include <gtest/gtest.h>
 
@@ -55,7 +55,7 @@ TEST_F(DifferencesTest, ShowBothTextsWithTheirNames)
 
 TEST_F(DifferencesTest, AFileInUtf16IsComparedByItsText)
 {
-    load(utf16FromUtf8("\xEF\xBB\xBFone\r\ntwo\r\nTHREE\r\nfour\r\n", Utf16Order::LittleEndian));
+    load(asUtf16("one\r\ntwo\r\nTHREE\r\nfour\r\n"));
     EXPECT_EQ(window.Count.Caption.get(), "Difference 1 of 1");
     EXPECT_EQ(window.RightLines[2], "THREE");
 }

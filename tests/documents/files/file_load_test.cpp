@@ -1,7 +1,7 @@
 #include "documents/files/file_load.h"
 
 #include "documents/files/open_fixture.h"
-#include "platform/utf16.h"
+#include "support/utf16_text.h"
 
 #include <gmock/gmock.h>
 
@@ -154,11 +154,6 @@ TEST_F(OpenTest, LineEndsOfAnotherKindAreRemarkedBehindTheClosingText)
     t.menus().mnuJoyPopUpSingleFile.Checked = true;
     t.openBoth(mig);
     EXPECT_EQ(t.status(), "Done. mig.b50 had 2 line ends of another kind.");
-}
-
-std::string asUtf16(std::string_view text)
-{
-    return utf16FromUtf8("\xEF\xBB\xBF" + std::string(text), Utf16Order::LittleEndian);
 }
 
 TEST_F(OpenTest, AFileInUtf16IsDecodedAndSavedAsPlainText)

@@ -6,6 +6,7 @@
 #include "platform/utf16.h"
 #include "shell/session_extras.h"
 #include "support/test_program.h"
+#include "support/utf16_text.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -225,6 +226,18 @@ TEST_F(OutsideNoticeTest, ASaveThatReplacesTheOtherVersionTakesTheStripAway)
 }
 
 // ---- reload ---------------------------------------------------------------------------------------------------------
+
+TEST_F(OutsideNoticeTest, AFileThatCameBackInUnicodeIsRemarked)
+{
+    changeOutside(asUtf16("Rem \u0416\r\n"));
+    strip().Reload.Click();
+    EXPECT_EQ(pane().Text(), "Rem ?\r\n");
+    EXPECT_EQ(
+        t.status(),
+        "mig.b50 is reloaded. If you'd rather have what was here before, press Undo. mig.b50 is in Unicode, which "
+        "no loader reads: when you save it, it becomes plain text. That has no room for 1 character, so you see "
+        "question marks.");
+}
 
 TEST_F(OutsideNoticeTest, ReloadShowsTheFileAndUndoBringsTheOldTextBack)
 {

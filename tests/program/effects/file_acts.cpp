@@ -1,7 +1,7 @@
 #include "documents/files/outside_notice.h"
 #include "documents/text/rtf/rtf.h"
-#include "platform/utf16.h"
 #include "program/effects/acts.h"
+#include "support/utf16_text.h"
 
 namespace tarvex {
 
@@ -112,10 +112,7 @@ const std::vector<Act>& fileActs()
              openAlone(t, "held.b50", "RAW (a\r\nDLY(b\r\n");
          }},
         {"file in Unicode",
-         [](TestProgram& t, Editor&) {
-             openAlone(t, "unicode.b50",
-                       "\xFF\xFE" + utf16FromUtf8("BTN S1 \xE2\x98\x83\r\n", Utf16Order::LittleEndian));
-         }},
+         [](TestProgram& t, Editor&) { openAlone(t, "unicode.b50", asUtf16("BTN S1 \xE2\x98\x83\r\n")); }},
         {"file with a coloured copy",
          [](TestProgram& t, Editor& e) {
              const FormatId red = e.formats->withColour(e.formats->idOf({}), 255);
