@@ -1,6 +1,7 @@
 #include "templates/template_files.h"
 
 #include "documents/files/file_load.h"
+#include "documents/files/outside_change.h"
 #include "documents/files/text_files.h"
 #include "documents/recovery/journal/recovery_journal.h"
 #include "documents/text/rtf/rtf.h"
@@ -13,6 +14,7 @@
 #include "templates/template_journal.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace tarvex {
 
@@ -54,14 +56,32 @@ std::string bytesFor(const TemplateForm& window, const std::string& path)
     return lastThree(path) == "rtf" ? writeRtf(window.TemplateText.TextRTF()) : window.TemplateText.Text();
 }
 
+/// A name that was typed may be that of another template, and another program may have written to the window's own:
+/// nobody was asked. Returns where the file is kept; empty: nothing would be lost.
+std::string keepReplaced(TemplateForm& window, const std::string& path, const std::string& bytes)
+{
+    std::vector<FileSum> harmless{sumOf(bytes)};
+    const bool isOwn = lowerUtf8(path) == lowerUtf8(window.TemplateFullName);
+    if (isOwn && window.Journal.File) harmless.push_back(*window.Journal.File);
+    if (holdsSomethingElse(window.editor, path, harmless)) return keepOutsideVersion(window.editor, path);
+    keepWhatTextLacks(window.editor, path);
+    return {};
+}
+
+enum class Replacing { Unasked, Agreed };
+
 /// Writes the text; a failure leaves the old file and is reported.
-void save(TemplateForm& window, const std::string& path, const std::string& name)
+void save(TemplateForm& window, const std::string& path, const std::string& name, Replacing replacing)
 {
     Editor& editor = window.editor;
     const Steps step(editor.shared.errors, "TEMPLATE Command1_Click");
     const std::string bytes = bytesFor(window, path);
+    std::string kept;
     const bool written = step([&] {
-        keepWhatTextLacks(editor, path);
+        if (replacing == Replacing::Agreed)
+            keepWhatTextLacks(editor, path);
+        else
+            kept = keepReplaced(window, path, bytes);
         editor.platform.files.write(path, bytes);
     });
     if (!written) {
@@ -74,7 +94,7 @@ void save(TemplateForm& window, const std::string& path, const std::string& name
     nameFile(window, path, name);
     noteTextSettled(editor, journalled(window), sumOf(bytes));
     window.TemplateChanged = 0;
-    status(window, name + " was saved successfully");
+    status(window, name + " was saved successfully" + (kept.empty() ? "" : ". What was there before is in " + kept));
 }
 
 void saveUnderItsName(TemplateForm& window)
@@ -86,7 +106,7 @@ void saveUnderItsName(TemplateForm& window)
             {.title = "Ooops!", .text = "No file can have the name " + name, .icon = BoxIcon::Exclamation});
         return;
     }
-    save(window, window.TemplatePath + name, name);
+    save(window, window.TemplatePath + name, name, Replacing::Unasked);
 }
 
 void openByDialogue(TemplateForm& window)
@@ -177,7 +197,7 @@ void mnuFileSaveAs_Click(TemplateForm& window)
                                                                        .directory = window.TemplatePath,
                                                                        .suggestedName = window.Text1.Text,
                                                                        .defaultExtension = "rtf"});
-        if (chosen) save(window, lowerUtf8(*chosen), fileNameOf(lowerUtf8(*chosen)));
+        if (chosen) save(window, lowerUtf8(*chosen), fileNameOf(lowerUtf8(*chosen)), Replacing::Agreed);
     });
 }
 

@@ -77,6 +77,56 @@ TEST_F(TemplateEditorTest, AFileInUnicodeThatCannotBePutAsideIsNotReplaced)
     EXPECT_EQ(box().title, "Ooops!");
 }
 
+TEST_F(TemplateEditorTest, WhatAnotherProgramWroteIsPutAsideBeforeItIsReplaced)
+{
+    t.files.addFile(folder + "hat.txt", "one\r\n");
+    open(folder + "hat.txt");
+    type("my ");
+    t.files.addFile(folder + "hat.txt", "theirs\r\n");
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText(folder + "hat.txt"), "my one\r\n");
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\hat-outside.txt"), "theirs\r\n");
+    EXPECT_EQ(t.status(), "hat.txt was saved successfully. What was there before is in "
+                          "c:\\tarvex\\Backup\\hat-outside.txt");
+    type("all ");
+    window.Command1[1].Click();
+    EXPECT_EQ(t.status(), "hat.txt was saved successfully") << "the window's own text is no news";
+    t.files.addFile(folder + "hat.txt", window.TemplateText.Text());
+    window.Command1[1].Click();
+    EXPECT_EQ(t.status(), "hat.txt was saved successfully") << "the same text";
+}
+
+TEST_F(TemplateEditorTest, TheOwnFileIsKnownByItsNameInAnyCase)
+{
+    t.files.addFile(folder + "Hat.TXT", "one\r\n");
+    open(folder + "Hat.TXT");
+    type("my ");
+    window.Command1[1].Click();
+    EXPECT_EQ(t.status(), "Hat.TXT was saved successfully");
+    EXPECT_EQ(t.fileText(folder + "Hat.TXT"), "my one\r\n");
+}
+
+TEST_F(TemplateEditorTest, ATypedNameOfAnotherTemplateReplacesNoneForGood)
+{
+    t.files.addFile(folder + "hat.rtf", "mine for years");
+    type("new");
+    window.Text1.Text = "hat.rtf";
+    window.TemplatePath = folder;
+    window.Command1[1].Click();
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\hat-outside.rtf"), "mine for years");
+    EXPECT_EQ(t.status(), "hat.rtf was saved successfully. What was there before is in "
+                          "c:\\tarvex\\Backup\\hat-outside.rtf");
+}
+
+TEST_F(TemplateEditorTest, AFileThatTheUserAgreedToReplaceIsNotPutAside)
+{
+    t.files.addFile(folder + "hat.txt", "old");
+    type("new");
+    saveAs(folder + "hat.txt");
+    EXPECT_EQ(t.fileText(folder + "hat.txt"), "new");
+    EXPECT_FALSE(t.files.fileExists("c:\\tarvex\\Backup\\hat-outside.txt"));
+}
+
 TEST_F(TemplateEditorTest, OfDamagedRtfTheReadablePartIsShown)
 {
     const std::string whole = "{\\rtf1{\\colortbl;\\red255\\green0\\blue0;}\\cf1 BTN S1 a\\par BTN S2 b}";

@@ -6,7 +6,6 @@
 #include "platform/free_path.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace tarvex {
 
@@ -18,16 +17,6 @@ constexpr std::string_view mark = "-outside";
 bool holds(const FileSystem& files, const std::string& path, const FileSum& sum)
 {
     return files.stamp(path).size == sum.size && sumOf(files.read(path)) == sum;
-}
-
-bool holdsAnyOf(const FileSystem& files, const std::string& path, const std::vector<FileSum>& sums)
-{
-    bool any = false;
-    const Steps step;
-    step([&] {
-        any = std::any_of(sums.begin(), sums.end(), [&](const FileSum& sum) { return holds(files, path, sum); });
-    });
-    return any;
 }
 
 /// "mig-outside.b50"
@@ -98,9 +87,7 @@ FileNews fileNews(const Editor& editor, const Side& side)
 
 OutsideChange outsideChange(const Editor& editor, const Side& side)
 {
-    const FileSystem& files = editor.platform.files;
-    if (!files.fileExists(side.FilePath) || holdsAnyOf(files, side.FilePath, harmlessContents(side)))
-        return OutsideChange::None;
+    if (!holdsSomethingElse(editor, side.FilePath, harmlessContents(side))) return OutsideChange::None;
     return side.Journal.File ? OutsideChange::Changed : OutsideChange::Unknown;
 }
 
@@ -110,13 +97,25 @@ Overwriting agreeOnOverwriting(Editor& editor, const Side& side)
     const FileSystem& files = editor.platform.files;
     std::vector<FileSum> harmless = harmlessContents(side);
     // The user may take his time to answer: what was written meanwhile is asked about, too.
-    while (files.fileExists(side.FilePath) && !holdsAnyOf(files, side.FilePath, harmless)) {
+    while (holdsSomethingElse(editor, side.FilePath, harmless)) {
         const Answer answer = askWhatToDo(editor, side);
         if (answer == Answer::No) return Overwriting::UnderAnotherName;
         if (answer != Answer::Yes) return Overwriting::Cancelled;
         harmless.push_back(sumOf(files.read(keepOutsideVersion(editor, side.FilePath))));
     }
     return Overwriting::Agreed;
+}
+
+bool holdsSomethingElse(const Editor& editor, const std::string& path, const std::vector<FileSum>& harmless)
+{
+    const FileSystem& files = editor.platform.files;
+    if (!files.fileExists(path)) return false;
+    bool isHarmless = false;
+    const Steps step;
+    step([&] {
+        isHarmless = std::ranges::any_of(harmless, [&](const FileSum& sum) { return holds(files, path, sum); });
+    });
+    return !isHarmless;
 }
 
 std::string keepOutsideVersion(Editor& editor, const std::string& path)

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvex {
 
@@ -39,6 +40,8 @@ enum class Overwriting { Agreed, UnderAnotherName, Cancelled };
 /// is in the backup directory. Throws RuntimeError when it can't be copied there.
 Overwriting agreeOnOverwriting(Editor& editor, const Side& side);
 
+/// Whether there is a file at `path`, and it has none of these contents or can't be read.
+bool holdsSomethingElse(const Editor& editor, const std::string& path, const std::vector<FileSum>& harmless);
 /// Copies a file into the backup directory, under a name that no other file gets, and returns the copy's path. Throws
 /// RuntimeError.
 std::string keepOutsideVersion(Editor& editor, const std::string& path);
