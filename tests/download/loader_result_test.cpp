@@ -54,6 +54,11 @@ TEST(LoaderResult, AThirdLineOfZeroOrNoNumberHasNoErrorLine)
     }
 }
 
+TEST(LoaderResult, ZerosInFrontOfTheErrorLineAreLeftOut)
+{
+    EXPECT_EQ(statusOf("a\r\nERROR\r\n027\r\nm\r\n"), "Compiler reported an error at line 27: m");
+}
+
 TEST(LoaderResult, ANumberAbove32767OverflowsAndLeavesTheErrorWithoutALine)
 {
     EXPECT_EQ(resultOf("a\r\nERROR\r\n32767\r\nm\r\n").errorLine, 32767);

@@ -210,12 +210,14 @@ TEST(EnterGameName, ACancelledBrowseChangesNothing)
     GAME_Form_Load(t.form());
     t.dialogues.filesToOpen = {std::nullopt, std::nullopt};
     t.dialogues.folders = {std::nullopt};
+    t.program().shared.errors.ErrorProcedure.clear();
     t.form().Command1[0].Click();
     t.form().Command1[1].Click();
     t.form().Command2.Click();
     EXPECT_EQ(t.form().Text2.Text.get(), "eg. d:\\f22\\program\\_f22.exe");
     EXPECT_EQ(t.form().Text3.Text.get(), "eg. d:\\f22\\program");
     EXPECT_EQ(t.form().Text4.Text.get(), "eg. c:\\tm\\f22\\f22progs\\f22adf.f22");
+    EXPECT_EQ(t.program().shared.errors.ErrorProcedure, "");
 }
 
 TEST(EnterGameName, BrowsingForTheJoystickFileStartsInTheProgramsFolder)

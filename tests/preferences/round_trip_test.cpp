@@ -8,6 +8,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <set>
+#include <sstream>
+
 namespace tarvex {
 namespace {
 
@@ -246,15 +252,21 @@ std::vector<Change> changesOfWinLoad()
     };
 }
 
-TEST_F(RoundTrip, EveryControlReachesItsKeyAndComesBack)
+std::vector<Change> allChanges()
 {
-    files.addFile("c:\\tarvex\\tarvexbig.wav", "RIFF");
-    start();
     std::vector<Change> changes;
     for (auto part :
          {changesOfFiles, changesOfColours, changesOfApps, changesOfSaving, changesOfMiscellaneous, changesOfWinLoad}) {
         for (Change& change : part()) changes.push_back(std::move(change));
     }
+    return changes;
+}
+
+TEST_F(RoundTrip, EveryControlReachesItsKeyAndComesBack)
+{
+    files.addFile("c:\\tarvex\\tarvexbig.wav", "RIFF");
+    start();
+    const std::vector<Change> changes = allChanges();
     inPreferences([&, this] {
         for (const Change& change : changes) change.set(preferences());
     });
@@ -263,6 +275,54 @@ TEST_F(RoundTrip, EveryControlReachesItsKeyAndComesBack)
     inPreferences([] {});
     for (const Change& change : changes)
         EXPECT_EQ(ini(change.section, change.key), change.value) << change.key << " after another start";
+}
+
+/// The keys that a key takes with it.
+const std::map<std::string, std::set<std::string>> followers = {
+    {"B50LoadPath",
+     {"WinLoadBlanker", "WinLoadExtra", "WinLoadMouse", "WinLoadMouseType", "WinLoadStatusBarErrors", "WinLoadString",
+      "WinLoadThr", "WinLoadUse"}}, // no other loader takes options
+    {"ProgramFilesPath", {"FilesDirectory"}},
+    {"JoyName", {"JoystickExtension", "MacroExtension"}},
+    {"WinLoadThr", {"WinLoadString"}},
+    {"WinLoadMouse", {"WinLoadMouseType"}}, // the types are those of a kind
+    {"WinLoadMouseType", {"WinLoadString"}},
+    {"WinLoadBlanker", {"WinLoadString"}},
+    {"WinLoadExtra", {"WinLoadString"}},
+};
+
+/// The lines of Tarvex.ini after all changes but one.
+std::set<std::string> linesWithout(const std::string& key)
+{
+    PreferencesProgram t(false);
+    t.files.addFile("c:\\tarvex\\tarvexbig.wav", "RIFF");
+    t.start();
+    t.inPreferences([&] {
+        for (const Change& change : allChanges())
+            if (change.key != key) change.set(t.preferences());
+    });
+    std::istringstream text(t.fileText("c:\\tarvex\\Tarvex.ini"));
+    std::set<std::string> lines;
+    for (std::string line; std::getline(text, line);) lines.insert(line);
+    return lines;
+}
+
+TEST(EachControl, SetsNoKeyButItsOwnAndThoseThatFollowIt)
+{
+    const auto all = linesWithout("");
+    for (const Change& change : allChanges()) {
+        if (std::string(change.key) == "FilesDirectory" || std::string(change.key) == "WinLoadString")
+            continue; // followers only
+        std::set<std::string> changed;
+        const auto without = linesWithout(change.key);
+        std::vector<std::string> differences;
+        std::ranges::set_symmetric_difference(all, without, std::back_inserter(differences));
+        for (const std::string& line : differences) changed.insert(line.substr(0, line.find('=')));
+        std::set<std::string> expected{change.key};
+        if (const auto found = followers.find(change.key); found != followers.end())
+            expected.merge(std::set(found->second));
+        EXPECT_EQ(changed, expected) << change.key;
+    }
 }
 
 // ---- bad input

@@ -271,6 +271,16 @@ TEST(GetOptions, ANumberBeyond16BitsKeepsTheEarlierValue)
     EXPECT_EQ(t.settings.AutoSaveTime, 32767);
 }
 
+TEST(GetColours, OfTheFontSizeNineCharactersAreRead)
+{
+    Store t;
+    for (const char* written : {"000000012", "0000000129"}) {
+        t.setIni("Colours", "TextFontSize", written);
+        t.store.GetColours();
+        EXPECT_EQ(t.settings.TextFontSize, 12) << written;
+    }
+}
+
 TEST(ColoursSortOut, SetsAndWritesTheFactoryValuesButNotInsertWithColour)
 {
     Store t;

@@ -2,6 +2,8 @@
 
 #include "templates/template_files.h"
 
+#include <functional>
+
 namespace tarvex {
 namespace {
 
@@ -24,6 +26,42 @@ TEST_F(TemplateEditorTest, OpeningTheDefaultAsksAboutUnsavedTextToo)
     t.dialogues.answers = {Answer::Cancel};
     t.menus().mnuEditTmCFG.Click();
     EXPECT_EQ(text().find("DLDELAY"), std::string::npos);
+}
+
+TEST_F(TemplateEditorTest, EachCommandThatGivesTheTextUpAsksAndEndsWhereItCannotBeSaved)
+{
+    struct GivingUp {
+        std::function<void()> command;
+        std::string purpose;
+        std::string refusal;
+    };
+    const std::string opening = "before opening another file?";
+    const std::string refused = "I won't proceed in opening up another file";
+    const GivingUp commands[] = {
+        {[&] { window.Command1[0].Click(); }, opening, refused},
+        {[&] { window.Command2.Click(); }, opening, refused},
+        {[&] { window.mnuEditTmCFG.Click(); }, opening, refused},
+        {[&] { window.Command1[2].Click(); }, "before creating a new file?", "I won't proceed in creating a new file"},
+    };
+    t.files.addFile("c:\\tm\\tm.cfg", "DLDELAY=20");
+    t.files.addFile(folder + "default.rtf", "x");
+    t.settings().TextFilePath = folder + "default.rtf";
+    showDefaultTemplate(window);
+    saveAs(folder + "a.txt");
+    type("mine");
+    t.files.failWrites(folder + "a.txt", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    for (const GivingUp& one : commands) {
+        t.dialogues.boxes.clear();
+        t.dialogues.answers = {Answer::Yes};
+        one.command();
+        ASSERT_EQ(t.dialogues.boxes.size(), 3U);
+        EXPECT_EQ(t.dialogues.boxes[0].title, " Save a.txt now?");
+        EXPECT_EQ(t.dialogues.boxes[0].text,
+                  "a.txt has changed and isn't saved. Do you want to save it " + one.purpose);
+        EXPECT_EQ(box().title, "Ooops!");
+        EXPECT_EQ(box().text, "a.txt wasn't saved for some reason. " + one.refusal);
+        EXPECT_EQ(text(), "mine");
+    }
 }
 
 TEST_F(TemplateEditorTest, TmCfgIsLookedForAboveTheFolderAndBesideTheLoader)

@@ -24,7 +24,6 @@ bool newDocument(Editor& editor, Side& side, std::string_view tag)
         side.pane.BackColor = side.Background;
         applyBaseFormat(editor, side.pane);
     });
-    UpdateSavedIcon(editor);
     editor.TabStrip1.Tabs(side.tab).Caption = ""; // under the same name it is another document, too
     nameUntitled(editor, side);
     side.pane.setSelStart(0);

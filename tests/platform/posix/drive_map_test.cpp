@@ -369,4 +369,13 @@ TEST_F(WineDrives, LinkThatLeadsOutOfTheDriveKeepsTheDrive)
     EXPECT_EQ(make().toDos(prefix + "/drive_c/docs/mig.b50"), "c:\\docs\\mig.b50");
 }
 
+TEST_F(WineDrives, LinkThatLeadsToAnotherDriveKeepsTheOneOfTheUsersSpelling)
+{
+    const std::string games = disk.makeDirectory("a/folder/deep/below/the/other/drive/games");
+    fs::create_directory_symlink(games, prefix + "/drive_c/games");
+    link(games, "g:");
+    ASSERT_GT(games.size(), prefix.size() + std::string("/drive_c").size()) << "the better match of the two";
+    EXPECT_EQ(make().toDos(prefix + "/drive_c/games/mig.b50"), "c:\\games\\mig.b50");
+}
+
 } // namespace tarvex

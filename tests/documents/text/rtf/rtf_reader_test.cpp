@@ -182,6 +182,7 @@ TEST(ReadRtf, BytesAreOfTheCodePageOfTheirFont)
     EXPECT_EQ(textOf(fonts + "\\'88\\f0\\'88\\f1\\'88\\f2\\'88\\f3\\'88\\f4\\'88\\f5\\'88\\f6\\'88\\f7\\'88"),
               "\x80\x88\x80\xE0\x80\x88\x80\xEA\x80");
     EXPECT_EQ(textOf(fonts + "{\\f2\\'88}\\'88\\f2\\plain\\'88"), "\xE0\x80\x80");
+    EXPECT_EQ(textOf("\\ansicpg1252{\\fonttbl{\\f0\\fcharset204 Arial CYR;}}\\f0\\'88"), "\x80");
 }
 
 TEST(ReadRtf, EastAsianCharacterOfTwoBytesIsOneQuestionMark)
