@@ -93,6 +93,19 @@ TEST_F(TemplateTest, TheTextIsMadeBlackFirstWithNothingSelectedAndTheCaretComesB
     EXPECT_EQ(pane.BackColor, settings.BackgroundColour);
 }
 
+TEST_F(TemplateTest, TheProgressBarCountsFromNothingBeyondTheTextsLengthWhileItIsShown)
+{
+    std::vector<std::string> shown;
+    const Connection visible = mum.ProgressBar1.Visible.changed.connect(
+        [&] { shown.push_back(mum.ProgressBar1.Visible ? "shown" : "hidden"); });
+    mum.ProgressBar1.Value = 9;
+    pane.setText("BTN S1 x");
+    ColourTemplateText({pane, "mine.txt", {}, settings, errors, mum, {}});
+    EXPECT_EQ(shown, (std::vector<std::string>{"shown", "hidden"}));
+    EXPECT_EQ(mum.ProgressBar1.Value, 0);
+    EXPECT_EQ(pane.Font(), (PaneFont{settings.TextFontName, static_cast<float>(settings.TextFontSize), false}));
+}
+
 TEST_F(TemplateTest, FailuresAreReportedUnderItsName)
 {
     colours("/P x");
