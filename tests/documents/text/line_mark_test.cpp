@@ -98,6 +98,14 @@ TEST_F(LineMarkTest, ALineThatThereIsNotLeavesNoMark)
     }
 }
 
+TEST_F(LineMarkTest, EachLineThatThereIsCanBeMarked)
+{
+    for (std::int64_t line = 0; line < 5; ++line) {
+        mark.set(line);
+        EXPECT_EQ(mark.line(), line);
+    }
+}
+
 TEST_F(LineMarkTest, ColoursLeaveTheMark)
 {
     mark.set(2);

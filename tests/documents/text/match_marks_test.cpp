@@ -136,5 +136,36 @@ TEST(MatchMarks, AreThoseOfASearchFromTheBeginningAfterRandomEdits)
     }
 }
 
+/// The word can't overlap itself, so a match that stays is found again at its place.
+TEST(MatchMarks, ReportExactlyTheEditsAfterWhichOneCameOrWent)
+{
+    std::mt19937 random(randomSeed());
+    const auto below = [&](std::size_t bound) { return static_cast<std::int64_t>(random() % bound); };
+    for (int round = 0; round < 100; ++round) {
+        Pane pane;
+        MatchMarks marks(pane);
+        pane.setText("ab ab b a abab x ab");
+        marks.show("ab", round % 2 == 0 ? 0 : find::wholeWord);
+        int changes = 0;
+        const Connection changed = marks.changed.connect([&] { ++changes; });
+        for (int edit = 0; edit < 30; ++edit) {
+            std::string inserted;
+            for (std::int64_t i = below(4); i > 0; --i) inserted += "ab x"[below(4)];
+            const auto size = static_cast<std::int64_t>(pane.TextLength());
+            const std::int64_t at = below(pane.TextLength() + 1);
+            const std::int64_t removed = std::min(below(4), size - at);
+            Positions expected;
+            for (const std::int64_t match : marks.positions())
+                expected.push_back(match >= at + removed ? match + static_cast<std::int64_t>(inserted.size()) - removed
+                                                         : match);
+            changes = 0;
+            const std::string before = pane.Text();
+            pane.userEdit(at, removed, inserted);
+            ASSERT_EQ(changes, expected == marks.positions() ? 0 : 1)
+                << "\"" << before << "\", " << removed << " at " << at << " by \"" << inserted << "\"";
+        }
+    }
+}
+
 } // namespace
 } // namespace tarvex

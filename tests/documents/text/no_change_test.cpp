@@ -105,5 +105,22 @@ TEST_F(NoChange, IsTheSameSearchOnceMore)
     EXPECT_EQ(reported(), 0) << "no match came or went";
 }
 
+TEST_F(NoChange, IsAnEditOfNothingButNoWrittenSelection)
+{
+    int changes = 0;
+    pane.Change = [&] { ++changes; };
+    pane.setSelLength(3);
+    pane.setSelRTF(RichText(pane.formats(), "NEW", {{3, 0}}));
+    EXPECT_EQ(changes, 1);
+    pane.setSelStart(0);
+    pane.setSelLength(3);
+    pane.setSelText("BTN");
+    EXPECT_EQ(changes, 2);
+    pane.userEdit(0, 0, "x");
+    EXPECT_EQ(changes, 3);
+    pane.userEdit(0, 0, "");
+    EXPECT_EQ(changes, 3);
+}
+
 } // namespace
 } // namespace tarvex

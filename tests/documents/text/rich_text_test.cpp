@@ -1,5 +1,6 @@
 #include "documents/text/pane.h"
 #include "documents/text/rich_text.h"
+#include "platform/text.h"
 
 #include <gtest/gtest.h>
 
@@ -117,6 +118,7 @@ TEST(RichText, EqualByLookWhenTheNumbersDiffer)
     EXPECT_EQ(one, same);
     EXPECT_FALSE(one == other);
     EXPECT_FALSE(one == RichText(one.formats(), "aB", {{1, 1}, {1, 2}}));
+    EXPECT_FALSE(one == RichText(one.formats(), "abc", {{1, 1}, {2, 2}}));
     EXPECT_EQ(RichText(), RichText(one.formats(), "", {}));
 }
 
@@ -133,6 +135,17 @@ TEST(RichTextWithWindowsLineEnds, LoneLineEndsBecomePairsInTheirOwnFormat)
     const RichText lone(table, "a\rb\n\r\n", {{1, 0}, {1, 1}, {1, 0}, {1, 1}, {2, 0}});
     const RichText pairs(table, "a\r\nb\r\n\r\n", {{1, 0}, {2, 1}, {1, 0}, {2, 1}, {2, 0}});
     EXPECT_EQ(withWindowsLineEnds(lone), pairs);
+}
+
+TEST(RichTextWithWindowsLineEnds, EveryShortTextBecomesWhatItsCharactersBecome)
+{
+    for (const std::string& text : textsOf("a\r\n", 5)) {
+        const RichText made = withWindowsLineEnds(RichText(tableWith({255}), text, {{2, 1}, {9, 0}}));
+        ASSERT_EQ(made.text(), withWindowsLineEnds(text));
+        std::size_t first = 0;
+        for (const FormatRun& run : made.runs()) first += run.format == 1 ? run.length : 0;
+        ASSERT_GE(first, std::min<std::size_t>(text.size(), 2));
+    }
 }
 
 TEST(PaneTextRTF, KeystrokeCopiesOneChunkAlone)
