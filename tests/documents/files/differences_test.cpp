@@ -37,8 +37,14 @@ TEST_F(DifferencesTest, GoFromOneDifferenceToTheNextAndStopAtTheEnds)
     EXPECT_EQ(window.Count.Caption.get(), "Difference 2 of 2");
     EXPECT_EQ(firstRowOf(window, window.Current), 3U);
     EXPECT_FALSE(window.Next.Enabled);
+    EXPECT_TRUE(window.Previous.Enabled);
     window.Next.Click();
     EXPECT_EQ(window.Current, 1);
+    window.Previous.Click();
+    EXPECT_EQ(window.Current, 0);
+    EXPECT_EQ(window.Count.Caption.get(), "Difference 1 of 2");
+    EXPECT_TRUE(window.Next.Enabled);
+    EXPECT_FALSE(window.Previous.Enabled);
     window.Previous.Click();
     EXPECT_EQ(window.Current, 0);
 }
@@ -77,6 +83,19 @@ TEST_F(DifferencesTest, AFileThatIsGoneCountsAsEmpty)
     loadDifferences(window);
     EXPECT_TRUE(window.RightLines.empty());
     EXPECT_EQ(window.Hunks.size(), 1U);
+}
+
+TEST_F(DifferencesTest, OfSeveralHaveTheirRowsOneByOne)
+{
+    load("ONE\r\ntwo\r\nTHREE\r\nfour\r\nfive\r\n");
+    const std::pair<std::size_t, bool> expected[] = {{0, false}, {2, true}, {4, true}};
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(window.Current, i);
+        EXPECT_EQ(firstRowOf(window, i), expected[i].first);
+        EXPECT_EQ(window.Previous.Enabled, expected[i].second) << i;
+        EXPECT_EQ(window.Next.Enabled, i < 2) << i;
+        window.Next.Click();
+    }
 }
 
 } // namespace

@@ -317,5 +317,22 @@ TEST(OpenFile, OneOver64MegabytesIsRefusedAndNotRead)
     EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
 }
 
+TEST_F(OpenTest, RemarksOfOneOpeningAreNotRepeatedByTheNext)
+{
+    t.settings().CheckIdentifyOK = 0;
+    t.files.addFile(mig, "one\n");
+    t.files.addFile(migMacros, "Fire = f\r\n");
+    const std::tuple<MenuItem*, const char*, const char*> commands[] = {
+        {&t.menus().mnuFileJoystickLoad, mig, "Done. mig.b50 had 1 line end of another kind."},
+        {&t.menus().MnuFileMacroLoad, migMacros, "Finished opening up macro file and extracting macros from it"},
+        {&t.menus().mnuFileOpen, mig, "Done. mig.b50 had 1 line end of another kind."},
+        {&t.menus().mnuFileJoystickLoad, mig, "Done. mig.b50 had 1 line end of another kind."}};
+    for (const auto& [command, file, status] : commands) {
+        t.dialogues.filesToOpen = {file};
+        command->Click();
+        EXPECT_EQ(t.status(), status) << command->Name;
+    }
+}
+
 } // namespace
 } // namespace tarvex

@@ -101,6 +101,9 @@ TEST_F(SaveTest, WithAnEmptyJoystickFileNothingIsIdentified)
     t.menus().mnuViewIdentify.handler = [&] { identified = true; };
     SaveMacroText(t.editor());
     EXPECT_FALSE(identified);
+    t.typeJoystick("e");
+    SaveMacroText(t.editor());
+    EXPECT_TRUE(identified);
 }
 
 TEST_F(SaveTest, AnUntitledDocumentGoesThroughSaveAsAndNotThroughTheReadOnlyTest)

@@ -377,5 +377,18 @@ TEST(IsOutsideVersion, KnowsTheNamesThatAreGivenAndNoOthers)
     }
 }
 
+TEST_F(OutsideChangeTest, ACancelledSaveOfTheMacroFileListsNoMacros)
+{
+    t.editor().TabStrip1.Select(2);
+    t.files.addFile(migMacros, "theirs = t\r\n");
+    t.typeMacro("x");
+    bool updated = false;
+    t.menus().mnuEditUpdateMacros.handler = [&] { updated = true; };
+    t.dialogues.answers = {Answer::Cancel};
+    save();
+    EXPECT_FALSE(updated);
+    EXPECT_EQ(t.editor().macro.Changed, changed::modified);
+}
+
 } // namespace
 } // namespace tarvex

@@ -522,5 +522,22 @@ TEST_F(OutsideNoticeTest, TheBoxOfASaveShowsTheDifferencesAndAsksAgain)
     EXPECT_EQ(t.fileText(mig), theirs);
 }
 
+TEST_F(OutsideNoticeTest, AVersionThatWasKeptAwayIsAnnouncedAgainAfterAReloadOrASave)
+{
+    changeOutside();
+    strip().Keep.Click();
+    changeOutside("still another\r\n");
+    strip().Reload.Click();
+    EXPECT_FALSE(strip().Visible);
+    changeOutside();
+    EXPECT_TRUE(strip().Visible) << "after a reload";
+
+    strip().Keep.Click();
+    t.dialogues.answers = {Answer::Yes};
+    t.menus().mnuFileSave.Click();
+    changeOutside();
+    EXPECT_TRUE(strip().Visible) << "after a save";
+}
+
 } // namespace
 } // namespace tarvex
