@@ -213,5 +213,99 @@ TEST_F(LineHighlight, Line0OrANumberBeyondTheEndIsInvalid)
     expectSelected(joystick, 0, 3);
 }
 
+TEST_F(LineHighlight, AnErrorLineIsMarkedAndJumpedTo)
+{
+    std::vector<int> jumps;
+    const Connection jumped = editor.Jumped.connect([&](const Side& side) { jumps.push_back(side.tab); });
+    HighlightErrorLine(editor, 4);
+    EXPECT_EQ(editor.joystick.ErrorLine.line(), 3);
+    EXPECT_EQ(jumps, std::vector<int>{1});
+}
+
+// ---- text that flashes while the caret stays ----
+
+TEST_F(LineHighlight, ATextFlashesOffOnOffAndTheCaretComesBackToItsPlace)
+{
+    joystick.setSelStart(9);
+    flashText(editor, 16, 4);
+    EXPECT_EQ(editor.joystick.Caret, 9);
+    for (int i = 0; i < 2; ++i) {
+        expectSelected(joystick, 16, 4);
+        EXPECT_EQ(editor.HighlightLength, 4);
+        tick();
+        expectSelected(joystick, 9, 0);
+        EXPECT_EQ(editor.HighlightLength, 0);
+        tick();
+    }
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    expectSelected(joystick, 9, 0);
+}
+
+TEST_F(LineHighlight, ASecondTextFlashesFromItsBeginningAndTheCaretStillComesBack)
+{
+    joystick.setSelStart(9);
+    flashText(editor, 16, 4);
+    tick();
+    tick();
+    flashText(editor, 0, 3);
+    EXPECT_EQ(editor.joystick.Caret, 9);
+    tick();
+    tick();
+    expectSelected(joystick, 0, 3);
+    tick();
+    tick();
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled);
+    expectSelected(joystick, 9, 0);
+}
+
+TEST_F(LineHighlight, TheLineOfTheCaretFlashesAndTheCaretStaysWithinIt)
+{
+    joystick.setSelStart(9);
+    flashLine(editor);
+    expectSelected(joystick, 5, 7);
+    tick();
+    expectSelected(joystick, 9, 0);
+    endBlinking(editor);
+    joystick.setSelStart(18);
+    flashLine(editor);
+    expectSelected(joystick, 16, 4);
+    endBlinking(editor);
+    expectSelected(joystick, 18, 0);
+    joystick.setText("");
+    flashLine(editor);
+    EXPECT_FALSE(editor.TimerBlinkLine.Enabled) << "there is none";
+}
+
+TEST_F(LineHighlight, TheCaretIsNotRecordedInAPaneWhoseTextFlashes)
+{
+    joystick.setSelStart(9);
+    macro.setSelStart(2);
+    flashText(editor, 16, 4);
+    EXPECT_TRUE(flashesForCaret(editor, editor.joystick));
+    EXPECT_FALSE(flashesForCaret(editor, editor.macro));
+    recordCaret(editor, editor.joystick);
+    recordCaret(editor, editor.macro);
+    EXPECT_EQ(editor.joystick.Caret, 9);
+    EXPECT_EQ(editor.macro.Caret, 2);
+    endBlinking(editor);
+    EXPECT_FALSE(flashesForCaret(editor, editor.joystick));
+    joystick.setSelStart(3);
+    recordCaret(editor, editor.joystick);
+    EXPECT_EQ(editor.joystick.Caret, 3);
+}
+
+TEST_F(LineHighlight, ALineThatFlashesNextIsNoTextOfThatKind)
+{
+    joystick.setSelStart(9);
+    flashText(editor, 16, 4);
+    endBlinking(editor);
+    t.menus().mnuViewHighlightLine.Click();
+    EXPECT_FALSE(flashesForCaret(editor, editor.joystick));
+    tick();
+    tick();
+    expectSelected(joystick, 5, 7);
+    EXPECT_EQ(editor.joystick.Caret, 5);
+}
+
 } // namespace
 } // namespace tarvex

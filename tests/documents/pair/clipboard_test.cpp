@@ -115,5 +115,59 @@ TEST_F(PairClipboard, DeleteTakesTheSelection)
     EXPECT_EQ(editor.JoystickText.Text(), "ac");
 }
 
+TEST_F(PairClipboard, CommandsAndButtonsAreOfferedWhereTheyDoSomething)
+{
+    editor.TabStrip1.Select(2);
+    Pane& pane = editor.MacroText;
+    pane.setText("text");
+    Mum& mum = t.program().mum;
+    for (const bool selection : {true, false}) {
+        for (const bool locked : {true, false}) {
+            for (const bool holdsText : {true, false}) {
+                pane.setSelStart(1);
+                pane.setSelLength(selection ? 1 : 0);
+                pane.Locked = locked;
+                t.clipboard.content = {holdsText ? "x" : "", ""};
+                editor.operations.UpdateCCPButtons();
+                SCOPED_TRACE(std::string(selection ? "selection " : "") + (locked ? "locked " : "") +
+                             (holdsText ? "text" : ""));
+                EXPECT_EQ(t.menus().mnuEditCut.Enabled, selection && !locked);
+                EXPECT_EQ(mum.Toolbar1.Buttons(7).Enabled, selection && !locked);
+                EXPECT_EQ(t.menus().mnuEditCopy.Enabled, selection);
+                EXPECT_EQ(mum.Toolbar1.Buttons(8).Enabled, selection);
+                EXPECT_EQ(t.menus().mnuEditPaste.Enabled, holdsText && !locked);
+                EXPECT_EQ(mum.Toolbar1.Buttons(9).Enabled, holdsText && !locked);
+                EXPECT_EQ(t.menus().mnuEditPastePlain.Enabled, holdsText && !locked);
+            }
+        }
+    }
+}
+
+TEST_F(PairClipboard, CommandsLeaveTheButtonsUpToDate)
+{
+    Pane& pane = editor.JoystickText;
+    const auto expectOffered = [&](const char* command, bool cut, bool paste) {
+        EXPECT_EQ(t.menus().mnuEditCut.Enabled, cut) << command;
+        EXPECT_EQ(t.menus().mnuEditPaste.Enabled, paste) << command;
+    };
+    pane.setText("one two");
+    t.menus().mnuEditSelectAll.Click();
+    expectOffered("Select All", true, false);
+    t.menus().mnuEditCopy.Click();
+    expectOffered("Copy", true, true);
+    t.menus().mnuEditDelete.Click();
+    expectOffered("Delete", false, true);
+    t.menus().mnuEditPaste.Click();
+    t.menus().mnuEditSelectAll.Click();
+    t.clipboard.content = {};
+    t.menus().mnuEditCut.Click();
+    expectOffered("Cut", false, true);
+    t.menus().mnuEditPaste.Click();
+    t.menus().mnuEditSelectAll.Click();
+    t.menus().mnuEditPastePlain.Click();
+    expectOffered("Paste as plain text", false, true);
+    EXPECT_EQ(pane.Text(), "one two");
+}
+
 } // namespace
 } // namespace tarvex

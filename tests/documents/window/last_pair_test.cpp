@@ -140,5 +140,71 @@ TEST_F(LastPairTest, ANewDocumentIsNotBroughtBack)
     EXPECT_EQ(t.editor().macro.FilePath, macros);
 }
 
+TEST_F(LastPairTest, IsNotNotedWithoutTheTick)
+{
+    t.program().shared.extras.set(extraKey::openLastPair, false);
+    ASSERT_TRUE(t.program().exit());
+    const ProfileFile ini(t.files, "c:\\tarvex\\Platform.ini");
+    for (const char* key : {"JoystickFile", "JoystickCaret", "JoystickLine", "MacroFile", "Tiled", "MacroFrame", "Tab"})
+        EXPECT_EQ(ini.readString("LastPair", key, "none", 100), "none") << key;
+}
+
+TEST_F(LastPairTest, IsNotedWithEachKey)
+{
+    t.editor().JoystickText.setSelStart(10);
+    t.editor().JoystickText.setSelLength(3);
+    t.menus().mnuViewTileVertically.Click();
+    t.editor().TabStrip1.Select(2);
+    ASSERT_TRUE(t.program().exit());
+    const ProfileFile ini(t.files, "c:\\tarvex\\Platform.ini");
+    const std::pair<const char*, const char*> keys[] = {{"JoystickFile", mig},
+                                                        {"JoystickCaret", "10"},
+                                                        {"JoystickSelection", "3"},
+                                                        {"JoystickLine", "0"},
+                                                        {"MacroFile", macros},
+                                                        {"MacroCaret", "0"},
+                                                        {"MacroSelection", "0"},
+                                                        {"MacroLine", "0"},
+                                                        {"Tiled", "1"},
+                                                        {"MacroFrame", "1"},
+                                                        {"Tab", "2"}};
+    for (const auto& [key, value] : keys) EXPECT_EQ(ini.readString("LastPair", key, "none", 100), value) << key;
+}
+
+TEST_F(LastPairTest, ComesBackWithTheSelectionNotedAndTheLineShown)
+{
+    t.editor().JoystickText.setSelStart(10);
+    t.editor().JoystickText.setSelLength(3);
+    startAgain();
+    EXPECT_EQ(t.editor().joystick.SelectionLength, 3);
+    EXPECT_EQ(t.status(3), "Line no: 2");
+}
+
+TEST_F(LastPairTest, TicksTheMacrosUsedWhenTheSettingAsksForIt)
+{
+    for (const bool identify : {true, false}) {
+        t.files.addFile(mig, "BTN S1 Fire \r\n");
+        ASSERT_TRUE(t.program().exit());
+        t.setIni("Miscellaneous", "CheckIdentifyOK", identify ? "1" : "0");
+        t.start();
+        ASSERT_EQ(t.settings().CheckIdentifyOK, identify ? 1 : 0);
+        ASSERT_FALSE(t.editor().FrameMacros.List1.front().Items.get().empty());
+        EXPECT_EQ(t.editor().FrameMacros.List1.front().Items.get().front().Selected, identify);
+    }
+}
+
+TEST_F(LastPairTest, ViewsThatWereNotNotedStayAsTheyAre)
+{
+    ASSERT_TRUE(t.program().exit());
+    const std::string files = "[Extras]\r\nOpenLastPair=1\r\n[LastPair]\r\nJoystickFile=" + std::string(mig) +
+                              "\r\nMacroFile=" + macros + "\r\n";
+    t.files.addFile("c:\\tarvex\\Platform.ini", files);
+    t.start();
+    EXPECT_EQ(t.editor().joystick.FilePath, mig);
+    EXPECT_TRUE(t.menus().mnuViewMacros.Checked) << "opening a macro file shows it";
+    EXPECT_FALSE(t.menus().mnuViewTileVertically.Checked);
+    EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
+}
+
 } // namespace
 } // namespace tarvex
