@@ -125,7 +125,7 @@ bool SheetTable::isSpread(const SheetRow& row) const
     std::set<char> letters;
     for (const ControlLayer& layer : row.layers) letters.insert(letterOf(layer));
     letters.erase(' ');
-    return m_columns.letters.size() > 1 && letters.size() > 1;
+    return letters.size() > 1;
 }
 
 // ---- rows -----------------------------------------------------------------------------------------------------------

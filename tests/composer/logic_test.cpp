@@ -225,11 +225,15 @@ TEST_F(LogicTest, WithoutLogicalLinesABoxSaysSoAndTheFirstEmptyDefinitionIsChose
     EXPECT_TRUE(tab.OptionFlag[0].Value);
 }
 
-TEST_F(LogicTest, AnEmptyJoystickFileLeavesTheFieldsAsTheyAre)
+TEST_F(LogicTest, AnEmptyJoystickFileLeavesTheFieldsAndTheChoiceAsTheyAre)
 {
     field(0).setText("mine");
+    window.SSTabFlags.Tab = 3;
+    tab.OptionFlag[30].Click();
     tab.Command13[2].Click();
     EXPECT_EQ(field(0).Text(), "mine");
+    EXPECT_EQ(window.SSTabFlags.Tab.get(), 3);
+    EXPECT_TRUE(tab.OptionFlag[30].Value);
     EXPECT_TRUE(t.dialogues.boxes.empty());
 }
 

@@ -21,6 +21,15 @@ TEST_F(SavingPageTest, UndoLevelsBelowTenAreShownAsTenWhenTheBoxIsLeft)
     EXPECT_EQ(ini("Miscellaneous", "UndoMax"), "10");
 }
 
+TEST_F(SavingPageTest, UndoLevelsBelowTenOfTheSettingsFileAreNotChangedByALook)
+{
+    settings().UndoMax = 5;
+    inPreferences([this] {
+        EXPECT_EQ(page().TxtUndoLevels.Text.get(), "5");
+        EXPECT_EQ(settings().UndoMax, 5);
+    });
+}
+
 TEST_F(SavingPageTest, UndoLevelsOf10And30000AreTaken)
 {
     for (const char* levels : {"10", "30000"}) {
