@@ -278,11 +278,10 @@ void MumWindow::changeEvent(QEvent* event)
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) cameToTheFront();
     if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
     if (isMinimized() && minimisedTooLate()) {
-        // The manager says so before it takes the window away: shown right now, it would be taken away all the same.
-        constexpr int untilItIsAway = 100; // milliseconds
-        QTimer::singleShot(untilItIsAway, this, [this] { showForm(true); });
+        comeBackOnceAway();
         return;
     }
+    m_comesBack = false;
     Form& form = m_program.mum.form;
     const WindowState shown = isMaximized() ? WindowState::Maximised : WindowState::Normal;
     form.State = isMinimized() ? WindowState::Minimised : shown;
@@ -299,6 +298,26 @@ bool MumWindow::minimisedTooLate()
     const bool late = m_restored.elapsed() < managersTime;
     m_restored.invalidate();
     return late;
+}
+
+/// The manager says that it minimises the window before it takes it away: shown right now, it would be taken away all
+/// the same. Some managers take no window away, they only draw it no longer.
+void MumWindow::comeBackOnceAway()
+{
+    constexpr int longest = 500; // milliseconds
+    m_comesBack = true;
+    windowHandle()->installEventFilter(this);
+    QTimer::singleShot(longest, this, [this] {
+        if (m_comesBack) showForm(true);
+    });
+}
+
+bool MumWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (m_comesBack && event->type() == QEvent::Expose && !windowHandle()->isExposed())
+        QMetaObject::invokeMethod(
+            this, [this] { showForm(true); }, Qt::QueuedConnection);
+    return QMainWindow::eventFilter(watched, event);
 }
 
 /// From another window of the program the keyboard goes back to the pane; from another program to where it was. Other

@@ -29,6 +29,7 @@ protected:
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void addMenuBars();
@@ -42,6 +43,7 @@ private:
     void bindLastPair();
     void reportPlace();
     bool minimisedTooLate();
+    void comeBackOnceAway();
 
     Program& m_program;
     EditorView* m_editor;
@@ -50,6 +52,7 @@ private:
     HelpKey m_helpKey;
     bool m_wasElsewhere = false; ///< another program had the keyboard
     QElapsedTimer m_restored;    ///< since the program brought its minimised window back
+    bool m_comesBack = false;    ///< it does so once more, as soon as it is away
     bool m_exiting = false;
     Bindings m_bindings;
 };

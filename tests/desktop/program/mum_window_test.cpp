@@ -3,6 +3,7 @@
 #include "desktop/menus/menu_view.h"
 #include "desktop/shell/status_bar_view.h"
 #include "shell/appearance.h"
+#include "support/eventually.h"
 #include "support/test_program.h"
 
 #include <QAction>
@@ -21,6 +22,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -321,6 +323,26 @@ TEST(MumWindow, IsMinimisedWhileALoaderRunsAndComesBackWithTheKeyboardInThePane)
         EXPECT_TRUE(shown.joystick().isAncestorOf(QApplication::focusWidget()) ||
                     QApplication::focusWidget() == &shown.joystick());
     }
+}
+
+TEST(MumWindow, ComesBackOnceMoreWhereTheManagerMinimisesItOnlyThen)
+{
+    Shown shown;
+    shown.files.addFile("c:\\tm\\mig.b50", "BTN S1 a\r\n");
+    shown.files.addFile("c:\\tm\\mig.m50", "");
+    shown.settings().B50LoadPath = "c:\\tm\\b50load.exe";
+    shown.openBoth("c:\\tm\\mig.b50");
+    shown.menus().mnuSendToJoystick.Click();
+    const Form& form = shown.program().mum.form;
+    Shown::events(); // the loader has ended at once, and only now the window hears that it was minimised
+    EXPECT_NE(form.State, WindowState::Minimised) << "the user didn't ask for it";
+    EXPECT_TRUE(eventually([&] {
+        Shown::events();
+        return !shown.window.isMinimized();
+    }));
+    shown.window.windowHandle()->setWindowState(Qt::WindowMinimized);
+    Shown::events();
+    EXPECT_EQ(form.State, WindowState::Minimised) << "this time it is the user";
 }
 
 TEST(MumWindow, TheGradientIsSeenBehindTheTabs)
