@@ -181,7 +181,7 @@ void readSelection(RAWform& window)
     Editor& editor = window.editor;
     if (!window.form.Visible || editor.shared.IsLoading == 1) return; // colouring selects as well
     const Pane& pane = editor.selected().pane;
-    if (pane.SelLength() == 0 || pane.SelLength() > longest) return;
+    if (pane.SelLength() > longest) return;
     const std::string selected = utf8FromWindows1252(pane.SelText());
     if (selected.find('#') != std::string::npos) window.RawToRead.Text = selected;
 }

@@ -34,7 +34,6 @@ void makeEdit(TemplateForm& window, const TextEdit& edit)
     Pane& pane = window.TemplateText;
     pane.setSelStart(static_cast<std::int64_t>(edit.position));
     pane.setSelLength(static_cast<std::int64_t>(edit.removed));
-    templateEditComing(window);
     if (edit.removed != 0 || !edit.inserted.empty()) pane.setSelText(edit.inserted);
     window.TemplateChanged = 1;
 }

@@ -349,6 +349,41 @@ TEST_F(ComposerTest, TheTickOnCarriageReturnsIsOnAllPages)
     for (const CheckBox& box : window.CheckMultiAddCR) EXPECT_EQ(box.Value.get(), !before);
 }
 
+TEST_F(ComposerTest, ItsButtonsAndTicksAreNamed)
+{
+    const std::pair<const Button*, std::string> buttons[] = {
+        {&window.Command5[0], "&Safein"},
+        {&window.Command5[1], "&Prefs"},
+        {&window.Command5[2], "&Find IP"},
+        {&window.Command6, "&Hide"},
+        {&window.Command14, "?"},
+        {&window.mice.Command9, "Insert"},
+        {&window.templates.Command11[0], "Insert into Joystick file"},
+        {&window.templates.Command11[1], "Insert into Macro file"},
+        {&window.templates.Command11[2], "Refresh"}};
+    for (const auto& [button, caption] : buttons) EXPECT_EQ(button->Caption.get(), caption);
+    const std::pair<const CheckBox*, std::string> boxes[] = {
+        {&window.CheckAlwaysInsert, "Always insert &BTN statement"},
+        {&window.Check2FocusThang, "&Return focus to Editor"},
+        {&window.HighlightStatement, "High&light definitions "},
+        {&window.Check1, "&Keep on top"},
+        {&window.CheckShowAssigned, "Sho&w what is assigned"},
+        {&window.macros.CheckAddCR, "Add carriage return"},
+        {&window.macros.CheckCopyTicks, "Copy the ticks too"}};
+    for (const auto& [box, caption] : boxes) EXPECT_EQ(box->Caption.get(), caption);
+    for (const CheckBox& box : window.CheckMultiAddCR)
+        EXPECT_EQ(box.Caption.get(), "Add carriage return when inserting");
+    EXPECT_EQ(window.form.Caption.get(), "Composer - to ease your programming somewhat !!!");
+}
+
+TEST_F(ComposerTest, OtherUnitsShowItByName)
+{
+    window.form.Close();
+    t.program().mum.toolWindows.show("InsertOptions");
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(window.ComposerOpen, 1);
+}
+
 TEST_F(ComposerTest, TipsSayWhatEachControlInserts)
 {
     const char* ofSlashes[] = {"Up",   "Middle",    "Down",           "In",

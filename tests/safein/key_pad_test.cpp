@@ -201,6 +201,25 @@ TEST_F(KeyPad, ACtrlThatWasLookedUpIsStillThereAfterCtrlEsc)
     EXPECT_EQ(syntax(), "LCTL");
 }
 
+TEST_F(KeyPad, CtrlEscLeavesTheTextsOfAKeyThatWasClickedMeanwhile)
+{
+    window.Capture.Click();
+    captureKey(window, keyA, 0);
+    captureKey(window, keyIndex::leftCtrl, shiftKey::ctrl);
+    click(keyB);
+    endCapture(window);
+    EXPECT_FALSE(window.Capture.isHeld());
+    EXPECT_EQ(syntax(), "b");
+    EXPECT_EQ(window.keys.LastKeyIndex, keyB);
+}
+
+TEST_F(KeyPad, ASelectedNumberSignAloneIsRead)
+{
+    t.typeJoystick("x # y");
+    select(2, 1);
+    EXPECT_EQ(window.RawToRead.Text.get(), "#");
+}
+
 TEST_F(KeyPad, RawCodesAreReadBackKeyByKey)
 {
     window.RawToRead.Text = "RAW (#12 #1C #F0 #1C)";

@@ -60,6 +60,15 @@ TEST_F(SafeinOptions, ShfKeySyntaxComputesTheLastKeyAnewWithWhatIsHeldNow)
     EXPECT_GT(selected, 0);
 }
 
+TEST_F(SafeinOptions, ShfKeySyntaxSelectsTheCodesAnewAlsoWhereTheyAreTheSame)
+{
+    click(keyA);
+    int selected = 0;
+    const Connection make = window.RMakeText.selectAllWanted.connect([&selected] { ++selected; });
+    window.mnuOption1[2].Click();
+    EXPECT_GT(selected, 0);
+}
+
 TEST_F(SafeinOptions, ViewSlashModifiersShowsTheRowAndLeavesTheSetting)
 {
     window.mnuOption1[3].Click();

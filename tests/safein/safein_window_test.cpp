@@ -2,6 +2,7 @@
 
 #include "platform/input.h"
 #include "platform/key_codes.h"
+#include "support/menu_text.h"
 
 namespace tarvex {
 namespace {
@@ -161,6 +162,43 @@ TEST_F(SafeinWindow, TipsFollowTheirOption)
     settings.OKtoShowToolTips = 0;
     UpdateTooltips(window);
     EXPECT_EQ(window.CommandPasteJ[4].ToolTipText.get() + window.Command2.ToolTipText.get(), "");
+}
+
+TEST_F(SafeinWindow, ItsMenusHaveTheirCommands)
+{
+    EXPECT_EQ(menuText(window.menuBar()), "&File\n"
+                                          " &Close Safein\n"
+                                          "&Options\n"
+                                          " &Add carriage return\n"
+                                          " Add &RAW ()\n"
+                                          " &Use SHF key syntax\n"
+                                          " &View slash modifiers\n"
+                                          " &Keep on top\n"
+                                          " &Use extended RAW codes as per An-0001.txt\n"
+                                          " -\n"
+                                          " &Explain these options\n"
+                                          " Explain e&xtended RAW codes\n"
+                                          "&Help\n"
+                                          " &Tarvex help topics\n"
+                                          " -\n"
+                                          " &Overview\n"
+                                          " What's a &RAW code?\n"
+                                          " &Use the Hide button. Why?\n");
+    EXPECT_EQ(menuText(window.delayMenu()), "20\n40\n60\n80\n100\n150\n200\n300\n400\n500\n");
+}
+
+TEST_F(SafeinWindow, ItsControlsAreNamed)
+{
+    const std::pair<const Button*, std::string> buttons[] = {{&window.Command6, "DLY()"},
+                                                             {&window.Command7, "Rem"},
+                                                             {&window.Command14, "Find IP"},
+                                                             {&window.Command2, "Hide"}};
+    for (const auto& [button, caption] : buttons) EXPECT_EQ(button->Caption.get(), caption);
+    for (const Button& button : window.CommandPasteJ) EXPECT_EQ(button.Caption.get(), "Insert");
+    EXPECT_EQ(window.Capture.Caption.get(), "Capture keys");
+    EXPECT_EQ(window.Capture.ToolTipText.get(), "Look up the keys that you press; Ctrl+Esc ends it");
+    EXPECT_EQ(window.form.Width.get() / twipsPerPixel, 960);
+    EXPECT_EQ(window.form.Height.get() / twipsPerPixel, 600);
 }
 
 TEST_F(SafeinWindow, HelpThatIsNotThereIsGreyed)

@@ -159,5 +159,48 @@ TEST_F(TemplateEditorTest, AMissingTmCfgIsReportedWithItsFolder)
     EXPECT_EQ(box().text, "Hmmm...I couldn't find your Tm.cfg file - I was looking for it here: c:\\tm\\b50progs");
 }
 
+TEST_F(TemplateEditorTest, TheCommandOfTheEditMenuOpensTheEditorAtADelayOnTheFirstLine)
+{
+    t.files.addFile("c:\\tm\\tm.cfg", "DLDELAY=20\r\n");
+    window.form.unload();
+    t.menus().mnuEditTmCFG.Click();
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_EQ(pane.SelText(), "DLDELAY");
+}
+
+TEST_F(TemplateEditorTest, ATmCfgThatBeginsLikeRtfIsPlainText)
+{
+    t.files.addFile("c:\\tm\\tm.cfg", "{\\rtf1 x}");
+    window.mnuEditTmCFG.Click();
+    EXPECT_EQ(text(), "{\\rtf1 x}");
+}
+
+TEST_F(TemplateEditorTest, TheFileMenuSetsTheDefaultAsThePopUpDoes)
+{
+    t.dialogues.filesToSave = {std::string(folder + "a.rtf")};
+    window.mnuFileSetAsDefault.Click();
+    EXPECT_EQ(t.settings().TextFilePath, "c:\\tarvex\\templates\\a.rtf");
+}
+
+TEST_F(TemplateEditorTest, ADefaultThatIsThereAfterThePreferencesCanBeOpenedAtOnce)
+{
+    t.files.addFile(folder + "a.rtf", "default");
+    t.settings().TextFilePath = folder + "a.rtf";
+    EXPECT_FALSE(window.Command2.Enabled);
+    window.mnuEdTmpPrefs.Click();
+    EXPECT_TRUE(window.Command2.Enabled);
+}
+
+TEST_F(TemplateEditorTest, ADefaultThatCannotBeReadIsNotSaidToBeOpened)
+{
+    t.files.addFile(folder + "a.rtf", "default");
+    t.settings().TextFilePath = folder + "a.rtf";
+    showDefaultTemplate(window);
+    t.files.failReads(folder + "a.rtf", RuntimeError(ErrorCode::PermissionDenied, "Permission denied"));
+    window.Command2.Click();
+    EXPECT_EQ(t.status().find("opened successfully"), std::string::npos) << t.status();
+    EXPECT_EQ(text(), "");
+}
+
 } // namespace
 } // namespace tarvex

@@ -310,9 +310,44 @@ TEST_F(TemplateEditorTest, ThePopUpOffersWhatSelectionAndClipboardAllow)
     window.mnuSelectAll.Click();
     t.clipboard.content.text = "x";
     popUpTemplateMenu(window, true);
+    EXPECT_EQ(t.dialogues.popUpsAtCaret, std::vector<std::string>{"mnuPopShow"});
+    EXPECT_EQ(t.dialogues.popUps.size(), 1U);
     EXPECT_TRUE(window.mnuCut.Enabled);
     EXPECT_TRUE(window.mnuCopy.Enabled);
     EXPECT_TRUE(window.mnuPaste.Enabled);
+}
+
+TEST_F(TemplateEditorTest, OneSelectedLetterCanBeCutAndOneLevelRedone)
+{
+    t.pressKeys(pane, "a b");
+    pane.setSelStart(0);
+    pane.setSelLength(1);
+    popUpTemplateMenu(window, false);
+    EXPECT_TRUE(window.mnuCut.Enabled && window.mnuCopy.Enabled);
+    window.mnuUndo.Click();
+    EXPECT_TRUE(window.mnuRedo.Enabled);
+    window.mnuRedo.Click();
+    EXPECT_FALSE(window.mnuRedo.Enabled);
+    EXPECT_EQ(text(), "a b");
+}
+
+TEST_F(TemplateEditorTest, TextToBlackAndTheRulesColoursAreLevelsOfTheirOwn)
+{
+    const std::string line = "BTN S1 a\r\n";
+    type(line);
+    window.mnuColourApply.Click();
+    const Colour coloured = pane.formatAt(0).colour;
+    EXPECT_NE(coloured, 0);
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), line);
+    EXPECT_EQ(pane.formatAt(0).colour, 0);
+    window.mnuRedo.Click();
+    window.mnuSelectAll.Click();
+    window.mnuTextToBlack.Click();
+    EXPECT_EQ(pane.formatAt(0).colour, 0);
+    window.mnuUndo.Click();
+    EXPECT_EQ(text(), line);
+    EXPECT_EQ(pane.formatAt(0).colour, coloured);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "support/menu_text.h"
 #include "templates/template_editor_fixture.h"
 
 namespace tarvex {
@@ -39,6 +40,84 @@ TEST_F(TemplateEditorTest, TipsAreGivenUnlessTheyAreSwitchedOff)
     for (Button& button : window.Command1) EXPECT_EQ(button.ToolTipText, "");
     EXPECT_EQ(window.CmndPrint.ToolTipText, "");
     EXPECT_EQ(window.ToggleButton1.ToolTipText, "");
+}
+
+TEST_F(TemplateEditorTest, ItsMenusHaveTheirCommandsAndKeys)
+{
+    EXPECT_EQ(menuText(window.menuBar()), "&File\n"
+                                          " &New: Ctrl+N\n"
+                                          " &Open...: Ctrl+O\n"
+                                          " Open &default template\n"
+                                          " -\n"
+                                          " &Save: Ctrl+S\n"
+                                          " Save &as...\n"
+                                          " Set as de&fault\n"
+                                          " -\n"
+                                          " &Print: Ctrl+P\n"
+                                          " -\n"
+                                          " &Close\n"
+                                          "&Edit\n"
+                                          " &Undo: Ctrl+Z\n"
+                                          " &Redo: Ctrl+Y\n"
+                                          " -\n"
+                                          " Cu&t: Ctrl+X\n"
+                                          " &Copy: Ctrl+C\n"
+                                          " &Paste: Ctrl+V\n"
+                                          " Select &all: Ctrl+A\n"
+                                          " -\n"
+                                          " &Find...: Ctrl+F\n"
+                                          " Find &next: F3\n"
+                                          " Find pre&vious: Shift+F3\n"
+                                          " -\n"
+                                          " Ed&it tm.cfg\n"
+                                          " Pre&ferences...\n"
+                                          "&View\n"
+                                          " Apply &colours: Ctrl+T\n"
+                                          " &Black text\n"
+                                          " &Edit colours...\n"
+                                          " -\n"
+                                          " &Refresh layout: Ctrl+H\n"
+                                          " Refresh &indent\n"
+                                          "&Help\n"
+                                          " &Tarvex help topics\n");
+    EXPECT_EQ(menuText(window.popUpMenu()), "Cu&t\n&Copy\n&Paste\n-\n&Black text\n-\nSet as de&fault\n");
+}
+
+TEST_F(TemplateEditorTest, ItsControlsAreNamed)
+{
+    EXPECT_EQ(window.Command1[0].Caption.get(), "Open");
+    EXPECT_EQ(window.Command1[1].Caption.get(), "Save");
+    EXPECT_EQ(window.Command1[2].Caption.get(), "New");
+    EXPECT_EQ(window.Command2.Caption.get(), "Open default template");
+    EXPECT_EQ(window.CmndPrint.Caption.get(), "Print");
+    EXPECT_EQ(window.ToggleButton1.Caption.get(), "Wrap");
+    EXPECT_EQ(window.Find.MatchCase.Caption.get(), "Match &case");
+    EXPECT_EQ(window.Find.WholeWord.Caption.get(), "W&hole words only");
+    EXPECT_EQ(window.Find.Next.Caption.get(), "Find ne&xt");
+    EXPECT_EQ(window.Find.Previous.Caption.get(), "Find &previous");
+    EXPECT_EQ(window.Find.Close.Caption.get(), "Close");
+}
+
+TEST_F(TemplateEditorTest, OpenedAnewItWrapsWithoutTheSearchRowAndWithItsTips)
+{
+    window.ToggleButton1.Click();
+    window.mnuFind.Click();
+    window.form.unload();
+    for (Button& button : window.Command1) button.ToolTipText = "";
+    t.program().mum.toolWindows.show("TemplateForm");
+    EXPECT_TRUE(window.form.Visible);
+    EXPECT_TRUE(window.ToggleButton1.isHeld());
+    EXPECT_EQ(window.RightMargin, 0);
+    EXPECT_FALSE(window.Find.Visible);
+    EXPECT_EQ(window.Command1[1].ToolTipText, "Save this file");
+}
+
+TEST_F(TemplateEditorTest, ItsHelpMenuOpensTheHandbook)
+{
+    int opened = 0;
+    t.menus().mnuHelpContents.handler = [&opened] { ++opened; };
+    window.mnuHelpContents.Click();
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(TemplateEditorTest, ClosingAsksAndACancelKeepsItOpen)

@@ -127,6 +127,16 @@ TEST_F(TemplateEditorTest, AFileThatTheUserAgreedToReplaceIsNotPutAside)
     EXPECT_FALSE(t.files.fileExists("c:\\tarvex\\Backup\\hat-outside.txt"));
 }
 
+TEST_F(TemplateEditorTest, AFileInUnicodeIsPutAsideAlsoWhereTheUserAgreedToReplaceIt)
+{
+    const std::string bytes = asUtf16("\u0416");
+    t.files.addFile(folder + "hat.txt", bytes);
+    type("new");
+    saveAs(folder + "hat.txt");
+    EXPECT_EQ(t.fileText(folder + "hat.txt"), "new");
+    EXPECT_EQ(t.fileText("c:\\tarvex\\Backup\\hat-outside.txt"), bytes);
+}
+
 TEST_F(TemplateEditorTest, OfDamagedRtfTheReadablePartIsShown)
 {
     const std::string whole = "{\\rtf1{\\colortbl;\\red255\\green0\\blue0;}\\cf1 BTN S1 a\\par BTN S2 b}";

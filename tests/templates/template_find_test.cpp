@@ -47,10 +47,24 @@ TEST_F(TemplateFindTest, GoesFromMatchToMatchAndRoundAgain)
 TEST_F(TemplateFindTest, GoesBackwardsToo)
 {
     window.Find.What.Text = "hat";
+    const std::string round = "That was all of it, so I went round once more";
+    pane.setSelStart(14);
     EXPECT_EQ(previous(), 11);
     EXPECT_EQ(previous(), 4);
     EXPECT_EQ(previous(), 0);
+    EXPECT_NE(t.status(), round);
     EXPECT_EQ(previous(), 11);
+    EXPECT_EQ(t.status(), round);
+}
+
+TEST_F(TemplateFindTest, OfMatchesSideBySideTheNearestIsFoundBackwards)
+{
+    pane.setText("aaa b");
+    pane.setSelStart(5);
+    window.Find.What.Text = "a";
+    EXPECT_EQ(previous(), 2);
+    EXPECT_EQ(previous(), 1);
+    EXPECT_EQ(previous(), 0);
 }
 
 TEST_F(TemplateFindTest, CaseAndWholeWordsCountWhenTheirBoxesAreTicked)

@@ -136,6 +136,28 @@ TEST_F(TemplateRecovery, AChangeInTheMiddleComesBackInItsPlaceWithTheCaretBehind
     EXPECT_EQ(text(), "BTN H1U up\r\n");
 }
 
+TEST_F(TemplateRecovery, ADeletionComesBackToo)
+{
+    open("hat.txt");
+    window().TemplateText.EditComing();
+    window().TemplateText.userEdit(7, 3, "");
+    killAndStart({Answer::Yes});
+    EXPECT_EQ(text(), "BTN H1U\r\n");
+    EXPECT_EQ(window().TemplateChanged, 1);
+}
+
+TEST_F(TemplateRecovery, AfterASecondEndTheSavedTextOfAChangedFileIsStillOneUndoAway)
+{
+    open("hat.txt");
+    type("mine ");
+    t.files.addFile(folder + "hat.txt", "BTN H1U theirs\r\n");
+    killAndStart({Answer::Yes});
+    killAndStart({Answer::Yes});
+    EXPECT_EQ(text(), "mine BTN H1U up\r\n");
+    window().mnuUndo.Click();
+    EXPECT_EQ(text(), "BTN H1U up\r\n");
+}
+
 TEST_F(TemplateRecovery, IsOfferedInAQuestionOfItsOwnBehindThatOfThePair)
 {
     t.typeJoystick("BTN S1 joystick");

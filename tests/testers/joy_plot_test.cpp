@@ -1,5 +1,6 @@
 #include "testers/joy_plot.h"
 
+#include "support/menu_text.h"
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
@@ -516,6 +517,32 @@ TEST_F(JoyPlotTest, ItsHelpMenuOpensTheHandbookWhereThereIsOne)
     menus().mnuHelpContents.handler = nullptr;
     open();
     EXPECT_FALSE(form.mnuHelpContents.Enabled);
+}
+
+TEST_F(JoyPlotTest, ItsMenusHaveTheirCommands)
+{
+    EXPECT_EQ(menuText(form.menuBar()), "&File\n"
+                                        " E&xit joystick analyser\n"
+                                        "&View\n"
+                                        " &Clear\n"
+                                        " -\n"
+                                        " &Plot\n"
+                                        " Show &grid\n"
+                                        " &Zoom\n"
+                                        " &Maintain 1:1 ratio\n"
+                                        " -\n"
+                                        " Show &numbers\n"
+                                        "&Window\n"
+                                        " &Cascade\n"
+                                        " Tile &horizontally\n"
+                                        " Tile &vertically\n"
+                                        " &Arrange icons\n"
+                                        "&Help\n"
+                                        " &Contents\n"
+                                        " &Overview\n"
+                                        " What's &spiking?\n"
+                                        " -\n"
+                                        " &Read me\n");
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "key_test_fixture.h"
+#include "support/menu_text.h"
 
 #include <iterator>
 #include <string>
@@ -426,6 +427,20 @@ TEST_F(KeyTestTest, CodesHaveAPlaceForTheirSign)
         EXPECT_EQ(form.RTFKeysDownText.Text().substr(0, std::string(line).size()), line);
         form.mnuClose.Click();
     }
+}
+
+TEST_F(KeyTestTest, ItsMenusHaveTheirCommands)
+{
+    EXPECT_EQ(menuText(form.menuBar()), "File\n"
+                                        " Exit\n"
+                                        "Clear\n"
+                                        " All\n"
+                                        " -\n"
+                                        " After 200ms from key up\n"
+                                        " After 400ms from key up\n"
+                                        " After 600ms from key up\n"
+                                        " After 800ms from key up\n"
+                                        " After 1000ms from key up\n");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "testers/tca.h"
 
+#include "support/menu_text.h"
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
@@ -400,6 +401,35 @@ TEST_F(TcaTest, TheBandThatIsChosenIsInTheFileAtOnce)
     const std::string first = ProfileFile(files, tcaPath).readString("Options", "TCACentreSensitivity", "", 100);
     form.SensitivityArray[1].Click();
     EXPECT_NE(ProfileFile(files, tcaPath).readString("Options", "TCACentreSensitivity", "", 100), first);
+}
+
+TEST_F(TcaTest, ItsMenusAndButtonsAreNamed)
+{
+    EXPECT_EQ(form.form.Caption.get(), "TCA - Tarvy's Controller Analyser");
+    for (std::size_t i = 0; i < form.JoyButtonAnalogue.size(); ++i)
+        EXPECT_EQ(form.JoyButtonAnalogue[i].Caption.get(), std::to_string(i + 1));
+    EXPECT_EQ(menuText(form.menuBar()), "&File\n"
+                                        " E&xit\n"
+                                        "&View\n"
+                                        " &Clear\n"
+                                        " -\n"
+                                        " &Plot\n"
+                                        " Show &grid\n"
+                                        " &Zoom\n"
+                                        " -\n"
+                                        " Grid &density\n"
+                                        "  &Low\n"
+                                        "  &Medium\n"
+                                        "  &High\n"
+                                        " Centre &sensitivity\n"
+                                        "  &Exact\n"
+                                        "  &High\n"
+                                        "  &Medium\n"
+                                        "  &Low\n"
+                                        " -\n"
+                                        " Show &numbers\n"
+                                        "&Help\n"
+                                        " &About TCA\n");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "viewer/view_image.h"
 
+#include "support/menu_text.h"
 #include "support/test_program.h"
 #include "viewer/image_commands.h"
 #include "viewer/image_place.h"
@@ -44,6 +45,38 @@ TEST_F(ViewImageTest, OpensWithTheImageLastUsed)
     EXPECT_TRUE(window.form.Visible);
     ASSERT_NE(window.Picture3.get(), nullptr);
     EXPECT_EQ(window.Picture3.get()->width(), 60);
+}
+
+TEST_F(ViewImageTest, ItsMenusHaveTheirCommandsAndKeys)
+{
+    EXPECT_EQ(window.form.Caption.get(), "Image viewer");
+    EXPECT_EQ(menuText(window.menuBar()), "&File\n"
+                                          " &Save as bitmap...: Ctrl+S\n"
+                                          " &Print: Ctrl+P\n"
+                                          " -\n"
+                                          " &Close\n"
+                                          " E&xit\n"
+                                          "&Image\n"
+                                          " &Open...: Ctrl+O\n"
+                                          " &Refresh: F5\n"
+                                          " -\n"
+                                          " &Show size\n"
+                                          " &Edit: Ctrl+E\n"
+                                          "&View\n"
+                                          " Zoom &in: Ctrl++\n"
+                                          " Zoom &out: Ctrl+-\n"
+                                          " &Fit the window: Ctrl+9\n"
+                                          " &Actual size: Ctrl+0\n"
+                                          "&Help\n"
+                                          " &Tarvex help topics\n");
+}
+
+TEST_F(ViewImageTest, ItsHelpMenuOpensTheHandbook)
+{
+    int opened = 0;
+    t.menus().mnuHelpContents.handler = [&opened] { ++opened; };
+    window.mnuHelpContents.Click();
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(ViewImageTest, OpensEmptyWhenTheImageLastUsedIsGone)

@@ -183,6 +183,29 @@ TEST(DecodeRaw, OnlyBracketsBehindTheWordRawHoldCodes)
     EXPECT_THAT(eventsOf("1RAW (#1C)"), ElementsAre("a+")) << "a digit is no letter";
 }
 
+TEST(DecodeRaw, ALetterBeforeRawMakesAnotherWordOfIt)
+{
+    for (const char* before : {"A", "Z", "a", "z"})
+        EXPECT_THAT(eventsOf(std::string(before) + "RAW (#32) RAW (#1C)"), ElementsAre("a+")) << before;
+    for (const char* before : {"@", "[", "`", "{", "/"})
+        EXPECT_THAT(eventsOf(std::string(before) + "RAW (#32) RAW (#1C)"), ElementsAre("b+", "a+")) << before;
+}
+
+TEST(DecodeRaw, AWordOfThreeCharactersIsACodeOnlyWithItsSignAndTwoDigits)
+{
+    EXPECT_THAT(eventsOf("x1C #1C"), ElementsAre("a+"));
+    EXPECT_THAT(unknownIn("x1C #1C"), ElementsAre("0 x1C"));
+    EXPECT_THAT(eventsOf("#G0 #1C"), ElementsAre("a+")) << "no prefix of a break";
+}
+
+TEST(DecodeRaw, EachKeyThatIsOnlyPressedStaysDown)
+{
+    for (const Key& key : keyTable()) {
+        if (key.index == keyIndex::pause) continue; // comes up by itself
+        EXPECT_THAT(leftDownOf(key.make), ElementsAre(std::string(key.distinctName()))) << key.index;
+    }
+}
+
 TEST(DecodeRaw, DigitsAreHexadecimalOnly)
 {
     EXPECT_EQ(unknownIn("#/0 #0/ #:0 #0: #@0 #0@ #G0 #0G #`0 #0` #g0 #0g").size(), 12U);
