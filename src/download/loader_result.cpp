@@ -57,7 +57,6 @@ void LoaderResultReader::takeLines(std::string_view piece)
 void LoaderResultReader::finish()
 {
     if (m_inLine) ++m_complete;
-    m_inLine = false;
 }
 
 const std::string& LoaderResultReader::line(std::size_t number) const
@@ -71,9 +70,7 @@ std::int16_t leadingNumber(std::string_view text)
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
-    const bool isNumber =
-        !text.empty() && (isDigit(text[0]) || (text[0] == '.' && text.size() > 1 && isDigit(text[1])));
-    if (!isNumber) return 0;
+    if (text.empty() || !(isDigit(text.front()) || text.front() == '.')) return 0;
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     value = std::trunc(negative ? -value : value);

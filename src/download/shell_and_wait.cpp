@@ -10,14 +10,10 @@ constexpr std::int32_t forEver = -1;
 } // namespace
 
 std::int32_t ShellAndWait(Processes& processes, const CurrentDirectory& current, const ProgramCommand& command,
-                          std::optional<int> style, std::optional<std::int32_t> timeout)
+                          std::optional<int> /*style*/, std::optional<std::int32_t> timeout)
 {
-    constexpr int last = windowStyle::minimisedWithoutFocus;
-    int shown = style.value_or(last);
-    if (shown < windowStyle::hidden || shown > last) shown = last;
-    shown = windowStyle::normal; // so the checks come to nothing
     try {
-        const ProcessId process = processes.start(command, shown, current.path());
+        const ProcessId process = processes.start(command, windowStyle::normal, current.path());
         return processes.wait(process, timeout.value_or(forEver));
     } catch (const RuntimeError& error) {
         return static_cast<std::int32_t>(error.code()) + automationError;

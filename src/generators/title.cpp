@@ -146,7 +146,6 @@ void SaveThePersonsName(Title& window)
     const Steps step;
     step([&] {
         Shared& shared = window.editor.shared;
-        if (shared.settings.ValidUser == window.Text3.Text.get()) return;
         shared.settings.ValidUser = window.Text3.Text.get();
         shared.store.write(Access::SaveThePersonsName, "TITLE SaveThePersonsName");
     });

@@ -208,8 +208,7 @@ void searchHandbook(Handbook& handbook, const std::string& words)
         if (!makeReady(handbook)) return;
         std::string line = words.substr(0, words.find_first_of("\r\n"));
         if (line.size() > longestSearch) line.clear(); // no sensible search
-        handbook.Search.Text = line;
-        searchNow(handbook);
+        handbook.Search.Text = line;                   // and its hits are there
         handbook.Ways.Select(Handbook::searchTab);
         const auto& hits = handbook.Hits.get();
         visit(handbook, hits.empty() ? "" : handbook.index.pages()[hits.front().page].file);

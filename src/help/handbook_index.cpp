@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace tarvex {
 
@@ -20,12 +21,12 @@ std::string folded(std::string_view text)
     return result;
 }
 
+/// Of folded text.
 bool isWordCharacter(char c)
 {
     const auto code = static_cast<unsigned char>(c);
     constexpr unsigned char firstBeyondAscii = 0x80;
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
-           code >= firstBeyondAscii;
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' || code >= firstBeyondAscii;
 }
 
 std::vector<std::string_view> split(std::string_view text, char divider)
@@ -39,7 +40,7 @@ std::vector<std::string_view> split(std::string_view text, char divider)
     return parts;
 }
 
-/// With single blanks between its words and none at the ends, and not longer than a line.
+/// With single blanks between its words and none at its start, and not longer than a line.
 std::string tidied(std::string_view words)
 {
     std::string result;
@@ -50,7 +51,6 @@ std::string tidied(std::string_view words)
         else if (!result.empty() && result.back() != ' ')
             result += ' ';
     }
-    if (result.ends_with(' ')) result.pop_back();
     return result;
 }
 
@@ -81,13 +81,13 @@ bool isInsideCharacter(const std::string& text, std::size_t at)
 {
     constexpr unsigned char kind = 0xC0;
     constexpr unsigned char continuation = 0x80;
-    return at < text.size() && (static_cast<unsigned char>(text[at]) & kind) == continuation;
+    return (static_cast<unsigned char>(text[at]) & kind) == continuation; // the text's end isn't
 }
 
 /// Cut between words, where there are any, with dots for what is left out.
 std::string excerptAround(const std::string& text, std::size_t place)
 {
-    std::size_t start = place > excerptBefore ? place - excerptBefore : 0;
+    std::size_t start = place - std::min(place, excerptBefore);
     if (start > 0) {
         const std::size_t blank = text.find(' ', start);
         if (blank < place) start = blank + 1;
@@ -124,8 +124,9 @@ void HandbookIndex::takeLine(const std::vector<std::string_view>& fields)
             m_keywords.push_back({std::string(fields[1]), std::string(fields[2])});
     } else if (kind == "topic" && fields.size() == 3) {
         int number = 0;
-        const auto [end, error] = std::from_chars(fields[1].data(), fields[1].data() + fields[1].size(), number);
-        if (error == std::errc() && end == fields[1].data() + fields[1].size()) m_topics.emplace(number, fields[2]);
+        const char* const last = fields[1].data() + fields[1].size();
+        const auto [end, error] = std::from_chars(fields[1].data(), last, number);
+        if (error == std::errc() && end == last) m_topics.emplace(number, fields[2]);
     }
 }
 
@@ -182,7 +183,7 @@ std::vector<HandbookIndex::Hit> HandbookIndex::search(std::string_view words) co
         found.push_back(std::move(one));
     }
     std::ranges::stable_sort(found, [](const Found& a, const Found& b) {
-        return a.inTitle != b.inTitle ? a.inTitle > b.inTitle : a.inText > b.inText;
+        return std::pair(a.inTitle, a.inText) > std::pair(b.inTitle, b.inText);
     });
     std::vector<Hit> hits;
     for (Found& one : found) hits.push_back(std::move(one.hit));

@@ -45,7 +45,7 @@ void TIPS_Form_Load(TipWindow& window)
     window.tips.clear();
     window.CurrentTip = 0;
     window.lblTipText.Caption = "";
-    if (!LoadTips(window, window.platform.programDirectory + "\\Tips.txt")) return;
+    LoadTips(window, window.platform.programDirectory + "\\Tips.txt");
     const auto count = static_cast<std::uint32_t>(window.tips.size());
     if (count == 0) return;
     const std::uint32_t chance = window.system != nullptr ? window.system->chance() : 0;

@@ -1,5 +1,7 @@
 #include "help/web_links.h"
 
+#include "platform/windows1252.h"
+
 #include <algorithm>
 
 namespace tarvex {
@@ -16,9 +18,7 @@ bool isAsciiLetterOrDigit(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' &
 
 bool startsWithoutCase(std::string_view text, std::string_view start)
 {
-    return text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), [](char a, char b) {
-               return a == (b >= 'A' && b <= 'Z' ? static_cast<char>(b - 'A' + 'a') : b);
-           });
+    return lowerUtf8(std::string(text.substr(0, start.size()))) == start;
 }
 
 /// The characters that an address may consist of. Neither blanks, control characters and quotes nor "\" are among them.

@@ -5,6 +5,8 @@
 #include "platform/text.h"
 #include "platform/windows1252.h"
 
+#include <algorithm>
+
 namespace tarvex {
 
 namespace {
@@ -131,8 +133,8 @@ void mnuFavsEdit_Click(Favourites& favourites) { showPreferencesPage(favourites.
 std::string proposedName(std::string_view joystickPath)
 {
     const std::string fileName = fileNameOf(joystickPath);
-    const std::size_t characters = utf8Length(fileName);
-    const std::string_view name = utf8Left(fileName, characters > 4 ? characters - 4 : 0);
+    constexpr std::size_t extension = 4; // with its dot
+    const std::string_view name = utf8Left(fileName, std::max(utf8Length(fileName), extension) - extension);
     const std::string_view first = utf8Left(name, 1);
     return upperUtf8(first) + lowerUtf8(name.substr(first.size()));
 }

@@ -403,9 +403,9 @@ std::string_view fileNameOf(IniFile file)
     case IniFile::Tca:
         return "TCA.ini";
     case IniFile::Tarvex:
-        break;
+        return "Tarvex.ini";
     }
-    return "Tarvex.ini";
+    return {};
 }
 
 } // namespace tarvex

@@ -27,7 +27,6 @@ void selectMacroTab(Editor& editor)
 void clearBoxes(MacroMaker& maker)
 {
     for (TextBox& box : maker.Text1) box.Text = "";
-    maker.Command1[insertButton].Enabled = false;
     maker.Text1[nameBox].SetFocus();
 }
 
@@ -154,9 +153,8 @@ void List1_DblClick(MacroMaker& maker)
     const Steps step;
     Editor& editor = maker.editor;
     step([&] {
-        const int picked = maker.List1.ListIndex;
-        if (picked < 0) return;
-        editor.shared.HeadingText = maker.List1.Items.get().at(static_cast<std::size_t>(picked));
+        const auto picked = static_cast<std::size_t>(maker.List1.ListIndex.get());
+        editor.shared.HeadingText = maker.List1.Items.get().at(picked); // where none is picked, nothing happens
         const std::string heading = windows1252FromUtf8(editor.shared.HeadingText);
         const std::string rule = headingRule(heading);
         selectMacroTab(editor);

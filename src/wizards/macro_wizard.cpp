@@ -24,7 +24,6 @@ MacroWizard::MacroWizard(Editor& theEditor) : maker(theEditor)
 void Form_Load(MacroWizard& window)
 {
     loadFoot(window.pages, window.maker.editor.operations);
-    nameCloseButton(window);
     loadMacroMaker(window.maker);
     window.form.markLoaded();
 }

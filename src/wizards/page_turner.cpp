@@ -27,14 +27,11 @@ void footClick(PageTurner& pages, const Operations& operations, std::size_t inde
 {
     switch (index) {
     case footButton::close:
-        pages.form.unload();
-        break;
+        return pages.form.unload();
     case footButton::next:
-        showPage(pages, pages.PageNumber + 1);
-        break;
+        return showPage(pages, pages.PageNumber + 1);
     case footButton::back:
-        showPage(pages, pages.PageNumber - 1);
-        break;
+        return showPage(pages, pages.PageNumber - 1);
     default:
         operations.HelpTopic(pages.helpTopic);
     }

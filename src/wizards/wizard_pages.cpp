@@ -32,24 +32,27 @@ public:
         if (line.starts_with("= ")) {
             m_pages.push_back({std::string(line.substr(2)), {}});
             m_open = false;
-        } else if (m_pages.empty()) {
-            return;
-        } else if (line.starts_with(exampleIndent)) {
+        } else if (!m_pages.empty()) {
+            readPiece(line);
+        }
+    }
+    std::vector<WizardPage> take() { return std::move(m_pages); }
+
+private:
+    void readPiece(std::string_view line)
+    {
+        if (line.starts_with(exampleIndent)) {
             goOn(Kind::Example, line.substr(exampleIndent.size()), '\n');
         } else if (line.empty()) {
             m_open = false;
         } else if (auto block = bracketed(line)) {
             add(std::move(*block));
-            m_open = false;
         } else if (line.starts_with("* ")) {
             add({Kind::Item, std::string(line.substr(2))});
         } else {
             goOn(openKind() == Kind::Item ? Kind::Item : Kind::Paragraph, line, ' ');
         }
     }
-    std::vector<WizardPage> take() { return std::move(m_pages); }
-
-private:
     std::optional<Kind> openKind() const
     {
         return m_open ? std::optional(m_pages.back().blocks.back().kind) : std::nullopt;
