@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+#include <utility>
+
 namespace tarvex {
 namespace {
 
@@ -206,6 +209,39 @@ TEST(LaunchGame, SwitchesAndPathsThatTheSettingsCutAreUsedWhole)
     const std::string ini = t.fileText(TestMachine::iniPath);
     for (const std::string& line : {"GamePath1=" + command, "GameDIRPath1=" + folder, "GameJF1=" + file})
         EXPECT_NE(ini.find(line + "\r\n"), std::string::npos) << line << " is not in\n" << ini;
+}
+
+TEST(LaunchGame, WhatIsMissingGetsTheFirstMessageByItsNumberOrItsWords)
+{
+    const std::pair<RuntimeError, const char*> failures[] = {
+        {RuntimeError(ErrorCode::PathNotFound, "No such directory"), notFound},
+        {RuntimeError(ErrorCode::PermissionDenied, "A library was not found"), notFound},
+        {RuntimeError(ErrorCode::PermissionDenied, "Permission denied"), notRun},
+    };
+    for (const auto& [failure, text] : failures) {
+        WithGame t;
+        t.processes.failure = failure;
+        t.launch();
+        EXPECT_EQ(t.lastBox().title, confused);
+        EXPECT_EQ(t.lastBox().text, text) << failure.what();
+    }
+}
+
+TEST(LaunchGame, AFailureOfAnotherKindGetsTheSecondMessage)
+{
+    WithGame t;
+    t.menus().mnuFileExit.handler = [] { throw std::runtime_error("not found"); };
+    t.launch();
+    EXPECT_EQ(t.lastBox().text, notRun);
+}
+
+TEST(LaunchGame, AFolderThatIsGoneLeavesTheRootOfItsDrive)
+{
+    WithGame t("d:\\gone");
+    t.program().shared.currentDirectory.ChDir("d:\\f22");
+    t.launch();
+    EXPECT_EQ(t.lastBox().text, notFound);
+    EXPECT_EQ(t.program().shared.currentDirectory.path(), "d:\\");
 }
 
 } // namespace

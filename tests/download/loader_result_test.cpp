@@ -67,6 +67,7 @@ TEST(LoaderResult, ANumberAbove32767OverflowsAndLeavesTheErrorWithoutALine)
     EXPECT_EQ(result.errorLine, 0);
     EXPECT_EQ(result.statusText(), "Compiler reported the following error: m");
     EXPECT_EQ(errors.ErrorNumber, 6);
+    EXPECT_EQ(errors.ErrorDescription, "Overflow");
     EXPECT_EQ(errors.ErrorProcedure, "TAG");
 }
 
@@ -158,6 +159,25 @@ TEST(LoaderResult, ALineEndAtTheEndBeginsNoFurtherLine)
     errors = {};
     resultOf("WinLoad\r\nERROR\r\n27\r\nx", &errors);
     EXPECT_EQ(errors.ErrorProcedure, "");
+}
+
+TEST(LeadingNumber, BeginsWithADigitOrWithItsPoint)
+{
+    for (const char* none : {"inf", "nan", "-inf", ".", "-.", ".x", "..5", "e5", "/5", ":5", "+-5", "#5"})
+        EXPECT_EQ(leadingNumber(none), 0) << none;
+    EXPECT_EQ(leadingNumber("+.9e1"), 9);
+    EXPECT_EQ(leadingNumber("0x1F"), 0);
+    EXPECT_EQ(leadingNumber("9"), 9);
+}
+
+TEST(LoaderResult, OfAnEarlierPieceThatHoldsAnErrorStaysAFailure)
+{
+    LoaderResultReader reader;
+    reader.take("WinLoad\r\nERROR\r\n27\r\n");
+    reader.take("Unknown statement\r\n");
+    reader.finish();
+    EXPECT_TRUE(reader.hasError());
+    EXPECT_THROW((void)reader.line(5), RuntimeError);
 }
 
 } // namespace

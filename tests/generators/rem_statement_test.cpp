@@ -144,5 +144,34 @@ TEST_F(RemStatement, IntoAProtectedMacroFileNothingIsWritten)
     EXPECT_EQ(t.status(), "untitled.m50 is protected and can't be edited.");
 }
 
+TEST_F(RemStatement, WhatIsTypedAtTheEndOfTheBoxMakesAllOfItPlain)
+{
+    Pane& box = window.RichTextBox1;
+    box.userEdit(0, 0, "one");
+    ASSERT_EQ(box.SelStart(), 3);
+    const auto coloured = box.Change;
+    box.Change = nullptr;
+    box.setSelStart(0);
+    box.setSelLength(2);
+    box.setSelColor(255);
+    box.setSelStart(3);
+    box.Change = coloured;
+    box.userEdit(3, 0, "x");
+    EXPECT_EQ(box.formatAt(0).colour, 0);
+    EXPECT_EQ(box.SelStart(), 4);
+}
+
+TEST_F(RemStatement, ALineThatIsTypedIsNotWrittenAnew)
+{
+    Pane& box = window.RichTextBox1;
+    int edits = 0;
+    const auto listening = box.edited.connect([&](const Pane::Edit&) { ++edits; });
+    box.userEdit(0, 0, "one");
+    const int ofTyping = edits;
+    box.userEdit(3, 0, "\r\n");
+    EXPECT_GT(edits - ofTyping, ofTyping) << "a line end is replaced";
+    EXPECT_EQ(box.Text(), "one ");
+}
+
 } // namespace
 } // namespace tarvex

@@ -215,5 +215,16 @@ TEST_F(TitleTest, IntoAProtectedMacroFileNothingIsWritten)
     EXPECT_EQ(t.status(), "untitled.m50 is protected and can't be edited.");
 }
 
+TEST_F(TitleTest, ACommentOfOneLetterAndALastLineOfOneLetterAreWritten)
+{
+    insertTitle([this] { window.RichTextBox1.userEdit(0, 0, "x"); });
+    EXPECT_NE(joystick().find("combination\r\n" + emptyLine + emptyLine + centred(26, "x") + emptyLine + border),
+              std::string::npos)
+        << joystick();
+    editor.JoystickText.setText("");
+    insertTitle([this] { window.RichTextBox1.userEdit(1, 0, "\r\ny"); });
+    EXPECT_NE(joystick().find(centred(26, "y") + emptyLine + border), std::string::npos) << joystick();
+}
+
 } // namespace
 } // namespace tarvex

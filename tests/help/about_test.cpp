@@ -103,5 +103,22 @@ TEST_F(AboutBox, TheHelpMenuShowsIt)
     EXPECT_THAT(t.dialogues.modalForms, testing::Contains("frmAbout"));
 }
 
+TEST_F(AboutBox, APictureThatIsGoneIsNoneWhenItComesUpAgain)
+{
+    t.files.addFile("c:\\tarvex\\AboutTarvy.bmp", "BM...");
+    window.Form.Visible = true;
+    window.Form.Visible = false;
+    t.files.removeFile("c:\\tarvex\\AboutTarvy.bmp");
+    window.Form.Visible = true;
+    EXPECT_EQ(window.Picture, "");
+}
+
+TEST_F(AboutBox, WithoutARegistryNoKeyHasAText)
+{
+    std::string value = "before";
+    EXPECT_FALSE(GetKeyValue(nullptr, toolKey, "PATH", value));
+    EXPECT_EQ(value, "before");
+}
+
 } // namespace
 } // namespace tarvex

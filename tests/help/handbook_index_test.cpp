@@ -234,5 +234,88 @@ TEST_F(Index, DamagedLinesArePassedOver)
     EXPECT_TRUE(HandbookIndex("").pages().empty());
 }
 
+TEST_F(Index, LinesAndTabsBetweenWordsAreBlanks)
+{
+    for (const char* words : {"raw\ncode", "raw\rcode", "raw\tcode", "raw\r\n\tcode", "RAW CODE\r\n"})
+        EXPECT_EQ(lookUp(words), "safein.html#code") << words;
+    EXPECT_THAT(found("button\r\nslash\r\n"), ElementsAre("btn.html", "safein.html"));
+}
+
+TEST_F(Index, LookUpPrefersAKeywordAtTheStartAndThenTheLongest)
+{
+    const HandbookIndex words("chapter\tc\npage\tp.html\tP\tx\n"
+                              "keyword\taa\taa\nkeyword\tbb\tbb\nkeyword\talpha beta\talpha beta\n"
+                              "keyword\tgamma\tgamma\nkeyword\tzzzz\tzzzz\nkeyword\tzz\tzz\n");
+    const std::pair<const char*, const char*> lookUps[] = {
+        {"x alpha beta gamma", "alpha beta"}, // the longest inside, whatever comes behind it in the alphabet
+        {"x gamma alpha beta", "alpha beta"},
+        {"x aa bb", "aa"}, // of two alike the first of the alphabet
+        {"x bb aa", "aa"},
+        {"bb zzzz", "bb"}, // at the start before a longer one inside
+        {"zz alpha beta", "zz"},
+        {"zz aa", "zz"},
+        {"ZzZz", "zzzz"},
+    };
+    for (const auto& [wanted, keyword] : lookUps) EXPECT_EQ(words.lookUp(wanted), keyword) << wanted;
+}
+
+TEST_F(Index, AnExcerptOfManyWordsThatAllHaveRoomIsCutNowhere)
+{
+    EXPECT_EQ(excerptOf("needle aa bb", "needle"), "needle aa bb");
+    EXPECT_EQ(excerptOf("aa bb needle", "needle"), "aa bb needle");
+}
+
+TEST_F(Index, AnExcerptOfLettersWithAccentsBeginsAndEndsBetweenThem)
+{
+    const auto accents = [](int count) {
+        std::string letters;
+        for (int i = 0; i < count; ++i) letters += "\xC3\xA9";
+        return letters;
+    };
+    EXPECT_EQ(excerptOf(accents(300) + "ax" + accents(300), "x"), "… " + accents(24) + "ax" + accents(55) + " …");
+    EXPECT_EQ(excerptOf(accents(300) + "x" + accents(300), "x"), "… " + accents(25) + "x" + accents(55) + " …");
+}
+
+TEST_F(Index, LinesOfAnotherKindAreNothingHoweverManyFieldsTheyHave)
+{
+    const HandbookIndex noise("chapter\tc\npage\ta.html\tA\tx\nnoise\t7\ta.html\nnoise\tb\nnoise\tb.html\tB\ty\n");
+    EXPECT_TRUE(noise.topics().empty());
+    EXPECT_TRUE(noise.keywords().empty());
+    EXPECT_EQ(noise.chapters().size(), 1U);
+    EXPECT_EQ(noise.pages().size(), 1U);
+}
+
+TEST_F(Index, AnExcerptOfAPlaceBehindFiftyOneLettersBeginsAtTheNextWord)
+{
+    EXPECT_EQ(excerptOf("a bb " + std::string(45, 'x') + " needle", "needle"),
+              "… bb " + std::string(45, 'x') + " needle");
+}
+
+TEST_F(Index, AnyLetterBeyondAsciiBelongsToAWord)
+{
+    EXPECT_EQ(lookUp("\xC3\x80"
+                     "BTN"),
+              "(none)");
+    EXPECT_EQ(lookUp("BTN\xC3\x80"), "(none)");
+}
+
+TEST_F(Index, APageWithoutAnyTextIsAPage)
+{
+    const HandbookIndex empty("chapter\tc\npage\ta.html\tA\t\npage\tb.html\tB\t\n");
+    EXPECT_EQ(empty.pages().size(), 2U);
+    EXPECT_EQ(empty.search("b").at(0).excerpt, "");
+}
+
+TEST_F(Index, AllWordsCountInTheTitlesAndInTheTexts)
+{
+    const auto order = [](const std::string& pages) {
+        std::vector<std::size_t> found;
+        for (const auto& hit : HandbookIndex("chapter\tc\n" + pages).search("one two")) found.push_back(hit.page);
+        return found;
+    };
+    EXPECT_THAT(order("page\ta.html\tTwo\tone two two two\npage\tb.html\tOne two\tx\n"), ElementsAre(1, 0));
+    EXPECT_THAT(order("page\ta.html\tA\tone two two\npage\tb.html\tB\tone one one two\n"), ElementsAre(1, 0));
+}
+
 } // namespace
 } // namespace tarvex

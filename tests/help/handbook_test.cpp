@@ -1,10 +1,13 @@
 #include "help/handbook.h"
 
+#include "help/handbook_place.h"
 #include "help/window_help.h"
 #include "help_program.h"
 #include "shell/help_topics.h"
 
 #include <algorithm>
+#include <cmath>
+#include <functional>
 #include <utility>
 
 namespace tarvex {
@@ -436,6 +439,64 @@ TEST_F(HandbookTest, TheInformationWindowComesBackWhereItWasClosed)
     EXPECT_EQ(form.Left.get(), 2250);
     EXPECT_EQ(form.Width.get(), 6000);
     EXPECT_EQ(form.Height.get(), 4500);
+}
+
+TEST_F(HandbookTest, WithoutOneEachWayToItExplainsThatOnceAndShowsNothing)
+{
+    system.files.clear();
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"contents", [this] { t.menus().mnuHelpContents.Click(); }},
+        {"first page", [this] { book.Home.Click(); }},
+        {"page", [this] { showHandbookPage(book, "btn.html"); }},
+        {"keyword", [this] { keyword("BTN"); }},
+        {"topic", [this] { topic(2500); }},
+        {"search", [this] { searchHandbook(book, "button"); }},
+    };
+    for (const auto& [way, go] : ways) {
+        t.dialogues.boxes.clear();
+        go();
+        EXPECT_EQ(t.dialogues.boxes.size(), 1U) << way;
+        EXPECT_FALSE(book.form.Visible) << way;
+    }
+}
+
+TEST_F(HandbookTest, TheFilterComparesWithoutCaseUpToTheWholeWord)
+{
+    system.files["index.txt"] += "keyword\tAZ[`\tbtn.html\n";
+    t.menus().mnuHelpContents.Click();
+    const auto shown = [this](const std::string& filter) {
+        book.Filter.Text = filter;
+        return book.ShownWords.get().size();
+    };
+    for (const char* filter : {"az", "AZ", "aZ[`", "AZ[`"}) EXPECT_EQ(shown(filter), 1U) << filter;
+    for (const char* filter : {"az{", "az[@", "az[`x"}) EXPECT_EQ(shown(filter), 0U) << filter;
+}
+
+TEST_F(HandbookTest, OfItsSizeTwoHundredPixelsAreKeptAndLessIsDamaged)
+{
+    const auto sized = [this](float width, float height) {
+        Form form;
+        t.program().shared.platformIni.writeString("Handbook", "Width", std::to_string(std::lround(width)));
+        t.program().shared.platformIni.writeString("Handbook", "Height", std::to_string(std::lround(height)));
+        readHandbookPlace(form, t.program().shared.platformIni, t.desktop);
+        return std::pair(form.Width.get(), form.Height.get());
+    };
+    constexpr float least = 200 * twipsPerPixel;
+    EXPECT_EQ(sized(least, least), std::pair(least, least));
+    EXPECT_EQ(sized(least - 1, 9000), std::pair(0.0F, 0.0F));
+    EXPECT_EQ(sized(9000, least - 1), std::pair(0.0F, 0.0F));
+}
+
+TEST_F(HandbookTest, TwoPagesAreOneStepApart)
+{
+    topic(2500);
+    keyword("tour");
+    EXPECT_TRUE(book.Back.Enabled);
+    book.Back.Click();
+    EXPECT_TRUE(book.Forward.Enabled);
+    book.Forward.Click();
+    EXPECT_EQ(target(), "tour.html");
+    EXPECT_FALSE(book.Forward.Enabled);
 }
 
 } // namespace

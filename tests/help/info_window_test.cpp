@@ -148,5 +148,49 @@ TEST_F(InfoPages, TheDocumentWindowTakesItDownAtTheExit)
     EXPECT_FALSE(window.form.Visible);
 }
 
+TEST_F(InfoPages, APageThatIsNoRtfIsPlainText)
+{
+    addPage("Syntax.rtf", "plain\r\nwords");
+    ShowInfoPage(window, 10);
+    EXPECT_EQ(text(), "plain\r\nwords");
+}
+
+TEST_F(InfoPages, WithoutARememberedPlaceItComesUpWhereItIs)
+{
+    const float width = window.form.Width;
+    const float height = window.form.Height;
+    window.form.Top = 1234;
+    window.form.Left = 2345;
+    ShowInfoPage(window, 10);
+    EXPECT_EQ(window.form.Top, 1234.0F);
+    EXPECT_EQ(window.form.Left, 2345.0F);
+    EXPECT_EQ(window.form.Width, width);
+    EXPECT_EQ(window.form.Height, height);
+    EXPECT_EQ(width, 7200.0F);
+    EXPECT_EQ(height, 6000.0F);
+}
+
+TEST_F(InfoPages, OfItsSizeAHundredPixelsAreKeptAndLessIsDamaged)
+{
+    for (const char* key : {"InfoWindowWidth", "InfoWindowHeight"}) t.setIni("Online Help", key, "1499");
+    ShowInfoPage(window, 10);
+    EXPECT_EQ(window.form.Width, 7200.0F);
+    EXPECT_EQ(window.form.Height, 6000.0F);
+    window.form.Close();
+    for (const char* key : {"InfoWindowWidth", "InfoWindowHeight"}) t.setIni("Online Help", key, "1500");
+    ShowInfoPage(window, 10);
+    EXPECT_EQ(window.form.Width, 1500.0F);
+    EXPECT_EQ(window.form.Height, 1500.0F);
+}
+
+TEST_F(InfoPages, OfAMinimisedWindowThePlaceIsNotKept)
+{
+    ShowInfoPage(window, 10);
+    window.form.Top = 1500;
+    window.form.State = WindowState::Minimised;
+    window.Command1.Click();
+    EXPECT_EQ(t.ini("Online Help", "InfoWindowTop"), "(none)");
+}
+
 } // namespace
 } // namespace tarvex

@@ -151,5 +151,19 @@ TEST_F(TipOfTheDay, TheHelpMenuShowsIt)
     EXPECT_THAT(t.dialogues.modalForms, testing::Contains("frmTip"));
 }
 
+TEST_F(TipOfTheDay, OpenedAgainItHasEachTipOnceAndNoneOfAFileThatIsGone)
+{
+    openWith("one\r\ntwo");
+    window.Form.Visible = false;
+    open();
+    EXPECT_THAT(window.tips, testing::ElementsAre("one", "two"));
+    window.Form.Visible = false;
+    t.files.removeFile(path);
+    open();
+    EXPECT_EQ(shown(), "");
+    EXPECT_TRUE(window.tips.empty());
+    EXPECT_EQ(window.CurrentTip, 0);
+}
+
 } // namespace
 } // namespace tarvex

@@ -141,5 +141,20 @@ TEST_F(WebLinks, AFileThatCanNotBeReadIsReportedUnderItsTag)
     EXPECT_TRUE(system.opened.empty());
 }
 
+TEST_F(WebLinks, OfALineTheBlanksAroundTheAddressAreNotOfIt)
+{
+    haveFile(" \thttp://A.Z.example/ \t\r\n");
+    click(0);
+    EXPECT_THAT(system.opened, ElementsAre("http://A.Z.example/"));
+}
+
+TEST_F(WebLinks, OfALineThatIsNoAddressTwoHundredLettersAreShown)
+{
+    haveFile(std::string(300, 'x'));
+    click(0);
+    EXPECT_THAT(t.lastBox().text, testing::StartsWith("This isn't an address that I can open: \"" +
+                                                      std::string(200, 'x') + "\". An address"));
+}
+
 } // namespace
 } // namespace tarvex

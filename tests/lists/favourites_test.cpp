@@ -512,5 +512,16 @@ TEST(FavouriteMenus, HaveAnEntryForEachOneThatIsCounted)
     EXPECT_EQ(t.menus().mnuGameArray.UBound(), 2);
 }
 
+TEST(FavouriteForm, ThatComesUpWithoutAProposalWaitsForAName)
+{
+    ErrorRecord errors;
+    Favourite current;
+    EnterFavouritename form(errors, current);
+    FAV_Form_Load(form, "");
+    EXPECT_FALSE(form.Command1.Enabled);
+    form.Text1.Text = "m";
+    EXPECT_TRUE(form.Command1.Enabled);
+}
+
 } // namespace
 } // namespace tarvex

@@ -321,6 +321,7 @@ TEST(GameClick, TheMarksAreClearedWhateverBecameOfTheSaving)
         ++launches;
         EXPECT_EQ(t.editor().joystick.Changed, changed::saved);
         EXPECT_EQ(t.editor().macro.Changed, changed::saved);
+        EXPECT_EQ(t.program().mum.StatusBar.Panels(panel::savedState).Picture, changed::saved + 2);
     };
     t.array()[1].Click();
     EXPECT_EQ(launches, 1);

@@ -161,5 +161,45 @@ TEST(RecentListOnTop, OfEntriesOfOneNameTheFirstIsTakenBeforeTheLast)
     EXPECT_EQ(names.paths[2], "p3") << "the other one stays";
 }
 
+TEST(PutOnTop, AnEntryThatStandsCutIsTheOneOfItsShownText)
+{
+    Names t(2);
+    t.names[1] = SettingText::cutTo(3, "abcdef");
+    showMenu(t.list);
+    putOnTop(t.list, {"abc", "new"});
+    EXPECT_THAT(t.names, ElementsAre("abc", "n1"));
+    EXPECT_THAT(t.paths, ElementsAre("new", "p1"));
+    EXPECT_EQ(t.count, 2);
+}
+
+TEST(PutOnTop, OfTwoThatAreCutAlikeTheOneOfTheSameWholeTextMovesUp)
+{
+    Names t(3);
+    t.names[1] = SettingText::cutTo(3, "abcdef");
+    t.names[2] = SettingText::cutTo(3, "abcxyz");
+    showMenu(t.list);
+    putOnTop(t.list, {SettingText::cutTo(3, "abcdef"), "new"});
+    EXPECT_THAT(t.paths, ElementsAre("new", "p1", "p3"));
+    EXPECT_EQ(t.names[0].whole(), "abcdef");
+    EXPECT_EQ(t.names[2].whole(), "abcxyz");
+}
+
+TEST(PutOnTop, TheTextsOfAnotherNameDoNotKeepAnEntryFromItsNewOnes)
+{
+    Names t(2);
+    putOnTop(t.list, {"n1", "p2"});
+    EXPECT_THAT(t.names, ElementsAre("n1", "n2"));
+    EXPECT_THAT(t.paths, ElementsAre("p2", "p2"));
+}
+
+TEST(PutOnTop, AColumnThatIsTooShortIsFilledUp)
+{
+    Names t(2);
+    t.paths.clear();
+    putOnTop(t.list, {"n2", "p"});
+    EXPECT_THAT(t.names, ElementsAre("n2", "n1"));
+    EXPECT_THAT(t.paths, ElementsAre("p", ""));
+}
+
 } // namespace
 } // namespace tarvex

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tarvex {
 namespace {
 
@@ -105,6 +107,23 @@ TEST_F(ToolWindowsTest, UnloadingHidesOrRunsWhatTheWindowAsksFor)
     EXPECT_TRUE(third.Visible);
     t.program().operations.UnloadForm("Nobody");
     EXPECT_EQ(unloads, 1);
+}
+
+TEST_F(ToolWindowsTest, TheModalFormsAreTakenDownByTheirNamesToo)
+{
+    Program& program = t.program();
+    const std::pair<const char*, Form*> forms[] = {
+        {"frmTip", &program.help.frmTip.Form},
+        {"frmAbout", &program.help.frmAbout.Form},
+        {"Title", &program.generators.title.Form},
+        {"Heading", &program.generators.heading.Form},
+        {"SingleTextForm", &program.generators.rem.Form},
+    };
+    for (const auto& [name, form] : forms) {
+        form->Visible = true;
+        program.operations.UnloadForm(name);
+        EXPECT_FALSE(form->Visible) << name;
+    }
 }
 
 } // namespace

@@ -182,5 +182,31 @@ TEST_F(JoystickWizardTest, StaysOpenWhileTheDocumentsChangeUnderIt)
     EXPECT_EQ(t.program().wizards.macro.WindowOpen, 1);
 }
 
+TEST_F(JoystickWizardTest, GivesTheKeyboardToTheFileAlsoWhenItIsOnTop)
+{
+    int focused = 0;
+    const auto listening = editor.JoystickText.focusWanted.connect([&] { ++focused; });
+    for (const std::size_t action : {4U, 5U, 7U}) {
+        focused = 0;
+        editor.TabStrip1.Select(1);
+        focused = 0;
+        click(action);
+        EXPECT_GE(focused, 1) << action;
+    }
+}
+
+TEST_F(JoystickWizardTest, TheComposersPlacesComeUpFromAnyOfItsTabs)
+{
+    InsertOptions& composer = t.program().composer;
+    t.menus().mnuShowInsertWindow.Click();
+    composer.SSTab1.Tab = composerPage::setUp;
+    click(7);
+    EXPECT_EQ(composer.SSTab1.Tab, composerPage::hardware);
+    int focused = 0;
+    const auto listening = composer.Command1[0].focusWanted.connect([&] { ++focused; });
+    click(6);
+    EXPECT_EQ(focused, 1) << "the first button of the USE statements";
+}
+
 } // namespace
 } // namespace tarvex

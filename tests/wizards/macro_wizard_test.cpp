@@ -329,5 +329,34 @@ TEST_F(MacroWizardTest, TheWizardsStandAtTheRightEdgeOfTheScreen)
     }
 }
 
+TEST_F(MacroWizardTest, TheSecondPageHasAWayBackAndTheFirstHasNone)
+{
+    const Button& back = window.pages.foot[footButton::back];
+    turnTo(1);
+    EXPECT_TRUE(back.Enabled);
+    back.Click();
+    EXPECT_FALSE(back.Enabled);
+}
+
+TEST_F(MacroWizardTest, InsertBeforeTheLastLineKeepsThatLineOnItsOwn)
+{
+    t.typeMacro("a = b\r\nc = d\r\n");
+    editor.MacroText.setSelStart(7);
+    insert("x", "y");
+    EXPECT_EQ(macro(), "a = b\r\nx = y\r\nc = d\r\n");
+}
+
+TEST_F(MacroWizardTest, AnEmptyListOfKeysIsNeverInserted)
+{
+    insert("Eject", "e");
+    EXPECT_FALSE(maker.Command1[4].Enabled);
+    click(5);
+    EXPECT_FALSE(maker.Command1[4].Enabled);
+    maker.List1.ListIndex = -1;
+    List1_DblClick(maker);
+    EXPECT_EQ(macro(), "Eject = e\r\n") << "no heading was picked";
+    EXPECT_EQ(t.program().shared.HeadingText, "");
+}
+
 } // namespace
 } // namespace tarvex

@@ -52,5 +52,19 @@ TEST(ReadWizardPages, UnknownBracketsAreWords)
 
 TEST(ReadWizardPages, NoTextHasNoPages) { EXPECT_TRUE(readWizardPages("").empty()); }
 
+TEST(ReadWizardPages, BracketsThatAreNotClosedOrNotOpenedAreWords)
+{
+    for (const std::string line : {"[macrox", "xmacro]", "[headings1", "macro]", "[macro"})
+        EXPECT_EQ(blocksOf(line), (Blocks{{Kind::Paragraph, line}})) << line;
+}
+
+TEST(ReadWizardPages, AnExampleOrWordsMayFollowATitleAtOnce)
+{
+    const auto pages = readWizardPages("= One\n    BTN S1 a\n= Two\nwords\n");
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_EQ(pages[0].blocks, (Blocks{{Kind::Example, "BTN S1 a"}}));
+    EXPECT_EQ(pages[1].blocks, (Blocks{{Kind::Paragraph, "words"}}));
+}
+
 } // namespace
 } // namespace tarvex
