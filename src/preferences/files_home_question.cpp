@@ -19,7 +19,6 @@ void load(Preferences& preferences)
     const Steps step;
     step([&] { where += " (" + machine.nativePath(offered) + ")"; });
     form.Choices[FilesHome::newFolder].Caption = "In a &new folder, " + where;
-    form.answered = false;
     FILES_Choices_Click(form, FilesHome::newFolder);
 }
 

@@ -51,10 +51,7 @@ void DLYText_Change(MiscellaneousPage& page)
 {
     std::string digits = page.DLYText.Text;
     std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
-    if (page.DLYText.Text != digits) {
-        page.DLYText.Text = digits;
-        return;
-    }
+    page.DLYText.Text = digits;
     const Steps step;
     if (!digits.empty()) step([&] { page.editor.shared.settings.DefaultDLYvalue = toInteger(digits); });
 }

@@ -34,11 +34,10 @@ std::int16_t minutesOf(const std::string& text)
 
 void useUsualMinutes(SavingPage& page)
 {
-    page.editor.shared.settings.AutoSaveTime = usualMinutes;
     page.editor.platform.dialogues.show(
         {.title = "Oops!",
          .text = "The value you entered isn't valid. I'm changing it to 10 minutes to prevent an error ocurring."});
-    page.Text3.Text = std::to_string(usualMinutes);
+    page.Text3.Text = std::to_string(usualMinutes); // and the setting follows
 }
 
 std::int16_t flag(const CheckBox& box) { return box.Value ? 1 : 0; }

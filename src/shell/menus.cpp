@@ -6,7 +6,6 @@ Menus::Menus()
 {
     mnuEditUndo.Enabled = false;
     mnuEditRedo.Enabled = false;
-    mnuViewMacros.Checked = false;
     for (MenuArray* list : {&mnuJFArray, &mnuMFArray, &mnuGameArray, &mnuFavArray}) {
         list->plain = true;
         list->hidesBlanks = true;

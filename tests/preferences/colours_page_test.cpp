@@ -1,3 +1,4 @@
+#include "preferences/scheme_in_force.h"
 #include "preferences_fixture.h"
 
 #include <gtest/gtest.h>
@@ -265,6 +266,56 @@ TEST_F(ColoursPageTest, ANewFontIsOnBothPanesWithTheColoursKept)
     EXPECT_EQ(editor().JoystickText.formatAt(0).colour, before);
     EXPECT_EQ(editor().joystick.Changed, state) << "a font is no edit";
     EXPECT_EQ(program().shared.FontChanged, 0);
+}
+
+TEST_F(ColoursPageTest, AFontIsBoldOrNotAsItWasChosen)
+{
+    for (const bool bold : {true, false}) {
+        inPreferences([this, bold] {
+            dialogues.fonts.emplace_back(FontChoice{"Courier New", 12, bold});
+            preferences().coloursPage.Command18.Click();
+        });
+        EXPECT_EQ(settings().TextFontBold, bold ? 1 : 0);
+        EXPECT_EQ(settings().TextFontSize, 12);
+    }
+}
+
+TEST_F(ColoursPageTest, ANewFontLeavesTheSelectionOfBothPanes)
+{
+    typeJoystick("BTN S1 a");
+    typeMacro("a = b");
+    Pane* const panes[] = {&editor().JoystickText, &editor().MacroText};
+    for (Pane* pane : panes) {
+        pane->setSelStart(1);
+        pane->setSelLength(3);
+    }
+    settings().TextFontSize = 14;
+    settings().TextFontBold = 1;
+    program().operations.DamnFontWasChanged();
+    for (const Pane* pane : panes) {
+        EXPECT_EQ(pane->SelStart(), 1);
+        EXPECT_EQ(pane->SelLength(), 3);
+    }
+}
+
+TEST_F(ColoursPageTest, NewColoursPaintTheTextsThatThereAreWhereOpenedFilesAreColoured)
+{
+    int painted = 0;
+    editor().joystick.ApplyColours = [&] { ++painted; };
+    editor().macro.ApplyColours = [&] { painted += 10; };
+    const auto timesPainted = [&] {
+        painted = 0;
+        showColourScheme(editor());
+        return painted;
+    };
+    settings().ApplyColoursOnFileOpen = 1;
+    EXPECT_EQ(timesPainted(), 0) << "no text";
+    typeJoystick("x");
+    EXPECT_EQ(timesPainted(), 1);
+    typeMacro("y");
+    EXPECT_EQ(timesPainted(), 11);
+    settings().ApplyColoursOnFileOpen = 0;
+    EXPECT_EQ(timesPainted(), 0);
 }
 
 } // namespace

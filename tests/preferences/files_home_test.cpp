@@ -141,5 +141,31 @@ TEST_F(FilesHomeTest, WithoutAnyWindowTheStartGoesOn)
     EXPECT_EQ(settings().ProgramFilesPath, "");
 }
 
+TEST_F(FilesHomeTest, ClosedAfterACancelledFolderItIsNotAskedOnAndOn)
+{
+    startAndAnswer([this] {
+        ASSERT_LE(asked(), 2);
+        if (asked() == 2) return; // closed by its frame
+        dialogues.folders.emplace_back(std::nullopt);
+        choose(FilesHome::ownFolder);
+    });
+    EXPECT_EQ(asked(), 2);
+    EXPECT_EQ(dialogues.folderRequests.size(), 1U);
+    EXPECT_EQ(dialogues.folderRequests.back().title, "Select your Thrustmaster programs directory");
+}
+
+TEST_F(FilesHomeTest, OneChoiceIsMarkedAndOkCloses)
+{
+    startAndAnswer([this] {
+        form().Form.Visible = true;
+        for (int choice : {FilesHome::later, FilesHome::oldInstallation, FilesHome::ownFolder, FilesHome::later}) {
+            form().Choices[static_cast<std::size_t>(choice)].Click();
+            for (int i = 0; i < 4; ++i) EXPECT_EQ(form().Choices[static_cast<std::size_t>(i)].Value, i == choice);
+        }
+        form().Ok.Click();
+        EXPECT_FALSE(form().Form.Visible);
+    });
+}
+
 } // namespace
 } // namespace tarvex

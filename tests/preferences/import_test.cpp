@@ -1,5 +1,6 @@
 #include "preferences/import_form.h"
 
+#include "preferences/importing.h"
 #include "preferences_fixture.h"
 #include "shell/toolbar_buttons.h"
 
@@ -374,6 +375,39 @@ TEST_F(ImportTest, AManyFoldersDeepDiskIsSearchedToABound)
     files.addFile(folder + "\\Tarvex.ini", "[Miscellaneous]\r\nUndoMax=12\r\n");
     EXPECT_EQ(findInstallation(files, "d:\\deep"), folder);
     EXPECT_EQ(findInstallation(files, "d:\\wide"), "d:\\wide");
+}
+
+TEST_F(ImportTest, PartsOfWhichOnlyTheFirstIsThereCanBeImported)
+{
+    for (const char* name : {"\\Lists.ini", "\\Templates\\Hat.rtf", "\\Templates\\Notes.TXT", "\\Backup\\f22.b50.bak"})
+        files.removeFile(old + std::string(name));
+    importFrom(old, [this] {
+        EXPECT_TRUE(form().ImportButton.Enabled);
+        EXPECT_EQ(caption(ImportPart::Lists), "&Lists of loaders (none)");
+        EXPECT_FALSE(form().Parts[1].Enabled || form().Parts[1].Value);
+        EXPECT_FALSE(desktop.hourglass) << "the search is over";
+    });
+    EXPECT_FALSE(desktop.hourglass);
+}
+
+TEST_F(ImportTest, BothButtonsClose)
+{
+    for (Button ImportForm::*button : {&ImportForm::CancelButton, &ImportForm::ImportButton}) {
+        importFrom(
+            old, [this] { form().Form.Visible = true; }, button);
+        EXPECT_FALSE(form().Form.Visible);
+    }
+}
+
+TEST_F(ImportTest, WithoutSettingsOrACopyOfTodaysNothingCountsAsImported)
+{
+    dialogues.folders.emplace_back(std::nullopt);
+    EXPECT_FALSE(importInstallation(preferences())) << "cancelled";
+    dialogues.folders.emplace_back("d:\\Program Files\\Nothing");
+    EXPECT_FALSE(importInstallation(preferences())) << "nothing found";
+    EXPECT_FALSE(desktop.hourglass);
+    dialogues.folders.emplace_back("c:\\tarvex");
+    EXPECT_FALSE(importInstallation(preferences())) << "its own folder";
 }
 
 } // namespace

@@ -129,5 +129,37 @@ TEST_F(SavingPageTest, ClearNowLeavesTheTextAsTheOnlyLevel)
     EXPECT_EQ(editor().joystick.Changed, changed::modified);
 }
 
+TEST_F(SavingPageTest, WhatAHandEditedFileSaysStandsUntilTheDialogueCloses)
+{
+    settings().UndoMax = 5;
+    settings().AutoSaveTime = 0;
+    inPreferences([this] {
+        EXPECT_EQ(page().TxtUndoLevels.Text.get(), "5");
+        EXPECT_EQ(page().Text3.Text.get(), "0");
+        EXPECT_EQ(settings().UndoMax, 5);
+        EXPECT_EQ(settings().AutoSaveTime, 0);
+    });
+    EXPECT_EQ(settings().UndoMax, 10);
+}
+
+TEST_F(SavingPageTest, UndoLevelsAreInForceAsTheyAreWritten)
+{
+    inPreferences([this] {
+        page().TxtUndoLevels.Text = "77";
+        EXPECT_EQ(settings().UndoMax, 77);
+    });
+}
+
+TEST_F(SavingPageTest, TheTickOfTheAutomaticSaveCanBeUsedAgainAtTheNextOpening)
+{
+    inPreferences([this] {
+        page().Text3.Text = "";
+        EXPECT_FALSE(page().Check3[0].Enabled);
+    });
+    settings().AutoSaveTime = 7;
+    page().Text3.Text = "";
+    inPreferences([this] { EXPECT_TRUE(page().Check3[0].Enabled); });
+}
+
 } // namespace
 } // namespace tarvex

@@ -231,5 +231,25 @@ TEST_F(PreviousLoadersTest, WithoutALoaderThereIsNothingToList)
     EXPECT_EQ(stored("NumPreviousLoaders"), "(none)");
 }
 
+TEST_F(WinLoadPageTest, TheFirstTypeOfAMouseIsKeptInPlaceOfAnother)
+{
+    inPreferences([this] { chooseMouse(0, 3); });
+    inPreferences([this] { chooseMouse(0, 0); });
+    EXPECT_EQ(settings().WinLoadMouseType, 0);
+    EXPECT_EQ(ini("WinLoad", "WinLoadMouseType"), "0");
+}
+
+TEST_F(WinLoadPageTest, AMouseThatIsChosenAgainBringsItsTypeBack)
+{
+    inPreferences([this] {
+        chooseMouse(0, 1);
+        const std::string first = shown();
+        chooseMouse(1, 2);
+        EXPECT_NE(shown(), first);
+        page().OptionMouse[0].Click();
+        EXPECT_EQ(shown(), first);
+    });
+}
+
 } // namespace
 } // namespace tarvex

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <string>
+
 namespace tarvex {
 namespace {
 
@@ -146,6 +149,29 @@ TEST(ChangeToFolderOf, StopsWhereItMustAndReportsEachStepThatFails)
     EXPECT_EQ(errors.ErrorNumber, 76);
     changeToFolderOf(w.current, "", Steps(errors, "TAG"));
     EXPECT_EQ(w.current.path(), "d:\\");
+}
+
+TEST(CurrentDirectory, SaysInWordsWhyItStays)
+{
+    World w;
+    const auto reasonOf = [](const std::function<void()>& work) -> std::string {
+        try {
+            work();
+        } catch (const RuntimeError& error) {
+            return error.what();
+        }
+        return "";
+    };
+    EXPECT_EQ(reasonOf([&] { w.current.ChDrive("1"); }), "Invalid procedure call or argument");
+    EXPECT_EQ(reasonOf([&] { w.current.ChDrive("q"); }), "Device unavailable");
+    EXPECT_EQ(reasonOf([&] { w.current.ChDir("c:\\gone"); }), "Path not found");
+}
+
+TEST(ChDir, OfARootWithTwoBackslashesIsTheRoot)
+{
+    World w;
+    w.current.ChDir("c:\\\\");
+    EXPECT_EQ(w.current.path(), "c:\\");
 }
 
 } // namespace

@@ -92,5 +92,19 @@ TEST(ReportError, ExitsWhenTheReportWindowAsksForIt)
     EXPECT_TRUE(exited);
 }
 
+TEST(ErrorRecord, AFailureOfTheLanguageHasNumberFiveAlsoAfterAnother)
+{
+    ErrorRecord errors;
+    int asked = 0;
+    errors.reportWindow = [&asked] { ++asked; };
+    errors.report("ED_Form_Load", RuntimeError(ErrorCode::DiskFull, "Disk full", 28));
+    EXPECT_EQ(errors.ErrorNumber, static_cast<float>(ErrorCode::DiskFull));
+    EXPECT_EQ(errors.ErrorLastDllError, "28");
+    errors.report("ED_Form_Load", std::logic_error("odd"));
+    EXPECT_EQ(errors.ErrorNumber, 5.0F);
+    EXPECT_EQ(errors.ErrorLastDllError, "0");
+    EXPECT_EQ(asked, 2);
+}
+
 } // namespace
 } // namespace tarvex

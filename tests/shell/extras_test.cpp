@@ -6,6 +6,8 @@
 
 #include <set>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace tarvex {
 namespace {
@@ -40,6 +42,17 @@ TEST_F(ExtrasTest, KeysAreUnique)
 {
     std::set<std::string_view> keys;
     for (const ExtraTick& tick : extraTicks()) EXPECT_TRUE(keys.insert(tick.key).second) << tick.key;
+}
+
+TEST_F(ExtrasTest, AnotherValueIsAnnouncedAndTheSameIsNot)
+{
+    std::vector<std::string> announced;
+    const auto listening = extras.changed.connect([&](std::string_view key) { announced.emplace_back(key); });
+    const ExtraTick& tick = extraTicks().front();
+    extras.set(tick.key, tick.standard);
+    EXPECT_TRUE(announced.empty());
+    extras.set(tick.key, !tick.standard);
+    EXPECT_EQ(announced, std::vector<std::string>{std::string(tick.key)});
 }
 
 } // namespace

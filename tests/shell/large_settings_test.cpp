@@ -1,4 +1,5 @@
 #include "platform/profile_file.h"
+#include "shell/large_settings.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -75,6 +76,14 @@ TEST(LargeSettings, AFileThatGrowsWhileItIsWrittenStaysAsItIs)
     }
     EXPECT_TRUE(t.fileText("c:\\tarvex\\x.ini") == bytes);
     EXPECT_EQ(profile.readString("A", "b", "default"), "default");
+}
+
+TEST(LargeSettings, OfFilesUpTo16MegabytesNothingIsSaid)
+{
+    TestMachine machine;
+    machine.files.addFile("c:\\tarvex\\Lists.ini", iniOfSize(largestProfile));
+    reportLargeSettings(machine.platform);
+    EXPECT_TRUE(machine.dialogues.boxes.empty());
 }
 
 } // namespace

@@ -70,5 +70,19 @@ TEST(MenuBar, ListsOfFilesAndNamesShowThemAsTheyAreAndCustomAppsMarkTheirAccessK
     EXPECT_FALSE(menus.mnuCustomApp.plain);
 }
 
+TEST(Menus, StartWithNothingToUndoAndWithListsThatAreEmpty)
+{
+    Menus menus;
+    EXPECT_FALSE(menus.mnuEditUndo.Enabled);
+    EXPECT_FALSE(menus.mnuEditRedo.Enabled);
+    EXPECT_FALSE(menus.mnuViewMacros.Checked);
+    for (MenuArray* list : {&menus.mnuJFArray, &menus.mnuMFArray, &menus.mnuGameArray, &menus.mnuFavArray}) {
+        EXPECT_TRUE(list->plain) << list->Name;
+        EXPECT_TRUE(list->hidesBlanks) << list->Name;
+        EXPECT_FALSE((*list)[0].Enabled) << list->Name;
+    }
+    EXPECT_FALSE(menus.mnuCustomApp.plain);
+}
+
 } // namespace
 } // namespace tarvex

@@ -52,5 +52,19 @@ TEST(SettingText, InLowerCaseIsSoAsAWhole)
     EXPECT_EQ(SettingText("AB").lower().whole(), "ab");
 }
 
+TEST(SettingText, WithALetterChangedIsWholeAlsoWhenItIsAsLong)
+{
+    SettingText text = SettingText::cutTo(3, "abcdef");
+    static_cast<std::string&>(text)[0] = 'x';
+    EXPECT_EQ(text.whole(), "xbc");
+}
+
+TEST(SettingText, OfItsOwnLengthInLowerCaseIsCutAsItWas)
+{
+    const SettingText text = SettingText::cutTo(3, "ABCDEF").lower();
+    EXPECT_TRUE(text.isCut());
+    EXPECT_FALSE(SettingText("ABC").lower().isCut());
+}
+
 } // namespace
 } // namespace tarvex

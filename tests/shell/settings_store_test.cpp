@@ -373,5 +373,84 @@ TEST(SettingsStore, KeepsWhatOthersWroteIntoTheFile)
     EXPECT_EQ(text.find("; my notes\r\n[Miscellaneous]\r\nUndoMax=20\r\nColourOfMyHat=green\r\n"), 0U) << text;
 }
 
+TEST(GetOptions, ANegativeNumberOf16BitsIsTakenAndASmallerOneIsNot)
+{
+    Store t;
+    t.setIni("Miscellaneous", "AutoSaveTime", "-32768");
+    t.store.GetOptions();
+    EXPECT_EQ(t.settings.AutoSaveTime, -32768);
+    t.setIni("Miscellaneous", "AutoSaveTime", "-32769");
+    t.settings.AutoSaveTime = 7;
+    t.store.GetOptions();
+    EXPECT_EQ(t.settings.AutoSaveTime, 7);
+    EXPECT_EQ(t.errors.ErrorNumber, 6.0F);
+    EXPECT_EQ(t.errors.ErrorDescription, "Overflow");
+}
+
+TEST(SaveOptions, AnEmptyKeyIsGivenItsNumberAlsoWhereThatIsNought)
+{
+    Store t;
+    t.store.GetOptions();
+    t.setIni("Miscellaneous", "CreateBackup", "");
+    t.settings.CreateBackup = 0;
+    t.store.SaveOptions();
+    EXPECT_EQ(t.ini("Miscellaneous", "CreateBackup"), "0");
+}
+
+TEST(GetColours, ANumberWithZerosUpToFortyNineLettersIsRead)
+{
+    Store t;
+    t.store.GetColours();
+    t.setIni("Colours", "BTNColour", std::string(46, '0') + "255");
+    t.setIni("Colours", "SlashColour", std::string(47, '0') + "255");
+    t.store.GetColours();
+    EXPECT_EQ(t.settings.BTNColour, 255);
+    EXPECT_EQ(t.settings.SlashColour, 25) << "the fiftieth letter has no room";
+}
+
+TEST(SettingsStore, NumbersWithAPlaceForTheirSignAreWrittenWithIt)
+{
+    Store t;
+    const auto written = [&t](const std::string& line) {
+        return t.fileText(Store::iniPath).find("\r\n" + line + "\r\n") != std::string::npos;
+    };
+    t.settings.SafeinOnTop = 0;
+    t.settings.SafeinViewModifiers = -1;
+    t.settings.AddSafeinCR = 7;
+    t.store.write(Access::SaveSafeinOptions, "SAFEIN SaveSafeinOptions");
+    EXPECT_TRUE(written("SafeinOnTop= 0")) << t.fileText(Store::iniPath);
+    EXPECT_TRUE(written("SafeinViewModifiers=-1"));
+    EXPECT_TRUE(written("AddSafeinCR=7"));
+}
+
+TEST(SettingsStore, AFamilyThatIsReadAgainHasEachEntryOnce)
+{
+    Store t;
+    t.setIni("Favourites", "FavArrayNum", "2");
+    t.setIni("Favourites", "FavName2", "second");
+    t.setIni("Apps", "CustomAppUse2", "1");
+    t.setIni("Apps", "CustomAppUse4", "1");
+    for (int i = 0; i < 2; ++i) {
+        t.store.read(Access::GetFavourites, "MODULE GetFavourites");
+        t.store.read(Access::GetCustomApps, "MODULE GetCustomApps");
+    }
+    EXPECT_EQ(t.settings.FavName, (std::vector<SettingText>{"", "second"}));
+    EXPECT_EQ(t.settings.CustomAppUse, (std::vector<std::int16_t>{0, 1, 0, 1}));
+}
+
+TEST(SettingsStore, SaysWhichFilesCouldNotBeWrittenAndWhy)
+{
+    Store t;
+    t.store.GetOptions();
+    t.store.SaveOptions();
+    EXPECT_TRUE(t.store.writeFailures().empty());
+    t.files.failWrites(Store::iniPath, RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    t.settings.UndoMax = 99;
+    t.store.SaveOptions();
+    ASSERT_EQ(t.store.writeFailures().size(), 1U);
+    EXPECT_EQ(t.store.writeFailures().front().path, Store::iniPath);
+    EXPECT_EQ(t.store.writeFailures().front().reason, "Disk full");
+}
+
 } // namespace
 } // namespace tarvex

@@ -1,5 +1,7 @@
 #include "shell/tool_form.h"
 
+#include "support/test_program.h"
+
 #include <gtest/gtest.h>
 
 namespace tarvex {
@@ -90,6 +92,57 @@ TEST(OnScreen, PlacesFrom0ToTheScreensSizeStayAndOthersBecome200)
     EXPECT_EQ(onScreen(1000, 1000), 1000);
     EXPECT_EQ(onScreen(-0.5F, 1000), 200);
     EXPECT_EQ(onScreen(1000.5F, 1000), 200);
+}
+
+struct PlaceTest : testing::Test, TestMachine {
+    Settings settings;
+    ErrorRecord errors;
+    SettingsStore store{files, programDirectory, settings, errors};
+    Form form;
+    PlaceSettings place{&Settings::SafeinTop, &Settings::SafeinLeft,   Access::PositionSafein,
+                        Access::SavePosition, "SAFEIN PositionSafein", "SAFEIN SavePosition"};
+
+    void position() { positionForm(form, place, 300, 400, settings, store, desktop); }
+    void save() { savePosition(form, place, settings, store, desktop); }
+};
+
+TEST_F(PlaceTest, WithoutARememberedOneIsTheDefault)
+{
+    position();
+    EXPECT_EQ(form.Top, 300.0F);
+    EXPECT_EQ(form.Left, 400.0F);
+    EXPECT_EQ(settings.SafeinTop, 300.0F);
+    EXPECT_EQ(settings.SafeinLeft, 400.0F);
+}
+
+TEST_F(PlaceTest, IsKeptAndComesBackWithinTheScreen)
+{
+    form.Top = desktop.screenHeight();
+    form.Left = desktop.screenWidth();
+    save();
+    form.Top = 0;
+    form.Left = 0;
+    position();
+    EXPECT_EQ(form.Top, desktop.screenHeight());
+    EXPECT_EQ(form.Left, desktop.screenWidth());
+    form.Top = desktop.screenHeight() + 1;
+    form.Left = -1;
+    save();
+    EXPECT_EQ(settings.SafeinTop, placeOffScreen);
+    EXPECT_EQ(settings.SafeinLeft, placeOffScreen);
+    setIni("Miscellaneous", "SafeinTop", "-7");
+    setIni("Miscellaneous", "SafeinLeft", "999999");
+    position();
+    EXPECT_EQ(form.Top, placeOffScreen);
+    EXPECT_EQ(form.Left, placeOffScreen);
+}
+
+TEST_F(PlaceTest, OfAMinimisedWindowIsNotKept)
+{
+    form.Top = 500;
+    form.State = WindowState::Minimised;
+    save();
+    EXPECT_EQ(ini("Miscellaneous", "SafeinTop"), "(none)");
 }
 
 } // namespace

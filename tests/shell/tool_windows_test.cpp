@@ -126,5 +126,14 @@ TEST_F(ToolWindowsTest, TheModalFormsAreTakenDownByTheirNamesToo)
     }
 }
 
+TEST_F(ToolWindowsTest, AWindowThatNobodyKnowsOrThatCannotBeOpenedByNameIsNotShown)
+{
+    const ToolWindows& windows = t.program().mum.toolWindows;
+    EXPECT_FALSE(windows.canShow("Nobody"));
+    EXPECT_FALSE(windows.canShow("Open"));
+    windows.show("Open");
+    EXPECT_FALSE(open.Visible);
+}
+
 } // namespace
 } // namespace tarvex

@@ -184,5 +184,18 @@ TEST(ComboJoystick_Click, TheSameIndexIsNoChange)
     EXPECT_EQ(t.shared.HardwareChangedMark, 0);
 }
 
+TEST(AutoDetect, AnF22ProTakesThePlaceOfAnotherJoystick)
+{
+    Machine t;
+    t.settings.JoyName = 4;
+    t.settings.JoystickExtension = "adv";
+    t.files.addDirectory("c:\\tm\\f22");
+    t.detect();
+    EXPECT_EQ(t.settings.JoyName, 0);
+    EXPECT_EQ(t.settings.JoystickExtension, "f22");
+    EXPECT_EQ(t.ini("FileLocations", "JoyName"), "0");
+    EXPECT_EQ(t.ini("FileLocations", "CandCCPath"), "c:\\tm\\f22\\f22.bat");
+}
+
 } // namespace
 } // namespace tarvex
