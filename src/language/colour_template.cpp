@@ -42,7 +42,6 @@ void ColourTemplateText(const TemplateColouring& work)
     runPasses({pane, work.settings, position, step, &work.mum, work.held}, templatePasses());
 
     pane.setSelStart(caret);
-    pane.setSelLength(0);
     status = "Done";
     bar.Visible = false;
 }

@@ -71,7 +71,6 @@ std::map<std::string, ControlStatement, std::less<>> controlStatements(std::stri
         if (open.head.empty()) return;
         statements.try_emplace(open.head, ControlStatement{std::string(text.substr(open.begin, open.end - open.begin)),
                                                            open.line, static_cast<std::int64_t>(open.begin)});
-        open.head.clear();
     };
     std::int64_t number = 0;
     for (std::size_t begin = 0; begin < text.size();) {

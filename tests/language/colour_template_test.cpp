@@ -98,11 +98,17 @@ TEST_F(TemplateTest, TheProgressBarCountsFromNothingBeyondTheTextsLengthWhileItI
     std::vector<std::string> shown;
     const Connection visible = mum.ProgressBar1.Visible.changed.connect(
         [&] { shown.push_back(mum.ProgressBar1.Visible ? "shown" : "hidden"); });
+    std::vector<int> atFirstPass;
+    const Connection passes = mum.StatusBar.Panels(panel::progress).Text.changed.connect([&] {
+        if (mum.StatusBar.Panels(panel::progress).Text.get() == "Applying colour to BTN statements ...")
+            atFirstPass = {mum.ProgressBar1.Min, mum.ProgressBar1.Max, mum.ProgressBar1.Value};
+    });
+    mum.ProgressBar1.Min = 7;
     mum.ProgressBar1.Value = 9;
     pane.setText("BTN S1 x");
     ColourTemplateText({pane, "mine.txt", {}, settings, errors, mum, {}});
     EXPECT_EQ(shown, (std::vector<std::string>{"shown", "hidden"}));
-    EXPECT_EQ(mum.ProgressBar1.Value, 0);
+    EXPECT_EQ(atFirstPass, (std::vector<int>{0, 9, 0}));
     EXPECT_EQ(pane.Font(), (PaneFont{settings.TextFontName, static_cast<float>(settings.TextFontSize), false}));
 }
 

@@ -101,6 +101,7 @@ TEST_F(RunTest, ABlankWordAt32768ReadsWhatTheMatchBeforeRead)
     EXPECT_EQ(errors.ErrorNumber, 5);
     EXPECT_EQ(coloursFrom(32767, "USE x" + blanks(32763) + "USE\tx"), ".MMM..") << "a blank was read before";
     EXPECT_EQ(coloursFrom(32767, "USE\tx" + blanks(32763) + "USE x"), "......") << "a tab was read before";
+    EXPECT_EQ(coloursFrom(32767, "ANT x" + blanks(32763) + "USE x"), "......") << "another pass read a blank";
     EXPECT_TRUE(holds.empty());
 }
 

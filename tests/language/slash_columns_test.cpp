@@ -62,6 +62,18 @@ TEST(AlignedText, IndentingPutsItsBlanksInFrontOfEveryLineButComments)
     EXPECT_EQ(alignedText("a", 1), " a\r\n");
 }
 
+TEST(AlignedText, BelowALineWithoutItsCounterpartAModifierGoesWhereTheStatementHadItsKind)
+{
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"/I", "/I", "/T"}, {"/I", "/O", "/T"}, {"/O", "/I", "/T"}, {"/O", "/O", "/T"}, {"/P", "/P", "/T"},
+        {"/P", "/R", "/T"}, {"/R", "/P", "/T"}, {"/R", "/R", "/T"}, {"/T", "/T", "/H"}};
+    for (const auto& [first, last, between] : cases) {
+        const std::string middle = std::string(between) + " b\r\n";
+        EXPECT_EQ(alignedText("BTN S1 " + std::string(first) + " a\r\n" + middle + last + " c"),
+                  "BTN S1 " + std::string(first) + " a\r\n" + middle + "       " + last + " c\r\n");
+    }
+}
+
 TEST(AlignedText, NoTextGivesNone) { EXPECT_EQ(alignedText(""), ""); }
 
 } // namespace

@@ -13,13 +13,11 @@ namespace {
 void TempTextRefreshFont(Editor& editor)
 {
     for (Pane* box : {&editor.TempRichTextBox, &editor.CompareRTF}) {
-        box->setSelStart(0);
         box->setSelLength(static_cast<std::int64_t>(box->TextLength()));
         const Settings& settings = editor.shared.settings;
         box->setSelFontName(settings.TextFontName);
         box->setSelFontSize(static_cast<float>(settings.TextFontSize));
         box->setSelBold(settings.TextFontBold == 1);
-        box->setSelStart(0);
     }
 }
 

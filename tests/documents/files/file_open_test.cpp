@@ -466,5 +466,19 @@ TEST_F(OpenTest, AProtectedMacroPaneStillTakesAnotherFile)
     EXPECT_EQ(macroText(), "Fire = f\r\n");
 }
 
+TEST_F(OpenTest, AJoystickFileThatCantBeReadIsNotOpenedBesideItsMacroFile)
+{
+    addPair();
+    int cleared = 0;
+    t.program().operations.ClearMacroTicks = [&] { ++cleared; };
+    t.files.failReads(mig, RuntimeError(ErrorCode::PermissionDenied, "no"));
+    t.openBoth(migMacros);
+    EXPECT_EQ(t.status(), "Joystick file not opened");
+    EXPECT_EQ(cleared, 1);
+    EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 2);
+    EXPECT_EQ(macroText(), "Fire = f\r\n");
+    EXPECT_EQ(t.editor().joystick.FileName, "untitled.b50");
+}
+
 } // namespace
 } // namespace tarvex

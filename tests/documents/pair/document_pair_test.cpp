@@ -130,6 +130,22 @@ TEST_F(PairTest, NewJoystickEmptiesNameStateAndCaret)
     EXPECT_EQ(t.program().shared.IsLoading, 0);
 }
 
+TEST_F(PairTest, ANewDocumentHasNoSelectionNotedAndThePresentBackground)
+{
+    for (Side* side : {&editor.joystick, &editor.macro}) {
+        side->pane.setText("text");
+        side->Changed = changed::saved;
+        side->Caret = side->SelectionLength = 2;
+        t.settings().BackgroundColour = 0x123456;
+        t.settings().MacroBackgroundColour = 0x654321;
+        editor.TabStrip1.Select(side->tab);
+        t.menus().mnuFileClose.Click();
+        EXPECT_EQ(side->Caret, 0) << side->kind;
+        EXPECT_EQ(side->SelectionLength, 0) << side->kind;
+        EXPECT_EQ(side->pane.BackColor, side == &editor.joystick ? 0x123456 : 0x654321) << side->kind;
+    }
+}
+
 TEST_F(PairTest, NewMacroForgetsTheAnalysedFile)
 {
     t.program().mum.StatusBar.Panels(8).Text = "old.m50";

@@ -42,6 +42,8 @@ TEST_F(TransferTest, ATransferBehindAWordKeepsABlankBetween)
     t.typeJoystick("one");
     SafeinTransferText(editor, "two");
     EXPECT_EQ(joystick.Text(), "one two");
+    SafeinTransferText(editor, "RAW (#5B) three /P Rem four");
+    EXPECT_EQ(joystick.Text(), "one two RAW (#5B) three /P Rem four") << "coloured, too";
 }
 
 TEST_F(TransferTest, SafeinColoursItsFourKindsOfWords)
