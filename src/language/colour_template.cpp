@@ -10,7 +10,6 @@ void setBaseFormat(const TemplateColouring& work)
 {
     Pane& pane = work.TemplateText;
     writeBaseFormat(pane, work.settings, 0);
-    pane.Refresh();
     pane.BackColor = work.settings.BackgroundColour;
     setPaneFont(pane, work.settings);
     pane.Refresh();

@@ -103,12 +103,15 @@ TEST_F(TemplateTest, TheProgressBarCountsFromNothingBeyondTheTextsLengthWhileItI
         if (mum.StatusBar.Panels(panel::progress).Text.get() == "Applying colour to BTN statements ...")
             atFirstPass = {mum.ProgressBar1.Min, mum.ProgressBar1.Max, mum.ProgressBar1.Value};
     });
+    int repaints = 0;
+    const Connection refreshed = pane.refreshWanted.connect([&] { ++repaints; });
     mum.ProgressBar1.Min = 7;
     mum.ProgressBar1.Value = 9;
     pane.setText("BTN S1 x");
     ColourTemplateText({pane, "mine.txt", {}, settings, errors, mum, {}});
     EXPECT_EQ(shown, (std::vector<std::string>{"shown", "hidden"}));
     EXPECT_EQ(atFirstPass, (std::vector<int>{0, 9, 0}));
+    EXPECT_EQ(repaints, 1);
     EXPECT_EQ(pane.Font(), (PaneFont{settings.TextFontName, static_cast<float>(settings.TextFontSize), false}));
 }
 

@@ -182,6 +182,11 @@ TEST_F(RunTest, TextsUpTo65535CharactersAreNotHeldAndLongerOnesAre)
     }
 }
 
+TEST_F(RunTest, ATemplatesDefsBehind32767AreButtonsWhateverTheMatchBeforeRead)
+{
+    EXPECT_EQ(colours("DEF x" + blanks(39995) + "DEF,DEF,DEF x", templatePasses()).substr(39999), ".BBBBBBBBBBBBB");
+}
+
 // ---- transfers ------------------------------------------------------------------------------------------------------
 
 TEST_F(RunTest, SafeinsPassesAreFourAndPaintRemLast)

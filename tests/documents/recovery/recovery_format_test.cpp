@@ -116,6 +116,7 @@ TEST(ReadJournal, ARecordOfUnknownKindOrContentsEndsTheText)
     for (const auto& [kind, contents] : {std::pair{'X', ""}, {'E', "short"}, {'P', "longer than it says"}, {'S', ""}}) {
         Written written;
         written.bytes += journalRecord(kind, contents, written.chain);
+        EXPECT_TRUE(isDamaged(written.bytes)) << kind;
         written.edit({0, 0, "behind it"});
         EXPECT_EQ(textOf(written.bytes), "axyc") << kind;
     }
@@ -212,6 +213,27 @@ TEST(ReadJournal, AnEditOutsideTheTextIsNotMade)
     Written huge;
     huge.edit({1, UINT64_MAX, ""});
     EXPECT_EQ(textOf(huge.bytes), "axyc");
+    const std::pair<TextEdit, const char*> edits[] = {{{4, 0, "!"}, "axyc!"}, {{5, 0, "!"}, "axyc"},
+                                                      {{2, 2, "!"}, "ax!"},   {{2, 3, "!"}, "axyc"},
+                                                      {{0, 4, ""}, ""},       {{0, 5, ""}, "axyc"}};
+    for (const auto& [edit, text] : edits) {
+        Written one;
+        one.edit(edit);
+        EXPECT_EQ(textOf(one.bytes), text) << edit.removed << " at " << edit.position;
+        EXPECT_EQ(isDamaged(one.bytes), textOf(one.bytes) == "axyc");
+    }
+}
+
+TEST(ReadJournal, ADamagedMarkIsRememberedBeforeATornEnd)
+{
+    Written written;
+    written.edit({0, 0, "1"});
+    const std::string torn = written.bytes.substr(0, written.bytes.size() - 1);
+    EXPECT_FALSE(isDamaged(torn));
+    std::string marked = torn;
+    marked[0] ^= 1;
+    EXPECT_TRUE(isDamaged(marked));
+    EXPECT_EQ(textOf(marked), "axyc");
 }
 
 TEST(ReadJournal, AnotherVersionIsNotDamage)

@@ -492,5 +492,15 @@ TEST_F(RemoveColourTest, ThePopUpMenuRemovesFromThePaneOfTheSelectedTab)
     EXPECT_EQ(now(joystick()), "........");
 }
 
+TEST_F(RemoveColourTest, ThePopUpMenuRemovesFromTheSelectionToo)
+{
+    t.editor().TabStrip1.Select(1);
+    joystick().setSelStart(1);
+    joystick().setSelLength(2);
+    t.menus().mnuRHMColoursSelection.Click();
+    EXPECT_EQ(now(joystick()), "B..BBB..");
+    EXPECT_EQ(t.status(), "Done");
+}
+
 } // namespace
 } // namespace tarvex
