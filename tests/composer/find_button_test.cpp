@@ -124,6 +124,14 @@ TEST_F(FindButtonTest, WithHighlightDefinitionsTheWholeStatementFlashes)
     EXPECT_EQ(joystick.SelStart(), 7);
 }
 
+TEST_F(FindButtonTest, WithHighlightDefinitionsTheStatementOfThatNameFlashesAndNoneBeforeIt)
+{
+    settings.HighlightDefinitions = 1;
+    write("BTN S1 x\r\nBTN S2 y\r\n/M z\r\nBTN S3 w");
+    FindButton(window, "BTN S2 ");
+    EXPECT_EQ(joystick.SelText(), "BTN S2 y\r\n/M z");
+}
+
 TEST_F(FindButtonTest, WhatIsInsertedDuringTheFlashGoesBehindTheName)
 {
     write("BTN S1 \r\nBTN S2 y");

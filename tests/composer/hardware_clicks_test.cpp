@@ -360,5 +360,15 @@ TEST_F(ComposerTest, AButtonThatIsFoundReturnsTheFocusAndAPortTakesOneBareName)
     EXPECT_EQ(window.ROTARY[7].Value, 0);
 }
 
+TEST_F(ComposerTest, APortTakesTheNameOfARockerThatHasItsOwnStatementElsewhere)
+{
+    use(2, 3);
+    const std::string rocker = window.BTN[4].Caption;
+    write(rocker + " x\r\n");
+    rotary(7);
+    button(4);
+    EXPECT_EQ(joystick.Text(), rocker + " x\r\n" + rocker + " ");
+}
+
 } // namespace
 } // namespace tarvex

@@ -116,6 +116,23 @@ TEST_F(HardwareTabs, ATabThatGoesIsNotLeftInFront)
     EXPECT_EQ(window.SSTabHardware.Tab.get(), hardwarePage::otherSticks);
 }
 
+TEST_F(HardwareTabs, InItsPlaceComesThatOfTheStick)
+{
+    use(2, 1);
+    window.SSTabHardware.Tab = hardwarePage::tqs;
+    use(0, 0);
+    EXPECT_EQ(window.SSTabHardware.Tab.get(), hardwarePage::f22AndF16);
+}
+
+TEST_F(HardwareTabs, AllPortsComeAndGoTogether)
+{
+    for (const std::int16_t throttle : {0, 2, 0}) {
+        use(0, throttle);
+        for (int i = 0; i <= window.mnuPort.UBound(); ++i)
+            EXPECT_EQ(window.mnuPort[i].Visible.get(), throttle == 0) << i;
+    }
+}
+
 TEST_F(HardwareTabs, AllImagesShowEverything)
 {
     use(3, 0);

@@ -278,5 +278,14 @@ TEST_F(LogicTest, DefinitionsBeginALineOfTheirOwn)
     EXPECT_TRUE(joystick.Text().starts_with("BTN S1 a\r\nDEF X1 S1\r\n")) << joystick.Text();
 }
 
+TEST_F(LogicTest, OnlyTheDefinitionThatWasChosenLastIsWhite)
+{
+    for (const std::size_t chosen : {0U, 7U, 47U, 3U}) {
+        tab.OptionFlag[chosen].Click();
+        for (std::size_t i = 0; i < FlagTab::count; ++i)
+            EXPECT_EQ(tab.RichTexFlag[i].BackColor.get() == 0xFFFFFF, i == chosen) << i << " of " << chosen;
+    }
+}
+
 } // namespace
 } // namespace tarvex

@@ -325,6 +325,7 @@ TEST_F(MacroTabTest, ForANewMacroFileOneEmptyListStays)
 
 TEST_F(MacroTabTest, TheMenusCommandsDoNothingWithoutAMacro)
 {
+    editor.TabStrip1.Select(editor.joystick.tab);
     tab.ListClicked = 99;
     const std::string before = joystick.Text();
     const int shown = editor.TabStrip1.SelectedItem;
@@ -333,6 +334,36 @@ TEST_F(MacroTabTest, TheMenusCommandsDoNothingWithoutAMacro)
     window.mnuRHListInsert.Click();
     EXPECT_EQ(joystick.Text(), before);
     EXPECT_EQ(editor.TabStrip1.SelectedItem.get(), shown);
+}
+
+TEST_F(MacroTabTest, ADoubleClickReplacesWhatWasSelectedBeforeItsFirstClick)
+{
+    write("Fire x\r\nold");
+    joystick.setSelStart(8);
+    joystick.setSelLength(3);
+    press(0);
+    doubleClick(0);
+    EXPECT_EQ(joystick.Text(), "Fire x\r\nFire ");
+}
+
+TEST_F(MacroTabTest, AUseThatTheUserSelectsLaterIsReplaced)
+{
+    write("Fire \r\nBTN S2 ");
+    press(0);
+    const std::int64_t start = joystick.SelStart();
+    const std::int64_t length = joystick.SelLength();
+    window.SlashButton[0].Click();
+    EXPECT_EQ(joystick.Text(), "Fire \r\nBTN S2 /U ");
+    joystick.setSelStart(start);
+    joystick.setSelLength(length);
+    window.SlashButton[1].Click();
+    EXPECT_EQ(joystick.Text().find("Fire"), std::string::npos) << joystick.Text();
+}
+
+TEST_F(ComposerTest, WithoutAMacroFileNoHeadingIsShown)
+{
+    EXPECT_EQ(window.macros.Combo1.Text.get(), "");
+    EXPECT_TRUE(window.macros.Combo1.Items.get().empty());
 }
 
 } // namespace

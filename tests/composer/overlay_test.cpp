@@ -107,6 +107,15 @@ TEST_F(OverlayTest, TheTextHasTheStatementsAndTheKeysOfTheirMacros)
     EXPECT_EQ(assignedText(window, "nothing"), "");
 }
 
+TEST_F(OverlayTest, AMacroWhoseNameEndsOrBeginsAnotherWordIsNotNamed)
+{
+    t.files.addFile("c:\\tm\\a.b50", "BTN S1 BigFire Fireball\r\n");
+    t.files.addFile("c:\\tm\\a.m50", "Fire = f\r\n");
+    t.openBoth("c:\\tm\\a.b50");
+    window.form.Activate();
+    EXPECT_EQ(assignedText(window, "BTN(0)"), "BTN S1 BigFire Fireball");
+}
+
 TEST_F(OverlayTest, LinesOfTheMacroFileWithoutAnEqualsSignOrANameAreNoMacros)
 {
     t.files.addFile("c:\\tm\\a.b50", "BTN H1U Fire\r\n");

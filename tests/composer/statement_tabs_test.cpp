@@ -263,6 +263,16 @@ TEST_F(ComposerTest, SpacesInsertsAsManyBlanksAsTheFieldSaysAndMovesBothCarets)
     EXPECT_EQ(static_cast<int>(editor.macro.Caret), 3);
 }
 
+TEST_F(ComposerTest, SpacesMoveTheOtherFilesCaretOnFromWhereItIs)
+{
+    write("ab");
+    editor.macro.Caret = 5;
+    window.fields.Text1[valueField::blanks].Text = std::string("1");
+    window.Command7[1].Click();
+    EXPECT_EQ(joystick.Text(), "ab ");
+    EXPECT_EQ(static_cast<int>(editor.macro.Caret), 6);
+}
+
 TEST_F(ComposerTest, SpacesThatAProtectedMacroFileRefusesMoveNoCaret)
 {
     write("ab");

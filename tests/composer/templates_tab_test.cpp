@@ -282,5 +282,18 @@ TEST_F(TemplatesTest, ThePreviewHasTheLookOfTheSettings)
     EXPECT_EQ(tab.TemplatesPreview.Font().name, "Courier New");
 }
 
+TEST_F(TemplatesTest, WhatCannotBeShownTakesTheFormerTemplateAwayAndEachIsShownFromItsStart)
+{
+    file("a.txt", "Rem shown");
+    file("b.txt", "Rem other");
+    t.files.failReads("c:\\tarvex\\Templates\\b.txt", RuntimeError(ErrorCode::PermissionDenied, "Permission denied"));
+    choose("a.txt");
+    EXPECT_EQ(tab.TemplatesPreview.Text(), "Rem shown");
+    EXPECT_EQ(tab.TemplatesPreview.SelStart(), 0);
+    tab.Templates.ListIndex = 1;
+    tab.Templates.Click();
+    EXPECT_EQ(tab.TemplatesPreview.Text(), "");
+}
+
 } // namespace
 } // namespace tarvex

@@ -47,6 +47,18 @@ TEST(ControlsOfDocument, OfAnOlderStickHaveOneHatWithoutCorners)
     EXPECT_THAT(names, testing::Not(testing::Contains("HUL")));
 }
 
+TEST(ControlsOfDocument, AreCalledByTheWordsOfTheLanguage)
+{
+    for (const char* file : {"a.f22", "a.b50", "a.adv"}) {
+        for (const char* text : {"", "USE TQS", "USE WCS"}) {
+            for (const std::string& name : namesOf(file, text)) {
+                EXPECT_NE(name, "Rudder") << file << text;
+                EXPECT_NE(name, "Throttle") << file << text;
+            }
+        }
+    }
+}
+
 TEST(ControlsOfDocument, HaveTheirStatementsWithTheLine)
 {
     const std::string text =
