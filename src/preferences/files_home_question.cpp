@@ -57,8 +57,6 @@ void act(Preferences& preferences)
             return askForFolder(preferences);
         case FilesHome::oldInstallation:
             return importInstead(preferences);
-        default:
-            return;
         }
     });
     if (!done)
@@ -82,7 +80,6 @@ void askForFilesHome(Preferences& preferences)
         act(preferences); // a cancelled choice leads back here
     }
     shared.extras.set(extraKey::askForFiles, false);
-    if (folder.empty()) return;
     shared.store.SaveOptions();
     SaveFilesPath(preferences.editor);
 }

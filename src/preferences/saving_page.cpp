@@ -104,7 +104,7 @@ void Text3_Change(SavingPage& page)
     } catch (const RuntimeError&) {
         return useUsualMinutes(page);
     }
-    if (minutesOf(text) < 1) page.Text3.Text = "1";
+    if (minutesOf(text) == 0) page.Text3.Text = "1";
 }
 
 void Text3_LostFocus(SavingPage& page)

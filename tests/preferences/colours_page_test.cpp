@@ -295,7 +295,11 @@ TEST_F(ColoursPageTest, ANewFontLeavesTheSelectionOfBothPanes)
     for (const Pane* pane : panes) {
         EXPECT_EQ(pane->SelStart(), 1);
         EXPECT_EQ(pane->SelLength(), 3);
+        EXPECT_TRUE(pane->formatAt(0).bold);
     }
+    settings().TextFontBold = 0;
+    program().operations.DamnFontWasChanged();
+    for (const Pane* pane : panes) EXPECT_FALSE(pane->formatAt(0).bold);
 }
 
 TEST_F(ColoursPageTest, NewColoursPaintTheTextsThatThereAreWhereOpenedFilesAreColoured)

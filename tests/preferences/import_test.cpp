@@ -410,5 +410,18 @@ TEST_F(ImportTest, WithoutSettingsOrACopyOfTodaysNothingCountsAsImported)
     EXPECT_FALSE(importInstallation(preferences())) << "its own folder";
 }
 
+TEST_F(ImportTest, AQuietDownloadIsNotImportedWhereTheJoystickWasAnF22ProBefore)
+{
+    settings().JoyName = 0;
+    settings().JoystickExtension = "f22";
+    settings().MacroExtension = "m22";
+    files.addFile(std::string(old) + "\\Tarvex.ini",
+                  "[FileLocations]\r\nJoyName=0\r\nJoystickExtension=f22\r\nMacroExtension=m22\r\n"
+                  "[Miscellaneous]\r\nUseQonDownload=1\r\n");
+    importFrom(old, [] {});
+    EXPECT_FALSE(menus().mnuAppsQuiet.Checked);
+    EXPECT_FALSE(menus().mnuAppsQuiet.Enabled);
+}
+
 } // namespace
 } // namespace tarvex

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace tarvex {
 namespace {
 
@@ -94,9 +96,11 @@ TEST_F(OpeningAgain, ADriveThatGoesLeavesTheLastRowChosen)
         extras().DriveReset.Click();
         EXPECT_EQ(extras().DriveRow, 0);
         EXPECT_TRUE(extras().DriveBrowse.Enabled);
+        program().shared.errors.ErrorProcedure.clear();
         dialogues.folders.emplace_back(std::nullopt);
         extras().DriveAdd.Click();
         EXPECT_EQ(extras().DriveRow, 0) << "cancelled";
+        EXPECT_EQ(program().shared.errors.ErrorProcedure, "");
         EXPECT_EQ(extras().Drives.get().size(), 1U);
     });
 }
@@ -254,6 +258,39 @@ TEST_F(OpeningAgain, WithAggressiveFocusTheComposerIsOnTop)
     settings().CompOnTop = 0;
     inPreferences([this] { preferences().miscellaneousPage.CheckAggressiveFocus.Value = false; });
     EXPECT_EQ(settings().CompOnTop, 0);
+}
+
+TEST_F(OpeningAgain, WhatTheFileOfTheMachineDidNotTakeIsShownAndTriedAgain)
+{
+    startWith(0);
+    files.failWrites("c:\\tarvex\\Platform.ini", RuntimeError(ErrorCode::DiskFull, "Disk full"));
+    inPreferences([this] {
+        extras().Ticks[1].Value = true;
+        extras().Runners[0].Path.Text = "/opt/wine";
+        writeDriveFolder(extras(), 0, "/home/pilot");
+    });
+    EXPECT_EQ(lastBox().title, "Ooops!");
+    const auto showsIt = [this] {
+        EXPECT_TRUE(extras().Ticks[1].Value);
+        EXPECT_EQ(extras().Runners[0].Path.Text.get(), "/opt/wine");
+        EXPECT_EQ(extras().Drives.get().at(0).folder, "/home/pilot");
+    };
+    inPreferences(showsIt);
+    files.failWrites("c:\\tarvex\\Platform.ini", std::nullopt);
+    inPreferences(showsIt);
+    EXPECT_EQ(MachineSettings(program().shared.platformIni).runner(Runner::Wine), "/opt/wine");
+}
+
+TEST_F(OpeningAgain, TheTickOfTheTipsIsInForceInBothPanesAtOnce)
+{
+    startWith(0);
+    int updates = 0;
+    program().operations.UpdateEditorTooltips = [&updates] { ++updates; };
+    inPreferences([this, &updates] {
+        updates = 0;
+        preferences().miscellaneousPage.CheckShowTooltips.Click();
+        EXPECT_EQ(updates, 1);
+    });
 }
 
 } // namespace

@@ -161,5 +161,17 @@ TEST_F(SavingPageTest, TheTickOfTheAutomaticSaveCanBeUsedAgainAtTheNextOpening)
     inPreferences([this] { EXPECT_TRUE(page().Check3[0].Enabled); });
 }
 
+TEST_F(SavingPageTest, OneMinuteStaysWhenTheBoxIsLeftAndNoneBecomesTen)
+{
+    inPreferences([this] {
+        page().Text3.Text = "1";
+        page().Text3.LostFocus();
+        EXPECT_EQ(page().Text3.Text.get(), "1");
+        page().Text3.Text = "";
+        page().Text3.LostFocus();
+        EXPECT_EQ(page().Text3.Text.get(), "10");
+    });
+}
+
 } // namespace
 } // namespace tarvex

@@ -248,7 +248,24 @@ TEST_F(WinLoadPageTest, AMouseThatIsChosenAgainBringsItsTypeBack)
         EXPECT_NE(shown(), first);
         page().OptionMouse[0].Click();
         EXPECT_EQ(shown(), first);
+        chooseMouse(0, 0);
+        const std::string firstType = shown();
+        page().OptionMouse[1].Click();
+        EXPECT_NE(shown(), firstType);
+        page().OptionMouse[0].Click();
+        EXPECT_EQ(shown(), firstType);
     });
+}
+
+TEST_F(PreviousLoadersTest, ALoaderThatIsNotInTheListComesIntoItWhenTheDialogueCloses)
+{
+    ProfileFile lists(files, "c:\\tarvex\\Lists.ini");
+    lists.writeString("Loaders", "NumPreviousLoaders", "1");
+    lists.writeString("Loaders", "Loader1", "c:\\other.exe");
+    start();
+    settings().B50LoadPath = "c:\\tm\\b50load.exe";
+    inPreferences([this] { EXPECT_EQ(page().Text1.Items.get(), std::vector<std::string>{"c:\\other.exe"}); });
+    EXPECT_EQ(stored("Loader2"), "c:\\tm\\b50load.exe");
 }
 
 } // namespace

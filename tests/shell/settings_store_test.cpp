@@ -452,5 +452,19 @@ TEST(SettingsStore, SaysWhichFilesCouldNotBeWrittenAndWhy)
     EXPECT_EQ(t.store.writeFailures().front().reason, "Disk full");
 }
 
+TEST(SaveColourScheme, AFontSizeThatIsSpelledInItsOwnWayKeepsItsSpellingUntilItChanges)
+{
+    Store t;
+    for (const char* spelled : {"012", "0000000129"}) {
+        t.setIni("Colours", "TextFontSize", spelled);
+        t.store.GetColours();
+        t.store.write(Access::SaveColourScheme, "PREFS SaveColourScheme");
+        EXPECT_EQ(t.ini("Colours", "TextFontSize"), spelled);
+    }
+    t.settings.TextFontSize = 13;
+    t.store.write(Access::SaveColourScheme, "PREFS SaveColourScheme");
+    EXPECT_EQ(t.ini("Colours", "TextFontSize"), "13");
+}
+
 } // namespace
 } // namespace tarvex
