@@ -2,6 +2,7 @@
 
 #include "support/temporary_directory.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace tarvex {
@@ -72,6 +73,14 @@ TEST_F(CommandLineTest, AFolderOfThatNameIsNoFile)
 {
     disk.makeDirectory("--version");
     EXPECT_EQ(read({"--version"}).wish, Wish::ShowVersion);
+}
+
+TEST(FromEnvironment, GivesTheValueAndNothingForANameThatIsNotSet)
+{
+    ::setenv("TARVEX_NAME_OF_A_TEST", "its value", 1);
+    EXPECT_EQ(fromEnvironment("TARVEX_NAME_OF_A_TEST"), "its value");
+    ::unsetenv("TARVEX_NAME_OF_A_TEST");
+    EXPECT_EQ(fromEnvironment("TARVEX_NAME_OF_A_TEST"), "");
 }
 
 } // namespace

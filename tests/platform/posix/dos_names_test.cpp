@@ -21,6 +21,14 @@ void checkAll(const std::vector<std::string>& natives)
     }
 }
 
+TEST(DosNames, TheDeleteCharacterMovesAndTheNextOneStays)
+{
+    EXPECT_EQ(dosNameFromNative("a\x7F"), "a\xEF\x81\xBF");
+    EXPECT_EQ(nativeNameFromDos("a\xEF\x81\xBF"), "a\x7F");
+    EXPECT_EQ(dosNameFromNative("a\xC2\x80"), "a\xC2\x80");
+    EXPECT_EQ(nativeNameFromDos("a\xEF\x82\x80"), "a\xEF\x82\x80");
+}
+
 } // namespace
 
 TEST(DosNames, NameMatchesInAnyCase)

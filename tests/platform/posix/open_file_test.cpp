@@ -1,5 +1,6 @@
 #include "platform/posix/open_file.h"
 
+#include "platform/errors.h"
 #include "support/temporary_directory.h"
 
 #include <fcntl.h>
@@ -38,6 +39,19 @@ struct ReadAll : testing::Test {
         return OpenFile(calls, disk / "file", O_RDONLY).readAll();
     }
 };
+
+TEST(RequireRegular, SaysOfADeviceThatItIsNoRegularFile)
+{
+    SystemCalls calls;
+    OpenFile device(calls, "/dev/null", O_RDONLY);
+    try {
+        requireRegular(device.status());
+        FAIL() << "a device is none";
+    } catch (const RuntimeError& error) {
+        EXPECT_STREQ(error.what(), "Not a regular file");
+        EXPECT_EQ(error.code(), ErrorCode::PathFileAccess);
+    }
+}
 
 } // namespace
 

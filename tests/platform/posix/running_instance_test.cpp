@@ -246,6 +246,12 @@ TEST(ReadRequest, TakesWholeRequestsOnly)
     EXPECT_FALSE(readRequest(whole + '\0'));
 }
 
+TEST(ReadRequest, ComingForwardNeedsNoPath)
+{
+    const std::string bytes("tarvex 1\0come forward\0\0t\0", 25);
+    EXPECT_EQ(readRequest(bytes), (InstanceRequest{Kind::ComeForward, "", "t"}));
+}
+
 TEST(ReadRequest, RefusesWhatItDoesNotKnow)
 {
     EXPECT_FALSE(readRequest(std::string("tarvex 2\0open\0/a\0t\0", 19)));

@@ -61,6 +61,23 @@ std::string everyByte()
     return bytes;
 }
 
+TEST_F(SafeWriting, ANewFileMayBeReadAndWrittenByAllWhomTheMaskLets)
+{
+    const mode_t old = ::umask(0);
+    EXPECT_EQ(save(file, "new"), 0);
+    ::umask(old);
+    EXPECT_EQ(modeOf(file), 0666U);
+}
+
+TEST_F(SafeWriting, CopiesThatAreLeftAreListedByName)
+{
+    std::vector<std::string> names;
+    for (const char letter : std::string("qwertyuiop"))
+        names.push_back(disk.put("recovery/" + std::string(1, letter) + ".tarvex-copy-0123456789abcdef", "old"));
+    std::ranges::sort(names);
+    EXPECT_EQ(writer.leftCopies(), names);
+}
+
 } // namespace
 
 TEST_F(SafeWriting, NewFileHoldsEveryByteAndNothingElseIsLeft)
