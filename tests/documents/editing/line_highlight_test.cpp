@@ -1,5 +1,7 @@
 #include "documents/editing/line_highlight.h"
 
+#include "documents/editing/pane_change.h"
+#include "documents/editing/pane_events.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -41,6 +43,7 @@ TEST_F(LineHighlight, SelectsTheLineOfTheCaret)
     joystick.setSelStart(20);
     HighlightLineAtIP(editor);
     expectSelected(joystick, 16, 4);
+    EXPECT_EQ(editor.HighlightLength, 4);
     joystick.setSelStart(14);
     HighlightLineAtIP(editor);
     expectSelected(joystick, 14, 0);
@@ -305,6 +308,28 @@ TEST_F(LineHighlight, ALineThatFlashesNextIsNoTextOfThatKind)
     tick();
     expectSelected(joystick, 5, 7);
     EXPECT_EQ(editor.joystick.Caret, 5);
+}
+
+// ---- what the panes look like, and where they were left ----
+
+TEST_F(LineHighlight, TheSchemeGivesAPaneItsGroundAndFontAndPaintsItAnew)
+{
+    int repaints = 0;
+    const Connection refreshed = macro.refreshWanted.connect([&] { ++repaints; });
+    t.settings().MacroBackgroundColour = 0x123456;
+    t.settings().TextFontSize = 17;
+    applyScheme(editor, editor.macro);
+    EXPECT_EQ(macro.BackColor, 0x123456);
+    EXPECT_EQ(macro.Font().size, 17);
+    EXPECT_EQ(repaints, 1);
+}
+
+TEST_F(LineHighlight, AKeyThatGoesToTheOtherPaneLeavesTheCaretNoted)
+{
+    joystick.setSelStart(9);
+    EXPECT_TRUE(Text_KeyDown(editor, editor.joystick, "Ctrl+Tab"));
+    EXPECT_EQ(editor.joystick.Caret, 9);
+    EXPECT_EQ(editor.TabStrip1.SelectedItem, 2);
 }
 
 } // namespace

@@ -90,6 +90,7 @@ TEST_F(UndoTest, UndoAndRedoBringTextAndCaretBack)
     t.menus().mnuEditUndo.Click();
     EXPECT_EQ(pane.Text(), "one");
     EXPECT_EQ(pane.SelStart(), 3);
+    EXPECT_EQ(editor.joystick.Caret, 3);
     EXPECT_EQ(history.Position, 2U);
     t.menus().mnuEditRedo.Click();
     EXPECT_EQ(pane.Text(), "one two");

@@ -143,6 +143,22 @@ TEST_F(PairClipboard, CommandsAndButtonsAreOfferedWhereTheyDoSomething)
     }
 }
 
+TEST_F(PairClipboard, ASelectionOfOneCharacterIsOneToo)
+{
+    Pane& pane = editor.JoystickText;
+    pane.setText("abc");
+    pane.setSelStart(1);
+    pane.setSelLength(1);
+    t.menus().mnuEditCopy.Click();
+    EXPECT_EQ(t.clipboard.content.text, "b");
+    t.menus().mnuEditCut.Click();
+    EXPECT_EQ(pane.Text(), "ac");
+    pane.setSelStart(0);
+    pane.setSelLength(1);
+    t.menus().mnuEditDelete.Click();
+    EXPECT_EQ(pane.Text(), "c");
+}
+
 TEST_F(PairClipboard, CommandsLeaveTheButtonsUpToDate)
 {
     Pane& pane = editor.JoystickText;

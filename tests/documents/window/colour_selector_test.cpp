@@ -5,6 +5,7 @@
 #include "documents/pair/noted_caret.h"
 #include "documents/pair/tabs.h"
 #include "documents/window/toolbar.h"
+#include "platform/key_codes.h"
 #include "support/test_program.h"
 
 #include <gtest/gtest.h>
@@ -152,6 +153,20 @@ TEST_F(ColourSelectorTest, EscAndTheLossOfTheFocusCloseTheColours)
     Picture1_Click(editor);
     t.program().operations.UnloadForm("ColourSelector");
     EXPECT_FALSE(editor.ColourSelector.form.Visible);
+}
+
+TEST_F(ColourSelectorTest, AsksForThePlaceOfThePictureAndClosesByEscapeAlone)
+{
+    Mum& mum = t.program().mum;
+    const Connection asked = mum.Picture1PlaceWanted.connect([&] { mum.Picture1Place = {10, 20, 30, 40}; });
+    auto& form = editor.ColourSelector.form;
+    Picture1_Click(editor);
+    EXPECT_EQ(form.Left.get(), 10 * twipsPerPixel);
+    EXPECT_EQ(form.Top.get(), 60 * twipsPerPixel + 250);
+    EXPECT_FALSE(form.KeyDown('A', 0));
+    EXPECT_TRUE(form.Visible);
+    EXPECT_TRUE(form.KeyDown(keyCode::escape, 0));
+    EXPECT_FALSE(form.Visible);
 }
 
 } // namespace

@@ -15,5 +15,29 @@ TEST(EditorWindow, AtTheStartTheFontsOfTheLayoutSheetAreRead)
     EXPECT_EQ(t.settings().LOTextFontSize, 17);
 }
 
+TEST(EditorWindow, AtTheStartToolWindowsHaveNoPlaceYet)
+{
+    TestProgram t;
+    const Shared& shared = t.program().shared;
+    for (const auto place :
+         {shared.ToolWindowTop, shared.ToolWindowLeft, shared.SecondToolWindowTop, shared.SecondToolWindowLeft})
+        EXPECT_EQ(place, -1);
+}
+
+TEST(EditorWindow, StaysOpenWhenAQuestionAboutUnsavedTextFails)
+{
+    for (const bool joystick : {true, false}) {
+        TestProgram t;
+        joystick ? t.typeJoystick("x") : t.typeMacro("x");
+        t.dialogues.otherAnswers = [](const MessageBox&) -> Answer {
+            throw RuntimeError(ErrorCode::DeviceInputOutput, "broken");
+        };
+        EXPECT_FALSE(Form_QueryUnload(t.editor())) << (joystick ? "joystick" : "macro");
+        EXPECT_EQ(t.editor().ExitInProgress, 0);
+        t.dialogues.otherAnswers = [](const MessageBox&) { return Answer::No; };
+        EXPECT_TRUE(Form_QueryUnload(t.editor()));
+    }
+}
+
 } // namespace
 } // namespace tarvex

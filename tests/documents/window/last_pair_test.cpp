@@ -201,9 +201,24 @@ TEST_F(LastPairTest, ViewsThatWereNotNotedStayAsTheyAre)
     t.files.addFile("c:\\tarvex\\Platform.ini", files);
     t.start();
     EXPECT_EQ(t.editor().joystick.FilePath, mig);
+    EXPECT_EQ(t.editor().JoystickText.SelStart(), 0);
+    EXPECT_EQ(t.editor().JoystickText.SelLength(), 0);
     EXPECT_TRUE(t.menus().mnuViewMacros.Checked) << "opening a macro file shows it";
     EXPECT_FALSE(t.menus().mnuViewTileVertically.Checked);
     EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
+}
+
+TEST_F(LastPairTest, WithBothFilesGoneTheViewsStay)
+{
+    t.menus().mnuViewTileVertically.Click();
+    t.editor().TabStrip1.Select(2);
+    ASSERT_TRUE(t.program().exit());
+    t.files.removeFile(mig);
+    t.files.removeFile(macros);
+    t.start();
+    EXPECT_FALSE(t.menus().mnuViewTileVertically.Checked);
+    EXPECT_EQ(t.editor().TabStrip1.SelectedItem, 1);
+    EXPECT_EQ(t.status(), "Ready! Welcome to Tarvex! mig.b50 isn't there any more. other.m50 isn't there any more.");
 }
 
 } // namespace
