@@ -129,5 +129,20 @@ TEST_F(PrintRtfTest, TheTextHasTheLookOfItsCharacters)
     EXPECT_EQ(text.runs[1].indent, 300);
 }
 
+TEST(StyledText, HasTheColoursThatTheInkMakesOfThem)
+{
+    Pane pane;
+    pane.setText("ab");
+    pane.setSelLength(1);
+    pane.setSelColor(255);
+    const auto coloursWith = [&](const PaperInk& ink) {
+        std::vector<Colour> colours;
+        for (const auto& run : styledText(pane, ink).runs) colours.push_back(run.colour);
+        return colours;
+    };
+    EXPECT_EQ(coloursWith({}), (std::vector<Colour>{255, 0}));
+    EXPECT_EQ(coloursWith([](Colour colour) { return colour + 7; }), (std::vector<Colour>{262, 7}));
+}
+
 } // namespace
 } // namespace tarvex

@@ -39,6 +39,13 @@ TEST(ReadRtf, TheLastComponentOfAColourCounts)
 
 } // namespace
 
+TEST(ReadRtf, TheLastOfEachComponentOfAColourCounts)
+{
+    const RichText text = read("{\\rtf1{\\colortbl;\\red1\\green2\\blue3\\green9\\blue4\\red8;}\\cf1 a}");
+    ASSERT_EQ(text.runs().size(), 1U);
+    EXPECT_EQ((*text.formats())[text.runs().front().format].colour, 8 | 9 << 8 | 4 << 16);
+}
+
 TEST(LooksLikeRtf, OnlyTheSignatureAtTheStartCounts)
 {
     EXPECT_TRUE(looksLikeRtf("{\\rtf1 x}"));
