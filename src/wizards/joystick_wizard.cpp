@@ -22,6 +22,7 @@ void caretToStart(Editor& editor)
 /// Without a question: a beginner's file is a fresh one, and Undo brings back what wasn't.
 void clearAndInsertTitle(Editor& editor)
 {
+    selectJoystickTab(editor);
     writeAsOneLevel(editor.joystick, [&] { editor.JoystickText.setText(""); });
     caretToStart(editor);
     editor.menus.mnuInsertTitle.Click();

@@ -153,8 +153,9 @@ void List1_DblClick(MacroMaker& maker)
     const Steps step;
     Editor& editor = maker.editor;
     step([&] {
-        const auto picked = static_cast<std::size_t>(maker.List1.ListIndex.get());
-        editor.shared.HeadingText = maker.List1.Items.get().at(picked); // where none is picked, nothing happens
+        const int picked = maker.List1.ListIndex;
+        if (picked < 0) return;
+        editor.shared.HeadingText = maker.List1.Items.get().at(static_cast<std::size_t>(picked));
         const std::string heading = windows1252FromUtf8(editor.shared.HeadingText);
         const std::string rule = headingRule(heading);
         selectMacroTab(editor);

@@ -13,6 +13,7 @@ namespace {
 void TempTextRefreshFont(Editor& editor)
 {
     for (Pane* box : {&editor.TempRichTextBox, &editor.CompareRTF}) {
+        box->setSelStart(0);
         box->setSelLength(static_cast<std::int64_t>(box->TextLength()));
         const Settings& settings = editor.shared.settings;
         box->setSelFontName(settings.TextFontName);
