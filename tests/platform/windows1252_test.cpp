@@ -34,7 +34,8 @@ TEST(Windows1252, OpenBytesStandForTheControlCharactersOfTheirNumber)
 TEST(Windows1252FromUnicode, CodePointWithoutByteGivesMinusOne)
 {
     EXPECT_EQ(windows1252FromUnicode(0x20AC), 0x80);
-    EXPECT_EQ(windows1252FromUnicode(0x80), -1);
+    for (const char32_t letter : {0x80, 0x9F}) EXPECT_EQ(windows1252FromUnicode(letter), -1);
+    EXPECT_EQ(windows1252FromUnicode(0xA0), 0xA0);
     EXPECT_EQ(windows1252FromUnicode(0x100), -1);
     EXPECT_EQ(windows1252FromUnicode(0x1F600), -1);
 }

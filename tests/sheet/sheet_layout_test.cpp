@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 
 namespace tarvex {
 namespace {
@@ -112,6 +113,27 @@ TEST(SheetLayout, EveryControlInEveryLayerGoesOnOnFurtherPagesInLegibleLetters)
             EXPECT_EQ(std::ranges::count_if(pages, has), 1) << hat;
         }
     }
+}
+
+TEST(SheetLayout, AControllerGetsFourPagesAndThenSmallerLetters)
+{
+    std::set<std::size_t> counts;
+    std::size_t fewest = 100;
+    for (int words = 1; words <= 30; words += 1) {
+        std::string text = "USE TQS\r\n";
+        for (const char* hat : {"H1", "H2", "H3", "H4"}) {
+            for (const char* position : {"U", "D", "L", "R", "M", "UL", "DL", "UR", "DR"}) {
+                text += std::string("BTN ") + hat + position;
+                for (int i = 0; i < words; ++i) text += " Look_Around_Corner";
+                text += "\r\n";
+            }
+        }
+        const std::vector<LaidOutPage> pages = laidOut(text);
+        counts.insert(pages.size() - 1); // the throttle's is the last one
+        if (pages[0].textSize < legibleText) fewest = std::min(fewest, pages.size() - 1);
+    }
+    EXPECT_EQ(*counts.rbegin(), 4U);
+    EXPECT_EQ(fewest, 4U) << "not before there are four pages";
 }
 
 TEST(SheetLayout, OnOnePageTheLettersGetSmallerInstead)

@@ -31,6 +31,9 @@ TEST(PaperInk, WhiteBecomesBlackAndPaleColoursTheirDarkSelves)
     EXPECT_EQ(inkOnPaper(0xFFFFFF), 0x000000);
     EXPECT_EQ(inkOnPaper(0xC0C0C0), 0x3F3F3F);
     EXPECT_EQ(inkOnPaper(0xFFC0C0), 0x3F0000) << "pale blue";
+    EXPECT_EQ(inkOnPaper(0xC0FFC0), 0x003F00) << "pale green";
+    EXPECT_EQ(inkOnPaper(0xC0C0FF), 0x00003F) << "pale red";
+    EXPECT_EQ(inkOnPaper(0xFFC0FF), 0x3F003F) << "pale purple";
 }
 
 TEST(PaperInk, EveryColourIsLegibleAndKeepsItsOrderOfChannels)

@@ -59,6 +59,7 @@ TEST(AutoDetect, ATmFolderWithTheLoaderIsAFlcsWithoutThrottle)
     t.files.addFile("c:\\tm\\b50load.exe", "");
     t.detect();
     EXPECT_EQ(t.settings.ProgramFilesPath, "c:\\tm\\b50progs");
+    EXPECT_EQ(t.settings.CandCCPath, "c:\\tm\\tm.bat");
     EXPECT_EQ(t.settings.JoyName, 1);
     EXPECT_EQ(t.settings.MacroExtension, "m50");
     EXPECT_EQ(t.settings.ThrottleName, 0);
@@ -71,6 +72,7 @@ TEST(AutoDetect, ATmFolderWithoutTheLoaderIsAnFcsAndKeepsTheLoaderPath)
     t.files.addDirectory("c:\\tm");
     t.detect();
     EXPECT_EQ(t.settings.ProgramFilesPath, "c:\\tm\\programs");
+    EXPECT_EQ(t.settings.CandCCPath, "c:\\tm\\tm.bat");
     EXPECT_EQ(t.settings.B50LoadPath, "c:\\old\\load.exe");
     EXPECT_EQ(t.settings.JoystickExtension, "adv");
     EXPECT_EQ(t.settings.MacroExtension, "mdf");

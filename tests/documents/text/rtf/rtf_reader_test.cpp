@@ -385,6 +385,14 @@ TEST(ReadRtf, NumbersThatNoWordCanMeanAreBounded)
     EXPECT_EQ(formatAt(text, 2).indent, INT32_MIN);
 }
 
+TEST(ReadRtf, BehindGroupsThatAreTooDeepTheLookIsThatInFrontOfThem)
+{
+    const RichText text = read("{\\rtf1 {\\b a" + repeated("{", 3000) + "b" + repeated("}", 3000) + "}c}");
+    EXPECT_EQ(text.text(), "ac");
+    EXPECT_TRUE(formatAt(text, 0).bold);
+    EXPECT_FALSE(formatAt(text, 1).bold);
+}
+
 TEST(ReadRtf, GroupsDeeperThanAThousandAreSkipped)
 {
     const auto nested = [](int depth) {
