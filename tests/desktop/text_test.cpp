@@ -42,6 +42,7 @@ TEST(AccessKeys, OfSeveralTheFirstHolds)
     EXPECT_EQ(withOneAccessKey("a&&b &c"), QString("a&&b &c"));
     EXPECT_EQ(withOneAccessKey("a&&b&&c"), QString("a&&b&&c"));
     EXPECT_EQ(withOneAccessKey("end&"), QString("end&"));
+    EXPECT_EQ(withOneAccessKey("end&&"), QString("end&&"));
 }
 
 TEST(WrappingTip, IsMarkupThatShowsTheTextAsItStands)

@@ -203,6 +203,49 @@ TEST_F(SafeinViewTest, APlaceBeyondTheRealScreenOpensItOnTheScreen)
     EXPECT_TRUE(form()->screen()->geometry().contains(form()->pos())) << form()->x() << " " << form()->y();
 }
 
+TEST_F(SafeinViewTest, TheSignsOfTheKeyboardAreReadAnewWhenTheWindowComesToTheFront)
+{
+    const QString before = key("a")->accessibleDescription();
+    window.activateWindow();
+    events();
+    events();
+    key("a")->setSecondSign("?");
+    events();
+    EXPECT_EQ(key("a")->accessibleDescription(), "? on your keyboard");
+    form()->activateWindow();
+    events();
+    events();
+    EXPECT_EQ(key("a")->accessibleDescription(), before);
+}
+
+TEST_F(SafeinViewTest, TheSecondSignOfAKeyStandsAtItsLowerRightAndTheFirstAtItsUpperLeft)
+{
+    KeyButton alone(1, nullptr);
+    KeyButton both(1, nullptr);
+    KeyButton none(1, nullptr);
+    const auto pictureOf = [](KeyButton& button, const QString& sign, const QString& second) {
+        button.resize(60, 60);
+        button.setText(sign);
+        button.setSecondSign(second);
+        return button.grab().toImage();
+    };
+    const QImage empty = pictureOf(none, "", "");
+    const auto paintedIn = [&](const QImage& picture) {
+        QRect painted;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixel(x, y) != empty.pixel(x, y)) painted |= QRect(x, y, 1, 1);
+        return painted;
+    };
+    const QRect centred = paintedIn(pictureOf(alone, "a", ""));
+    EXPECT_NEAR(centred.center().x(), empty.rect().center().x(), 4);
+    const QRect spread = paintedIn(pictureOf(both, "a", "q"));
+    EXPECT_LT(spread.left(), centred.left());
+    EXPECT_LT(spread.top(), centred.top());
+    EXPECT_GT(spread.right(), centred.right() + 8);
+    EXPECT_GT(spread.bottom(), centred.bottom() + 8);
+}
+
 TEST_F(SafeinViewTest, AKeyGrowsWithTheWindow)
 {
     const QSize before = key("a")->size();

@@ -402,6 +402,19 @@ TEST_F(FrameViewTest, TheEdgeHasSevenDotsAndIsShadedWhileThePointerIsOnIt)
     EXPECT_EQ(differs(view.grab().toImage().pixelColor(grip.topLeft())), 7 * 4) << "the dots are darker";
 }
 
+TEST_F(FrameViewTest, APointerThatLeavesTheEdgeDragsNothing)
+{
+    const int before = t.settings().MacroFrameWidth;
+    const QPointF at(view.width() - 2, 50);
+    QMouseEvent over(QEvent::MouseMove, at, view.mapToGlobal(at), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&view, &over);
+    EXPECT_EQ(frame.MousePointer, MousePointer::SizeWestEast);
+    QEvent left(QEvent::Leave);
+    QApplication::sendEvent(&view, &left);
+    EXPECT_EQ(frame.MousePointer, MousePointer::Default);
+    EXPECT_EQ(t.settings().MacroFrameWidth, before);
+}
+
 // ---- the filter -----------------------------------------------------------------------------------------------------
 
 struct FrameFilterTest : FrameViewTest {
