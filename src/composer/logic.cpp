@@ -208,6 +208,7 @@ void wireLogic(InsertOptions& window)
     wire(tab.Command13, blockCaptions, Command13_Click);
     for (std::size_t i = 0; i < FlagTab::count; ++i)
         tab.OptionFlag[i].Click = [&window, i] { OptionFlag_Click(window, static_cast<int>(i)); };
+    OptionFlag_Click(window, 0);
 }
 
 } // namespace tarvex

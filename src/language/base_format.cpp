@@ -13,6 +13,7 @@ void writeBaseFormat(Pane& pane, const Settings& settings, Colour colour)
     pane.setSelUnderline(false);
     pane.setSelFontSize(settings.TextFontSize);
     pane.setSelColor(colour);
+    pane.setSelStart(0);
     pane.setSelLength(0);
 }
 

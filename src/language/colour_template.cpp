@@ -10,6 +10,7 @@ void setBaseFormat(const TemplateColouring& work)
 {
     Pane& pane = work.TemplateText;
     writeBaseFormat(pane, work.settings, 0);
+    pane.Refresh();
     pane.BackColor = work.settings.BackgroundColour;
     setPaneFont(pane, work.settings);
     pane.Refresh();
@@ -41,6 +42,7 @@ void ColourTemplateText(const TemplateColouring& work)
     runPasses({pane, work.settings, position, step, &work.mum, work.held}, templatePasses());
 
     pane.setSelStart(caret);
+    pane.setSelLength(0);
     status = "Done";
     bar.Visible = false;
 }

@@ -110,6 +110,8 @@ PreviousFiles::PreviousFiles(Editor& theEditor)
 
 void GetPreviousFiles(PreviousFiles& files)
 {
+    files.joystick.clear.Enabled = false;
+    files.macro.clear.Enabled = false;
     files.editor.shared.store.read(Access::GetPreviousFiles, "MODULE GetPreviousFiles");
     AddMnuJFArray(files);
     AddMnuMFArray(files);

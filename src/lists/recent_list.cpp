@@ -52,7 +52,10 @@ void showMenu(const RecentList& list)
     while (menu.UBound() < list.count) menu.Load(menu.UBound() + 1);
     menu[0].Visible = list.count == 0;
     const std::vector<SettingText>& texts = *list.columns.front();
-    for (int i = 1; i <= list.count; ++i) menu[i].Caption = texts[static_cast<std::size_t>(i - 1)];
+    for (int i = 1; i <= list.count; ++i) {
+        menu[i].Caption = texts[static_cast<std::size_t>(i - 1)];
+        menu[i].Visible = true;
+    }
 }
 
 std::int16_t isOnMenu(const RecentList& list, const std::string& caption)

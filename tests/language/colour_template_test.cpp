@@ -111,7 +111,7 @@ TEST_F(TemplateTest, TheProgressBarCountsFromNothingBeyondTheTextsLengthWhileItI
     ColourTemplateText({pane, "mine.txt", {}, settings, errors, mum, {}});
     EXPECT_EQ(shown, (std::vector<std::string>{"shown", "hidden"}));
     EXPECT_EQ(atFirstPass, (std::vector<int>{0, 9, 0}));
-    EXPECT_EQ(repaints, 1);
+    EXPECT_EQ(repaints, 2) << "after the base format, and after the ground and the font";
     EXPECT_EQ(pane.Font(), (PaneFont{settings.TextFontName, static_cast<float>(settings.TextFontSize), false}));
 }
 

@@ -20,6 +20,7 @@ void removeColour(Editor& editor, Side& side, std::string_view tag)
         pane.setSelStart(0);
         pane.setSelLength(static_cast<std::int64_t>(pane.TextLength()));
         pane.setSelColor(black);
+        pane.setSelStart(0);
         pane.setSelLength(0);
         pane.Refresh();
     });

@@ -26,6 +26,7 @@ bool isSaved(Editor& editor)
          .icon = BoxIcon::Question,
          .buttons = BoxButtons::YesNo});
     if (answer == Answer::Yes) {
+        selectMacroTab(editor);
         editor.menus.mnuFileSave.Click();
         if (editor.macro.Changed != changed::modified) return true;
     }
@@ -38,6 +39,7 @@ bool isSaved(Editor& editor)
 
 void analyse(Editor& editor, const Steps& step)
 {
+    editor.macros.MacroListDirty = 1;
     const Loading loading(editor.shared);
     if (!editor.menus.mnuViewMacros.Checked) step([&] { editor.menus.mnuViewMacros.Click(); });
     ClearAllForNewMacroFile(editor);
